@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "kernel/InstanssiLista.h"
+
+#include <algorithm>
+
+std::size_t InstanssiLista::Etsi(const Tunniste& tunniste) const noexcept {
+  const std::size_t peite = paikat_.size() - 1;
+  std::size_t kohta = tunniste.Tiiviste() & peite;
+  while (paikat_[kohta].olio && !(paikat_[kohta].tunniste == tunniste)) kohta = (kohta + 1) & peite;
+  return kohta;
+}
+
+bool InstanssiLista::Add(Olio& olio) {
+  if (maara_ * 2 >= paikat_.size()) Kasvata();
+  Paikka& paikka = paikat_[Etsi(olio.InstanssiId)];
+  if (paikka.olio) return false;
+  paikka = {olio.InstanssiId, &olio};
+  ++maara_;
+  return true;
+}
+
+Olio* InstanssiLista::Item(const Tunniste& instanssiId) const noexcept {
+  return paikat_.empty() ? nullptr : paikat_[Etsi(instanssiId)].olio;
+}
+
+void InstanssiLista::Kasvata() {
+  std::vector<Paikka> vanhat(std::max<std::size_t>(16, paikat_.size() * 2));
+  vanhat.swap(paikat_);
+  for (const Paikka& paikka : vanhat)
+    if (paikka.olio) paikat_[Etsi(paikka.tunniste)] = paikka;
+}
+
+void InstanssiLista::Tyhjenna() noexcept {
+  if (maara_ == 0) return;
+  for (Paikka& paikka : paikat_) paikka.olio = nullptr;
+  maara_ = 0;
+}
+
+void Instanssirekisteri::Lisaa(const Luokka& luokka) {
+  if (listat_.size() <= luokka.Numero()) listat_.resize(luokka.Numero() + 1);
+  if (!listat_[luokka.Numero()]) listat_[luokka.Numero()] = std::make_unique<InstanssiLista>();
+}
+
+InstanssiLista* Instanssirekisteri::Etsi(const Luokka& luokka) noexcept {
+  return luokka.Numero() < listat_.size() ? listat_[luokka.Numero()].get() : nullptr;
+}
+
+InstanssiLista* Instanssirekisteri::Etsi(std::string_view clsNimi) noexcept {
+  const Luokka* luokka = Luokka::Nimella(clsNimi);
+  return luokka ? Etsi(*luokka) : nullptr;
+}
+
+int Instanssirekisteri::Count() const noexcept {
+  return static_cast<int>(std::ranges::count_if(listat_, [](const auto& lista) { return lista != nullptr; }));
+}
+
+void Instanssirekisteri::Poista(const Luokka& luokka) {
+  if (luokka.Numero() < listat_.size()) listat_[luokka.Numero()].reset();
+}
+
+void Instanssirekisteri::TyhjennaIdListat() noexcept {
+  for (const auto& lista : listat_)
+    if (lista) lista->Tyhjenna();
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <vector>
+
+#include "kernel/Olio.h"
+
+/// The live objects of one class by `InstanssiId`. Open addressing over one array: entering thousands of objects at each
+/// copy and save allocates nothing once the array has grown.
+class InstanssiLista {
+ public:
+  /// False when the identity is already there.
+  bool Add(Olio& olio);
+  /// The object of that identity, or nothing.
+  Olio* Item(const Tunniste& instanssiId) const noexcept;
+  int Count() const noexcept { return static_cast<int>(maara_); }
+  void Tyhjenna() noexcept;
+
+ private:
+  struct Paikka {
+    Tunniste tunniste;
+    Olio* olio = nullptr;
+  };
+  std::size_t Etsi(const Tunniste& tunniste) const noexcept;
+  void Kasvata();
+
+  std::vector<Paikka> paikat_;
+  std::size_t maara_ = 0;
+};
+
+/// The instance register: a list for each class of the catalogue.
+class Instanssirekisteri {
+ public:
+  void Lisaa(const Luokka& luokka);
+  /// The class's list, or nothing when the catalogue doesn't have the class.
+  InstanssiLista* Etsi(const Luokka& luokka) noexcept;
+  /// List by class name; nothing for an unknown name.
+  InstanssiLista* Etsi(std::string_view clsNimi) noexcept;
+  /// Number of classes.
+  int Count() const noexcept;
+  void Poista(const Luokka& luokka);
+  /// Empties every list; the classes stay.
+  void TyhjennaIdListat() noexcept;
+
+ private:
+  std::vector<std::unique_ptr<InstanssiLista>> listat_;  // by class number
+};

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "kernel/Olio.h"
+
+#include <bit>
+#include <cstring>
+#include <stdexcept>
+
+#include "kernel/Kirjainkoko.h"
+
+namespace {
+
+std::vector<const Luokka*>& Luokat() {
+  static std::vector<const Luokka*> luokat;
+  return luokat;
+}
+
+/// The first and the last eight bytes and the length tell the members of any one class apart; the bit that tells small
+/// letters from capitals is set in all bytes.
+std::uint64_t Nimitiiviste(std::string_view nimi) noexcept {
+  constexpr std::uint64_t kPieni = 0x2020202020202020;
+  std::uint64_t alku = 0, loppu = 0;
+  if (nimi.size() >= 8) {
+    std::memcpy(&alku, nimi.data(), 8);
+    std::memcpy(&loppu, nimi.data() + nimi.size() - 8, 8);
+  } else {
+    std::memcpy(&alku, nimi.data(), nimi.size());
+  }
+  const std::uint64_t sekoitus = ((alku | kPieni) ^ std::rotl(loppu | kPieni, 29) ^ nimi.size()) * 0x9E3779B97F4A7C15;
+  return sekoitus ^ sekoitus >> 29;
+}
+
+Variantti LuvuksiLajin(Laji laji, const ArvoNakyma& n) {
+  switch (laji) {
+    case Laji::Lyhyt:
+      return static_cast<std::int16_t>(n.Kokonais());
+    case Laji::Pitka:
+      return static_cast<std::int32_t>(n.Kokonais());
+    case Laji::Yksinkertainen:
+      return static_cast<float>(n.Reaali());
+    case Laji::Kaksinkertainen:
+      return n.Reaali();
+    case Laji::Valuutta:
+      return Valuutta{n.Reaali()};
+    case Laji::Desimaali:
+      return Desimaali{n.Reaali()};
+    case Laji::Paivays: {
+      Kellonaika aika;
+      Muunna(n, aika);
+      return aika;
+    }
+    case Laji::Totuus:
+      return n.Kokonais() != 0;
+    case Laji::Teksti:
+      return std::string(n.Teksti());
+    case Laji::Olio:
+      break;
+  }
+  return {};
+}
+
+void NaytaVariantti(const Variantti& arvo, ArvoNakyma& n) {
+  std::visit(
+      [&n](const auto& v) {
+        using T = std::remove_cvref_t<decltype(v)>;
+        if constexpr (std::is_same_v<T, std::monostate> || std::is_same_v<T, Olio*>)
+          n.AsetaTyhja();
+        else if constexpr (std::is_same_v<T, Valuutta> || std::is_same_v<T, Desimaali>)
+          n.Aseta(v.maara);
+        else
+          NaytaArvo(v, n);
+      },
+      arvo);
+}
+
+const Jasen& VaadiJasen(const Olio& olio, std::string_view nimi) {
+  const Jasen* jasen = olio.LuokanTiedot().Etsi(nimi);
+  if (!jasen) throw TuntematonJasen(std::string(olio.LuokanNimi()) + "." + std::string(nimi));
+  return *jasen;
+}
+
+}  // namespace
+
+Luokka::Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu osallistuu)
+    : sana_(Sanaksi(nimi)),
+      jasenet_(jasenet),
+      osallistuu_(osallistuu),
+      numero_(Luokat().size()),
+      hakemisto_(std::bit_ceil(jasenet.size() * 4 + 1)) {
+  for (const Jasen& jasen : jasenet_) {
+    if (Etsi(jasen.nimi)) throw std::logic_error("jäsen kahdesti: " + std::string(nimi) + "." + std::string(jasen.nimi));
+    std::size_t kohta = Nimitiiviste(jasen.nimi) & (hakemisto_.size() - 1);
+    while (hakemisto_[kohta]) kohta = (kohta + 1) & (hakemisto_.size() - 1);
+    hakemisto_[kohta] = &jasen;
+  }
+  Luokat().push_back(this);
+}
+
+const Jasen* Luokka::Etsi(std::string_view nimi) const noexcept {
+  const std::size_t peite = hakemisto_.size() - 1;
+  for (std::size_t kohta = Nimitiiviste(nimi) & peite; hakemisto_[kohta]; kohta = (kohta + 1) & peite) {
+    const std::string_view oma = hakemisto_[kohta]->nimi;
+    if (oma.size() != nimi.size()) continue;
+    if (std::memcmp(oma.data(), nimi.data(), nimi.size()) == 0 || SamaNimi(oma, nimi)) return hakemisto_[kohta];
+  }
+  return nullptr;
+}
+
+std::span<const Luokka* const> Luokka::Kaikki() noexcept { return Luokat(); }
+
+const Luokka* Luokka::Nimella(std::string_view nimi) noexcept {
+  for (const Luokka* luokka : Luokat())
+    if (SamaNimi(luokka->Nimi(), nimi)) return luokka;
+  return nullptr;
+}
+
+Variantti HaeJasen(const Olio& olio, const Jasen& jasen) {
+  if (jasen.OnOlio()) return jasen.olio(const_cast<Olio&>(olio));
+  ArvoNakyma nakyma;
+  jasen.nayta(olio, nakyma);
+  return LuvuksiLajin(jasen.laji, nakyma);
+}
+
+Variantti HaeJasen(const Olio& olio, std::string_view nimi) { return HaeJasen(olio, VaadiJasen(olio, nimi)); }
+
+void AsetaJasen(Olio& olio, std::string_view nimi, const Variantti& arvo) {
+  const Jasen& jasen = VaadiJasen(olio, nimi);
+  ArvoNakyma nakyma;
+  NaytaVariantti(arvo, nakyma);
+  if (!jasen.aseta || !jasen.aseta(olio, nakyma))
+    throw TuntematonJasen("arvoa ei voi asettaa: " + std::string(olio.LuokanNimi()) + "." + std::string(nimi));
+}
