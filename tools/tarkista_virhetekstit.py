@@ -1,0 +1,38 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""An error literal "clsTila:LampoHaviot Method" stands in a file of that class and in the function that it names.
+
+People find the place of an error by its literal, so a literal copied from a neighbour sends them the wrong way.
+"""
+import re
+
+from lahteet import lahteet, lopeta, rivit
+
+# The literals that several functions share, as the program's users know them: "Class::Function" -> literal's name.
+POIKKEUKSET = {
+    "clsRakennus::VuotuinenIVjalkilammitysLampo": "clsRakennus:VuotuisetIVHaviot",
+    "clsRakennus::VuotuisetLKVHaviot": "clsRakennus:VuotuisetLKVHaviotKk",
+    "clsRakennus::LampoEnergianTarveTilatKk": "clsRakennus:LampoEnergianTarveKk",
+    "clsRakennus::VuotuinenLampoEnergianTarveTilat": "clsRakennus:LampoEnergianTarveYht",
+    "clsRakennus::VuotuisetLampoHaviot": "clsRakennus:LampoHaviotYht",
+    "clsRakennus::VuotuisetHyodynnetytLampoKuormat": "clsRakennus:HyodynnetytLampoKuormatYht",
+    "clsRakennus::VuotuisetSaatohaviot": "clsTilat:VuotuisetSaatohaviot",
+}
+LITERAALI = re.compile(r'"(\w+):(\w+) (?:Method|Property (?:Let|Get|Set))"')
+FUNKTIO = re.compile(r"^[^\s#/}].*?\b(\w+)::(~?\w+)\(")
+
+virheet = []
+for polku in lahteet(".cpp"):
+    if polku.parts[0] in ("tests", "bench"):
+        continue
+    funktio = None
+    for nro, rivi in enumerate(rivit(polku), 1):
+        if m := FUNKTIO.match(rivi):
+            funktio = m
+        for luokka, nimi in LITERAALI.findall(rivi):
+            paikka = f"{funktio[1]}::{funktio[2]}" if funktio else "no function"
+            if POIKKEUKSET.get(paikka, paikka.replace("::", ":")) != f"{luokka}:{nimi}":
+                virheet.append(f'{polku}:{nro}: "{luokka}:{nimi}" stands in {paikka}')
+            elif polku.stem.split("_")[0] != luokka and paikka not in POIKKEUKSET:
+                virheet.append(f'{polku}:{nro}: "{luokka}:{nimi}" stands outside the files of {luokka}')
+lopeta(virheet)
