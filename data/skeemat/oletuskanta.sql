@@ -1,0 +1,36 @@
+-- Default structures by use type and year of completion.
+CREATE TABLE RakenneTyyppiratkaisut (
+    Id INTEGER PRIMARY KEY,
+    USRakenneID TEXT NOT NULL,
+    IkkRakenneID TEXT NOT NULL,
+    APRakenneID TEXT NOT NULL,
+    YPRakenneID TEXT NOT NULL,
+    OviRakenneID TEXT NOT NULL
+);
+CREATE TABLE RakennustyyppienOletusarvot (
+    KayttotarkoitusID INTEGER NOT NULL,
+    RakenneTyyppiRatkaisuID INTEGER NOT NULL,
+    Rakennusv_alk INTEGER NOT NULL,
+    Rakennusv_lop INTEGER NOT NULL,
+    PRIMARY KEY (KayttotarkoitusID, Rakennusv_alk)
+);
+-- Areas of structures, m2 per m2 of gross floor area.
+CREATE TABLE RakenteidenMenekit (
+    Id INTEGER PRIMARY KEY,
+    USMenekki REAL NOT NULL,
+    IkkMenekki REAL NOT NULL,
+    APMenekki REAL NOT NULL,
+    YPMenekki REAL NOT NULL,
+    OviMenekki REAL NOT NULL
+);
+CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL);
+CREATE TEMP TABLE Aikakausi (
+    Id INTEGER PRIMARY KEY,
+    Rakennusv_alk INTEGER NOT NULL,
+    Rakennusv_lop INTEGER NOT NULL,
+    USRakenneID TEXT NOT NULL,
+    IkkRakenneID TEXT NOT NULL,
+    APRakenneID TEXT NOT NULL,
+    YPRakenneID TEXT NOT NULL,
+    OviRakenneID TEXT NOT NULL
+);

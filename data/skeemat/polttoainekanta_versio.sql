@@ -1,0 +1,1 @@
+INSERT INTO Asetukset VALUES (1);

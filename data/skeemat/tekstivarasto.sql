@@ -1,0 +1,26 @@
+-- User-interface texts. Every table has one text column per language; Kieli names the one in use.
+CREATE TABLE Kieli (Kielitunnus TEXT NOT NULL);
+CREATE TABLE LumivirtaResurssit (Id INTEGER PRIMARY KEY, Suomi TEXT);
+CREATE TABLE Combotaulu (
+    Id INTEGER PRIMARY KEY,
+    frmName TEXT NOT NULL COLLATE NOCASE,
+    cmbName TEXT NOT NULL COLLATE NOCASE,
+    Suomi TEXT NOT NULL DEFAULT ''
+);
+CREATE INDEX CombotaulunListat ON Combotaulu (frmName, cmbName);
+-- ErrorLevel: 1 = an error that refuses something, 2 = a notice.
+CREATE TABLE Errortaulu (
+    Id INTEGER PRIMARY KEY,
+    ErrorCode INTEGER NOT NULL UNIQUE,
+    ErrorLevel INTEGER NOT NULL CHECK (ErrorLevel IN (1, 2)),
+    Suomi TEXT NOT NULL
+);
+CREATE TABLE HelppiIDt (
+    Formi TEXT PRIMARY KEY COLLATE NOCASE,
+    HelpID INTEGER NOT NULL,
+    HelpID2 INTEGER,
+    HelpID3 INTEGER
+);
+INSERT INTO Kieli VALUES ('Suomi');
+CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL);
+CREATE TEMP TABLE Paikkakunta (Numero INTEGER PRIMARY KEY, Nimi TEXT NOT NULL);
