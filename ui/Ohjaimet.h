@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/Lomake.h"
+
+/// Typed handles of a form's controls, bound by name: TextBox txtTilanNimi{*this, "txtTilanNimi"};
+/// A name that the form doesn't have, or a control of another type, raises TuntematonOhjain. Handles are light and may
+/// be copied; they are good as long as the form is.
+class Ohjainkahva {
+ public:
+  Ohjainkahva(const Lomake& lomake, std::string_view nimi, Ohjaintyyppi tyyppi);
+
+  const std::string& Nimi() const { return ohjain_->Nimi(); }
+  bool Kaytossa() const { return ohjain_->Kaytossa(); }
+  void Kaytossa(bool kaytossa) const { ohjain_->Kaytossa(kaytossa); }
+  bool Nakyva() const { return ohjain_->Nakyva(); }
+  void Nakyva(bool nakyva) const { ohjain_->Nakyva(nakyva); }
+  void Vihje(std::string vihje) const { ohjain_->Vihje(std::move(vihje)); }
+  void Kohdista() const { ohjain_->Kohdista(); }
+  Ohjain& Kohde() const { return *ohjain_; }
+
+ protected:
+  Ohjain* ohjain_;
+};
+
+/// Adds the type of control to a handle.
+template <Ohjaintyyppi T>
+class TyypitettyKahva : public Ohjainkahva {
+ public:
+  TyypitettyKahva(const Lomake& lomake, std::string_view nimi) : Ohjainkahva(lomake, nimi, T) {}
+};
+
+class Label : public TyypitettyKahva<Ohjaintyyppi::Label> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  const std::string& Otsikko() const { return ohjain_->Teksti(); }
+  void Otsikko(std::string teksti) const { ohjain_->Teksti(std::move(teksti)); }
+};
+
+class Frame : public TyypitettyKahva<Ohjaintyyppi::Frame> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  const std::string& Otsikko() const { return ohjain_->Teksti(); }
+  void Otsikko(std::string teksti) const { ohjain_->Teksti(std::move(teksti)); }
+};
+
+/// One-line field. Filling is silent and remembered, see Muuttunut.
+class TextBox : public TyypitettyKahva<Ohjaintyyppi::TextBox> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  const std::string& Teksti() const { return ohjain_->Teksti(); }
+  void Teksti(std::string teksti) const { ohjain_->Teksti(std::move(teksti)); }
+  /// Fills with a number by a pattern of Muotoile.
+  void Luku(double arvo, std::string_view kuvio) const;
+  /// The shown text as a number, 0 when it is empty or no number.
+  double Luku() const;
+  /// The person has changed the text after it was filled. An unchanged field isn't parsed: the stored value stays.
+  bool Muuttunut() const { return ohjain_->Muuttunut(); }
+  void ValitseTeksti() const { ohjain_->ValitseTeksti(); }
+  /// At each edit by the person.
+  void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
+  /// When the focus leaves the field.
+  void KunPoistutaan(std::function<void()> f) const { ohjain_->Poistuttu = std::move(f); }
+};
+
+class ComboBox : public TyypitettyKahva<Ohjaintyyppi::ComboBox> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  /// Replaces the rows; nothing is chosen afterwards.
+  void Rivit(const std::vector<std::string>& rivit) const;
+  int Maara() const { return static_cast<int>(ohjain_->Rivit().size()); }
+  /// Chosen row from 0, -1 none.
+  int Indeksi() const { return ohjain_->Indeksi(); }
+  void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
+  /// Text of the chosen row, "" when none.
+  std::string Teksti() const;
+  void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
+};
+
+/// Check box and option button.
+template <Ohjaintyyppi T>
+class Valintanappi : public TyypitettyKahva<T> {
+ public:
+  using TyypitettyKahva<T>::TyypitettyKahva;
+  bool Valittu() const { return this->ohjain_->Valittu(); }
+  void Valittu(bool valittu) const { this->ohjain_->Valittu(valittu); }
+  void Otsikko(std::string teksti) const { this->ohjain_->Teksti(std::move(teksti)); }
+  void KunKlikataan(std::function<void()> f) const { this->ohjain_->Klikattu = std::move(f); }
+};
+using CheckBox = Valintanappi<Ohjaintyyppi::CheckBox>;
+/// Option buttons of one container exclude each other.
+using OptionButton = Valintanappi<Ohjaintyyppi::OptionButton>;
+
+class CommandButton : public TyypitettyKahva<Ohjaintyyppi::CommandButton> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  void Otsikko(std::string teksti) const { ohjain_->Teksti(std::move(teksti)); }
+  void KunKlikataan(std::function<void()> f) const { ohjain_->Klikattu = std::move(f); }
+  /// Pressing raises the form's event; `tapahtuma` must live as long as the form.
+  void Nostaa(const std::function<void()>& tapahtuma) const;
+};
+
+class TabStrip : public TyypitettyKahva<Ohjaintyyppi::TabStrip> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  int Indeksi() const { return ohjain_->Indeksi(); }
+  void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
+  void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
+};
+
+/// List with columns.
+class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  void Rivit(std::vector<std::vector<std::string>> rivit) const { ohjain_->Rivit(std::move(rivit)); }
+  const std::vector<std::vector<std::string>>& Rivit() const { return ohjain_->Rivit(); }
+  int Indeksi() const { return ohjain_->Indeksi(); }
+  void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
+  void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
+  void KunKlikataan(std::function<void()> f) const { ohjain_->Klikattu = std::move(f); }
+};
+
+/// Pie chart.
+class MSChart : public TyypitettyKahva<Ohjaintyyppi::MSChart> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  const Kaaviotiedot& Kaavio() const { return ohjain_->Kaavio(); }
+  void Kaavio(Kaaviotiedot kaavio) const { ohjain_->Kaavio(std::move(kaavio)); }
+  bool KopioiLeikepoydalle() const { return ohjain_->KopioiLeikepoydalle(); }
+};
+
+/// Three controls whose names end in 1, 2 and 3.
+template <class Kahva>
+std::array<Kahva, 3> Kolme(const Lomake& lomake, const std::string& nimi) {
+  return {Kahva(lomake, nimi + "1"), Kahva(lomake, nimi + "2"), Kahva(lomake, nimi + "3")};
+}
+
+/// Reads a field into `kohde`. An unchanged field leaves it as it is; so does a text that is no number, which gives
+/// false. An empty field is no number.
+bool LueArvo(const TextBox& kentta, double& kohde);
+/// The same for a whole number, a half rounded to even; also false outside the range of 32 bits.
+bool LueArvo(const TextBox& kentta, std::int32_t& kohde);

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class Lomakeikkuna;
+
+/// Kinds of control, named as in TyypinNimi.
+enum class Ohjaintyyppi {
+  Label,
+  TextBox,
+  ComboBox,
+  CheckBox,
+  OptionButton,
+  CommandButton,
+  Frame,
+  TabStrip,
+  ListView,
+  MSChart
+};
+
+/// "Label", "TextBox", ...
+std::string_view TyypinNimi(Ohjaintyyppi tyyppi);
+
+/// The control type that a widget class of a form file stands for; false when the class is no control (a plain page).
+bool TyyppiLuokasta(std::string_view luokka, Ohjaintyyppi& tyyppi);
+
+/// A trait of a control that an adapter shows on the screen.
+enum class Piirre { Teksti, Vihje, Kaytossa, Nakyva, Valittu, Rivit, Indeksi, Osat, Kaavio, Kohdistus, Tekstivalinta };
+
+/// A pie chart: a name and a value for each slice.
+struct Kaaviotiedot {
+  std::string otsikko;
+  std::vector<std::string> nimet;
+  std::vector<double> arvot;
+};
+
+/// A page of a tab control or a column of a list.
+struct Osa {
+  std::string otsikko;
+  std::string vihje;
+  std::string tag;       ///< design-time text: id of the caption
+  std::string vihjetag;  ///< design-time text: id of the tool tip
+};
+
+/// What a form file tells of a control.
+struct Ohjainkuvaus {
+  std::string nimi;
+  Ohjaintyyppi tyyppi = Ohjaintyyppi::Label;
+  std::string tag;       ///< dynamic property Tag
+  std::string vihjetag;  ///< dynamic property ToolTipText
+  std::string teksti;    ///< design-time text, for what is shown before the form is translated
+  std::string sailio;    ///< name of the container; option buttons of one container exclude each other
+  bool lukittu = false;  ///< the person can't write in it
+  bool kaytossa = true;
+  bool nakyva = true;
+  std::vector<Osa> osat;
+};
+
+/// One control of an open form. It holds all that the program knows of it; an adapter derives from it and shows what
+/// changes (`Paivita`). The program's own changes are silent; only the functions named Kayttaja..., which the adapter
+/// calls for what the person does, raise events.
+class Ohjain {
+ public:
+  Ohjain(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus);
+  virtual ~Ohjain() = default;
+  Ohjain(const Ohjain&) = delete;
+  Ohjain& operator=(const Ohjain&) = delete;
+
+  const std::string& Nimi() const { return kuvaus_.nimi; }
+  Ohjaintyyppi Tyyppi() const { return kuvaus_.tyyppi; }
+  const std::string& Tag() const { return kuvaus_.tag; }
+  const std::string& Vihjetag() const { return kuvaus_.vihjetag; }
+  const std::string& Sailio() const { return kuvaus_.sailio; }
+  bool Lukittu() const { return kuvaus_.lukittu; }
+
+  /// Text of a field, caption of any other control.
+  const std::string& Teksti() const { return teksti_; }
+  /// Fills silently. A field in which the person is writing takes the text when it loses the focus.
+  void Teksti(std::string teksti);
+  /// True when the person has changed the text after it was filled.
+  bool Muuttunut() const;
+
+  const std::string& Vihje() const { return vihje_; }
+  void Vihje(std::string vihje);
+  bool Kaytossa() const { return kuvaus_.kaytossa; }
+  void Kaytossa(bool kaytossa);
+  /// The control's own flag, whatever its page or frame.
+  bool Nakyva() const { return kuvaus_.nakyva; }
+  void Nakyva(bool nakyva);
+  /// State of a check box or an option button. Setting an option button clears the others of its container.
+  bool Valittu() const { return valittu_; }
+  void Valittu(bool valittu);
+
+  /// Rows of a choice list (one cell) or of a list (a cell per column).
+  const std::vector<std::vector<std::string>>& Rivit() const { return rivit_; }
+  void Rivit(std::vector<std::vector<std::string>> rivit);
+  /// Chosen row, or page of a tab control; -1 none. Outside the rows it becomes -1.
+  int Indeksi() const { return indeksi_; }
+  void Indeksi(int indeksi);
+
+  const std::vector<Osa>& Osat() const { return kuvaus_.osat; }
+  void Osat(std::vector<Osa> osat);
+
+  const Kaaviotiedot& Kaavio() const { return kaavio_; }
+  void Kaavio(Kaaviotiedot kaavio);
+  /// Puts the control's picture on the clipboard. False when the adapter has no clipboard.
+  virtual bool KopioiLeikepoydalle() { return false; }
+
+  /// Gives the focus; a hidden page of a tab control is brought to front first.
+  void Kohdista() { Paivita(Piirre::Kohdistus); }
+  /// Selects the whole text.
+  void ValitseTeksti() { Paivita(Piirre::Tekstivalinta); }
+
+  std::function<void()> Muuttui;    ///< text written, row or page chosen
+  std::function<void()> Klikattu;   ///< button pressed, box ticked, row double-clicked
+  std::function<void()> Poistuttu;  ///< focus left the control
+
+  void KayttajaKirjoittaa(std::string teksti);
+  void KayttajaValitsee(int indeksi);
+  void KayttajaPainaa();
+  void KayttajaPoistuu();
+
+ protected:
+  /// Shows the trait on the screen; nothing to show without windows.
+  virtual void Paivita(Piirre piirre);
+
+ private:
+  void Nosta(const std::function<void()>& tapahtuma);
+  void TyhjennaMuutRyhmassa();
+  int RajattuIndeksi(int indeksi) const;
+
+  Lomakeikkuna& ikkuna_;
+  Ohjainkuvaus kuvaus_;
+  std::string teksti_;
+  std::string taytetty_;    // as filled last
+  bool muokataan_ = false;  // the person has written since the focus came
+  bool odottaa_ = false;    // filled while being written in
+  std::string vihje_;
+  bool valittu_ = false;
+  std::vector<std::vector<std::string>> rivit_;
+  int indeksi_ = -1;
+  Kaaviotiedot kaavio_;
+};

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "ui/Ohjaimet.h"
+
+/// A pie chart in a window of its own.
+class frmJakaumaGraafi : public Lomake {
+ public:
+  frmJakaumaGraafi();
+
+  /// Shows the values as a pie and waits. Each name in the legend gets its value's share of the total, "0 %" if the
+  /// total is 0.
+  void NaytaJakauma(std::string otsikko, std::vector<std::string> nimet, std::vector<double> arvot);
+
+  MSChart chtReport{*this, "chtReport"};
+  CommandButton cmdKopioi{*this, "cmdKopioi"};
+  CommandButton cmdSulje{*this, "cmdSulje"};
+};

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "ui/Ohjaimet.h"
+
+/// Basic data of the audited object and its measured consumption of three years.
+class frmPerustiedot : public Lomake {
+ public:
+  frmPerustiedot();
+
+  std::function<void()> OkKlikattu;
+  std::function<void()> PeruutaKlikattu;
+  /// Volume or area was edited; the specific figures of the form are up to date.
+  std::function<void()> DataMuuttui;
+  /// A figure of the measured consumption was edited, or another comparison year ticked. While a field of the grid
+  /// holds no whole number yet, the event waits until the focus leaves the field.
+  std::function<void()> KulutustietoMuuttui;
+  /// Index of the chosen locality, 0 to 15.
+  std::function<void(int)> SaaPaikkakuntaMuuttui;
+  std::function<void()> VakioOsuusKlikattu;
+  std::function<void()> LammonHankintaKlikattu;
+  std::function<void()> SahkonHankintaKlikattu;
+  std::function<void()> VedenHankintaKlikattu;
+
+  /// Specific consumption of the comparison year from the shown figures: heat and electricity kWh/m³ and kWh/m² a year,
+  /// water dm³/m³ and dm³/m² a year; empty where the volume or area isn't above 0 or no year is ticked. To be called
+  /// after the form has been filled.
+  void LaskeOminaiskulutukset();
+  /// Row of the comparison year, 0 to 2; -1 when none is ticked.
+  int Vertailuvuosi() const;
+
+  TextBox txtKohteenNimi{*this, "txtKohteenNimi"};
+  TextBox txtPvm{*this, "txtPvm"};
+  ComboBox cmbKayttotarkoitus{*this, "cmbKayttotarkoitus"};
+  TextBox txtValmistumisVuosi{*this, "txtValmistumisVuosi"};
+  TextBox txtKokonaistilavuus{*this, "txtKokonaistilavuus"};            // m³
+  TextBox txtKylmanTilavuudenOsuus{*this, "txtKylmanTilavuudenOsuus"};  // %
+  TextBox txtBruttoAla{*this, "txtBruttoAla"};                          // m²
+  TextBox txtKylmanAlanOsuus{*this, "txtKylmanAlanOsuus"};              // %
+  TextBox txtKerrostenLukumaara{*this, "txtKerrostenLukumaara"};
+  TextBox txtKohteenHenkiloMaara{*this, "txtKohteenHenkiloMaara"};
+  ComboBox cmbPaikkakunta{*this, "cmbPaikkakunta"};
+  TextBox txtNormVuodenLammTarveLuku{*this, "txtNormVuodenLammTarveLuku"};  // degree days, read only
+  Label lblALV{*this, "lblALV"};                                            // with or without value added tax
+
+  // Measured consumption: row 0 is the newest year.
+  std::array<Label, 3> lblVuosi = Kolme<Label>(*this, "lblVuosi");
+  std::array<OptionButton, 3> optVertailuvuosi = Kolme<OptionButton>(*this, "optVertailuvuosi");
+  std::array<TextBox, 3> txtLammTarveLuku = Kolme<TextBox>(*this, "txtLammTarveLuku");
+  std::array<TextBox, 3> txtLampo = Kolme<TextBox>(*this, "txtLampo");  // MWh/a
+  std::array<TextBox, 3> txtSahko = Kolme<TextBox>(*this, "txtSahko");  // MWh/a
+  std::array<TextBox, 3> txtVesi = Kolme<TextBox>(*this, "txtVesi");    // m³/a
+
+  // Specific consumption of the comparison year, read only.
+  TextBox txtLampoKuutioille{*this, "txtLampoKuutioille"};
+  TextBox txtLampoNelioille{*this, "txtLampoNelioille"};
+  TextBox txtSahkoKuutioille{*this, "txtSahkoKuutioille"};
+  TextBox txtSahkoNelioille{*this, "txtSahkoNelioille"};
+  TextBox txtVesiKuutioille{*this, "txtVesiKuutioille"};
+  TextBox txtVesiNelioille{*this, "txtVesiNelioille"};
+
+  CommandButton cmdVakioOsuus{*this, "cmdVakioOsuus"};
+  CommandButton cmdLammonHankinta{*this, "cmdLammonHankinta"};
+  CommandButton cmdSahkonHankinta{*this, "cmdSahkonHankinta"};
+  CommandButton cmdVedenHankinta{*this, "cmdVedenHankinta"};
+  CommandButton cmdOk{*this, "cmdOk"};
+  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
+
+ private:
+  bool KulutuksetLuettavissa() const;
+  void TaytaOminaiskulutus(const TextBox& kuutioille, const TextBox& nelioille, const std::array<TextBox, 3>& kulutus);
+};
