@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The store of all user-visible texts, choice lists, messages and help topics: the database "StrVarasto.mdb" in
+/// AppPath, one text column per language. The texts are read once at start; messages, lists and topics when they are
+/// used.
+
+/// Reads the language of the store and the texts of that language: the first thing that a program does.
+void AlustaTekstit();
+
+/// The language of the store, which is the name of its text column, and remembers it. The file is the default store
+/// when its name is empty. A missing file, or none with a language, gives "" and shows error 1040.
+std::string HaeKielitunnus(const std::string& tiedosto = {});
+/// Fills the text collection from the columns `kieli` and Id of the table, in place of what was there. A null text is
+/// the empty text. A failure shows error 1040 and leaves the collection empty.
+void LataaTekstit(const std::string& tiedosto, const std::string& kieli,
+                  const std::string& taulu = "LumivirtaResurssit");
+/// The text of the number; "[String <id> is missing]" when there is none.
+std::string Teksti(int id);
+
+/// Shows a row of the message table: its text, a blank and `lisateksti`, titled by its level (1 error, 2 notice).
+/// Without the store or the row the message is "Virhe <code> <lisateksti>". Never raises.
+void NaytaVirhe(int koodi, std::string_view lisateksti = {});
+/// The question before something is removed; No is the default. True = Yes.
+bool KysyPoisto();
+
+/// The rows of a choice list, in order, by form and control name (letter case ignored). Raises when the store can't be
+/// read.
+std::vector<std::string> Valintalista(std::string_view lomake, std::string_view valinta);
+/// The help topic of a form: index 0, 1 or 2 for its first to third topic; 0 when it has none.
+int Ohjeaihe(std::string_view lomake, int indeksi);

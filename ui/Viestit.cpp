@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Viestit.h"
+
+#include <utility>
+
+#include "ui/KerataanViestit.h"
+
+namespace {
+
+Viestit* g_viestit = nullptr;
+
+}  // namespace
+
+bool OnVastaus(Napit napit, Vastaus vastaus) {
+  switch (vastaus) {
+    case Vastaus::Ok:
+      return napit == Napit::Ok;
+    case Vastaus::Peruuta:
+      return napit == Napit::KyllaEiPeruuta;
+    default:
+      return napit != Napit::Ok;
+  }
+}
+
+Viestit& ViestitNyt() {
+  static KerataanViestit ikkunaton;
+  return g_viestit ? *g_viestit : ikkunaton;
+}
+
+void AsetaViestit(Viestit* viestit) { g_viestit = viestit; }
+
+void Ilmoita(std::string teksti, std::string otsikko, Vakavuus vakavuus) {
+  ViestitNyt().Nayta({std::move(teksti), std::move(otsikko), vakavuus, Napit::Ok, Vastaus::Ok});
+}

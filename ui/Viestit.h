@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+enum class Napit { Ok, KyllaEi, KyllaEiPeruuta };
+enum class Vastaus { Ok, Kylla, Ei, Peruuta };
+enum class Vakavuus { Tieto, Varoitus, Virhe, Kysymys };
+
+struct Viesti {
+  std::string teksti;
+  std::string otsikko;
+  Vakavuus vakavuus = Vakavuus::Tieto;
+  Napit napit = Napit::Ok;
+  Vastaus oletus = Vastaus::Ok;  ///< button that Enter presses
+};
+
+/// True when the box has a button for this answer.
+bool OnVastaus(Napit napit, Vastaus vastaus);
+
+/// The one way to the person. The window program gives its own; without windows `KerataanViestit` stands in.
+class Viestit {
+ public:
+  virtual ~Viestit() = default;
+
+  /// Shows the box and gives the button pressed. Closing it counts as Cancel, in a Yes and No box as No.
+  virtual Vastaus Nayta(const Viesti& viesti) = 0;
+  /// A line of text, or nothing when the person cancelled.
+  virtual std::optional<std::string> KysyTeksti(std::string_view kehote, std::string_view otsikko,
+                                                std::string_view oletus) = 0;
+  /// A file's full name, or nothing when the person cancelled. `suodatin`: "Kuvaus (*.lvt)".
+  virtual std::optional<std::string> KysyAvattavaTiedosto(std::string_view otsikko, std::string_view suodatin) = 0;
+  virtual std::optional<std::string> KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin) = 0;
+
+  /// Text of the first panel of the status bar.
+  virtual std::string Paneeli() const = 0;
+  virtual void AsetaPaneeli(std::string teksti) = 0;
+  /// Hourglass on or off; counted, so that the pointer is normal when each "on" has had its "off".
+  virtual void Odotusosoitin(bool paalla) = 0;
+  /// Lets the windows paint; what the person types or presses is held back.
+  virtual void AnnaPiirtaa() = 0;
+};
+
+/// The present way; `KerataanViestit` until another is set.
+Viestit& ViestitNyt();
+/// Sets the way, which must live until the next call; nullptr brings the first one back.
+void AsetaViestit(Viestit* viestit);
+
+/// Shows a message with an OK button.
+void Ilmoita(std::string teksti, std::string otsikko = {}, Vakavuus vakavuus = Vakavuus::Tieto);
