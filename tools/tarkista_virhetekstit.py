@@ -19,7 +19,8 @@ POIKKEUKSET = {
     "clsRakennus::VuotuisetSaatohaviot": "clsTilat:VuotuisetSaatohaviot",
 }
 LITERAALI = re.compile(r'"(\w+):(\w+) (?:Method|Property (?:Let|Get|Set))"')
-FUNKTIO = re.compile(r"^[^\s#/}].*?\b(\w+)::(~?\w+)\(")
+# A function's first line; a free function of a module counts as one of a class named as its file.
+FUNKTIO = re.compile(r"^[^\s#/}].*?\b(?:(\w+)::)?(~?\w+)\(")
 
 virheet = []
 for polku in lahteet(".cpp"):
@@ -30,7 +31,7 @@ for polku in lahteet(".cpp"):
         if m := FUNKTIO.match(rivi):
             funktio = m
         for luokka, nimi in LITERAALI.findall(rivi):
-            paikka = f"{funktio[1]}::{funktio[2]}" if funktio else "no function"
+            paikka = f"{funktio[1] or polku.stem}::{funktio[2]}" if funktio else "no function"
             if POIKKEUKSET.get(paikka, paikka.replace("::", ":")) != f"{luokka}:{nimi}":
                 virheet.append(f'{polku}:{nro}: "{luokka}:{nimi}" stands in {paikka}')
             elif polku.stem.split("_")[0] != luokka and paikka not in POIKKEUKSET:

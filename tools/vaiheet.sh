@@ -17,7 +17,7 @@ vaihe() {
   else
     printf 'FAILED, %d s\n' $((SECONDS - alku))
     tail -n 60 "$loki" | sed 's/^/    /'
-    echo "    (the whole output: $loki)"
+    [[ ! -s $loki ]] || echo "    (the whole output: $loki)"
   fi
   return "$tila"
 }
