@@ -17,8 +17,11 @@ POIKKEUKSET = {
     "clsRakennus::VuotuisetLampoHaviot": "clsRakennus:LampoHaviotYht",
     "clsRakennus::VuotuisetHyodynnetytLampoKuormat": "clsRakennus:HyodynnetytLampoKuormatYht",
     "clsRakennus::VuotuisetSaatohaviot": "clsTilat:VuotuisetSaatohaviot",
+    "clsRakenne::LisaaLampoHaviot": "clsRakenne:LampoHaviot",  # all months at once
+    "clsRakenne::AurinkoKuormat": "clsRakenne:AurinkoKuorma",  # all months at once
 }
-LITERAALI = re.compile(r'"(\w+):(\w+) (?:Method|Property (?:Let|Get|Set))"')
+# A module's literal bears the prefix "mod" before the name of its class or file.
+LITERAALI = re.compile(r'"(?:mod)?(\w+):(\w+) (?:Method|Property (?:Let|Get|Set))"')
 # A function's first line; a free function of a module counts as one of a class named as its file.
 FUNKTIO = re.compile(r"^[^\s#/}].*?\b(?:(\w+)::)?(~?\w+)\(")
 
