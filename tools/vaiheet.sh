@@ -44,8 +44,8 @@ asenna_paketit() {
     sudo -v || return 1  # asks the password here, where it can be seen
   fi
   local apt=("${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -y -q -o DPkg::Lock::Timeout=600)
-  vaihe "Refreshing the package lists" "${apt[@]}" update || return 1
-  vaihe "Installing ${#paketit[@]} packages" "${apt[@]}" install --no-install-recommends "${paketit[@]}"
+  vaihe "Refreshing the package lists" "${apt[@]}" update  # old lists may do, so a failure here is not the end
+  vaihe "Installing the missing packages" "${apt[@]}" install --no-install-recommends "${paketit[@]}"
 }
 
 konfiguroi_ja_rakenna() {
