@@ -220,7 +220,7 @@ const std::string& AppPath() {
 
 void AsetaAppPath(std::string_view hakemisto) {
   g_appPath = hakemisto;
-  if (!g_appPath.ends_with('/')) g_appPath += '/';
+  if (!g_appPath.empty() && !g_appPath.ends_with('/')) g_appPath += '/';
 }
 
 fs::path AsetusHakemisto() { return XdgHakemisto("XDG_CONFIG_HOME", ".config"); }

@@ -11,7 +11,8 @@
 /// store and can be written; otherwise "lumivirta" in the user's data directory (XDG_DATA_HOME), which
 /// `SiemennaTiedostot` fills. The environment variable LUMIVIRTA_KOTI overrides both. Chosen at the first call.
 const std::string& AppPath();
-/// Sets AppPath for the rest of the run; the text gets its "/" if it has none. For tests and the library server.
+/// Sets AppPath; the text gets its "/" if it has none. An empty one lets the next call choose anew. For tests and the
+/// library server.
 void AsetaAppPath(std::string_view hakemisto);
 
 /// "lumivirta" in the user's configuration directory (XDG_CONFIG_HOME), without "/" at its end; it need not exist.
