@@ -11,7 +11,7 @@ class frmLammonTuotonJaJaonHaviot : public Lomake {
   /// Opens with the summary's figures, MWh/a, and waits. The efficiencies at opening are (1 − loss / total) × 100, or 0
   /// when the total isn't above 0; after an edit that of the edited field is Y × 100 / (loss + Y) with the net heat
   /// Y = total − difference.
-  void Kysy(double yhteensa, double erotus, double saatohaviot, double tuotonHaviot);
+  void NaytaHaviot(double yhteensa, double erotus, double saatohaviot, double tuotonHaviot);
 
   TextBox txtSaatoHaviot{*this, "txtSaatoHaviot"};
   TextBox txtLammonTuotonHaviot{*this, "txtLammonTuotonHaviot"};
@@ -23,7 +23,7 @@ class frmLammonTuotonJaJaonHaviot : public Lomake {
 
  private:
   void HavioKirjoitettu(const TextBox& havio, const TextBox& hyotysuhde);
-  void TaytaYhteensa();
+  void TaytaYhteensa(double haviot);
   double Hyotysuhde(double havio) const;
 
   double nettolampo_ = 0;  // Y, MWh/a

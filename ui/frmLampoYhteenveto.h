@@ -53,7 +53,6 @@ class frmLampoYhteenveto : public Lomake {
   void LaskeYhteensa();
   void LaskeOminaisarvot(const Rivi& rivi) const;
   void MuuLampoKirjoitettu();
-  void Hyvaksy();
   void NaytaGraafi();
   void NaytaHaviot();
 };

@@ -19,6 +19,8 @@ class frmNormeeraamatonKulutus : public Lomake {
   CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 
  private:
+  void Aseta(double kkOsuus, double vuosiOsuus);
+
   double kkOsuus_ = 0;
   double vuosiOsuus_ = 0;
   bool hyvaksytty_ = false;

@@ -66,6 +66,8 @@ class frmPerustiedot : public Lomake {
   CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 
  private:
+  void KuunteleVuotta(std::size_t i);
+  void KulutusKirjoitettu();
   bool KulutuksetLuettavissa() const;
   void TaytaOminaiskulutus(const TextBox& kuutioille, const TextBox& nelioille, const std::array<TextBox, 3>& kulutus);
 };

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Ikkunaton.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <pugixml.hpp>
+#include <stdexcept>
+#include <utility>
+
+#include "kernel/Kirjainkoko.h"
+
+/// Remembers where the program has put the focus.
+class IkkunatonOhjain : public Ohjain {
+ public:
+  IkkunatonOhjain(Ikkunaton& ikkuna, Ohjainkuvaus kuvaus) : Ohjain(ikkuna, std::move(kuvaus)), ikkuna_(ikkuna) {}
+
+ protected:
+  void Paivita(Piirre piirre) override {
+    if (piirre == Piirre::Tekstivalinta) ikkuna_.tekstiValittu_ = true;
+    if (piirre != Piirre::Kohdistus) return;
+    ikkuna_.kohdistettu_ = Nimi();
+    ikkuna_.tekstiValittu_ = false;
+  }
+
+ private:
+  Ikkunaton& ikkuna_;
+};
+
+namespace {
+
+std::string Ominaisuus(const pugi::xml_node& widget, const char* nimi) {
+  return widget.find_child_by_attribute("property", "name", nimi).first_child().text().get();
+}
+
+bool EiOleEpatosi(const pugi::xml_node& widget, const char* nimi) { return Ominaisuus(widget, nimi) != "false"; }
+
+std::vector<Osa> LueOsat(const pugi::xml_node& widget, Ohjaintyyppi tyyppi) {
+  std::vector<Osa> osat;
+  if (tyyppi == Ohjaintyyppi::TabStrip)
+    for (const pugi::xml_node sivu : widget.children("widget"))
+      osat.push_back({{}, {}, Ominaisuus(sivu, "Tag"), Ominaisuus(sivu, "ToolTipText")});
+  if (tyyppi == Ohjaintyyppi::ListView)
+    for (const pugi::xml_node sarake : widget.children("column"))
+      osat.push_back({{}, {}, Ominaisuus(sarake, "text"), {}});
+  return osat;
+}
+
+Ohjainkuvaus LueKuvaus(const pugi::xml_node& widget, Ohjaintyyppi tyyppi, const std::string& sailio) {
+  Ohjainkuvaus k;
+  k.nimi = widget.attribute("name").value();
+  k.tyyppi = tyyppi;
+  k.tag = Ominaisuus(widget, "Tag");
+  k.vihjetag = Ominaisuus(widget, "ToolTipText");
+  k.teksti = Ominaisuus(widget, tyyppi == Ohjaintyyppi::Frame ? "title" : "text");
+  k.sailio = sailio;
+  k.lukittu = Ominaisuus(widget, "readOnly") == "true";
+  k.kaytossa = EiOleEpatosi(widget, "enabled");
+  k.nakyva = EiOleEpatosi(widget, "visible");
+  k.osat = LueOsat(widget, tyyppi);
+  return k;
+}
+
+/// Descriptions of all controls below the node, in the order of the file.
+void KeraaKuvaukset(const pugi::xml_node& solmu, const std::string& sailio, std::vector<Ohjainkuvaus>& kuvaukset) {
+  for (const pugi::xml_node lapsi : solmu.children()) {
+    const bool onWidget = std::string_view(lapsi.name()) == "widget";
+    Ohjaintyyppi tyyppi;
+    if (onWidget && TyyppiLuokasta(lapsi.attribute("class").value(), tyyppi))
+      kuvaukset.push_back(LueKuvaus(lapsi, tyyppi, sailio));
+    KeraaKuvaukset(lapsi, onWidget ? lapsi.attribute("name").value() : sailio, kuvaukset);
+  }
+}
+
+pugi::xml_document LueLomaketiedosto(const std::string& polku) {
+  pugi::xml_document tiedosto;
+  if (const auto tulos = tiedosto.load_file(polku.c_str()); !tulos)
+    throw std::runtime_error(polku + ": " + tulos.description());
+  return tiedosto;
+}
+
+std::size_t RivinPaikka(const Ohjain& ohjain, std::string_view teksti) {
+  const auto& rivit = ohjain.Rivit();
+  const auto it =
+      std::ranges::find_if(rivit, [&](const auto& rivi) { return !rivi.empty() && rivi.front() == teksti; });
+  if (it == rivit.end()) throw std::logic_error(ohjain.Nimi() + ": ei riviä " + std::string(teksti));
+  return static_cast<std::size_t>(it - rivit.begin());
+}
+
+}  // namespace
+
+Ikkunaton::Ikkunaton(Ikkunattomat& omistaja, std::string nimi) : omistaja_(omistaja), nimi_(std::move(nimi)) {
+  const pugi::xml_document tiedosto = LueLomaketiedosto(omistaja_.Kansio() + "/" + nimi_ + ".ui");
+  const pugi::xml_node juuri = tiedosto.child("ui").child("widget");
+  AsetaTag(Ominaisuus(juuri, "Tag"));
+  std::vector<Ohjainkuvaus> kuvaukset;
+  KeraaKuvaukset(juuri, nimi_, kuvaukset);
+  for (Ohjainkuvaus& kuvaus : kuvaukset) Lisaa(std::make_unique<IkkunatonOhjain>(*this, std::move(kuvaus)));
+  omistaja_.ikkunat_.push_back(this);
+}
+
+Ikkunaton::~Ikkunaton() { std::erase(omistaja_.ikkunat_, this); }
+
+Ohjain& Ikkunaton::Kaytettava(std::string_view nimi) const {
+  Ohjain& ohjain = Etsi(nimi);
+  if (!ohjain.Kaytossa() || !ohjain.Nakyva())
+    throw std::logic_error(nimi_ + ": ohjain " + ohjain.Nimi() + " ei ole käytettävissä");
+  return ohjain;
+}
+
+void Ikkunaton::KayttajaKirjoittaa(std::string_view nimi, std::string teksti) {
+  Ohjain& kentta = Kaytettava(nimi);
+  if (kentta.Lukittu()) throw std::logic_error(nimi_ + ": kenttä " + kentta.Nimi() + " on lukittu");
+  kentta.KayttajaKirjoittaa(std::move(teksti));
+}
+
+void Ikkunaton::KayttajaPoistuu(std::string_view nimi) { Kaytettava(nimi).KayttajaPoistuu(); }
+
+void Ikkunaton::KayttajaValitsee(std::string_view nimi, std::string_view rivi) {
+  Ohjain& lista = Kaytettava(nimi);
+  lista.KayttajaValitsee(static_cast<int>(RivinPaikka(lista, rivi)));
+}
+
+void Ikkunaton::KayttajaPainaa(std::string_view nimi) { Kaytettava(nimi).KayttajaPainaa(); }
+
+void Ikkunaton::NaytaModaalisena() {
+  auki_ = true;
+  omistaja_.Suorita(*this);
+}
+
+Ikkunattomat::Ikkunattomat(std::string kansio) : kansio_(std::move(kansio)) {
+  AsetaLomakesovitin([this](const std::string& nimi) { return std::make_unique<Ikkunaton>(*this, nimi); });
+}
+
+Ikkunattomat::~Ikkunattomat() {
+  AsetaLomakesovitin(nullptr);
+  if (virheet_.empty()) return;
+  for (const std::string& virhe : virheet_) std::fprintf(stderr, "%s\n", virhe.c_str());
+  std::abort();
+}
+
+void Ikkunattomat::KunNaytetaan(const std::string& nimi, Kasikirjoitus kasikirjoitus) {
+  kasikirjoitukset_[nimi] = std::move(kasikirjoitus);
+}
+
+void Ikkunattomat::Suorita(Ikkunaton& ikkuna) {
+  try {
+    kasikirjoitukset_.at(ikkuna.Nimi())(ikkuna);
+  } catch (const std::exception& virhe) {
+    virheet_.push_back(ikkuna.Nimi() + ": " + virhe.what());
+  }
+  if (ikkuna.Auki()) virheet_.push_back(ikkuna.Nimi() + ": modaalinen lomake jäi auki");
+  ikkuna.Sulje();
+}
+
+Ikkunaton& Ikkunattomat::Ikkuna(std::string_view nimi) const {
+  for (auto it = ikkunat_.rbegin(); it != ikkunat_.rend(); ++it)
+    if (SamaNimi((*it)->Nimi(), nimi)) return **it;
+  throw std::logic_error("lomake ei ole auki: " + std::string(nimi));
+}
+
+std::vector<std::string> Ikkunattomat::Virheet() { return std::exchange(virheet_, {}); }

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Lomake.h"
+
+#include <algorithm>
+
+#include "kernel/Kirjainkoko.h"
+#include "ui/Lomakekaannos.h"
+
+namespace {
+
+std::vector<Lomake*>& Avoimet() {
+  static std::vector<Lomake*> avoimet;
+  return avoimet;
+}
+
+}  // namespace
+
+Lomake::Lomake(std::string nimi) : nimi_(std::move(nimi)), ikkuna_(TeeLomakeikkuna(nimi_)) {
+  KaannaLomake(*this);
+  ikkuna_->Suljettu = [this] {
+    Sulje();
+    Nosta(Suljettu);
+  };
+}
+
+Lomake::~Lomake() { Sulje(); }
+
+void Lomake::Otsikko(std::string otsikko) {
+  otsikko_ = std::move(otsikko);
+  ikkuna_->Otsikko(otsikko_);
+}
+
+void Lomake::NaytaModaalisena() {
+  auki_ = true;
+  Avoimet().push_back(this);
+  ikkuna_->NaytaModaalisena();
+}
+
+void Lomake::Nayta() {
+  if (!auki_) Avoimet().push_back(this);
+  auki_ = true;
+  ikkuna_->Nayta();
+}
+
+void Lomake::Sulje() {
+  if (!auki_) return;
+  auki_ = false;
+  std::erase(Avoimet(), this);
+  ikkuna_->Sulje();
+}
+
+const std::vector<Lomake*>& AvoimetLomakkeet() { return Avoimet(); }
+
+Lomake* AvoinLomake(std::string_view nimi) {
+  const auto it = std::ranges::find_if(Avoimet(), [&](const Lomake* l) { return SamaNimi(l->Nimi(), nimi); });
+  return it == Avoimet().end() ? nullptr : *it;
+}
+
+Lomake* AktiivinenLomake() {
+  const auto it = std::ranges::find_if(Avoimet(), [](const Lomake* l) { return l->Aktiivinen(); });
+  return it == Avoimet().end() ? nullptr : *it;
+}
+
+void SuljeLomakkeet() {
+  while (!Avoimet().empty()) Avoimet().back()->Sulje();
+}

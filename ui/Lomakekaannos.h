@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "ui/Ohjaimet.h"
+
+/// Puts the texts of the text store on a form: captions and tool tips by the ids in the controls' design-time Tag and
+/// ToolTipText. "mkTagi" in a text becomes the currency unit. Every form runs it when it is made.
+void KaannaLomake(Lomake& lomake);
+
+/// Currency unit shown from now on, e.g. "€".
+void AsetaRahayksikko(std::string yksikko);
+
+/// Fills a choice list from the store's rows for this form and control. `valitseViimeinen` chooses the last row.
+void TaytaValinta(const Lomake& lomake, const ComboBox& valinta, bool valitseViimeinen = false);
+
+/// Replaces `vanha` by `uusi` in the captions of all labels of the form.
+void KorvaaOtsikoissa(const Lomake& lomake, std::string_view vanha, std::string_view uusi);
+/// The same in the column headers of a list.
+void KorvaaSarakkeissa(const ListView& lista, std::string_view vanha, std::string_view uusi);
+
+/// Disables the buttons cmdLisaa..., cmdKopioi... and cmdPoista... when the building has saving measures: measures
+/// refer to the objects of the model, so none may come or go.
+void LukitseMuokkausnapit(const Lomake& lomake, bool onToimenpiteita);
