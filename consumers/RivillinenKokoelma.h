@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "kernel/Kokoelma.h"
+
+/// A keyed collection that keeps a second list beside its items: the rows of its display tree. A row bears its parent's
+/// key in `Parent` and its caption in `NimiTeksti`; the parent of the root row is empty.
+template <class T, class Rivi>
+class RivillinenKokoelma : public Kokoelma<T> {
+ public:
+  KokoelmaPohja* ListaItemeina() noexcept override { return &listaItemit_; }
+
+  Rivi& ListaItem(int paikka) const { return listaItemit_.Item(paikka); }
+  Rivi& ListaItem(const Tunniste& sKey) const { return listaItemit_.Item(sKey); }
+  int CountListaItems() const noexcept { return listaItemit_.Count(); }
+  void RemoveListaItem(int paikka) { listaItemit_.Remove(paikka); }
+  void RemoveListaItem(const Tunniste& sKey) { listaItemit_.Remove(sKey); }
+  const Sailio<Rivi>& ListaItems() const noexcept { return listaItemit_; }
+
+ protected:
+  /// Where a new row stands in the list.
+  enum class Kohta { Loppu, VanhemmanJalkeen };
+
+  /// Makes a row, with the empty key one without a key. Behind its parent row the newest child stands first; a row
+  /// without a key or a parent, or whose parent has no row, goes to the end.
+  Rivi& LisaaRivi(const Tunniste& sKey, const Tunniste& Parent, std::string NimiTeksti, Kohta kohta) {
+    const bool vanhemmanJalkeen = kohta == Kohta::VanhemmanJalkeen && !sKey.Tyhja() && !Parent.Tyhja();
+    Rivi& rivi = vanhemmanJalkeen ? listaItemit_.LisaaJalkeen(Parent, sKey) : listaItemit_.Add(sKey);
+    rivi.Parent = Parent;
+    rivi.NimiTeksti = std::move(NimiTeksti);
+    return rivi;
+  }
+
+ private:
+  Sailio<Rivi> listaItemit_;
+};

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "consumers/RivillinenKokoelma.h"
+#include "consumers/clsSahkoListaItem.h"
+#include "consumers/clsSahkonKulutusryhma.h"
+
+/// The electricity consumer groups of the building and the rows of their tree.
+class clsSahkonKulutusryhmat
+    : public Malli<clsSahkonKulutusryhmat, RivillinenKokoelma<clsSahkonKulutusryhma, clsSahkoListaItem>> {
+ public:
+  static const Luokka kLuokka;
+
+  /// Adds a row to the tree: right behind its parent, so that the newest child of a title stands first, or at the end.
+  clsSahkoListaItem& AddListaItem(const Tunniste& sKey, const Tunniste& Parent, std::int16_t ItemTyyppi,
+                                  std::string NimiTeksti, double Vuosikulutus = 0, bool loppuun = false);
+
+  /// All electricity: devices and heating, MWh/a.
+  double Vuosikulutus() const;
+  /// Electricity of the groups, MWh/a.
+  double SahkoLaitteidenVuosikulutus() const;
+  /// Electricity that goes into heat, MWh/a: electrically heated spaces with their control losses, electric coils of
+  /// the machines, electric heating of domestic and process water, all of the building being worked on.
+  double LammitysSahkonVuosikulutus() const;
+  /// Internal heat gain of a space, kWh per month: a twelfth of the yearly consumption of the groups that stand in it
+  /// and whose energy is used for heating. The same in every month.
+  double TilanSahkoKuorma(const Tunniste& sKey) const;
+  /// The same for the groups that belong to no space.
+  double TiloihinLiittymatonSahkoKuorma() const { return TilanSahkoKuorma({}); }
+};

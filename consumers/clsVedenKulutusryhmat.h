@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "consumers/RivillinenKokoelma.h"
+#include "consumers/clsVedenKulutusryhma.h"
+#include "consumers/clsVesiListaItem.h"
+
+/// The water consumer groups of the building, the rows of their tree, and the hot water circulation loop.
+class clsVedenKulutusryhmat
+    : public Malli<clsVedenKulutusryhmat, RivillinenKokoelma<clsVedenKulutusryhma, clsVesiListaItem>> {
+ public:
+  static const Luokka kLuokka;
+  clsVedenKulutusryhmat();
+
+  clsVedenTiedot LKVTiedot;            ///< domestic water
+  clsVedenTiedot ProsessiVedenTiedot;  ///< process water
+  double LKVKiertoKayttoAika = 8760;   ///< use time of the loop, h/a
+  double LKVKiertoJaahtyma = 5.0;      ///< difference of flow and return temperatures, K
+  double LKVKiertoVirtaama = 0;        ///< flow of the loop, dm³/s
+
+  using Sailio::Add;
+  /// Adds a group of the kind, with that kind's temperatures; its use temperature is the cold water's.
+  clsVedenKulutusryhma& Add(const Tunniste& sKey, std::int16_t KulutusRyhmaTyyppi);
+  /// Adds a row to the tree: right behind its parent, so that the newest child of a title stands first, or at the end.
+  clsVesiListaItem& AddListaItem(const Tunniste& sKey, const Tunniste& Parent, std::int16_t ItemTyyppi,
+                                 std::string NimiTeksti, bool loppuun = false);
+  /// Temperatures of the kind of water.
+  const clsVedenTiedot& Tiedot(std::int16_t KulutusRyhmaTyyppi) const noexcept;
+
+  /// Water of all groups, of the domestic ones (their hot water included), of the process ones; m³/a.
+  double VuotuinenVedenKulutus() const;
+  double VuotuinenKvKulutus() const;
+  double VuotuinenKylmanProsessivedenKulutus() const;
+  /// Hot water of the domestic and of the process groups, m³/a.
+  double VuotuinenLkvKulutus() const;
+  double VuotuinenLampimanProsessivedenKulutus() const;
+  /// Heat of domestic water with the loop's loss, and of process water; MWh/a.
+  double VuotuinenLkvLammityksenEnergia() const;
+  double VuotuinenProsessivedenLammityksenEnergia() const;
+  /// The same if that water is heated by electricity, else 0; MWh/a.
+  double VuotuinenLkvSahkoLammityksenEnergia() const;
+  double VuotuinenProsessivedenSahkoLammityksenEnergia() const;
+  /// Loss of the circulation loop, kWh/a: cooling × flow × 4.19 kJ/(kg·K) × use time.
+  double LKVKiertopiirinHavio() const;
+};

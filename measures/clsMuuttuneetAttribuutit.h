@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "kernel/Kokoelma.h"
+#include "kernel/Vertailu.h"
+#include "measures/clsMuuttunutAttribuutti.h"
+
+/// A variation: the changed attributes of one object and of the objects below it. Collects what a comparison of the
+/// edited object with the object as it was finds.
+class clsMuuttuneetAttribuutit : public Malli<clsMuuttuneetAttribuutit, Kokoelma<clsMuuttunutAttribuutti>>,
+                                 public MuutostenKeraaja {
+ public:
+  static const Luokka kLuokka;
+  /// Stands for the identity of the object when there is none: the measure owns its object then.
+  static const Tunniste kViittausPuuttuu;
+
+  std::string TyypinNimi;                           ///< class of the object that the measure concerns
+  Tunniste LiittyyInstanssiin = "ViittausPuuttuu";  ///< its identity
+
+  bool Kelluva() const noexcept { return LiittyyInstanssiin == kViittausPuuttuu; }
+  /// Adds the change under a fresh key.
+  void Lisaa(const Muutos& muutos) override;
+  /// Shows error 1046: the two objects are of different classes.
+  void LuokatEroavat(const Olio& tama, const Olio& toinen) override;
+};

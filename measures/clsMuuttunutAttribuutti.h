@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "kernel/Olio.h"
+
+/// One changed attribute of a variation. `InstanssiId` is not its own: it names the object that holds the attribute,
+/// which may lie far below the object that the measure concerns.
+class clsMuuttunutAttribuutti : public Malli<clsMuuttunutAttribuutti, Alkio> {
+ public:
+  static const Luokka kLuokka;
+  clsMuuttunutAttribuutti() { InstanssiId = {}; }
+
+  std::string clsTypeName;       ///< class of the object that holds the attribute
+  std::string AttribuutinNimi;   ///< member's name
+  double ArvoEnnen = 0;          ///< old value, every kind but text
+  double ArvoJalkeen = 0;        ///< new value
+  std::string Yksikko;           ///< stored only
+  std::string ArvoEnnenStr;      ///< old text
+  std::string ArvoJalkeenStr;    ///< new text
+  std::int32_t TietoTyyppi = 0;  ///< code of the value's kind, see Laji
+};

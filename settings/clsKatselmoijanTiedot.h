@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "kernel/Olio.h"
+
+/// Contact data of one auditor.
+class clsKatselmoijanTiedot : public Malli<clsKatselmoijanTiedot> {
+ public:
+  static const Luokka kLuokka;
+
+  std::string Tehtavanimike;  ///< job title
+  std::string Nimi;
+  std::string Puhelin;
+  std::string Matkapuhelin;
+  std::string Faksi;
+  std::string Sahkoposti;
+
+  /// Takes the user's own data from the settings, keys `alku` + "0" to "5" in the order of the fields.
+  void HaeOletukset(std::string_view alku);
+};
