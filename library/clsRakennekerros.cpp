@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "library/clsRakennekerros.h"
+
+#include <algorithm>
+
+namespace {
+
+/// A figure of one of the layer's materials as a member of the layer.
+template <auto Aine, auto Kentta>
+constexpr Jasen Aineesta(std::string_view nimi, std::string_view yksikko = {}) {
+  Jasen j{nimi, LajiTyypista<typename Osat<decltype(Kentta)>::Tyyppi>(), yksikko};
+  j.nayta = [](const Olio& o, ArvoNakyma& n) { NaytaArvo((static_cast<const clsRakennekerros&>(o).*Aine).*Kentta, n); };
+  j.aseta = [](Olio& o, const ArvoNakyma& n) { return Muunna(n, (static_cast<clsRakennekerros&>(o).*Aine).*Kentta); };
+  return j;
+}
+
+constexpr auto kPaaaine = &clsRakennekerros::Materiaali;
+constexpr auto kLisaaine = &clsRakennekerros::Lisamateriaali;
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&clsRakennekerros::Nimi>("Nimi"),
+    Aineesta<kPaaaine, &Materiaali::Nimi>("MateriaaliNimi"),
+    Aineesta<kPaaaine, &Materiaali::Lambda>("MateriaaliLambda", "W/mK"),
+    Aineesta<kPaaaine, &Materiaali::Tiheys>("MateriaaliTiheys", "kg/m³"),
+    Aineesta<kPaaaine, &Materiaali::Ominaislampo>("MateriaaliOminaislampo", "kJ/kgK"),
+    Arvo<&clsRakennekerros::Paksuus>("Paksuus", "mm"),
+    Arvo<&clsRakennekerros::UArvoon>("UArvoon"),
+    Arvo<&clsRakennekerros::Yhtenainen>("Yhtenainen"),
+    Aineesta<kLisaaine, &Materiaali::Nimi>("LisamateriaaliNimi"),
+    Aineesta<kLisaaine, &Materiaali::Lambda>("LisamateriaaliLambda", "W/mK"),
+    Aineesta<kLisaaine, &Materiaali::Tiheys>("LisamateriaaliTiheys", "kg/m³"),
+    Aineesta<kLisaaine, &Materiaali::Ominaislampo>("LisamateriaaliOminaislampo", "kJ/kgK"),
+    Arvo<&clsRakennekerros::LisamateriaalinOsuus>("LisamateriaalinOsuus", "%"),
+    Arvo<&clsRakennekerros::Lammonvastus>("Lammonvastus", "m²K/W"),
+    Arvo<&clsRakennekerros::sKey>("sKey"),
+};
+
+double Metreina(float mm) { return double{mm} / 1000; }
+
+}  // namespace
+
+const Luokka clsRakennekerros::kLuokka("clsRakennekerros", kJasenet, Luokka::Osallistuu::EiKumpaankaan);
+
+bool clsRakennekerros::Vastustaa() const noexcept {
+  return UArvoon && (Lammonvastus > 0 || (Paksuus > 0 && Materiaali.Lambda > 0));
+}
+
+double clsRakennekerros::LisamateriaalinPaino() const noexcept {
+  return Yhtenainen ? 0 : std::clamp(double{LisamateriaalinOsuus} / 100, 0.0, 1.0);
+}
+
+Kerros clsRakennekerros::Laskentakerros() const noexcept {
+  Kerros kerros;
+  kerros.paksuus_m = Metreina(Paksuus);
+  kerros.lambda = Materiaali.Lambda;
+  kerros.mukana = UArvoon;
+  kerros.yhtenainen = Yhtenainen;
+  kerros.lambda2 = Lisamateriaali.Lambda;
+  kerros.osuus2 = LisamateriaalinPaino();
+  if (Lammonvastus > 0) kerros.vastus = Lammonvastus;
+  return kerros;
+}
+
+double clsRakennekerros::Massa() const noexcept {
+  const double osuus = LisamateriaalinPaino();
+  return Metreina(Paksuus) * ((1 - osuus) * Materiaali.Tiheys + osuus * Lisamateriaali.Tiheys);
+}

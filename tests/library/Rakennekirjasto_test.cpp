@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "library/Rakennekirjasto.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "kernel/Virhe.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Tiedosto(const fs::path& polku) {
+  std::stringstream teksti;
+  teksti << std::ifstream(polku).rdbuf();
+  return teksti.str();
+}
+
+/// A folder of its own for each test, with a name that a user might give, and databases made by the shipped schema.
+class RakennekirjastoTesti : public testing::Test {
+ protected:
+  RakennekirjastoTesti() { fs::create_directories(kansio_); }
+  ~RakennekirjastoTesti() override { fs::remove_all(kansio_); }
+
+  std::string Polku(const std::string& nimi) const { return (kansio_ / nimi).string(); }
+
+  std::string TeeKanta(const std::string& nimi, const std::string& rivit) const {
+    SQLite::Database kanta(Polku(nimi), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    kanta.exec("PRAGMA synchronous = OFF");
+    kanta.exec(Tiedosto(LUMIVIRTA_LAHDE "/data/skeemat/rakennekirjasto.sql"));
+    kanta.exec(rivit);
+    return Polku(nimi);
+  }
+
+ private:
+  fs::path kansio_ = fs::path(testing::TempDir()) / ("Työpöytä Åbo " + Tunniste::Uusi(Sanaksi("testi")).Teksti());
+};
+
+constexpr const char* kAineet =
+    "INSERT INTO Asetukset VALUES ('2.5');"
+    "INSERT INTO Materiaali (Id, Nimi, Lambda, Tiheys, Ominaislampo) VALUES ('v', 'Villa', 0.04, 30, 1.03),"
+    " ('p', 'Puu', 0.12, 500, 1.6);";
+
+constexpr const char* kSeina =
+    "INSERT INTO Rakenne (Id, Rakennetyyppi, Nimi, U_arvo, PintavastusSisa, PintavastusUlko, Pistemaiset, Rw)"
+    " VALUES ('S1', 'Ulkoseinä', 'Rankaseinä', 0.23, 0.13, 0.04, 2, 45.5);"
+    "INSERT INTO Kerros VALUES ('S1', 2, 'v', 200, -1, 0, 'p', 10, NULL), ('S1', 1, 'p', 12, 0, -1, NULL, 0, NULL),"
+    " ('S1', 3, 'puuttuu', 22, -1, -1, NULL, 0, 0.18);";
+
+constexpr const char* kIkkuna =
+    "INSERT INTO Rakenne (Id, Rakennetyyppi, Nimi, U_arvo, U_arvoAnnettu, OnIkkuna, Aurinkoenergianlapaisy)"
+    " VALUES ('I1', 'Ikkuna', 'Kolmilasinen', 1.4, -1, -1, 65);";
+
+std::string VirheenLahde(const std::function<void()>& tee) {
+  try {
+    tee();
+  } catch (const Virhe& virhe) {
+    EXPECT_EQ(virhe.Numero(), 9999);
+    return virhe.Lahde();
+  }
+  return "ei virhettä";
+}
+
+}  // namespace
+
+TEST_F(RakennekirjastoTesti, SolutionIsReadWithItsLayersFromInsideOut) {
+  Rakennetietokanta kanta(TeeKanta("vakio.mdb", std::string(kAineet) + kSeina));
+  const auto seina = kanta.Hae("S1");
+  ASSERT_TRUE(seina);
+  EXPECT_EQ(seina->Rakennetyyppi, "Ulkoseinä");
+  EXPECT_EQ(seina->Pistemaiset, 2);
+  EXPECT_EQ(seina->Rw, 45.5F);
+  EXPECT_FALSE(seina->U_arvoAnnettu);
+  ASSERT_EQ(seina->Kerrokset.Count(), 3);
+  const auto& sisin = seina->Kerrokset.Item(1);
+  EXPECT_EQ(sisin.Materiaali, (Materiaali{"Puu", 0.12F, 500, 1.6F}));
+  EXPECT_EQ(sisin.Paksuus, 12);
+  EXPECT_FALSE(sisin.UArvoon);
+  const auto& ranka = seina->Kerrokset.Item(2);
+  EXPECT_FALSE(ranka.Yhtenainen);
+  EXPECT_EQ(ranka.Lisamateriaali.Nimi, "Puu");
+  EXPECT_EQ(ranka.LisamateriaalinOsuus, 10);
+  EXPECT_EQ(ranka.Lammonvastus, 0);
+  const auto& rako = seina->Kerrokset.Item(3);  // its material isn't in the database
+  EXPECT_EQ(rako.Materiaali, Materiaali{});
+  EXPECT_EQ(rako.Lammonvastus, 0.18F);
+}
+
+TEST_F(RakennekirjastoTesti, UsersDatabaseComesFirst) {
+  const auto omat = TeeKanta("oma.mdb",
+                             "INSERT INTO Rakenne (Id, Rakennetyyppi, Nimi) VALUES ('S1', 'Ulkoseinä', 'Oma seinä');"
+                             "INSERT INTO Asetukset VALUES ('1');");
+  Rakennekirjasto kirjasto(omat, TeeKanta("vakio.mdb", std::string(kAineet) + kSeina + kIkkuna));
+  EXPECT_EQ(kirjasto.Hae("S1").value().Nimi, "Oma seinä");
+  EXPECT_EQ(kirjasto.Hae("S1").value().Kerrokset.Count(), 0);
+  EXPECT_EQ(kirjasto.Hae("I1").value().VoimassaolevaU_arvo(), double{1.4F});
+  EXPECT_TRUE(kirjasto.Hae("I1").value().OnIkkuna);
+  EXPECT_FALSE(kirjasto.Hae("S2"));
+  EXPECT_FALSE(kirjasto.Hae("' OR 1 --"));
+  EXPECT_EQ(kirjasto.Versio(), "2.5");
+}
+
+TEST_F(RakennekirjastoTesti, LookUpsLeaveTheDatabaseFreeForWriting) {
+  const auto polku = TeeKanta("oma.mdb", std::string(kAineet) + kSeina);
+  Rakennetietokanta kanta(polku);
+  ASSERT_TRUE(kanta.Hae("S1"));
+  SQLite::Database toinen(polku, SQLite::OPEN_READWRITE);
+  toinen.exec("UPDATE Rakenne SET Nimi = 'Uusi nimi'");
+  EXPECT_EQ(kanta.Hae("S1").value().Nimi, "Uusi nimi");
+}
+
+TEST_F(RakennekirjastoTesti, MaterialsAreBroughtUpToDateByName) {
+  Rakennetietokanta kanta(TeeKanta("vakio.mdb", std::string(kAineet) + kSeina));
+  auto seina = kanta.Hae("S1").value();
+  EXPECT_FALSE(kanta.PaivitaMateriaalit(seina));
+  seina.Kerrokset.Item(2).Materiaali.Lambda = 0.05F;
+  seina.Kerrokset.Item(2).Lisamateriaali.Tiheys = 1;
+  seina.Kerrokset.Item(3).Materiaali = {"Oma aine", 0.5F, 100, 1};
+  EXPECT_TRUE(kanta.PaivitaMateriaalit(seina));
+  EXPECT_EQ(seina.Kerrokset.Item(2).Materiaali.Lambda, 0.04F);
+  EXPECT_EQ(seina.Kerrokset.Item(3).Materiaali.Lambda, 0.5F);
+  EXPECT_FLOAT_EQ(seina.KerrostenMassaYht, 0.012F * 500 + 0.2F * (0.9F * 30 + 0.1F * 500) + 0.022F * 100);
+}
+
+TEST_F(RakennekirjastoTesti, FilesThatAreNoStructureDatabaseAreRefused) {
+  const auto kunnossa = TeeKanta("vakio.mdb", kAineet);
+  EXPECT_EQ(VirheenLahde([&] { Rakennekirjasto(Polku("puuttuu.mdb"), kunnossa); }),
+            "Rakennekirjasto:Rakennekirjasto Method");
+  EXPECT_FALSE(fs::exists(Polku("puuttuu.mdb")));
+
+  std::ofstream(Polku("rikki.mdb")) << std::string(5000, 'x');
+  EXPECT_EQ(VirheenLahde([&] { Rakennekirjasto(kunnossa, Polku("rikki.mdb")); }),
+            "Rakennekirjasto:Rakennekirjasto Method");
+
+  std::ofstream(Polku("tyhja.mdb"));
+  EXPECT_EQ(VirheenLahde([&] { Rakennetietokanta kanta(Polku("tyhja.mdb")); }),
+            "Rakennetietokanta:Rakennetietokanta Method");
+}
+
+TEST_F(RakennekirjastoTesti, ValueThatIsNoNumberIsAnErrorAndNotZero) {
+  Rakennetietokanta kanta(
+      TeeKanta("vakio.mdb", std::string(kAineet) + kSeina + "UPDATE Materiaali SET Lambda = 'hyvä' WHERE Id = 'v'"));
+  EXPECT_EQ(VirheenLahde([&] { kanta.Hae("S1"); }), "Rakennetietokanta:Hae Method");
+}
+
+/// Every solution that is shipped: the stated figures follow from its layers.
+TEST(Vakiokanta, LayersYieldTheStatedFigures) {
+  const char* koti = std::getenv("LUMIVIRTA_KOTI");
+  const fs::path polku = fs::path(koti ? koti : "") / "Rakennekirjasto/Tietokanta_perus.mdb";
+  if (!fs::exists(polku)) GTEST_SKIP() << "no built databases: " << polku;
+  SQLite::Database luettelo(polku.string());
+  SQLite::Statement tunnukset(luettelo, "SELECT Id, Nimi FROM Rakenne");
+  Rakennetietokanta kanta(polku.string());
+  EXPECT_FALSE(kanta.Versio().empty());
+  int kerroksellisia = 0;
+  while (tunnukset.executeStep()) {
+    SCOPED_TRACE(tunnukset.getColumn(0).getString());
+    auto ratkaisu = kanta.Hae(tunnukset.getColumn(0).getString()).value();
+    EXPECT_TRUE(RakennetyyppiSanasta(ratkaisu.Rakennetyyppi));
+    EXPECT_NEAR(ratkaisu.VoimassaolevaU_arvo().value(), ratkaisu.U_arvo, 0.005);
+    EXPECT_EQ(ratkaisu.OnIkkuna, ratkaisu.Aurinkoenergianlapaisy > 0);
+    EXPECT_FALSE(kanta.PaivitaMateriaalit(ratkaisu));
+    if (ratkaisu.U_arvoAnnettu) continue;
+    ++kerroksellisia;
+    EXPECT_TRUE(ratkaisu.LaskeU_arvo());
+    auto laskettu = ratkaisu;
+    laskettu.PaivitaKerrossummat();
+    EXPECT_NEAR(laskettu.Paksuus, ratkaisu.Paksuus, 0.05);
+    EXPECT_NEAR(laskettu.KerrostenMassaYht, ratkaisu.KerrostenMassaYht, 0.1);
+  }
+  EXPECT_GT(kerroksellisia, 30);
+}
