@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "kernel/Olio.h"
+
+/// Project files: an object tree in one SQLite file, a table for each class, a row for each object. The layout is in
+/// docs/file-format.md. What is stored is told by the tables of the template and the members of the classes alone.
+
+/// Why a project file can't be read or written. what() is a Finnish sentence that names the file and the cause.
+class Projektivirhe : public std::runtime_error {
+ public:
+  enum class Syy {
+    MalliPuuttuu,  ///< the template isn't there
+    Varmuuskopio,  ///< the file that is to be replaced can't be copied aside
+    Kirjoitus,     ///< disk full, no right to write, disk error
+    Arvo,          ///< a value can't be stored (infinity or not a number); names class and member
+    EiProjekti,    ///< the file to be read isn't a project file
+    Vaurioitunut,  ///< a project file that can't be read
+  };
+  Projektivirhe(Syy syy, const std::string& kuvaus) : std::runtime_error(kuvaus), syy_(syy) {}
+  Syy OmaSyy() const noexcept { return syy_; }
+
+ private:
+  Syy syy_;
+};
+
+/// Told of each object that is a member of another (not of items), before its rows are written or read.
+using Eteneminen = std::function<void(const Luokka&)>;
+
+struct Tallennustapa {
+  bool sailytaEnnen = false;  ///< keep the replaced file as "<tiedosto>.ennen": it had values that could not be read
+  Eteneminen eteneminen;
+};
+
+struct Tallennusraportti {
+  int riveja = 0;
+  /// Class of each object that had no identity; it got the text "InstanssiId puuttuu!!".
+  std::vector<std::string> ilmanTunnistetta;
+};
+
+/// Saves the tree under `juuri` as the project file `tiedosto`, replacing an old one. `malli` is the template, "" for
+/// AppPath + "stemplate.tmp". Whatever happens, `tiedosto` holds either its old or the whole new content, and a failure
+/// leaves the backup AppPath + "~backup1lvt.old" in place. Raises Projektivirhe.
+Tallennusraportti TallennaProjekti(Olio& juuri, const std::string& tiedosto, const std::string& malli = {},
+                                   const Tallennustapa& tapa = {});
+
+struct Latausraportti {
+  int vaurioita = 0;                   ///< values that kept their default, rows that were missing or doubled
+  std::vector<std::string> esimerkit;  ///< the first of them, "clsTila.Kokonaistilavuus: abc"
+  Eteneminen eteneminen;
+};
+
+/// Loads a project file into the tree under `juuri`: owned objects are filled, those that may be nothing are made where
+/// the file has them, and the items of the file replace those of the collections. The file isn't changed and nothing is
+/// left beside it. Damaged values are counted and leave the default. Raises Projektivirhe when the file is no project or
+/// can't be read at all; the tree may then be filled in part.
+void HaeProjekti(Olio& juuri, const std::string& tiedosto, Latausraportti& raportti);
+
+/// Version of the program that wrote a project file.
+struct Tiedostoversio {
+  int Major = 0;
+  int Minor = 0;
+  int Revision = 0;
+};
+
+/// Reads the version without loading. Raises Projektivirhe when the file is no project.
+Tiedostoversio HaeTiedostonVersio(const std::string& tiedosto);
+
+/// A backup that a save left behind when it failed or was cut off, or "". The newest only: see SailytaVarakopio.
+std::string JaanytVarakopio();
+/// Renames a left-over backup so that it bears its date and time; the last five of them are kept. A save does the same.
+void SailytaVarakopio();
