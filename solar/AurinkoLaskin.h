@@ -49,10 +49,10 @@ class AurinkoLaskin {
 
   /// Solar energy of the zone in month 1 to 12, MJ, from the latest Laske.
   /// Errors: AurinkoVirhe for another month or a zone that had no part in it.
-  double AurinkoEnergia(int kuukausi, int vyohyke = 1) const;
+  double AurinkoEnergia(int kuukausi, int vyohyke = 1) const { return energiat_.Item(vyohyke)(kuukausi); }
 
  private:
-  void LisaaEnergia(const LaskentaIkkuna& ikkuna, Kuukausiarvot& energia) const;
+  void LisaaEnergia(const LaskentaIkkuna& ikkuna);
 
   const Saataulukko* saa_ = nullptr;
   const Varjostustaulukko* fh_ = nullptr;

@@ -14,9 +14,7 @@ struct Kuukausiarvot {
   double& operator()(int kuukausi) { return arvot[Indeksi(kuukausi)]; }
   double operator()(int kuukausi) const { return arvot[Indeksi(kuukausi)]; }
 
-  static constexpr bool OnKuukausi(double numero) {
-    return numero >= 1 && numero <= kKuukausia && numero == static_cast<int>(numero);
-  }
+  static constexpr bool OnKuukausi(int numero) { return numero >= 1 && numero <= kKuukausia; }
 
  private:
   static std::size_t Indeksi(int kuukausi) {

@@ -9,30 +9,17 @@ namespace {
 
 constexpr std::size_t kSarake[kIlmansuuntia] = {2, 1, 0, 1, 0};  // by orientation; a horizontal surface asks for none
 
-/// The neighbours of x among rising points, and how far x lies from the lower to the upper one, 0 to below 1.
-/// Outside the points both neighbours are the outermost one.
-struct Vali {
-  std::size_t ala;
-  std::size_t yla;
-  double osuus;
-};
-
-template <class Alkio>
-Vali EtsiVali(const std::vector<Alkio>& pisteet, double Alkio::*paikka, double x) {
-  std::size_t yla = 0;
-  while (yla < pisteet.size() && pisteet[yla].*paikka <= x) ++yla;
-  if (yla == 0) return {0, 0, 0.0};
-  const std::size_t ala = yla - 1;
-  if (yla == pisteet.size()) return {ala, ala, 0.0};
-  const double alku = pisteet[ala].*paikka;
-  return {ala, yla, (x - alku) / (pisteet[yla].*paikka - alku)};
-}
-
-/// Between f(lower) and f(upper); the upper one is asked for only where it counts.
-template <class Funktio>
-double Interpoloi(const Vali& vali, Funktio f) {
-  const double alku = f(vali.ala);
-  return vali.osuus == 0.0 ? alku : alku + vali.osuus * (f(vali.yla) - alku);
+/// The value at x of the line through points with rising places; outside them that of the outermost one.
+template <class Alkio, class Arvo>
+inline double Interpoloi(const std::vector<Alkio>& pisteet, double Alkio::*paikka, double x, Arvo arvo) {
+  const Alkio* yla = pisteet.data();
+  const Alkio* const loppu = yla + pisteet.size();
+  while (yla != loppu && yla->*paikka <= x) ++yla;
+  if (yla == pisteet.data()) return arvo(*yla);
+  const Alkio& ala = yla[-1];
+  const double alku = arvo(ala);
+  if (yla == loppu || ala.*paikka == x) return alku;
+  return alku + (x - ala.*paikka) / (yla->*paikka - ala.*paikka) * (arvo(*yla) - alku);
 }
 
 /// Where the point x stands, or would stand, among rising points.
@@ -71,11 +58,7 @@ void Varjostustaulukko::LisaaRivi(const Lukutiedosto& tiedosto) {
 double Varjostustaulukko::Kerroin(double leveysaste, double kulma, Ilmansuunta suunta) const {
   if (suunta == Ilmansuunta::Vaaka) return 1.0;
   const std::size_t sarake = kSarake[Indeksi(suunta)];
-  return Interpoloi(EtsiVali(kayrat_, &Kayra::leveysaste, leveysaste),
-                    [&](std::size_t i) { return KayranKerroin(kayrat_[i], kulma, sarake); });
-}
-
-double Varjostustaulukko::KayranKerroin(const Kayra& kayra, double kulma, std::size_t sarake) {
-  return Interpoloi(EtsiVali(kayra.pisteet, &Piste::kulma, kulma),
-                    [&](std::size_t i) { return kayra.pisteet[i].kertoimet[sarake]; });
+  return Interpoloi(kayrat_, &Kayra::leveysaste, leveysaste, [=](const Kayra& kayra) {
+    return Interpoloi(kayra.pisteet, &Piste::kulma, kulma, [=](const Piste& piste) { return piste.kertoimet[sarake]; });
+  });
 }

@@ -37,7 +37,6 @@ class Varjostustaulukko {
   };
 
   void LisaaRivi(const Lukutiedosto& tiedosto);
-  static double KayranKerroin(const Kayra& kayra, double kulma, std::size_t sarake);
 
   std::vector<Kayra> kayrat_;  ///< at least one, by rising latitude
 };
