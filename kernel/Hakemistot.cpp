@@ -245,7 +245,7 @@ Siemennys SiemennaTiedostot(const fs::path& lahde, const fs::path& kohde) {
 }
 
 Lukitus::Lukitus(const std::string& tiedosto, std::chrono::milliseconds enimmillaan)
-    : kahva_(open(tiedosto.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {
+    : kahva_(open(tiedosto.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666)) {
   if (kahva_ < 0) NostaJarjestelmavirhe(tiedosto);
   const auto takaraja = std::chrono::steady_clock::now() + enimmillaan;
   while (flock(kahva_, LOCK_EX | LOCK_NB) != 0 && (errno == EWOULDBLOCK || errno == EINTR)) {
@@ -262,7 +262,7 @@ Lukitus::~Lukitus() { close(kahva_); }
 std::string LueTiedosto(const fs::path& tiedosto) { return Kahva(tiedosto, O_RDONLY).Lue(); }
 
 void KirjoitaTiedosto(const fs::path& tiedosto, std::string_view sisalto) {
-  const fs::path kohde = LinkinKohde(tiedosto);
+  const fs::path kohde = fs::absolute(LinkinKohde(tiedosto));
   fs::create_directories(kohde.parent_path());
   const fs::path uusi = kohde.string() + ".uusi." + std::to_string(getpid());
   Keskenerainen siivous(uusi);
