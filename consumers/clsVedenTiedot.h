@@ -2,6 +2,9 @@
 #pragma once
 #include "kernel/Olio.h"
 
+/// Specific heat of water, kJ/(kg·K).
+inline constexpr double kVedenOminaislampo = 4.19;
+
 /// Temperatures and heating of one kind of water.
 class clsVedenTiedot : public Malli<clsVedenTiedot> {
  public:
@@ -10,4 +13,7 @@ class clsVedenTiedot : public Malli<clsVedenTiedot> {
   double KylmanLampotila = 5.0;   ///< cold water, °C
   double LamminLampotila = 55.0;  ///< hot water, °C
   bool Sahkolammitys = false;     ///< heated by electricity
+
+  /// Gives the values, not the identity, to `kohde`.
+  void KopioiArvot(clsVedenTiedot& kohde) const noexcept;
 };

@@ -23,5 +23,5 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
   std::vector<clsIVKone*> ListaaTilaanLiittymattomatIVKoneet() const;
 
  private:
-  Valimuisti<double> jalkilammitys_;
+  Oma<double> jalkilammitys_;
 };

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "consumers/clsSahkonKulutusryhma.h"
+
+#include "kernel/Laskenta.h"
+#include "kernel/Virhe.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsSahkonKulutusryhma::KulutusRyhma>("KulutusRyhma"),
+    Arvo<&clsSahkonKulutusryhma::LiittyyTilaanStr>("LiittyyTilaanStr"),
+    Arvo<&clsSahkonKulutusryhma::LiittyyTilaansKey>("LiittyyTilaansKey"),
+    Arvo<&clsSahkonKulutusryhma::EnergiaHyodynnetaanLammityksessa>("EnergiaHyodynnetaanLammityksessa"),
+    Ominaisuus<clsSahkonKulutusryhma, [](const clsSahkonKulutusryhma& o) { return o.LaskentatapaTehopohjainen(); },
+               [](clsSahkonKulutusryhma& o, bool arvo) { o.LaskentatapaTehopohjainen(arvo); }>(
+        "LaskentatapaTehopohjainen"),
+    Ominaisuus<clsSahkonKulutusryhma, [](const clsSahkonKulutusryhma& o) { return o.LaskentatapaEnergiapohjainen(); },
+               [](clsSahkonKulutusryhma& o, bool arvo) { o.LaskentatapaEnergiapohjainen(arvo); }>(
+        "LaskentatapaEnergiapohjainen"),
+    Arvo<&clsSahkonKulutusryhma::LaskentatapaEnergiapohjainenIndex>("LaskentatapaEnergiapohjainenIndex"),
+    Arvo<&clsSahkonKulutusryhma::LaskentaperusteID>("LaskentaperusteID"),
+    Arvo<&clsSahkonKulutusryhma::LaskentaperusteStr>("LaskentaperusteStr"),
+    Arvo<&clsSahkonKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber"),
+    Arvo<&clsSahkonKulutusryhma::Laskentayksikko>("Laskentayksikko"),
+    Arvo<&clsSahkonKulutusryhma::LaskentayksikkoNumber>("LaskentayksikkoNumber"),
+    Arvo<&clsSahkonKulutusryhma::KayttoaikaHpD>("KayttoaikaHpD", "h/d"),
+    Arvo<&clsSahkonKulutusryhma::KayttoaikaDpA>("KayttoaikaDpA", "d/a"),
+    Arvo<&clsSahkonKulutusryhma::Tasauskerroin>("Tasauskerroin"),
+    Arvo<&clsSahkonKulutusryhma::KulutusryhmienLukumaara>("KulutusryhmienLukumaara"),
+    Arvo<&clsSahkonKulutusryhma::SyötettyKulutus>("SyötettyKulutus", "MWh/a"),
+};
+
+constexpr double kWhPerMWh = 1e6;
+constexpr double kkWhPerMWh = 1e3;
+constexpr int kUusiRyhmaTekstinro = 1997;
+
+}  // namespace
+
+const Luokka clsSahkonKulutusryhma::kLuokka{"clsSahkonKulutusryhma", kJasenet};
+
+clsSahkonKulutusryhma::clsSahkonKulutusryhma() : KulutusRyhma(Teksti(kUusiRyhmaTekstinro)) {}
+
+double clsSahkonKulutusryhma::Vuosikulutus() const try {
+  if (KulutusSyotetaan()) return Aarellinen(KulutusryhmienLukumaara * SyötettyKulutus);
+  const double kulutus = LaskentaperusteNumber * LaskentayksikkoNumber * KayttoaikaHpD * KayttoaikaDpA * Tasauskerroin *
+                         KulutusryhmienLukumaara;
+  return Aarellinen(kulutus / (tehopohjainen_ ? kWhPerMWh : kkWhPerMWh));
+} catch (...) {
+  NostaVirhe("clsSahkonKulutusryhma:Vuosikulutus Method");
+}

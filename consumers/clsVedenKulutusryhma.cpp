@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "consumers/clsVedenKulutusryhma.h"
+
+#include <array>
+
+#include "kernel/Laskenta.h"
+#include "kernel/Virhe.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Lapsi<&clsVedenKulutusryhma::VedenTiedot>("VedenTiedot"),
+    Arvo<&clsVedenKulutusryhma::KulutusRyhma>("KulutusRyhma"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsVedenKulutusryhma::KulutusRyhmaTyyppi>("KulutusRyhmaTyyppi"),
+    Arvo<&clsVedenKulutusryhma::LaskentaperusteID>("LaskentaperusteID"),
+    Arvo<&clsVedenKulutusryhma::LaskentaperusteStr>("LaskentaperusteStr"),
+    Arvo<&clsVedenKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber"),
+    Arvo<&clsVedenKulutusryhma::Laskentayksikko>("Laskentayksikko"),
+    Arvo<&clsVedenKulutusryhma::LaskentayksikonTeksti>("LaskentayksikonTeksti"),
+    Arvo<&clsVedenKulutusryhma::KayttokuvausKertaaD>("KayttokuvausKertaaD"),
+    Arvo<&clsVedenKulutusryhma::KayttokuvausDpA>("KayttokuvausDpA", "d/a"),
+    Arvo<&clsVedenKulutusryhma::Tasauskerroin>("Tasauskerroin"),
+    Arvo<&clsVedenKulutusryhma::VedenKayttolampotila>("VedenKayttolampotila", "°C"),
+    Arvo<&clsVedenKulutusryhma::LampimanVedenOsuus>("LampimanVedenOsuus", "%"),
+    Arvo<&clsVedenKulutusryhma::LammityksessaHyodynnettavaOsuus>("LammityksessaHyodynnettavaOsuus", "%"),
+};
+
+constexpr int kUusiRyhmaTekstinro = 1997;
+constexpr double kMJperkWh = 3.6;
+constexpr double kkWhPerMWh = 1e3;
+
+// Per unit of the specific consumption (dm³ a time, a piece, a portion, a person and day; dm³/s, dm³/min, dm³/h): what
+// it is divided by to give m³, times and hours being multiplied in.
+constexpr std::array<double, 7> kMuuntokertoimet{1000, 1000, 1000, 1000, 1000.0 / 3600, 1000.0 / 60, 1000};
+
+double Muuntokerroin(std::int16_t laskentaperuste) {
+  if (laskentaperuste < 0 || laskentaperuste >= std::ssize(kMuuntokertoimet)) return 0;
+  return kMuuntokertoimet[static_cast<std::size_t>(laskentaperuste)];
+}
+
+}  // namespace
+
+const Luokka clsVedenKulutusryhma::kLuokka{"clsVedenKulutusryhma", kJasenet};
+
+clsVedenKulutusryhma::clsVedenKulutusryhma()
+    : KulutusRyhma(Teksti(kUusiRyhmaTekstinro)), VedenKayttolampotila(VedenTiedot.KylmanLampotila) {}
+
+double clsVedenKulutusryhma::VedenKulutus() const try {
+  return Jaa(Laskentayksikko * LaskentaperusteNumber * KayttokuvausKertaaD * KayttokuvausDpA * Tasauskerroin,
+             Muuntokerroin(LaskentaperusteID));
+} catch (...) {
+  NostaVirhe("clsVedenKulutusryhma:VedenKulutus Method");
+}
+
+double clsVedenKulutusryhma::LampimanVedenKulutus() const { return LampimanVedenOsuus * VedenKulutus() / 100; }
+
+double clsVedenKulutusryhma::VedenLammityksenEnergia() const try {
+  const double lampeneminen = VedenKayttolampotila - VedenTiedot.KylmanLampotila;
+  return Aarellinen(VedenKulutus() * kVedenOminaislampo * lampeneminen / kMJperkWh / kkWhPerMWh);
+} catch (...) {
+  NostaVirhe("clsVedenKulutusryhma:VedenLammityksenEnergia Method");
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "supply/clsVesitariffi.h"
+
+#include "settings/clsLumivirtaAsetukset.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsVesitariffi::Nimi>("Nimi"),
+    Arvo<&clsVesitariffi::ALV>("ALV", "%"),
+    Arvo<&clsVesitariffi::MaksutSisaltavatALVn>("MaksutSisaltavatALVn"),
+    Arvo<&clsVesitariffi::Perusmaksu>("Perusmaksu", "€/a"),
+    Arvo<&clsVesitariffi::MuuMaksu>("MuuMaksu", "€/a"),
+    Arvo<&clsVesitariffi::Vesivirtamaksu>("Vesivirtamaksu"),
+    Arvo<&clsVesitariffi::VesivirtamaksunMaaraytymisperuste>("VesivirtamaksunMaaraytymisperuste"),
+    Arvo<&clsVesitariffi::VesiVero>("VesiVero"),
+    Arvo<&clsVesitariffi::VesiveroStr>("VesiveroStr"),
+    Arvo<&clsVesitariffi::VesiveroID>("VesiveroID"),
+    Lapsi<&clsVesitariffi::Energiamaksut>("Energiamaksut"),
+};
+
+constexpr int kUusiTariffiTekstinro = 3049;
+
+}  // namespace
+
+const Luokka clsVesitariffi::kLuokka{"clsVesitariffi", kJasenet};
+
+clsVesitariffi::clsVesitariffi()
+    : Nimi(Teksti(kUusiTariffiTekstinro)),
+      ALV(Asetukset().dblVesiALV),
+      MaksutSisaltavatALVn(Asetukset().KaytaKohtTulostuksissaALVHintoja) {
+  Energiamaksut.Add("Maksu1").Kulutusosuus = 100.0;
+  Energiamaksut.Add("Maksu2");
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ventilation/clsIVKoneet.h"
+
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "kernel/Virhe.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+};
+
+}  // namespace
+
+const Luokka clsIVKoneet::kLuokka{"clsIVKoneet", kJasenet};
+
+double clsIVKoneet::VuotuinenIVjalkilammitysLampo() try {
+  if (VuotuinenIVjalkilammitysLampoUpToDate) return jalkilammitys_.arvo;
+  double summa = 0;
+  for (const clsIVKone& kone : *this) summa += kone.VuotuinenIVjalkilammitysLampo();
+  return jalkilammitys_.arvo = Aarellinen(summa);
+} catch (...) {
+  NostaVirhe("clsIVKoneet:VuotuinenIVjalkilammitysLampo Method");
+}
+
+double clsIVKoneet::Tuloilmavirtojen11Summa() const try {
+  double summa = 0;
+  for (const clsIVKone& kone : *this)
+    if (kone.OnTulopuhallin()) summa += kone.TuloIlmavirta11Teho;
+  return Aarellinen(summa);
+} catch (...) {
+  NostaVirhe("clsIVKoneet:Tuloilmavirtojen11Summa Method");
+}
+
+double clsIVKoneet::Poistoilmavirtojen11Summa() const try {
+  double summa = 0;
+  for (const clsIVKone& kone : *this)
+    if (kone.OnPoistopuhallin()) summa += kone.PoistoIlmavirta11Teho;
+  return Aarellinen(summa);
+} catch (...) {
+  NostaVirhe("clsIVKoneet:Poistoilmavirtojen11Summa Method");
+}
+
+std::vector<clsIVKone*> clsIVKoneet::ListaaTilaanLiittymattomatIVKoneet() const try {
+  std::vector<clsIVKone*> liittymattomat;
+  const clsTilat& tilat = VaadiRakennus().Tilat;
+  for (clsIVKone& kone : *this)
+    if (!tilat.Etsi(kone.LiittyyTilaansKey)) liittymattomat.push_back(&kone);
+  return liittymattomat;
+} catch (...) {
+  NostaVirhe("clsIVKoneet:ListaaTilaanLiittymattomatIVKoneet Method");
+}
