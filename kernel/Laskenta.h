@@ -9,7 +9,7 @@ inline constexpr std::array<int, 12> kPaivatKuukaudessa{31, 28, 31, 30, 31, 30, 
 inline constexpr int kKuukausia = 12;
 
 /// Twelve monthly values, index 0 is January.
-using Kuukausiarvot = std::array<double, kKuukausia>;
+using Kuukausitaulu = std::array<double, kKuukausia>;
 
 /// jaettava / jakaja; raises std::domain_error when the divisor is 0 or the quotient isn't finite.
 inline double Jaa(double jaettava, double jakaja) {
@@ -49,11 +49,11 @@ class Lippu {
   bool arvo_ = false;
 };
 
-/// Cached values behind a `Lippu`; a copy doesn't carry them.
+/// What belongs to one object and never travels with a copy: cached values, event listeners, an open dialog.
 template <class T>
-struct Valimuisti {
-  Valimuisti() = default;
-  Valimuisti(const Valimuisti&) noexcept {}
-  Valimuisti& operator=(const Valimuisti&) noexcept { return *this; }
+struct Oma {
+  Oma() = default;
+  Oma(const Oma&) noexcept {}
+  Oma& operator=(const Oma&) noexcept { return *this; }
   T arvo{};
 };

@@ -40,7 +40,7 @@ Variantti LuvuksiLajin(Laji laji, const ArvoNakyma& n) {
     case Laji::Kaksinkertainen:
       return n.Reaali();
     case Laji::Valuutta:
-      return Valuutta{n.Reaali()};
+      return Rahamaara{n.Reaali()};
     case Laji::Desimaali:
       return Desimaali{n.Reaali()};
     case Laji::Paivays: {
@@ -64,7 +64,7 @@ void NaytaVariantti(const Variantti& arvo, ArvoNakyma& n) {
         using T = std::remove_cvref_t<decltype(v)>;
         if constexpr (std::is_same_v<T, std::monostate> || std::is_same_v<T, Olio*>)
           n.AsetaTyhja();
-        else if constexpr (std::is_same_v<T, Valuutta> || std::is_same_v<T, Desimaali>)
+        else if constexpr (std::is_same_v<T, Rahamaara> || std::is_same_v<T, Desimaali>)
           n.Aseta(v.maara);
         else
           NaytaArvo(v, n);

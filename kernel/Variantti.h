@@ -31,7 +31,7 @@ struct Kellonaika {
   friend bool operator==(Kellonaika, Kellonaika) = default;
 };
 
-struct Valuutta {
+struct Rahamaara {
   double maara = 0;
 };
 struct Desimaali {
@@ -39,7 +39,7 @@ struct Desimaali {
 };
 
 /// A value of any kind, for access by name.
-using Variantti = std::variant<std::monostate, std::int16_t, std::int32_t, float, double, Valuutta, Kellonaika,
+using Variantti = std::variant<std::monostate, std::int16_t, std::int32_t, float, double, Rahamaara, Kellonaika,
                                std::string, bool, Desimaali, Olio*>;
 
 /// A member's value seen without copying it: how save, load and comparison look at members. A text lives as long as the

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/clsPerustiedot.h"
+
+#include "kernel/Paivamaara.h"
+#include "ui/frmPerustiedot.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&clsPerustiedot::KohteenNimi>("KohteenNimi"),
+    Arvo<&clsPerustiedot::Pvm>("Pvm"),
+    Arvo<&clsPerustiedot::Kayttotarkoitus>("Kayttotarkoitus"),
+    Arvo<&clsPerustiedot::KayttoTarkoitusID>("KayttoTarkoitusID"),
+    Arvo<&clsPerustiedot::ValmistumisVuosi>("ValmistumisVuosi"),
+    Arvo<&clsPerustiedot::Kokonaistilavuus>("Kokonaistilavuus", "m³"),
+    Arvo<&clsPerustiedot::KylmanTilavuudenOsuus>("KylmanTilavuudenOsuus", "%"),
+    Arvo<&clsPerustiedot::BruttoAla>("BruttoAla", "m²"),
+    Arvo<&clsPerustiedot::KylmanAlanOsuus>("KylmanAlanOsuus", "%"),
+    Arvo<&clsPerustiedot::KerrostenLukumaara>("KerrostenLukumaara"),
+    Arvo<&clsPerustiedot::KohteenHenkiloMaara>("KohteenHenkiloMaara", "hlö"),
+    Arvo<&clsPerustiedot::LammTarveLukuPaikkakunta>("LammTarveLukuPaikkakunta"),
+    Ominaisuus<clsPerustiedot, [](const clsPerustiedot& p) { return p.LammTarveLukuPaikkakuntaID(); },
+               [](clsPerustiedot& p, std::int32_t v) { p.LammTarveLukuPaikkakuntaID(v); }>("LammTarveLukuPaikkakuntaID"),
+    Arvo<&clsPerustiedot::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", "K·d"),
+    Lapsi<&clsPerustiedot::ToteutuneetKulutukset>("ToteutuneetKulutukset"),
+    Lapsi<&clsPerustiedot::LammKulVakioOsuus>("LammKulVakioOsuus"),
+    Lapsi<&clsPerustiedot::LammonHankinta>("LammonHankinta"),
+    Lapsi<&clsPerustiedot::SahkonHankinta>("SahkonHankinta"),
+    Lapsi<&clsPerustiedot::VedenHankinta>("VedenHankinta"),
+    Arvo<&clsPerustiedot::OletusarvotLaskettu>("OletusarvotLaskettu"),
+};
+
+/// Degree days of the localities' normal years, Hanko to Vaasa, K·d.
+constexpr std::array<double, 16> kLammitystarveluvut{4098, 4366, 6448, 5230, 5053, 5523, 5068, 4629,
+                                                     4734, 4036, 5291, 4400, 6434, 4719, 4255, 4730};
+
+}  // namespace
+
+const Luokka clsPerustiedot::kLuokka{"clsPerustiedot", kJasenet};
+
+clsPerustiedot::clsPerustiedot() : Pvm(TamaPaiva()) {}
+clsPerustiedot::~clsPerustiedot() = default;
+
+clsPerustiedot::clsPerustiedot(const clsPerustiedot&) = default;
+clsPerustiedot& clsPerustiedot::operator=(const clsPerustiedot&) = default;
+
+void clsPerustiedot::LammTarveLukuPaikkakuntaID(std::int32_t paikkakunta) {
+  paikkakunta_ = paikkakunta;
+  const auto indeksi = static_cast<std::size_t>(paikkakunta);
+  if (paikkakunta >= 0 && indeksi < kLammitystarveluvut.size()) NormVuodenLammTarveLuku = kLammitystarveluvut[indeksi];
+}

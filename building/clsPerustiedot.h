@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <functional>
+#include <memory>
+
+#include "kernel/Laskenta.h"
+#include "kernel/Olio.h"
+#include "results/clsLammKulutuksenVakioOsuus.h"
+#include "results/clsToteutuneetKulutukset.h"
+#include "supply/clsEnergianHankinta.h"
+
+class frmPerustiedot;
+
+/// What identifies the audited object, and its measured consumption.
+class clsPerustiedot : public Malli<clsPerustiedot> {
+ public:
+  static const Luokka kLuokka;
+  clsPerustiedot();
+  ~clsPerustiedot() override;
+  /// Copies the data; events and dialog stay with the object.
+  clsPerustiedot(const clsPerustiedot& toinen);
+  clsPerustiedot& operator=(const clsPerustiedot& toinen);
+
+  std::string KohteenNimi;
+  std::string Pvm;                          ///< date of the audit, "d.M.yyyy"; today for a new object
+  std::string Kayttotarkoitus;              ///< use type, as shown
+  std::int16_t KayttoTarkoitusID = 0;       ///< index of the use type, 0 to 40
+  std::int32_t ValmistumisVuosi = 0;        ///< year of completion
+  double Kokonaistilavuus = 0;              ///< m³
+  double KylmanTilavuudenOsuus = 0;         ///< unheated share of the volume, %
+  double BruttoAla = 0;                     ///< gross floor area, m²
+  double KylmanAlanOsuus = 0;               ///< unheated share of the area, %
+  double KerrostenLukumaara = 1;            ///< storeys
+  double KohteenHenkiloMaara = 4;           ///< people
+  std::string LammTarveLukuPaikkakunta;     ///< locality of the degree days, as shown
+  double NormVuodenLammTarveLuku = 0;       ///< degree days of the locality's normal year, K·d
+  clsToteutuneetKulutukset ToteutuneetKulutukset;
+  clsLammKulutuksenVakioOsuus LammKulVakioOsuus;
+  clsEnergianHankinta LammonHankinta;
+  clsEnergianHankinta SahkonHankinta;
+  clsEnergianHankinta VedenHankinta;
+  bool OletusarvotLaskettu = false;         ///< the first model has been generated
+
+  /// Locality number, 0 (Hanko) to 15 (Vaasa).
+  std::int32_t LammTarveLukuPaikkakuntaID() const noexcept { return paikkakunta_; }
+  /// Sets the locality and its degree days; a number outside 0 to 15 leaves the degree days as they were.
+  void LammTarveLukuPaikkakuntaID(std::int32_t paikkakunta);
+
+  /// At OK when the locality has changed.
+  Oma<std::function<void(int paikkakunta)>> SaaTietoMuuttui;
+  /// At OK while OletusarvotLaskettu is False.
+  Oma<std::function<void()>> LaskeOletusarvotPerustietojenMukaan;
+
+  /// Opens the basic-data dialog, modal. OK writes the values, and at the first OK has the first model generated;
+  /// Cancel restores them. False when the object never took shape and is to be dropped.
+  bool NaytaKayttoliityma();
+  void LueDataluokka();
+  void KirjoitaDataluokka();
+
+ private:
+  void LiitaTapahtumat();
+  void LueKulutukset();
+  bool KirjoitaKulutukset();
+  void AsetaOtsikot();
+  void KayttoLiittyma_DataMuuttui();
+  void KayttoLiittyma_KulutustietoMuuttui();
+  void KayttoLiittyma_SaaPaikkakuntaMuuttui(int paikkakunta);
+  void KayttoLiittyma_VakioOsuusKlikattu();
+  void KayttoLiittyma_OkKlikattu();
+  void KayttoLiittyma_PeruutaKlikattu();
+  bool VakioOsuusMahtuuKulutukseen() const;
+
+  std::int32_t paikkakunta_ = 0;
+  Oma<std::unique_ptr<clsPerustiedot>> varalla_;  // as it was when the dialog opened
+  Oma<std::unique_ptr<frmPerustiedot>> kayttoLiittyma_;
+};

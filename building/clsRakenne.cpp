@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/clsRakenne.h"
+
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "kernel/Hakemistot.h"
+#include "kernel/Virhe.h"
+#include "settings/clsLumivirtaAsetukset.h"
+#include "solar/AurinkoLaskin.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsRakenne::Rakennetyyppi>("Rakennetyyppi"),
+    Arvo<&clsRakenne::TyyppiID>("TyyppiID"),
+    Arvo<&clsRakenne::TyyppiStr>("TyyppiStr"),
+    Arvo<&clsRakenne::SuuntausID>("SuuntausID"),
+    Arvo<&clsRakenne::SuuntausStr>("SuuntausStr"),
+    Arvo<&clsRakenne::PintaAla>("PintaAla", "m²"),
+    Ominaisuus<clsRakenne, [](const clsRakenne& r) { return r.U_arvo(); }, [](clsRakenne& r, double u) { r.U_arvo(u); }>(
+        "U_arvo", "W/m²K"),
+    Arvo<&clsRakenne::LaskeU_arvoMateriaaleista>("LaskeU_arvoMateriaaleista"),
+    Lapsi<&clsRakenne::RakenneRatkaisu>("RakenneRatkaisu"),
+    Lapsi<&clsRakenne::HorisVarjostus>("HorisVarjostus"),
+    Lapsi<&clsRakenne::SivuLippa>("SivuLippa"),
+    Lapsi<&clsRakenne::YlaLippa>("YlaLippa"),
+    Arvo<&clsRakenne::RakennekannanVersio>("RakennekannanVersio"),
+};
+
+constexpr double kPuskuritilanKerroin = 0.8;
+constexpr double kTuntiaVuorokaudessa = 24;
+constexpr double kWhPerkWh = 1000;
+constexpr double kMJperkWh = 3.6;
+constexpr int kLiianKylmaTekstinro = 9212;
+
+/// Loss towards the ground, kWh/m² per month, by room temperature.
+struct Maataulukko {
+  double yli;  ///< holds above this room temperature, °C
+  Kuukausitaulu haviot;
+};
+constexpr std::array<Maataulukko, 2> kMaataulukot{{
+    {17, {2, 2.5, 3, 3, 3, 2.5, 2, 1, 0.5, 0.5, 1, 2}},
+    {12, {1.4, 1.8, 2.2, 2.2, 2.2, 1.8, 1.4, 0.8, 0.3, 0.3, 0.8, 1.4}},
+}};
+constexpr double kAlinMaalampotila = 5;
+constexpr Kuukausitaulu kViileaMaataulukko{0.8, 1.1, 1.3, 1.3, 1.3, 1.1, 0.8, 0.3, 0, 0, 0.3, 0.5};
+
+/// The table of that room temperature; nothing below 5 °C, where there is no loss.
+const Kuukausitaulu* Maahaviot(double Tsisa) {
+  for (const Maataulukko& taulukko : kMaataulukot)
+    if (Tsisa > taulukko.yli) return &taulukko.haviot;
+  return Tsisa >= kAlinMaalampotila ? &kViileaMaataulukko : nullptr;
+}
+
+enum class Johtumistapa { Ei, Ilmaan, Maahan };
+
+struct Johtuminen {
+  Johtumistapa tapa = Johtumistapa::Ei;
+  double WperK = 0;  ///< to air: conductance, W/K
+};
+
+Johtuminen MuodostaJohtuminen(const clsRakenne& r) {
+  if (r.Rakennetyyppi == Rakennelaji::Ikkuna || r.Rakennetyyppi == Rakennelaji::Ovi) return {Johtumistapa::Ilmaan, r.PintaAla * r.U_arvo()};
+  if (r.Rakennetyyppi < Rakennelaji::Ulkoseina || r.Rakennetyyppi > Rakennelaji::Alapohja) return {};
+  switch (r.TyyppiID) {
+    case kUlkoilma:
+      return {Johtumistapa::Ilmaan, r.PintaAla * r.U_arvo()};
+    case kPuskuritila:
+      return {Johtumistapa::Ilmaan, r.U_arvo() * kPuskuritilanKerroin * r.PintaAla};
+    case kMaa:
+      return {Johtumistapa::Maahan};
+    default:
+      return {};
+  }
+}
+
+double HavioIlmaan(double WperK, double Tsisa, double Tulko, int paivia) {
+  return (Tsisa - Tulko) * WperK * paivia * kTuntiaVuorokaudessa / kWhPerkWh;
+}
+
+double HavioMaahan(double pintaAla, double Tsisa, int kuukausi) {
+  if (const Kuukausitaulu* haviot = Maahaviot(Tsisa)) return pintaAla * (*haviot)[static_cast<std::size_t>(kuukausi)];
+  Ilmoita(Teksti(kLiianKylmaTekstinro));
+  return 0;
+}
+
+/// Latitude by locality: Hanko, Helsinki, Ivalo, ... Vaasa; degrees.
+constexpr std::array<double, 16> kLeveysasteet{60, 60, 65, 63, 62, 63, 63, 61, 61, 60, 65, 61, 65, 61, 60, 62};
+
+/// The zone is a formal carrier of the gains; its figures are constants of the method.
+constexpr double kVyohykkeenAsetuslampotila = 21.0, kVyohykkeenTilavuus = 500.0, kVyohykkeenKoko = 60.0;
+
+/// Paths of the calculator's files, put together once for each program folder and weather file.
+struct Aurinkotiedostot {
+  std::string koti, saaNimi, saa, fh, ff, fo;
+
+  static const Aurinkotiedostot& Nyt() {
+    static Aurinkotiedostot t;
+    const std::string& nimi = VaadiSaa().SaaFileNimi;
+    if (t.saaNimi != nimi || t.koti != AppPath())
+      t = {AppPath(),
+           nimi,
+           AppPath() + nimi,
+           AppPath() + "CenFh_Table.txt",
+           AppPath() + "CenFf_Table.txt",
+           AppPath() + "CenFo_Table.txt"};
+    return t;
+  }
+};
+
+LaskentaVyohyke MuodostaVyohyke() {
+  LaskentaVyohyke vyohyke;
+  for (int kuukausi = 1; kuukausi <= kKuukausia; ++kuukausi)
+    vyohyke.Asetuslampotila(kuukausi) = kVyohykkeenAsetuslampotila;
+  vyohyke.Tilavuus = kVyohykkeenTilavuus;
+  vyohyke.Koko = kVyohykkeenKoko;
+  return vyohyke;
+}
+
+LaskentaIkkuna MuodostaIkkuna(const clsRakenne& r, const Aurinkotiedostot& tiedostot) {
+  constexpr double kProsentti = 100;
+  LaskentaIkkuna ikkuna;
+  ikkuna.Suuntaus = r.SuuntausID;
+  ikkuna.PintaAla = r.PintaAla;
+  ikkuna.U_arvo = r.U_arvo();
+  ikkuna.Aurinkoenergianlapaisy = r.RakenneRatkaisu->Aurinkoenergianlapaisy / kProsentti;
+  ikkuna.Karmikerroin = r.RakenneRatkaisu->Karmikerroin / kProsentti;
+  ikkuna.Verhokerroin = r.RakenneRatkaisu->Verhokerroin / kProsentti;
+  ikkuna.SivuLippaKulma = r.SivuLippa.Varjostuskulma;
+  ikkuna.YlaLippaKulma = r.YlaLippa.Varjostuskulma;
+  ikkuna.LataaFf(tiedostot.ff);
+  ikkuna.LataaFo(tiedostot.fo);
+  return ikkuna;
+}
+
+}  // namespace
+
+const Luokka clsRakenne::kLuokka{"clsRakenne", kJasenet};
+
+clsRakenne::clsRakenne() : RakennekannanVersio(Asetukset().TietokannanVersio()) {}
+
+double clsRakenne::U_arvo() const {
+  if (!LaskeU_arvoMateriaaleista || !RakenneRatkaisu) return u_arvo_;
+  return RakenneRatkaisu->LaskeU_arvo().value_or(u_arvo_);
+}
+
+double clsRakenne::LampoHaviot(double Tsisa, int kuukausi) const try {
+  const Johtuminen johtuminen = MuodostaJohtuminen(*this);
+  if (johtuminen.tapa == Johtumistapa::Maahan) return HavioMaahan(PintaAla, Tsisa, TarkistaKuukausi(kuukausi));
+  if (johtuminen.tapa == Johtumistapa::Ei) return 0;
+  return HavioIlmaan(johtuminen.WperK, Tsisa, VaadiSaa().Keskilampotila(kuukausi),
+                     kPaivatKuukaudessa[static_cast<std::size_t>(kuukausi)]);
+} catch (...) {
+  NostaVirhe("clsRakenne:LampoHaviot Method");
+}
+
+void clsRakenne::LisaaLampoHaviot(double Tsisa, const Kuukausitaulu& ulkolampotilat, Kuukausitaulu& summa) const try {
+  const Johtuminen johtuminen = MuodostaJohtuminen(*this);
+  if (johtuminen.tapa == Johtumistapa::Ilmaan)
+    for (std::size_t m = 0; m < kKuukausia; ++m)
+      summa[m] += HavioIlmaan(johtuminen.WperK, Tsisa, ulkolampotilat[m], kPaivatKuukaudessa[m]);
+  else if (johtuminen.tapa == Johtumistapa::Maahan)
+    for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += HavioMaahan(PintaAla, Tsisa, static_cast<int>(m));
+} catch (...) {
+  NostaVirhe("clsRakenne:LampoHaviot Method");
+}
+
+double clsRakenne::AurinkoKuorma(int kuukausi) try {
+  const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
+  if (!aurinkokuormatUpToDate_)
+    LaskeAurinkokuormat();
+  else if (kuukausi == kKuukausia - 1)
+    aurinkokuormatUpToDate_ = false;
+  return aurinkoKuormat_.arvo[m];
+} catch (...) {
+  NostaVirhe("clsRakenne:AurinkoKuorma Method");
+}
+
+const Kuukausitaulu& clsRakenne::AurinkoKuormat() try {
+  if (!aurinkokuormatUpToDate_) LaskeAurinkokuormat();
+  aurinkokuormatUpToDate_ = false;
+  return aurinkoKuormat_.arvo;
+} catch (...) {
+  NostaVirhe("clsRakenne:AurinkoKuorma Method");
+}
+
+void clsRakenne::PaivitaAurinkokuormat() try {
+  LaskeAurinkokuormat();
+  aurinkokuormatUpToDate_ = true;
+} catch (...) {
+  NostaVirhe("clsRakenne:PaivitaAurinkokuormat Method");
+}
+
+void clsRakenne::LaskeAurinkokuormat() {
+  Kuukausitaulu& kuormat = aurinkoKuormat_.arvo;
+  kuormat = {};
+  if (Rakennetyyppi != Rakennelaji::Ikkuna || !RakenneRatkaisu) return;
+  const Aurinkotiedostot& tiedostot = Aurinkotiedostot::Nyt();
+  AurinkoLaskin laskin;
+  laskin.LataaSaa(tiedostot.saa);
+  const auto paikkakunta = static_cast<std::size_t>(VaadiRakennus().Perustiedot.LammTarveLukuPaikkakuntaID());
+  if (paikkakunta < kLeveysasteet.size()) laskin.Leveysaste = kLeveysasteet[paikkakunta];
+  laskin.LataaFh(tiedostot.fh);
+  laskin.Vyohykkeet.Add(MuodostaVyohyke());
+  laskin.HorisonttiKulma(SuuntausID, HorisVarjostus.Varjostuskulma);
+  laskin.Ikkunat.Add(MuodostaIkkuna(*this, tiedostot));
+  laskin.Laske();
+  for (int m = 0; m < kKuukausia; ++m) kuormat[static_cast<std::size_t>(m)] = laskin.AurinkoEnergia(m + 1) / kMJperkWh;
+  aurinkokuormatUpToDate_ = true;
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "building/clsHorisVarjostus.h"
+#include "building/clsLippaVarjostus.h"
+#include "kernel/Laskenta.h"
+#include "kernel/Olio.h"
+#include "library/Rakenneratkaisu.h"
+
+/// What a wall, roof or floor borders on, `clsRakenne.TyyppiID`.
+enum Rajoittuminen : std::int32_t { kUlkoilma, kPuskuritila, kMaa, kHuonelampoinenTila };
+
+/// One envelope element of a space.
+class clsRakenne : public Malli<clsRakenne, Alkio> {
+ public:
+  static const Luokka kLuokka;
+  clsRakenne();
+
+  std::int32_t Rakennetyyppi = 0;        ///< kind, 0 to 7 (Rakennelaji); any other conducts nothing
+  std::int32_t TyyppiID = 0;             ///< boundary of kinds 0 to 2 (enum Rajoittuminen); any other conducts nothing
+  std::string TyyppiStr;                 ///< text of that choice
+  std::int32_t SuuntausID = 0;           ///< orientation (enum Suunta)
+  std::string SuuntausStr;               ///< text of that choice
+  double PintaAla = 0;                   ///< area by outside dimensions, m²
+  bool LaskeU_arvoMateriaaleista = false;  ///< the U-value comes from the layers of the solution
+  Omistus<Rakenneratkaisu> RakenneRatkaisu;
+  clsHorisVarjostus HorisVarjostus;
+  clsLippaVarjostus SivuLippa;
+  clsLippaVarjostus YlaLippa;
+  std::int32_t RakennekannanVersio = 0;  ///< version of the structure database it was made with
+
+  /// Thermal transmittance, W/m²K: computed from the layers when LaskeU_arvoMateriaaleista is set and the solution
+  /// yields a value (EN ISO 6946), else the stored one.
+  double U_arvo() const;
+  /// Stores a value.
+  void U_arvo(double arvo) { u_arvo_ = arvo; }
+
+  /// Conduction loss of month 0 to 11, kWh, room at Tsisa °C. Not cut at zero: a month warmer than the room gives a
+  /// negative loss. Towards ground: area times a table by room temperature; below 5 °C text 9212 is shown and the loss
+  /// is 0.  Source: degree-hour balance of building code D5.
+  double LampoHaviot(double Tsisa, int kuukausi) const;
+  /// Adds the losses of all twelve months to `summa`: the same figures in one pass.
+  void LisaaLampoHaviot(double Tsisa, const Kuukausitaulu& ulkolampotilat, Kuukausitaulu& summa) const;
+
+  /// Solar gain of month 0 to 11, kWh. One run of the calculator serves twelve reads: reading month 11 from the cache
+  /// ends its validity.  Source: prEN 832.
+  double AurinkoKuorma(int kuukausi);
+  /// All twelve; leaves the cache as twelve reads would.
+  const Kuukausitaulu& AurinkoKuormat();
+  /// Recomputes all twelve and keeps them valid.
+  void PaivitaAurinkokuormat();
+  void MitatoiAurinkokuormat() noexcept { aurinkokuormatUpToDate_ = false; }
+
+ private:
+  void LaskeAurinkokuormat();
+
+  double u_arvo_ = 0;
+  Lippu aurinkokuormatUpToDate_;
+  Oma<Kuukausitaulu> aurinkoKuormat_;
+};

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <array>
+#include <memory>
+
+#include "building/clsPerustiedot.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
+#include "kernel/clsTyyppiTiedot.h"
+#include "measures/clsMuuttuneetAttribuutit.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsKatselmoijienTiedot.h"
+#include "settings/clsProjektiAsetukset.h"
+#include "supply/clsSahkoTariffienVertailu.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
+#include "ventilation/clsIVKoneet.h"
+
+class frmLampoYhteenveto;
+
+/// A building: the root of the model. Owns every part, answers for the building's heat and electricity totals, and is
+/// what saving measures copy and patch. Holds no physics: a figure is pulled from the parts at the moment it is asked.
+///
+/// Months are 0 to 11; monthly figures kWh, yearly ones MWh. Results are taken inside a Tasehaarukka, their own when the
+/// caller has none, so that they are the same alone and together. Errors: 9999 with the method's literal.
+class clsRakennus : public Malli<clsRakennus> {
+ public:
+  static const Luokka kLuokka;
+  /// Use-type code of each index of `clsPerustiedot.KayttoTarkoitusID`.
+  static constexpr std::array<int, 41> KayttoTarkoitusKoodit{
+      1,  2,  3,  4,  11, 12, 13, 14, 21, 22, 23, 24, 31, 32, 41, 42, 43, 44, 45, 49, 51,
+      52, 53, 60, 61, 62, 63, 64, 65, 66, 69, 71, 72, 79, 81, 89, 91, 92, 93, 94, 99};
+
+  clsRakennus();
+  ~clsRakennus() override;
+  clsRakennus(const clsRakennus&) = delete;
+  clsRakennus& operator=(const clsRakennus&) = delete;
+
+  clsSaa Saa;
+  clsSahkonKulutusryhmat SahkonKulutusryhmat;
+  clsVedenKulutusryhmat VedenKulutusryhmat;
+  clsProjektiAsetukset ProjektiAsetukset;
+  clsKatselmoijienTiedot KatselmoijienTiedot;
+  clsTariffit Tariffit;
+  clsVesitariffit Vesitariffit;
+  clsSaastotoimenpiteet Saastotoimenpiteet;
+  clsTyyppiTiedot TyyppiTiedot;
+  clsSahkoTariffienVertailu SahkoTariffienVertailu;
+  clsToimenpiteidenJarjestelija ToimenpiteidenJarjestelija;
+  clsPerustiedot Perustiedot;
+  clsTilat Tilat;
+  clsIVKoneet IVKoneet;
+
+  std::int32_t Major, Minor, Revision;  ///< version of the program that last wrote the object
+  double MuuLampo = 0;                  ///< other heat use that the auditor enters, MWh/a
+  bool Tallennettu = false;             ///< the object equals its file
+
+  /// Empties the register and then the parts, before the object is dropped.
+  void Delete();
+  /// Empties the register and rebuilds it by walking the tree.
+  void PaivitaInstanssiIdLista();
+  /// Deep copy of the physics and the energy tariffs, identities included; measures, water tariffs, tariff comparison
+  /// and arranger stay with this object. Into an existing target it reuses the target's parts. Returns the copy when
+  /// there is no target.
+  std::unique_ptr<clsRakennus> Kopioi(clsRakennus* kohde = nullptr);
+  /// Changes from `vanha` to this object.
+  void VertaileAttribuutit(clsRakennus& vanha, MuutostenKeraaja& muuttuneet);
+  /// Writes a measure's new values into this building; an entry whose object is gone is passed over.
+  void LiitaSaastoToimenpide(const clsMuuttuneetAttribuutit& muuttuneet);
+
+  /// Saves to a project file (kernel/Projektitiedosto.h). Never raises: error 1039 is shown, the former file is whole and
+  /// `Tallennettu` stays False. True when saved.
+  bool Tallenna(const std::string& tiedosto);
+  /// Loads from a project file and makes this building's weather the locality's. Raises Virhe; damaged values keep their
+  /// defaults and are told of.
+  void Hae(const std::string& tiedosto);
+
+  /// Some structure was made with an older version of the standard structure database than the one in use.
+  bool RakVakioKantaUudempiKuinMinunRakenteet() const;
+  /// Gives the materials of all structures the figures of the structure database `tiedosto`, and its version.
+  void PaivitaMateriaalitVakiokannasta(const std::string& tiedosto);
+
+  // Reserved merge points: they do nothing and answer False.
+  bool YhdistaEnergianHankinta(const Olio&, const Olio&) const { return false; }
+  bool YhdistaTila(const Olio&, const Olio&) const { return false; }
+  bool YhdistaIVKone(const Olio&, const Olio&) const { return false; }
+  bool YhdistäSahkonKulutusryhma(const Olio&, const Olio&) const { return false; }
+  bool YhdistaVedenKulutusryhma(const Olio&, const Olio&) const { return false; }
+
+  double VuotuinenIVjalkilammitysLampo();
+  double VuotuinenAurinkoKuorma() const { return 0; }
+  double VuotuisetLKVHaviot();           ///< heat for domestic hot water
+  double VuotuisetProsessiVesiHaviot();  ///< heat for process water
+  double LampoHaviotTilatKk(int kuukausi);
+  double LampoEnergianTarveTilatKk(int kuukausi);
+  double AurinkoKuorma(int kuukausi);
+  // Declared and deliberately empty monthly results.
+  double LampoHaviotIVKk(int) const { return 0; }
+  double HyodynnetytLampoKuormatKk(int) const { return 0; }
+  double LammonTuotonHaviotKk(int) const { return 0; }
+  double LKVHaviotKk(int) const { return 0; }
+  double ProsessiVesiHaviotKk(int) const { return 0; }
+  /// Electric load of the consumers that belong to no space, over the gross area: kWh/m² in a month. With an area of 0
+  /// or less a message, and 0.
+  double LaskeYleisSahkoKuorma();
+  double VuotuinenLampoEnergianTarveTilat();
+  double VuotuisetLampoHaviot();
+  double VuotuisetHyodynnetytLampoKuormat();
+  double VuotuisetSaatohaviot();
+  /// Losses of producing the heat of spaces and after-heating, by the heat supply's forms: (1 / efficiency − 1) × the
+  /// form's share. A form of efficiency 0 adds nothing.
+  double VuotuisetLammonKonversiohaviot();
+  double VuotuisetSahkoKonversiohaviot();
+  double VuotuisetLaiteSahkoKonversiohaviot();
+  double VuotuisetSahkoLammonKonversiohaviot();
+  double VuotuinenBruttoLampoEnergia();
+  double VuotuinenBruttoSahkoEnergia();
+  double VuotuinenBruttoLaiteSahkoEnergia();
+  /// Measured heat of the comparison year, its weather-dependent part scaled to the normal year: (Q − V) N / S + V.
+  /// Warns when the constant share V exceeds Q; 0 with error 1050 when the year has no degree days S.
+  double ToteutunutNormitettuLampo();
+
+  /// To be called when a dialog has committed a change of the model: measures and caches no longer hold, and the object
+  /// differs from its file.
+  void PerusmalliMuuttui();
+
+  /// Opens the heat summary after its warnings; re-bases all measures on the present model.
+  void NaytaLampoYhteenvetoDlg();
+
+ private:
+  void LuoOletusmalli();
+  void TarjoaMateriaalienPaivitysta();
+  void VaroitaMaanvaraisista() const;
+  void VaroitaIlmavirroista();
+  void TaytaLampoYhteenveto();
+  void PaivitaToimenpiteidenPerusta();
+
+  bool vaurioitunut_ = false;  // the file had values that could not be read: the next save keeps it aside
+  std::unique_ptr<frmLampoYhteenveto> lampoYhteenveto_;
+};

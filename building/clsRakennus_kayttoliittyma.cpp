@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The heat summary, and the first model of a new building.
+#include "building/Tasehaarukka.h"
+#include "building/clsRakennus.h"
+#include "building/modAlkuarvojaRakennukseen.h"
+#include "kernel/Virhe.h"
+#include "library/Rakennetyyppi.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/frmLampoYhteenveto.h"
+
+namespace {
+
+constexpr double kSuuriMaanvarainenU = 1.0;  // W/m²K
+constexpr int kSuuriUVaroitus = 1068, kIrrallisetKoneet = 1057, kIrrallinenKone = 1058;
+
+std::string RakenteenNimi(const clsRakenne& rakenne) {
+  if (rakenne.RakenneRatkaisu && !rakenne.RakenneRatkaisu->Nimi.empty()) return rakenne.RakenneRatkaisu->Nimi;
+  return std::string(RakennetyypinSana(rakenne.Rakennetyyppi));
+}
+
+/// "The part, and the rest": how the panel tells that the generation goes on.
+class Vaiheet {
+ public:
+  Vaiheet() : odotus_(Teksti(9107)), teksti_(Teksti(9107)) {}
+  void Seuraava() { odotus_.Teksti(teksti_ += "."); }
+  void Valmis() { odotus_.Teksti(Teksti(9108)); }
+
+ private:
+  Odotus odotus_;
+  std::string teksti_;
+};
+
+}  // namespace
+
+void clsRakennus::PerusmalliMuuttui() {
+  for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) toimenpide.EnnenTiedotUpToDate = false;
+  Tilat.VuotuinenLampoEnergianTarveUpToDate(false);
+  IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = false;
+  Tallennettu = false;
+}
+
+void clsRakennus::LuoOletusmalli() try {
+  ProjektiAsetukset.strCurrentProjectFile.clear();
+  Vaiheet vaiheet;
+  const auto kayttotarkoitus = static_cast<std::size_t>(Perustiedot.KayttoTarkoitusID);
+  vaiheet.Seuraava();
+  LuoTilat(Tilat, {.tilavuus = Perustiedot.Kokonaistilavuus,
+                   .ala = Perustiedot.BruttoAla,
+                   .kayttotarkoituskoodi = KayttoTarkoitusKoodit.at(kayttotarkoitus),
+                   .kylmanTilavuudenOsuus = Perustiedot.KylmanTilavuudenOsuus,
+                   .kylmanAlanOsuus = Perustiedot.KylmanAlanOsuus,
+                   .kerroksia = Perustiedot.KerrostenLukumaara,
+                   .vuosi = Perustiedot.ValmistumisVuosi,
+                   .henkiloita = Perustiedot.KohteenHenkiloMaara});
+  vaiheet.Seuraava();
+  LuoSahkoRyhmat(SahkonKulutusryhmat);
+  vaiheet.Seuraava();
+  LuoVesiRyhmat(VedenKulutusryhmat);
+  vaiheet.Seuraava();
+  LuoToimenpideLista(Saastotoimenpiteet);
+  LuoValitutToimenpiteet(ToimenpiteidenJarjestelija);
+  vaiheet.Valmis();
+  SahkoTariffienVertailu.TotEnergia = Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Sahko;
+  SahkoTariffienVertailu.TotHuippuTeho = 0;
+  SahkoTariffienVertailu.TotLoisteho = 0;
+  PaivitaInstanssiIdLista();
+  Tallennettu = false;
+} catch (...) {
+  NostaVirhe("clsRakennus:Perustiedot_LaskeOletusarvotPerustietojenMukaan Method");
+}
+
+void clsRakennus::NaytaLampoYhteenvetoDlg() try {
+  if (!lampoYhteenveto_) {
+    lampoYhteenveto_ = std::make_unique<frmLampoYhteenveto>();
+    lampoYhteenveto_->MuuLampoMuuttui = [this](double arvo) {
+      MuuLampo = arvo;
+      Tallennettu = false;
+    };
+    lampoYhteenveto_->OkKlikattu = [this] { lampoYhteenveto_->Sulje(); };
+  }
+  Odotus odotus;
+  VaroitaMaanvaraisista();
+  VaroitaIlmavirroista();
+  {
+    const Tasehaarukka haarukka(*this);
+    TaytaLampoYhteenveto();
+    PaivitaToimenpiteidenPerusta();
+  }
+  lampoYhteenveto_->Nayta();
+} catch (...) {
+  NostaVirhe("clsRakennus:NaytaLampoYhteenvetoDlg Method");
+}
+
+void clsRakennus::VaroitaMaanvaraisista() const {
+  for (const clsTila& tila : Tilat)
+    for (const clsRakenne& rakenne : tila.Rakenteet)
+      if (rakenne.TyyppiID == kMaa && rakenne.U_arvo() > kSuuriMaanvarainenU)
+        NaytaVirhe(kSuuriUVaroitus, Teksti(9220) + " " + RakenteenNimi(rakenne) + ", " + tila.TilanNimi);
+}
+
+void clsRakennus::VaroitaIlmavirroista() {
+  if (IVKoneet.Tuloilmavirtojen11Summa() > IVKoneet.Poistoilmavirtojen11Summa())
+    Ilmoita(Teksti(9175) + " " + Teksti(9211), Teksti(9101), Vakavuus::Varoitus);
+  std::string nimet;
+  const auto irralliset = IVKoneet.ListaaTilaanLiittymattomatIVKoneet();
+  for (const clsIVKone* kone : irralliset) nimet += (nimet.empty() ? "" : ", ") + kone->KoneenTunnus;
+  if (!irralliset.empty()) NaytaVirhe(irralliset.size() > 1 ? kIrrallisetKoneet : kIrrallinenKone, nimet);
+}
+
+void clsRakennus::TaytaLampoYhteenveto() {
+  constexpr const char* kEnergia = "### ##0.00";
+  constexpr const char* kTarkka = "0.00000000";
+  frmLampoYhteenveto& lomake = *lampoYhteenveto_;
+  lomake.BruttoAla = Perustiedot.BruttoAla;
+  lomake.Kokonaistilavuus = Perustiedot.Kokonaistilavuus;
+  lomake.KohteenNimi = Perustiedot.KohteenNimi;
+  lomake.txtTilojenLammitys.arvo.Luku(VuotuinenLampoEnergianTarveTilat(), kEnergia);
+  lomake.txtIlmanvaihtokoneet.arvo.Luku(VuotuinenIVjalkilammitysLampo(), kEnergia);
+  lomake.txtKayttoVedenLammitys.arvo.Luku(VuotuisetLKVHaviot(), kEnergia);
+  lomake.txtProsessiVedenLammitys.arvo.Luku(VuotuisetProsessiVesiHaviot(), kEnergia);
+  lomake.txtMuuLampo.arvo.Luku(MuuLampo, kEnergia);
+  lomake.txtToteutunutKulutus.arvo.Luku(ToteutunutNormitettuLampo(), kEnergia);
+  lomake.txtSaatoHaviot.Luku(VuotuisetSaatohaviot(), kTarkka);
+  lomake.txtLammonTuotonHaviot.Luku(VuotuisetLammonKonversiohaviot(), kTarkka);
+  lomake.Laske();
+}
+
+void clsRakennus::PaivitaToimenpiteidenPerusta() {
+  if (Saastotoimenpiteet.Count() == 0) return;
+  const double lampo = VuotuinenBruttoLampoEnergia();
+  const double sahko = VuotuinenBruttoSahkoEnergia();
+  const double vesi = VedenKulutusryhmat.VuotuinenVedenKulutus();
+  for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) {
+    toimenpide.LampoEnergiaEnnen(lampo);
+    toimenpide.SahkoEnergiaEnnen(sahko);
+    toimenpide.VedenkulutusEnnen(vesi);
+  }
+}

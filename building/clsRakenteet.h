@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "building/clsRakenne.h"
+#include "kernel/Kokoelma.h"
+
+/// The structures of a space.
+class clsRakenteet : public Malli<clsRakenteet, Kokoelma<clsRakenne>> {
+ public:
+  static const Luokka kLuokka;
+
+  /// Sum of the structures' conduction losses of month 0 to 11, kWh.
+  double LampoHaviot(double Tsisa, int kuukausi) const;
+  /// The same for all twelve months.
+  Kuukausitaulu LampoHaviot(double Tsisa) const;
+
+  double UlkoSeinienAla() const { return Ala(Rakennelaji::Ulkoseina); }   ///< m²
+  double YlaPohjienAla() const { return Ala(Rakennelaji::Ylapohja); }     ///< m²
+  double AlapohjienAla() const { return Ala(Rakennelaji::Alapohja); }     ///< m²
+  double IkkunoidenAla() const { return Ala(Rakennelaji::Ikkuna); }       ///< m²
+
+ private:
+  double Ala(std::int32_t tyyppi) const;
+};

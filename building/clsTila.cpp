@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/clsTila.h"
+
+#include <algorithm>
+
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "kernel/Virhe.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsTila::TilanNimi>("TilanNimi"),
+    Arvo<&clsTila::Kokonaistilavuus>("Kokonaistilavuus", "m³"),
+    Arvo<&clsTila::BruttoAla>("BruttoAla", "m²"),
+    Arvo<&clsTila::TilanHenkilomaara>("TilanHenkilomaara", "hlö"),
+    Arvo<&clsTila::TilanKayttoaikaID>("TilanKayttoaikaID"),
+    Arvo<&clsTila::TilanKayttoaikaStr>("TilanKayttoaikaStr"),
+    Arvo<&clsTila::TilanKayttoaikaHpA>("TilanKayttoaikaHpA", "h/a"),
+    Arvo<&clsTila::Sisalampotila>("Sisalampotila", "°C"),
+    Arvo<&clsTila::Sahkolammitys>("Sahkolammitys"),
+    Arvo<&clsTila::Kuvausteksti>("Kuvausteksti"),
+    Arvo<&clsTila::LammitettyTila>("LammitettyTila"),
+    Arvo<&clsTila::PainovoimainenIVMaara>("PainovoimainenIVMaara", "1/h"),
+    Arvo<&clsTila::Vuotoilmanvaihto>("Vuotoilmanvaihto", "1/h"),
+    Arvo<&clsTila::PainovoimainenIlmanvaihto>("PainovoimainenIlmanvaihto"),
+    Arvo<&clsTila::SaatotapaID>("SaatotapaID"),
+    Arvo<&clsTila::SaatotapaStr>("SaatotapaStr"),
+    Arvo<&clsTila::Saatohyotysuhde>("Saatohyotysuhde", "%"),
+    Arvo<&clsTila::RakenteidenDynamiikkaID>("RakenteidenDynamiikkaID"),
+    Arvo<&clsTila::RakenteidenDynamiikkaStr>("RakenteidenDynamiikkaStr"),
+    Lapsi<&clsTila::Rakenteet>("Rakenteet"),
+};
+
+constexpr double kHenkiloOmKuorma = 95.3454545454548;  // heat given off by one person, W
+constexpr double kIlmanTiheys = 1.2;                   // kg/m³
+constexpr double kIlmanLampokapasiteetti = 1.006;      // kJ/(kg·K)
+constexpr double kSekuntiaTunnissa = 3600;
+constexpr double kTuntiaVuorokaudessa = 24;
+constexpr double kkWhperMWh = 1000;
+constexpr int kBruttoalaVirhe = 1029, kLammitystarvelukuVirhe = 1044;
+
+// The heating season, months 0 to 11: it wraps the turn of the year and takes in every month as it stands.
+constexpr int kLammityskaudenAlku = 6, kLammityskaudenLoppu = 5;
+
+bool OnLammityskautta(int kuukausi) { return kuukausi >= kLammityskaudenAlku || kuukausi <= kLammityskaudenLoppu; }
+
+}  // namespace
+
+const Luokka clsTila::kLuokka{"clsTila", kJasenet};
+
+void clsTila::AurKuormatTilassaUpToDate(bool voimassa) noexcept {
+  aurKuormatUpToDate_ = voimassa;
+  if (!voimassa)
+    for (clsRakenne& rakenne : Rakenteet) rakenne.MitatoiAurinkokuormat();
+}
+
+double clsTila::JohtumisHaviot(int kuukausi) try {
+  const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
+  return johtumishaviotUpToDate_ ? johtumishaviot_.arvo[m] : Rakenteet.LampoHaviot(Sisalampotila, kuukausi);
+} catch (...) {
+  NostaVirhe("clsTila:JohtumisHaviot Method");
+}
+
+double clsTila::Vuotoilma(int kuukausi) const {
+  const double n = PainovoimainenIlmanvaihto ? PainovoimainenIVMaara : Vuotoilmanvaihto;
+  const double q = Kokonaistilavuus * n / kSekuntiaTunnissa;
+  return q * kIlmanTiheys * kIlmanLampokapasiteetti * (Sisalampotila - VaadiSaa().Keskilampotila(kuukausi)) *
+         kPaivatKuukaudessa[static_cast<std::size_t>(kuukausi)] * kTuntiaVuorokaudessa;
+}
+
+double clsTila::IVHaviotTilassa(int kuukausi) try {
+  const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
+  if (ivHaviotUpToDate_) return ivHaviot_.arvo[m];
+  ivKuormat_.arvo[m] = 0;
+  return Vuotoilma(kuukausi);
+} catch (...) {
+  NostaVirhe("clsTila:IVHaviotTilassa Method");
+}
+
+double clsTila::IVKoneLampoKuorma(int kuukausi) try {
+  const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
+  if (!ivKuormatUpToDate_) ivKuormat_.arvo[m] = 0;
+  return ivKuormat_.arvo[m];
+} catch (...) {
+  NostaVirhe("clsTila:IVKoneLampoKuorma Method");
+}
+
+double clsTila::LampoHaviot(int kuukausi) try {
+  return JohtumisHaviot(kuukausi) + IVHaviotTilassa(kuukausi);
+} catch (...) {
+  NostaVirhe("clsTila:LampoHaviot Method");
+}
+
+void clsTila::PaivitaSahkoOmKuorma() try {
+  clsRakennus& rakennus = VaadiRakennus();
+  const clsTilat& tilat = rakennus.Tilat;
+  if (BruttoAla <= 0) return NaytaVirhe(kBruttoalaVirhe);
+  if (tilat.KaytaTotSahkoKuormia) {
+    const double sahko = rakennus.Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Sahko;
+    sahkoOmKuorma_ = tilat.TotSahkoKuormaPros * kkWhperMWh * sahko / BruttoAla / 100 / kKuukausia;
+  } else {
+    const double yleiskuorma = rakennus.LaskeYleisSahkoKuorma();
+    sahkoOmKuorma_ = rakennus.SahkonKulutusryhmat.TilanSahkoKuorma(sKey) / BruttoAla + yleiskuorma;
+  }
+} catch (...) {
+  NostaVirhe("clsTila:PaivitaSahkoOmKuorma Method");
+}
+
+double clsTila::SahkoKuorma(int kuukausi) const try {
+  TarkistaKuukausi(kuukausi);
+  return BruttoAla * sahkoOmKuorma_;
+} catch (...) {
+  NostaVirhe("clsTila:SahkoKuorma Method");
+}
+
+double clsTila::HenkiloKuorma(int kuukausi) const try {
+  TarkistaKuukausi(kuukausi);
+  return TilanHenkilomaara * kHenkiloOmKuorma * TilanKayttoaikaHpA / 1000 / kKuukausia;
+} catch (...) {
+  NostaVirhe("clsTila:HenkiloKuorma Method");
+}
+
+double clsTila::AurinkoKuorma(int kuukausi) try {
+  const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
+  if (aurKuormatUpToDate_) return aurKuormat_.arvo[m];
+  double summa = 0;
+  for (clsRakenne& rakenne : Rakenteet)
+    if (rakenne.RakenneRatkaisu && rakenne.RakenneRatkaisu->OnIkkuna) summa += rakenne.AurinkoKuorma(kuukausi);
+  return summa;
+} catch (...) {
+  NostaVirhe("clsTila:AurinkoKuorma Method");
+}
+
+clsTila::Tase clsTila::KuukaudenTase(int kuukausi) {
+  const double L = LampoHaviot(kuukausi);
+  const double G =
+      SahkoKuorma(kuukausi) + AurinkoKuorma(kuukausi) + HenkiloKuorma(kuukausi) + IVKoneLampoKuorma(kuukausi);
+  return {L, G, G <= 0 ? 0.0 : std::min(L / G, 1.0)};
+}
+
+double clsTila::IdeaalinenHyvaksiKayttoAste(int kuukausi) try {
+  return KuukaudenTase(kuukausi).hyvaksikayttoaste;
+} catch (...) {
+  NostaVirhe("clsTila:IdeaalinenHyvaksiKayttoAste Method");
+}
+
+double clsTila::HyodynnetytLampoKuormat(int kuukausi) try {
+  const Tase tase = KuukaudenTase(kuukausi);
+  return tase.kuormat * tase.hyvaksikayttoaste;
+} catch (...) {
+  NostaVirhe("clsTila:HyodynnetytLampoKuormat Method");
+}
+
+double clsTila::KuukaudenTarve(int kuukausi) {
+  const Tase tase = KuukaudenTase(kuukausi);
+  return tase.haviot - tase.kuormat * tase.hyvaksikayttoaste;
+}
+
+double clsTila::LampoEnergianTarve(int kuukausi) try {
+  PaivitaSahkoOmKuorma();
+  return KuukaudenTarve(kuukausi);
+} catch (...) {
+  NostaVirhe("clsTila:LampoEnergianTarve Method");
+}
+
+template <class F>
+double clsTila::Vuosisumma(F&& kuukausiarvo) {
+  double summa = 0;
+  for (int m = 0; m < kKuukausia; ++m) summa += kuukausiarvo(m);
+  return Aarellinen(summa / kkWhperMWh);
+}
+
+double clsTila::VuotuisetJohtumisHaviot() try {
+  return Vuosisumma([this](int m) { return JohtumisHaviot(m); });
+} catch (...) {
+  NostaVirhe("clsTila:VuotuisetJohtumisHaviot Method");
+}
+
+double clsTila::VuotuisetIVHaviotTilassa() try {
+  return Vuosisumma([this](int m) { return IVHaviotTilassa(m); });
+} catch (...) {
+  NostaVirhe("clsTila:VuotuisetIVHaviotTilassa Method");
+}
+
+double clsTila::VuotuisetLampoHaviot() try {
+  return Vuosisumma([this](int m) { return OnLammityskautta(m) ? LampoHaviot(m) : 0.0; });
+} catch (...) {
+  NostaVirhe("clsTila:VuotuisetLampoHaviot Method");
+}
+
+double clsTila::VuotuinenSahkoKuorma() try {
+  PaivitaSahkoOmKuorma();
+  return Vuosisumma([this](int m) { return SahkoKuorma(m); });
+} catch (...) {
+  NostaVirhe("clsTila:VuotuinenSahkoKuorma Method");
+}
+
+double clsTila::VuotuinenHenkiloKuorma() const try {
+  return Aarellinen(TilanHenkilomaara * kHenkiloOmKuorma * TilanKayttoaikaHpA / 1000000);
+} catch (...) {
+  NostaVirhe("clsTila:VuotuinenHenkiloKuorma Method");
+}
+
+double clsTila::VuotuinenAurinkoKuorma() try {
+  return Vuosisumma([this](int m) { return AurinkoKuorma(m); });
+} catch (...) {
+  NostaVirhe("clsTila:VuotuinenAurinkoKuorma Method");
+}
+
+double clsTila::VuotuinenIVKoneLampoKuorma() try {
+  return Vuosisumma([this](int m) { return IVKoneLampoKuorma(m); });
+} catch (...) {
+  NostaVirhe("clsTila:VuotuinenIVKoneLampoKuorma Method");
+}
+
+double clsTila::VuotuisetHyodynnetytLampoKuormat() try {
+  PaivitaSahkoOmKuorma();
+  return Vuosisumma([this](int m) { return HyodynnetytLampoKuormat(m); });
+} catch (...) {
+  NostaVirhe("clsTila:VuotuisetHyodynnetytLampoKuormat Method");
+}
+
+double clsTila::VuotuinenLampoEnergianTarve() try {
+  const double paikkakunta = VaadiRakennus().Perustiedot.NormVuodenLammTarveLuku;
+  const double vyohyke = VaadiSaa().NormVuodenLammTarveLuku;
+  if (vyohyke <= 0) {
+    NaytaVirhe(kLammitystarvelukuVirhe);
+    return 0;
+  }
+  PaivitaSahkoOmKuorma();
+  if (!ivHaviotUpToDate_) PaivitaIVHaviotTilassa();
+  if (!aurKuormatUpToDate_) PaivitaAurKuormatTilassa();
+  if (!johtumishaviotUpToDate_) PaivitaJohtumishaviot();
+  double tarve = 0;
+  for (int m = 0; m < kKuukausia; ++m)
+    if (OnLammityskautta(m)) tarve += KuukaudenTarve(m);
+  return Aarellinen(tarve * (paikkakunta / vyohyke) / kkWhperMWh);
+} catch (...) {
+  NostaVirhe("clsTila:VuotuinenLampoEnergianTarve Method");
+}
+
+double clsTila::VuotuisetSaatohaviot() try {
+  return Aarellinen((100 - Saatohyotysuhde) * VuotuisetHyodynnetytLampoKuormat() / 100);
+} catch (...) {
+  NostaVirhe("clsTila:VuotuisetSaatohaviot Method");
+}
+
+void clsTila::PaivitaIVHaviotTilassa() try {
+  for (int m = 0; m < kKuukausia; ++m)
+    ivHaviot_.arvo[static_cast<std::size_t>(m)] = OnLammityskautta(m) ? IVHaviotTilassa(m) : 0;
+  ivHaviotUpToDate_ = true;
+  ivKuormatUpToDate_ = true;
+} catch (...) {
+  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method");
+}
+
+void clsTila::PaivitaIVKuormatTilassa() try {
+  for (int m = 0; m < kKuukausia; ++m)
+    ivKuormat_.arvo[static_cast<std::size_t>(m)] = OnLammityskautta(m) ? IVKoneLampoKuorma(m) : 0;
+  ivKuormatUpToDate_ = true;
+} catch (...) {
+  NostaVirhe("clsTila:PaivitaIVKuormatTilassa Method");
+}
+
+void clsTila::PaivitaAurKuormatTilassa() try {
+  if (aurKuormatUpToDate_) return;
+  Kuukausitaulu summa{};
+  for (clsRakenne& rakenne : Rakenteet) {
+    if (!rakenne.RakenneRatkaisu || !rakenne.RakenneRatkaisu->OnIkkuna) continue;
+    const Kuukausitaulu& kuormat = rakenne.AurinkoKuormat();
+    for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += kuormat[m];
+  }
+  aurKuormat_.arvo = summa;
+  aurKuormatUpToDate_ = true;
+} catch (...) {
+  NostaVirhe("clsTila:PaivitaAurKuormatTilassa Method");
+}
+
+void clsTila::PaivitaJohtumishaviot() try {
+  if (johtumishaviotUpToDate_) return;
+  johtumishaviot_.arvo = Rakenteet.LampoHaviot(Sisalampotila);
+  johtumishaviotUpToDate_ = true;
+} catch (...) {
+  NostaVirhe("clsTila:PaivitaJohtumishaviot Method");
+}

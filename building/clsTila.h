@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "building/clsRakenteet.h"
+
+/// A space: the unit of the monthly heat balance. Steady-state degree hours with ideal utilisation: gains count in a
+/// month up to that month's losses. Months are 0 to 11, monthly figures kWh, yearly ones MWh.
+///
+/// Machines are joined to the space by their `LiittyyTilaansKey`. Data common to the calculation (basic data, weather,
+/// consumer groups) is read from the global building (building/Yhteiset.h). Errors: 9999 with the method's literal.
+class clsTila : public Malli<clsTila, Alkio> {
+ public:
+  static const Luokka kLuokka;
+
+  std::string TilanNimi;
+  double Kokonaistilavuus = 0;             ///< m³
+  double BruttoAla = 1.0;                  ///< gross floor area, m²
+  double TilanHenkilomaara = 0;            ///< persons present during the hours of use
+  std::int32_t TilanKayttoaikaID = 0;      ///< index of the choice of hours of use
+  std::string TilanKayttoaikaStr;          ///< text of that choice
+  double TilanKayttoaikaHpA = 2200.0;      ///< hours of use, h/a
+  double Sisalampotila = 21.0;             ///< indoor set-point, °C
+  bool Sahkolammitys = false;              ///< heated electrically
+  std::string Kuvausteksti;                ///< free description
+  bool LammitettyTila = true;              ///< heated
+  double PainovoimainenIVMaara = 0.45;     ///< natural ventilation, 1/h
+  double Vuotoilmanvaihto = 0.1;           ///< leakage, 1/h
+  bool PainovoimainenIlmanvaihto = false;  ///< natural ventilation in place of machines
+  std::int32_t SaatotapaID = 1;            ///< control method of the heat distribution
+  std::string SaatotapaStr;                ///< text of that choice
+  double Saatohyotysuhde = 80.0;           ///< control efficiency, %; not limited
+  std::int32_t RakenteidenDynamiikkaID = 0;  ///< massiveness: for show
+  std::string RakenteidenDynamiikkaStr;    ///< text of that choice
+  clsRakenteet Rakenteet;
+
+  // Validity of the monthly caches. Clearing that of the solar gains makes the structures compute theirs afresh.
+  bool IVHaviotTilassaUpToDate() const noexcept { return ivHaviotUpToDate_; }
+  void IVHaviotTilassaUpToDate(bool voimassa) noexcept { ivHaviotUpToDate_ = voimassa; }
+  bool IVKuormatTilassaUpToDate() const noexcept { return ivKuormatUpToDate_; }
+  void IVKuormatTilassaUpToDate(bool voimassa) noexcept { ivKuormatUpToDate_ = voimassa; }
+  bool AurKuormatTilassaUpToDate() const noexcept { return aurKuormatUpToDate_; }
+  void AurKuormatTilassaUpToDate(bool voimassa) noexcept;
+  bool JohtumishaviotUpToDate() const noexcept { return johtumishaviotUpToDate_; }
+  void JohtumishaviotUpToDate(bool voimassa) noexcept { johtumishaviotUpToDate_ = voimassa; }
+
+  /// Conduction loss through the structures, kWh.
+  double JohtumisHaviot(int kuukausi);
+  /// Loss by machines and by leakage or natural ventilation, kWh: machines' losses +
+  /// q × 1.2 kg/m³ × 1.006 kJ/(kg·K) × (Tsisa − Tulko) × days × 24 h, q = volume × n / 3600 m³/s. Not cut at zero.
+  double IVHaviotTilassa(int kuukausi);
+  double LampoHaviot(int kuukausi);
+  /// Internal gain from electricity, kWh: the same in every month.
+  double SahkoKuorma(int kuukausi) const;
+  /// Heat of persons, kWh: the year's heat spread evenly over the months.
+  double HenkiloKuorma(int kuukausi) const;
+  /// Solar gain of the windows, kWh.
+  double AurinkoKuorma(int kuukausi);
+  /// Gain from machines that blow in air warmer than the room, kWh.
+  double IVKoneLampoKuorma(int kuukausi);
+  /// Losses / gains, at most 1; 0 when there are no gains; negative with negative losses.
+  double IdeaalinenHyvaksiKayttoAste(int kuukausi);
+  double HyodynnetytLampoKuormat(int kuukausi);
+  double LampoEnergianTarve(int kuukausi);
+
+  double VuotuisetJohtumisHaviot();
+  double VuotuisetIVHaviotTilassa();
+  double VuotuisetLampoHaviot();
+  double VuotuinenSahkoKuorma();
+  double VuotuinenHenkiloKuorma() const;
+  double VuotuinenAurinkoKuorma();
+  double VuotuinenIVKoneLampoKuorma();
+  double VuotuisetHyodynnetytLampoKuormat();
+  /// Heat demand of the year, MWh, scaled by the locality's degree days / the zone's. 0 with error 1044 when the weather
+  /// has none.
+  double VuotuinenLampoEnergianTarve();
+  /// Utilised gains that the control of heat distribution fails to save, MWh.  Source: building code D5.
+  double VuotuisetSaatohaviot();
+
+  /// Electric load per m² from the consumer groups, or from the measured electricity. With an area of 0 or less error
+  /// 1029 is shown and the load stays as it was.
+  void PaivitaSahkoOmKuorma();
+  void PaivitaIVHaviotTilassa();
+  void PaivitaIVKuormatTilassa();
+  void PaivitaAurKuormatTilassa();
+  void PaivitaJohtumishaviot();
+
+ private:
+  /// What a month's balance rests on, kWh.
+  struct Tase {
+    double haviot, kuormat, hyvaksikayttoaste;
+  };
+  Tase KuukaudenTase(int kuukausi);
+  double KuukaudenTarve(int kuukausi);
+  double Vuotoilma(int kuukausi) const;
+  template <class F>
+  static double Vuosisumma(F&& kuukausiarvo);
+
+  double sahkoOmKuorma_ = 3.57856132909155;  // kWh/m² in a month
+  Lippu ivHaviotUpToDate_, ivKuormatUpToDate_, aurKuormatUpToDate_, johtumishaviotUpToDate_;
+  Oma<Kuukausitaulu> ivHaviot_, ivKuormat_, aurKuormat_, johtumishaviot_;  // kWh
+};

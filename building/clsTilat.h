@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "building/clsTila.h"
+
+/// The spaces of the building.
+class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
+ public:
+  static const Luokka kLuokka;
+
+  double TotSahkoKuormaPros = 0;      ///< share of the measured electricity that heats the spaces, %
+  bool KaytaTotSahkoKuormia = false;  ///< electric loads from the measured electricity, not from the consumer groups
+
+  /// The kept yearly demand is valid. Setting it sets the three flags of every space to the same value: False
+  /// invalidates the balance of all spaces, True declares their caches valid.
+  bool VuotuinenLampoEnergianTarveUpToDate() const noexcept { return tarveUpToDate_; }
+  void VuotuinenLampoEnergianTarveUpToDate(bool voimassa) noexcept;
+
+  double TilavuusYht() const;   ///< m³
+  double BruttoAlaYht() const;  ///< m²
+
+  /// Sum of the spaces' yearly demand, MWh. Paints between spaces; doesn't set the flag: the caller does.
+  double VuotuinenLampoEnergianTarve();
+  double VuotuisetLampoHaviot();              ///< MWh/a
+  double VuotuisetHyodynnetytLampoKuormat();  ///< MWh/a
+  double VuotuisetSaatohaviot();              ///< MWh/a
+  /// Fills the solar, ventilation and conduction caches of every space.
+  void PaivitaTilojenLampotaseenLahtotiedot();
+
+ private:
+  Lippu tarveUpToDate_;
+  Oma<double> tarve_;  // MWh/a
+};

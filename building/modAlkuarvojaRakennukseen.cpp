@@ -1,0 +1,345 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/modAlkuarvojaRakennukseen.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <cmath>
+
+#include "building/clsPerustiedot.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
+#include "kernel/Hakemistot.h"
+#include "kernel/Luvut.h"
+#include "kernel/Paivamaara.h"
+#include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsLumivirtaAsetukset.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr double kProsentti = 100;
+constexpr double kLammitystarvelukuAluksi = 4444;
+constexpr double kIkkunoidenOsuus = 0.12, kOvienOsuus = 0.01;   // of the floor area
+constexpr int kSuorakaide = 1;                                  // plan shape of a new building, sides 1 to 2
+constexpr double kSuorakaiteenSuhde = 0.5;
+constexpr double kPohjanAlaIlmanKerroksia = 500;                // m²
+constexpr double kKylmaVesi = 5, kKuumaKayttovesi = 55, kKuumaProsessivesi = 70;  // °C
+constexpr double kTuntiaVuodessa = 8760;
+
+/// Structures of a new space; each with its share of the windows or the whole of another area.
+enum class Pinta { Ulkoseina, Ikkuna, Pohja };
+struct Oletusrakenne {
+  const char* nimi;
+  const char* kirjastosarake;
+  Pinta pinta;
+  double osuus;
+  double u_arvo;
+  std::int32_t suuntaus;
+  std::int32_t rakennetyyppi;
+  int paneeliteksti;
+};
+constexpr Oletusrakenne kOletusrakenteet[] = {
+    {"Ulkoseinät", "USRakenneID", Pinta::Ulkoseina, 1, 0.29, kIta, Rakennelaji::Ulkoseina, 9109},
+    {"Ikkuna, länsi", "IkkRakenneID", Pinta::Ikkuna, 0.15, 1.8, kLansi, Rakennelaji::Ikkuna, 9110},
+    {"Ikkuna, etelä", "IkkRakenneID", Pinta::Ikkuna, 0.4, 1.8, kEtela, Rakennelaji::Ikkuna, 9110},
+    {"Ikkuna, itä", "IkkRakenneID", Pinta::Ikkuna, 0.15, 1.8, kIta, Rakennelaji::Ikkuna, 9110},
+    {"Ikkuna, pohj", "IkkRakenneID", Pinta::Ikkuna, 0.3, 1.8, kPohjoinen, Rakennelaji::Ikkuna, 9110},
+    {"Maanvarainen alapohja", "APRakenneID", Pinta::Pohja, 1, 0.36, kVaakasuora, Rakennelaji::Alapohja, 9111},
+    {"Yläpohja", "YPRakenneID", Pinta::Pohja, 1, 0.22, kVaakasuora, Rakennelaji::Ylapohja, 9112},
+};
+
+/// What a structure of each kind borders on at first.
+std::int32_t RajoittuminenTyypista(std::int32_t rakennetyyppi) {
+  switch (rakennetyyppi) {
+    case Rakennelaji::Alapohja:
+      return kMaa;
+    case Rakennelaji::KantavaValiseina:
+    case Rakennelaji::KevytValiseina:
+    case Rakennelaji::Valipohja:
+      return kHuonelampoinenTila;
+    default:
+      return kUlkoilma;
+  }
+}
+
+std::unique_ptr<Rakennekirjasto> AvaaKirjasto() {
+  try {
+    return std::make_unique<Rakennekirjasto>(Asetukset().strKayttajanTietokanta, Asetukset().strVakioTietokanta);
+  } catch (const std::exception&) {
+    return nullptr;  // the structures then get the U-values of the table
+  }
+}
+
+/// Text of a choice list's row; "" when the list has no such row.
+std::string Valinnan(std::string_view lomake, std::string_view valinta, std::int32_t indeksi) {
+  const auto rivit = Valintalista(lomake, valinta);
+  return indeksi >= 0 && indeksi < static_cast<std::int32_t>(rivit.size()) ? rivit[static_cast<std::size_t>(indeksi)]
+                                                                           : std::string();
+}
+
+template <class T>
+void AsetaVarjostus(T& varjostus, std::string_view valinta, double kulma) {
+  varjostus.TyyppiID = 0;
+  varjostus.TyyppiStr = Valinnan("frmRakenteet", valinta, 0);
+  varjostus.Varjostuskulma = kulma;
+}
+
+/// The value as it reads back from the shown text.
+double Naytettyna(double arvo, std::string_view kuvio) { return LueLuku(Muotoile(arvo, kuvio)).value_or(arvo); }
+
+double UlkoseinaAlaTaiNolla(const clsTila& tila, double kerroksia) {
+  try {
+    return LaskeUlkoseinaAla(tila, kSuorakaide, kSuorakaiteenSuhde, kerroksia);
+  } catch (const Virhe& virhe) {
+    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), {}, Vakavuus::Virhe);
+    return 0;
+  }
+}
+
+clsSahkoListaItem& LisaaSahkorivi(clsSahkonKulutusryhmat& ryhmat, const char* avain, const char* vanhempi, int teksti) {
+  clsSahkoListaItem& rivi = ryhmat.AddListaItem(avain, vanhempi, 1, Teksti(teksti), 0, true);
+  rivi.SiirrettyToisestaModulista = false;
+  return rivi;
+}
+
+void LisaaVesiryhma(clsVedenKulutusryhmat& ryhmat, int teksti) {
+  const Tunniste avain = Tunniste::Uusi(clsVedenKulutusryhma::kLuokka.NimiSana());
+  clsVedenKulutusryhma& ryhma = ryhmat.Add(avain, clsVedenKulutusryhma::Kayttovesi);
+  ryhma.KulutusRyhma = Teksti(teksti);
+  ryhma.VedenKayttolampotila = kKylmaVesi;
+  ryhmat.AddListaItem(avain, "sKeyNormaaliVesi", 0, ryhma.KulutusRyhma, true);
+}
+
+void Alusta(clsEnergianHankinta& hankinta, clsEnergianHankinta::Laji laji, int teksti) {
+  hankinta.Nimi = Teksti(teksti);
+  hankinta.Kuvaus = "";
+  hankinta.Kayttotarkoitus = laji;
+}
+
+/// Rows of a query of the default tables, at most two: more isn't asked for.
+std::vector<Oletusarvorivi> HaeRivit(const std::string& sql, int koodi, int vuosi) {
+  SQLite::Database kanta(AppPath() + "Oletuskanta.mdb", SQLite::OPEN_READONLY);
+  SQLite::Statement kysely(kanta, sql + " LIMIT 2");
+  kysely.bind(1, koodi);
+  kysely.bind(2, vuosi);
+  std::vector<Oletusarvorivi> rivit;
+  while (kysely.executeStep()) {
+    Oletusarvorivi rivi;
+    for (int i = 0; i < kysely.getColumnCount(); ++i) rivi[kysely.getColumnName(i)] = kysely.getColumn(i).getString();
+    rivit.push_back(std::move(rivi));
+  }
+  return rivit;
+}
+
+}  // namespace
+
+void AlustaPerustiedot(clsPerustiedot& perustiedot) try {
+  perustiedot.KohteenNimi = "";
+  perustiedot.BruttoAla = 0;
+  perustiedot.KerrostenLukumaara = 1;
+  perustiedot.Kokonaistilavuus = 0;
+  perustiedot.KayttoTarkoitusID = 0;
+  perustiedot.ValmistumisVuosi = 0;
+  AlustaLammonHankinta(perustiedot.LammonHankinta);
+  AlustaSahkonHankinta(perustiedot.SahkonHankinta);
+  AlustaVedenHankinta(perustiedot.VedenHankinta);
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:AlustaPerustiedot Method");
+}
+
+void AlustaLammonHankinta(clsEnergianHankinta& hankinta) { Alusta(hankinta, clsEnergianHankinta::Lampo, 9130); }
+void AlustaSahkonHankinta(clsEnergianHankinta& hankinta) { Alusta(hankinta, clsEnergianHankinta::Sahko, 9131); }
+void AlustaVedenHankinta(clsEnergianHankinta& hankinta) { Alusta(hankinta, clsEnergianHankinta::Vesi, 9132); }
+
+void AlustaToteutuneetKulutukset(clsToteutuneetKulutukset& kulutukset) try {
+  for (int i = 1; i <= 3; ++i) {
+    clsToteutunutKulutus& vuosi = kulutukset.Add("Tot " + std::to_string(i));
+    vuosi.KaytaVertailuVuotena = i == 1;
+    vuosi.LammTarveLuku = kLammitystarvelukuAluksi;
+  }
+  kulutukset.KulutusTietojenViimVuosi = TamaVuosi() - 1;
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:AlustaToteutuneetKulutukset Method");
+}
+
+void LuoTilat(clsTilat& tilat, const TilanLahtotiedot& tiedot) try {
+  Odotus odotus(Teksti(9125));
+  clsTila& tila = tilat.Add(Tunniste::Uusi(clsTila::kLuokka.NimiSana()));
+  TilanLahtotiedot lammin = tiedot;
+  lammin.ala = (1 - tiedot.kylmanAlanOsuus / kProsentti) * tiedot.ala;
+  lammin.tilavuus = (1 - tiedot.kylmanTilavuudenOsuus / kProsentti) * tiedot.tilavuus;
+  LuoTilanRakenteet(tila, lammin);
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LuoTilat Method");
+}
+
+void LuoTilanRakenteet(clsTila& tila, const TilanLahtotiedot& tiedot) try {
+  tila.TilanNimi = Teksti(9140);
+  tila.Kuvausteksti = Teksti(9141);
+  tila.TilanHenkilomaara = tiedot.henkiloita;
+  tila.BruttoAla = tiedot.ala;
+  tila.Kokonaistilavuus = tiedot.tilavuus;
+  tila.TilanKayttoaikaStr = Valinnan("frmTila", "cmbTilanKayttoaika", tila.TilanKayttoaikaID);
+  tila.SaatotapaStr = Valinnan("frmTila", "cmbSaatotapa", tila.SaatotapaID);
+
+  const double ikkunat = kIkkunoidenOsuus * tiedot.ala;
+  const double ovet = kOvienOsuus * tiedot.ala;
+  const double ulkoseina = std::max(0.0, UlkoseinaAlaTaiNolla(tila, tiedot.kerroksia) - ikkunat - ovet);
+  const double pohja = tiedot.kerroksia > 0 ? tiedot.ala / tiedot.kerroksia : kPohjanAlaIlmanKerroksia;
+
+  const auto kirjasto = AvaaKirjasto();
+  const auto oletukset = HaeOletusarvot(tiedot.kayttotarkoituskoodi, tiedot.vuosi, 0);
+  Odotus odotus;
+  for (const Oletusrakenne& malli : kOletusrakenteet) {
+    odotus.Teksti(Teksti(malli.paneeliteksti));
+    const double pintaAla =
+        malli.osuus * (malli.pinta == Pinta::Ulkoseina ? ulkoseina : malli.pinta == Pinta::Ikkuna ? ikkunat : pohja);
+    const std::string kirjastoId = oletukset ? oletukset->at(malli.kirjastosarake) : std::string();
+    LuoRakenne(tila.Rakenteet.Add(Tunniste::Uusi(clsRakenne::kLuokka.NimiSana())),
+               {malli.nimi, malli.rakennetyyppi, malli.suuntaus, pintaAla, malli.u_arvo, kirjastoId}, kirjasto.get());
+  }
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LuoTilanRakenteet Method");
+}
+
+void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakennekirjasto* kirjasto) try {
+  rakenne.Rakennetyyppi = tiedot.rakennetyyppi;
+  rakenne.U_arvo(tiedot.u_arvo);
+  if (kirjasto && !tiedot.kirjastoId.empty()) {
+    const auto loytynyt = kirjasto->Hae(tiedot.kirjastoId);
+    Rakenneratkaisu& ratkaisu = rakenne.RakenneRatkaisu.Luo();
+    ratkaisu = loytynyt ? *loytynyt : PuuttuvaRakenneratkaisu(tiedot.kirjastoId, tiedot.rakennetyyppi);
+    rakenne.LaskeU_arvoMateriaaleista = loytynyt && !ratkaisu.U_arvoAnnettu && ratkaisu.LaskeU_arvo();
+    if (const auto u = ratkaisu.VoimassaolevaU_arvo()) rakenne.U_arvo(Naytettyna(*u, "0.000"));
+    ratkaisu.Kuvaus = ratkaisu.Kuvaus.empty() ? tiedot.nimi : tiedot.nimi + ". " + ratkaisu.Kuvaus;
+  }
+  rakenne.PintaAla = Naytettyna(tiedot.ala, "0.0");
+  rakenne.TyyppiID = RajoittuminenTyypista(tiedot.rakennetyyppi);
+  rakenne.TyyppiStr = Valinnan("frmRakenteet", "cmbTyyppi", rakenne.TyyppiID);
+  rakenne.SuuntausID = tiedot.suuntaus;
+  rakenne.SuuntausStr = Valinnan("frmRakenteet", "cmbSuuntaus", tiedot.suuntaus);
+  AsetaVarjostus(rakenne.HorisVarjostus, "cmbHorisVarjTyyppi", 15);
+  AsetaVarjostus(rakenne.SivuLippa, "cmbSivulipanTyyppi", 10);
+  AsetaVarjostus(rakenne.YlaLippa, "cmbYlalipanTyyppi", 25);
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LuoRakenne Method");
+}
+
+std::optional<Oletusarvorivi> HaeOletusarvot(int kayttotarkoituskoodi, int vuosi, int tila) try {
+  const std::string taulu = tila == 0 ? "RakenneTyyppiratkaisut" : "RakenteidenMenekit";
+  auto rivit = HaeRivit("SELECT " + taulu + ".* FROM " + taulu + ", RakennustyyppienOletusarvot " +
+                            "WHERE RakennustyyppienOletusarvot.KayttotarkoitusID = ? " +
+                            "AND RakennustyyppienOletusarvot.RakenneTyyppiRatkaisuID = " + taulu + ".Id " +
+                            "AND RakennustyyppienOletusarvot.Rakennusv_alk <= ?2 " +
+                            "AND RakennustyyppienOletusarvot.Rakennusv_lop >= ?2",
+                        kayttotarkoituskoodi, vuosi);
+  if (rivit.size() == 1) return std::move(rivit.front());
+  Ilmoita(Teksti(rivit.empty() ? 9164 : 9163), Teksti(9101), Vakavuus::Varoitus);
+  return std::nullopt;
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:HaeOletusarvot Method");
+}
+
+void LuoSahkoRyhmat(clsSahkonKulutusryhmat& ryhmat) try {
+  Odotus odotus(Teksti(9120));
+  LisaaSahkorivi(ryhmat, "sKeySahkoYhteensa", "", 9121);
+  LisaaSahkorivi(ryhmat, "sKeyMuuSahko", "sKeySahkoYhteensa", 9122);
+  LisaaSahkorivi(ryhmat, "sKeyLVISahko", "sKeySahkoYhteensa", 9123);
+  LisaaSahkorivi(ryhmat, "sKeyValaistus", "sKeySahkoYhteensa", 9124);
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LuoSahkoRyhmat Method");
+}
+
+void LuoVesiRyhmat(clsVedenKulutusryhmat& ryhmat) try {
+  Odotus odotus(Teksti(9113));
+  ryhmat.LKVTiedot.KylmanLampotila = kKylmaVesi;
+  ryhmat.LKVTiedot.LamminLampotila = kKuumaKayttovesi;
+  ryhmat.LKVTiedot.Sahkolammitys = false;
+  ryhmat.ProsessiVedenTiedot.KylmanLampotila = kKylmaVesi;
+  ryhmat.ProsessiVedenTiedot.LamminLampotila = kKuumaProsessivesi;
+  ryhmat.LKVKiertoKayttoAika = kTuntiaVuodessa;
+  ryhmat.AddListaItem("sKeyVesiYhteensa", "", 1, Teksti(4062), true);
+  ryhmat.AddListaItem("sKeyLkvKierto", "sKeyVesiYhteensa", 1, Teksti(9114), true);
+  ryhmat.AddListaItem("sKeyProsessivesi", "sKeyVesiYhteensa", 1, Teksti(9115), true).OnProsessiVesi = true;
+  ryhmat.AddListaItem("sKeyNormaaliVesi", "sKeyVesiYhteensa", 1, Teksti(9116), true);
+  for (const int teksti : {9117, 9118, 9119}) LisaaVesiryhma(ryhmat, teksti);
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LuoVesiRyhmat Method");
+}
+
+void LuoToimenpideLista(clsSaastotoimenpiteet& toimenpiteet) try {
+  struct Solmu {
+    int teksti;
+    const char* vanhempi;
+    const char* avain;
+  };
+  constexpr Solmu kSolmut[] = {
+      {9151, "", "sKeyKokoKohde"},
+      {9152, "sKeyKokoKohde", "sKeyEnergianJaVedenHankinta"},
+      {9153, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaLampo"},
+      {9154, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaSahko"},
+      {9155, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaVesi"},
+      {9156, "sKeyKokoKohde", "sKeyJohtuminen"},
+      {9157, "sKeyKokoKohde", "sKeyIlmanvaihtokoneet"},
+      {9154, "sKeyKokoKohde", "sKeySahko"},
+      {9158, "sKeySahko", "sKeyValaistus"},
+      {9159, "sKeySahko", "sKeyLVISahko"},
+      {9160, "sKeySahko", "sKeyMuuSahko"},
+      {9155, "sKeyKokoKohde", "sKeyVesi"},
+      {9161, "sKeyVesi", "sKeyNormaaliVesi"},
+      {9162, "sKeyVesi", "sKeyProsessiVesi"},
+  };
+  for (const Solmu& solmu : kSolmut)
+    toimenpiteet.AddListaItem(solmu.avain, solmu.vanhempi, Teksti(solmu.teksti), 0).Visible = true;
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LuoToimenpideLista Method");
+}
+
+void LuoValitutToimenpiteet(clsToimenpiteidenJarjestelija& jarjestelija) try {
+  clsValittuToimenpide& rivi = jarjestelija.ValitutToimenpiteet.Add("sKeyValitutYhteensa", "");
+  rivi.Tyyppi = clsValittuToimenpide::Yhteensa;
+  rivi.ToimenpidesKey = "sKeyValitutYhteensaEiViittausta";
+  rivi.Nimi = Teksti(9150);
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LuoValitutToimenpiteet Method");
+}
+
+double LaskeUlkoseinaAla(const clsTila& tila, int muoto, double r, double kerroksia) try {
+  if (kerroksia <= 0) {
+    NaytaVirhe(1022);
+    return 0;
+  }
+  if (r <= 0) {
+    NaytaVirhe(1023);
+    return 0;
+  }
+  const double F = tila.BruttoAla / kerroksia;
+  double P = 0;
+  switch (muoto) {
+    case 0:
+      P = 4 * std::sqrt(F);
+      break;
+    case 1:
+      P = 2 * (r + 1) * std::sqrt(F / r);
+      break;
+    case 2:
+      P = 4 * std::sqrt(Jaa(F, 2 * r - r * r));
+      break;
+    case 3:
+      P = (6 - r) * std::sqrt(Jaa(F, 3 * r - 2 * r * r));
+      break;
+    case 4:
+      P = 8 * (1 - r) * std::sqrt(Jaa(F, 2 * (2 * r - r * r)));
+      break;
+    default:
+      break;
+  }
+  return Aarellinen(P * Jaa(tila.Kokonaistilavuus, tila.BruttoAla) * kerroksia);
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:LaskeUlkoseinaAla Method");
+}
