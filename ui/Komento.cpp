@@ -3,6 +3,7 @@
 
 #include <exception>
 #include <string>
+#include <utility>
 
 #include "kernel/Virhe.h"
 #include "ui/Tekstivarasto.h"
@@ -12,9 +13,11 @@ namespace {
 
 constexpr int kVirheenOtsikko = 9100;
 
-std::function<void()>& Loppu() {
-  static std::function<void()> loppu;
-  return loppu;
+int syvyys = 0;  // commands that are running, each inside the former
+
+std::function<void()>& ViestienNaytto() {
+  static std::function<void()> nayta;
+  return nayta;
 }
 
 void NaytaKeskeytys(const std::string& paneeli, const std::string& teksti) {
@@ -38,8 +41,16 @@ void SuoritaVartioituna(const std::function<void()>& komento) {
 }  // namespace
 
 void SuoritaKomento(const std::function<void()>& komento) {
+  ++syvyys;
   SuoritaVartioituna(komento);
-  if (Loppu()) Loppu()();
+  --syvyys;
+  NaytaOdottavatViestit();
 }
 
-void AsetaKomennonLoppu(std::function<void()> loppu) { Loppu() = std::move(loppu); }
+bool KomentoKaynnissa() { return syvyys > 0; }
+
+void AsetaViestienNaytto(std::function<void()> nayta) { ViestienNaytto() = std::move(nayta); }
+
+void NaytaOdottavatViestit() {
+  if (ViestienNaytto()) ViestienNaytto()();
+}

@@ -7,5 +7,10 @@
 /// shown, and the program goes on. Commands may nest (an event of a dialog that a command has opened).
 void SuoritaKomento(const std::function<void()>& komento);
 
-/// Called whenever a command ends, also a nested one; real windows show the messages that were held back until then.
-void AsetaKomennonLoppu(std::function<void()> loppu);
+/// True while a command runs.
+bool KomentoKaynnissa();
+
+/// Real windows hold a command's plain messages back, to show equal ones once: they hook the showing in here. It
+/// happens at the end of each command and before a form is shown as modal.
+void AsetaViestienNaytto(std::function<void()> nayta);
+void NaytaOdottavatViestit();

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Rules that every form must keep, on the real windows. With LUMIVIRTA_KUVAT=<folder> pictures of the forms are left
+// there for a person to look at.
+#include <Lomaketaulu.h>
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSet>
+#include <memory>
+
+#include "ui/Lomake.h"
+#include "ui/qt/QtIkkuna.h"
+
+namespace {
+
+/// A form without its class: what its file and the text store make of it.
+class Paljas : public Lomake {
+ public:
+  explicit Paljas(const std::string& nimi) : Lomake(nimi) {}
+};
+
+class Lomakkeet : public ::testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override {
+    AsetaQtLomakkeet(nullptr);
+    lomake_ = std::make_unique<Paljas>(GetParam());
+    lomake_->Nayta();
+    juuri_ = static_cast<QtIkkuna&>(lomake_->Ikkuna()).Juuri();
+    QCoreApplication::processEvents();
+  }
+  void TearDown() override {
+    lomake_.reset();
+    AsetaLomakesovitin(nullptr);
+  }
+
+  /// Widgets of the type that bear a control name, in the order of the form file.
+  template <class W>
+  QList<W*> Lapset() const {
+    QList<W*> lapset = juuri_->findChildren<W*>();
+    lapset.removeIf([](const W* w) { return w->objectName().startsWith("qt_") || !w->isVisible(); });
+    return lapset;
+  }
+
+  QWidgetList Kentat() const {
+    QWidgetList kentat;
+    for (QLineEdit* kentta : Lapset<QLineEdit>()) kentat << kentta;
+    for (QComboBox* kentta : Lapset<QComboBox>()) kentat << kentta;
+    return kentat;
+  }
+
+  std::unique_ptr<Lomake> lomake_;
+  QWidget* juuri_ = nullptr;
+};
+
+std::vector<std::string> KaikkiLomakkeet() {
+  std::vector<std::string> nimet;
+  for (const LomakeRivi& rivi : Lomaketaulu()) nimet.emplace_back(rivi.nimi);
+  return nimet;
+}
+
+std::string Nimi(const QWidget* widget) { return widget->objectName().toStdString(); }
+
+QPoint Paikka(const QWidget* widget) { return widget->mapTo(widget->window(), QPoint(0, widget->height() / 2)); }
+
+/// Reading order: from the top down, on one line from left to right.
+bool LuetaanEnnen(const QWidget* x, const QWidget* y) {
+  const QPoint a = Paikka(x), b = Paikka(y);
+  const bool samaRivi = std::abs(a.y() - b.y()) < x->height() / 2;
+  return samaRivi ? a.x() < b.x() : a.y() < b.y();
+}
+
+QString Pikakirjain(const QString& otsikko) {
+  const QString ilman = QString(otsikko).remove(QStringLiteral("&&"));
+  const auto paikka = ilman.indexOf('&');
+  return paikka < 0 ? QString() : ilman.mid(paikka + 1, 1).toLower();
+}
+
+TEST_P(Lomakkeet, KaikillaTeksteillaOnRiviTekstivarastossa) {
+  EXPECT_FALSE(lomake_->Otsikko().empty());
+  EXPECT_EQ(lomake_->Otsikko().find("[String"), std::string::npos);
+  for (const auto& ohjain : lomake_->Ohjaimet())
+    for (const std::string& teksti : {ohjain->Teksti(), ohjain->Vihje()})
+      EXPECT_EQ(teksti.find("[String"), std::string::npos) << ohjain->Nimi() << ": " << teksti;
+}
+
+TEST_P(Lomakkeet, JokaisellaKentallaOnNimiJaOtsikollaKentta) {
+  for (const QWidget* kentta : Kentat()) {
+    EXPECT_FALSE(kentta->accessibleName().isEmpty()) << Nimi(kentta);
+    EXPECT_FALSE(kentta->toolTip().isEmpty()) << Nimi(kentta);
+  }
+  for (const QRadioButton* nappi : Lapset<QRadioButton>())
+    EXPECT_FALSE(nappi->text().isEmpty() && nappi->accessibleName().isEmpty()) << Nimi(nappi);
+  for (const QLabel* otsikko : Lapset<QLabel>()) {
+    const bool nimeaa = otsikko->text().endsWith(':') && !otsikko->buddy();
+    EXPECT_TRUE(!nimeaa || otsikko->alignment().testFlag(Qt::AlignRight))
+        << Nimi(otsikko) << ": otsikolla ei ole kenttää";
+  }
+}
+
+TEST_P(Lomakkeet, PikakirjaimetOvatEriKirjaimia) {
+  QStringList otsikot;
+  for (const QLabel* otsikko : Lapset<QLabel>()) otsikot << otsikko->text();
+  for (const QAbstractButton* nappi : Lapset<QAbstractButton>()) otsikot << nappi->text();
+  QSet<QString> varatut;
+  for (const QString& otsikko : otsikot) {
+    const QString kirjain = Pikakirjain(otsikko);
+    EXPECT_FALSE(!kirjain.isEmpty() && varatut.contains(kirjain)) << otsikko.toStdString();
+    varatut << kirjain;
+  }
+}
+
+TEST_P(Lomakkeet, SarkainKulkeeLukujarjestyksessa) {
+  QWidgetList jarjestys;
+  for (QWidget* w = juuri_->nextInFocusChain(); w != juuri_; w = w->nextInFocusChain())
+    if (juuri_->isAncestorOf(w) && w->isVisible() && (w->focusPolicy() & Qt::TabFocus)) jarjestys << w;
+  EXPECT_FALSE(jarjestys.isEmpty());
+  for (qsizetype i = 1; i < jarjestys.size(); ++i)
+    EXPECT_TRUE(LuetaanEnnen(jarjestys[i - 1], jarjestys[i])) << Nimi(jarjestys[i - 1]) << " -> " << Nimi(jarjestys[i]);
+}
+
+TEST_P(Lomakkeet, MikaanOtsikkoEiLeikkaannu) {
+  QWidgetList otsikot;
+  for (QLabel* otsikko : Lapset<QLabel>()) otsikot << otsikko;
+  for (QAbstractButton* nappi : Lapset<QAbstractButton>()) otsikot << nappi;
+  for (const QWidget* otsikko : otsikot) {
+    EXPECT_GE(otsikko->width(), otsikko->sizeHint().width()) << Nimi(otsikko);
+    EXPECT_GE(otsikko->height(), otsikko->minimumSizeHint().height()) << Nimi(otsikko);
+  }
+  for (QGroupBox* kehys : Lapset<QGroupBox>())
+    EXPECT_GE(kehys->width(), kehys->minimumSizeHint().width()) << Nimi(kehys);
+  EXPECT_LE(juuri_->width(), 1000) << "ei mahdu pienelle näytölle";
+  EXPECT_LE(juuri_->height(), 700) << "ei mahdu pienelle näytölle";
+}
+
+INSTANTIATE_TEST_SUITE_P(Kaikki, Lomakkeet, ::testing::ValuesIn(KaikkiLomakkeet()),
+                         [](const auto& tieto) { return tieto.param; });
+
+}  // namespace

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/QtIkkuna.h"
+
+#include <Lomaketaulu.h>
+
+#include <QApplication>
+#include <QPushButton>
+#include <stdexcept>
+
+#include "kernel/Kirjainkoko.h"
+#include "ui/Komento.h"
+#include "ui/qt/Kehys.h"
+#include "ui/qt/Osoitin.h"
+#include "ui/qt/QtOhjain.h"
+#include "ui/qt/Viimeistely.h"
+
+namespace {
+
+/// The widgets below in the order of the form file.
+void KeraaOhjaimet(QWidget& widget, const std::function<void(QWidget&)>& tee) {
+  for (QObject* lapsi : widget.children())
+    if (auto* w = qobject_cast<QWidget*>(lapsi); w && !w->isWindow()) {
+      if (!w->objectName().startsWith(QLatin1String("qt_"))) tee(*w);
+      KeraaOhjaimet(*w, tee);
+    }
+}
+
+QWidget* TeeJuuri(const std::string& nimi) {
+  for (const LomakeRivi& rivi : Lomaketaulu())
+    if (SamaNimi(rivi.nimi, nimi)) return rivi.tee(nullptr);
+  throw std::logic_error("lomaketta ei ole: " + nimi);
+}
+
+}  // namespace
+
+QtIkkuna::QtIkkuna(QWidget* juuri, QMdiArea* alue) : juuri_(juuri), alue_(alue) {
+  AsetaTag(juuri->property("Tag").toString().toStdString());
+  KeraaOhjaimet(*juuri, [this](QWidget& widget) {
+    if (auto ohjain = TeeOhjain(*this, widget)) Lisaa(std::move(ohjain));
+  });
+}
+
+QtIkkuna::~QtIkkuna() {
+  Irrota();
+  if (juuri_) juuri_->deleteLater();
+}
+
+void QtIkkuna::Otsikko(const std::string& otsikko) {
+  const QString teksti = QString::fromStdString(otsikko);
+  for (QWidget* w : {juuri_.data(), static_cast<QWidget*>(dialogi_), static_cast<QWidget*>(alikehys_)})
+    if (w) w->setWindowTitle(teksti);
+}
+
+void QtIkkuna::Viimeistele() {
+  JaaPikakirjaimet(*this);
+  NimeaKentat(*this);
+  for (const char* nimi : {"cmdOk", "cmdJatka", "cmdSulje"})
+    if (auto* nappi = juuri_->findChild<QPushButton*>(nimi)) return nappi->setDefault(true);
+}
+
+Dialogikehys* QtIkkuna::TeeDialogi() {
+  Irrota();
+  Viimeistele();
+  dialogi_ = new Dialogikehys(*this, juuri_, QApplication::activeWindow());
+  return dialogi_;
+}
+
+Alikehys* QtIkkuna::TeeAlikehys() {
+  Viimeistele();
+  alikehys_ = new Alikehys(*this, juuri_);
+  alue_->addSubWindow(alikehys_);
+  return alikehys_;
+}
+
+void QtIkkuna::Nayta() {
+  if (alue_ && !dialogi_) {
+    if (!alikehys_) TeeAlikehys();
+    alikehys_->show();
+    juuri_->show();
+    return alue_->setActiveSubWindow(alikehys_);
+  }
+  if (!dialogi_) TeeDialogi();
+  dialogi_->show();
+  dialogi_->raise();
+}
+
+void QtIkkuna::NaytaModaalisena() {
+  NaytaOdottavatViestit();
+  const NormaaliOsoitin osoitin;
+  TeeDialogi()->exec();
+  Irrota();
+}
+
+void QtIkkuna::Sulje() {
+  if (dialogi_ && dialogi_->isModal())
+    dialogi_->done(0);
+  else
+    Irrota();
+}
+
+/// Takes the form out of its frame and drops the frame.
+void QtIkkuna::Irrota() {
+  if (juuri_) {
+    juuri_->hide();
+    juuri_->setParent(nullptr);
+  }
+  if (dialogi_) {
+    dialogi_->hide();
+    dialogi_->deleteLater();
+  }
+  if (alikehys_) {
+    alikehys_->Hylkaa();
+    alikehys_->close();
+    alikehys_->deleteLater();
+  }
+  dialogi_ = nullptr;
+  alikehys_ = nullptr;
+}
+
+bool QtIkkuna::Aktiivinen() const {
+  if (dialogi_) return dialogi_->isActiveWindow();
+  return alikehys_ && alue_ && alue_->activeSubWindow() == alikehys_;
+}
+
+void AsetaQtLomakkeet(QMdiArea* alue) {
+  AsetaLomakesovitin([alue = QPointer<QMdiArea>(alue)](const std::string& nimi) {
+    return std::make_unique<QtIkkuna>(TeeJuuri(nimi), alue);
+  });
+}

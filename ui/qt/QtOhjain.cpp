@@ -1,0 +1,343 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/QtOhjain.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QEvent>
+#include <QFocusEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <utility>
+
+#include "ui/qt/Piirakka.h"
+
+namespace {
+
+constexpr int kLuvunLeveys = 14;  // of a number field, in digits
+
+QString Q(const std::string& teksti) { return QString::fromStdString(teksti); }
+
+std::string Ominaisuus(const QObject& olio, const char* nimi) { return olio.property(nimi).toString().toStdString(); }
+
+/// The caption with its letter marked; an ampersand of the text itself stays visible.
+QString Merkitty(QString otsikko, QChar kirjain) {
+  otsikko.replace('&', QStringLiteral("&&"));
+  const auto paikka = kirjain.isNull() ? -1 : otsikko.indexOf(kirjain, 0, Qt::CaseInsensitive);
+  return paikka < 0 ? otsikko : otsikko.insert(paikka, '&');
+}
+
+/// A control with a caption: label, button, frame.
+template <class W, void (W::*Aseta)(const QString&)>
+class QtOtsikko : public QtOhjain {
+ public:
+  QtOtsikko(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, W& widget)
+      : QtOhjain(ikkuna, std::move(kuvaus), &widget), widget_(widget) {}
+
+  void AsetaPikakirjain(QChar kirjain) override {
+    kirjain_ = kirjain;
+    (widget_.*Aseta)(Merkitty(Q(Teksti()), kirjain_));
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    if (piirre == Piirre::Teksti) AsetaPikakirjain(kirjain_);
+  }
+
+ private:
+  W& widget_;
+  QChar kirjain_;
+};
+
+using QtLabel = QtOtsikko<QLabel, &QLabel::setText>;
+using QtFrame = QtOtsikko<QGroupBox, &QGroupBox::setTitle>;
+using QtPainike = QtOtsikko<QAbstractButton, &QAbstractButton::setText>;
+
+class QtCommandButton : public QtPainike {
+ public:
+  QtCommandButton(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QPushButton& nappi)
+      : QtPainike(ikkuna, std::move(kuvaus), nappi) {
+    nappi.setAutoDefault(true);
+    connect(&nappi, &QPushButton::clicked, this, [this] { KayttajaPainaa(); });
+  }
+};
+
+/// Check box or option button.
+class QtValintanappi : public QtPainike {
+ public:
+  QtValintanappi(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QAbstractButton& nappi)
+      : QtPainike(ikkuna, std::move(kuvaus), nappi), nappi_(nappi) {
+    connect(&nappi, &QAbstractButton::toggled, this, [this](bool valittu) {
+      const bool muunTakia = Tyyppi() == Ohjaintyyppi::OptionButton && !valittu;
+      if (valittu != Valittu() && !muunTakia) KayttajaPainaa();
+    });
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    QtPainike::NaytaPiirre(piirre);
+    if (piirre == Piirre::Valittu) NaytaValittu();
+  }
+
+ private:
+  void NaytaValittu() {
+    const QSignalBlocker esto(nappi_);
+    const bool poissulkeva = nappi_.autoExclusive();
+    nappi_.setAutoExclusive(poissulkeva && Valittu());  // else the last checked one of a group can't be cleared
+    nappi_.setChecked(Valittu());
+    nappi_.setAutoExclusive(poissulkeva);
+  }
+
+  QAbstractButton& nappi_;
+};
+
+class QtTextBox : public QtOhjain {
+ public:
+  QtTextBox(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QLineEdit& kentta)
+      : QtOhjain(ikkuna, std::move(kuvaus), &kentta), kentta_(kentta) {
+    Ulkoasu();
+    connect(&kentta, &QLineEdit::textEdited, this,
+            [this](const QString& teksti) { KayttajaKirjoittaa(teksti.toStdString()); });
+    kentta.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
+    if (tapahtuma->type() == QEvent::FocusOut && PoistuttuKentasta(static_cast<QFocusEvent*>(tapahtuma)->reason()))
+      KayttajaPoistuu();
+    return QtOhjain::eventFilter(kohde, tapahtuma);
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    if (piirre == Piirre::Tekstivalinta) kentta_.selectAll();
+    if (piirre != Piirre::Teksti) return;
+    kentta_.setText(Q(Teksti()));
+    kentta_.setCursorPosition(0);
+  }
+
+ private:
+  /// A message box or the field's own menu doesn't end the editing.
+  static bool PoistuttuKentasta(Qt::FocusReason syy) {
+    return syy != Qt::ActiveWindowFocusReason && syy != Qt::PopupFocusReason;
+  }
+
+  void Ulkoasu() {
+    const bool luku = Lukittu() || Q(Tag()).section(',', 1, 1).compare(QLatin1String("n"), Qt::CaseInsensitive) == 0;
+    if (luku) {
+      kentta_.setAlignment(Qt::AlignRight);
+      kentta_.setMaximumWidth(kLuvunLeveys * kentta_.fontMetrics().horizontalAdvance('0'));
+    }
+    if (Lukittu()) {
+      QPalette varit = kentta_.palette();
+      varit.setColor(QPalette::Base, varit.color(QPalette::Window));
+      kentta_.setPalette(varit);
+    }
+  }
+
+  QLineEdit& kentta_;
+};
+
+class QtComboBox : public QtOhjain {
+ public:
+  QtComboBox(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QComboBox& lista)
+      : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
+    connect(&lista, &QComboBox::activated, this, [this](int indeksi) { KayttajaValitsee(indeksi); });
+    lista.setFocusPolicy(Qt::StrongFocus);
+    lista.installEventFilter(this);
+  }
+
+  /// The wheel scrolls the form, it doesn't change a list that happens to lie under the pointer.
+  bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
+    if (tapahtuma->type() != QEvent::Wheel || lista_.hasFocus()) return QtOhjain::eventFilter(kohde, tapahtuma);
+    tapahtuma->ignore();
+    return true;
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    if (piirre == Piirre::Rivit) NaytaRivit();
+    if (piirre == Piirre::Indeksi || piirre == Piirre::Rivit) lista_.setCurrentIndex(Indeksi());
+  }
+
+ private:
+  void NaytaRivit() {
+    lista_.clear();
+    for (const auto& rivi : Rivit()) lista_.addItem(Q(rivi.front()));
+  }
+
+  QComboBox& lista_;
+};
+
+class QtTabStrip : public QtOhjain {
+ public:
+  QtTabStrip(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTabWidget& sivut)
+      : QtOhjain(ikkuna, std::move(kuvaus), &sivut), sivut_(sivut) {
+    connect(&sivut, &QTabWidget::currentChanged, this, [this](int indeksi) { KayttajaValitsee(indeksi); });
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    const QSignalBlocker esto(sivut_);
+    if (piirre == Piirre::Indeksi) sivut_.setCurrentIndex(Indeksi());
+    if (piirre == Piirre::Osat) NaytaOtsikot();
+  }
+
+ private:
+  void NaytaOtsikot() {
+    for (int i = 0; i < sivut_.count(); ++i) {
+      const Osa& sivu = Osat()[static_cast<std::size_t>(i)];
+      sivut_.setTabText(i, Merkitty(Q(sivu.otsikko), {}));
+      sivut_.setTabToolTip(i, Q(sivu.vihje));
+    }
+  }
+
+  QTabWidget& sivut_;
+};
+
+class QtListView : public QtOhjain {
+ public:
+  QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista)
+      : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
+    lista.setRootIsDecorated(false);
+    connect(&lista, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* rivi) { KayttajaValitsee(lista_.indexOfTopLevelItem(rivi)); });
+    connect(&lista, &QTreeWidget::itemActivated, this, [this] { KayttajaPainaa(); });
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    const QSignalBlocker esto(lista_);
+    if (piirre == Piirre::Osat) NaytaOtsikot();
+    if (piirre == Piirre::Rivit) NaytaRivit();
+    if (piirre == Piirre::Indeksi || piirre == Piirre::Rivit) lista_.setCurrentItem(lista_.topLevelItem(Indeksi()));
+  }
+
+ private:
+  void NaytaOtsikot() {
+    QStringList otsikot;
+    for (const Osa& sarake : Osat()) otsikot << Q(sarake.otsikko);
+    lista_.setHeaderLabels(otsikot);
+  }
+
+  void NaytaRivit() {
+    lista_.clear();
+    for (const auto& rivi : Rivit()) {
+      QStringList solut;
+      for (const std::string& solu : rivi) solut << Q(solu);
+      lista_.addTopLevelItem(new QTreeWidgetItem(solut));
+    }
+  }
+
+  QTreeWidget& lista_;
+};
+
+class QtMSChart : public QtOhjain {
+ public:
+  QtMSChart(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, Piirakka& kaavio)
+      : QtOhjain(ikkuna, std::move(kuvaus), &kaavio), kaavio_(kaavio) {}
+
+  bool KopioiLeikepoydalle() override {
+    kaavio_.KopioiLeikepoydalle();
+    return true;
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    if (piirre == Piirre::Kaavio) kaavio_.AsetaKaavio(Kaavio());
+  }
+
+ private:
+  Piirakka& kaavio_;
+};
+
+std::vector<Osa> LueOsat(QWidget& widget) {
+  std::vector<Osa> osat;
+  if (auto* sivut = dynamic_cast<QTabWidget*>(&widget))
+    for (int i = 0; i < sivut->count(); ++i)
+      osat.push_back({{}, {}, Ominaisuus(*sivut->widget(i), "Tag"), Ominaisuus(*sivut->widget(i), "ToolTipText")});
+  if (auto* lista = dynamic_cast<QTreeWidget*>(&widget))
+    for (int i = 0; i < lista->columnCount(); ++i)
+      osat.push_back({{}, {}, lista->headerItem()->text(i).toStdString(), {}});
+  return osat;
+}
+
+Ohjainkuvaus LueKuvaus(QWidget& widget, Ohjaintyyppi tyyppi) {
+  Ohjainkuvaus k;
+  k.nimi = widget.objectName().toStdString();
+  k.tyyppi = tyyppi;
+  k.tag = Ominaisuus(widget, "Tag");
+  k.vihjetag = Ominaisuus(widget, "ToolTipText");
+  k.teksti = Ominaisuus(widget, tyyppi == Ohjaintyyppi::Frame ? "title" : "text");
+  k.sailio = widget.parentWidget()->objectName().toStdString();
+  k.lukittu = widget.property("readOnly").toBool();
+  k.kaytossa = !widget.testAttribute(Qt::WA_ForceDisabled);
+  k.nakyva = !(widget.isHidden() && widget.testAttribute(Qt::WA_WState_ExplicitShowHide));
+  k.osat = LueOsat(widget);
+  return k;
+}
+
+template <class O, class W>
+std::unique_ptr<QtOhjain> Tee(Lomakeikkuna& ikkuna, QWidget& widget, Ohjaintyyppi tyyppi) {
+  return std::make_unique<O>(ikkuna, LueKuvaus(widget, tyyppi), dynamic_cast<W&>(widget));
+}
+
+}  // namespace
+
+QtOhjain::QtOhjain(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QWidget* widget)
+    : Ohjain(ikkuna, std::move(kuvaus)), widget_(widget) {}
+
+void QtOhjain::Paivita(Piirre piirre) {
+  if (!widget_) return;
+  switch (piirre) {
+    case Piirre::Vihje:
+      return widget_->setToolTip(Q(Vihje()));
+    case Piirre::Kaytossa:
+      return widget_->setEnabled(Kaytossa());
+    case Piirre::Nakyva:
+      return widget_->setVisible(Nakyva());
+    case Piirre::Kohdistus:
+      return Kohdista();
+    default:
+      return NaytaPiirre(piirre);
+  }
+}
+
+void QtOhjain::Kohdista() {
+  for (QWidget* w = widget_; w->parentWidget(); w = w->parentWidget())
+    if (auto* sivut = qobject_cast<QTabWidget*>(w->parentWidget()->parentWidget()); sivut && sivut->indexOf(w) >= 0)
+      sivut->setCurrentWidget(w);
+  widget_->setFocus(Qt::OtherFocusReason);
+}
+
+std::unique_ptr<QtOhjain> TeeOhjain(Lomakeikkuna& ikkuna, QWidget& widget) {
+  const bool piirakka = dynamic_cast<Piirakka*>(&widget) != nullptr;
+  Ohjaintyyppi tyyppi;
+  if (!TyyppiLuokasta(piirakka ? "Piirakka" : widget.metaObject()->className(), tyyppi)) return nullptr;
+  switch (tyyppi) {
+    case Ohjaintyyppi::Label:
+      return Tee<QtLabel, QLabel>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::TextBox:
+      return Tee<QtTextBox, QLineEdit>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::ComboBox:
+      return Tee<QtComboBox, QComboBox>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::CheckBox:
+    case Ohjaintyyppi::OptionButton:
+      return Tee<QtValintanappi, QAbstractButton>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::CommandButton:
+      return Tee<QtCommandButton, QPushButton>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::Frame:
+      return Tee<QtFrame, QGroupBox>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::TabStrip:
+      return Tee<QtTabStrip, QTabWidget>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::ListView:
+      return Tee<QtListView, QTreeWidget>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::MSChart:
+      return Tee<QtMSChart, Piirakka>(ikkuna, widget, tyyppi);
+  }
+  return nullptr;
+}

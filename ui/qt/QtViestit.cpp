@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/QtViestit.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTranslator>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "ui/Komento.h"
+#include "ui/qt/Osoitin.h"
+
+namespace {
+
+QString Q(std::string_view teksti) { return QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())); }
+
+/// A button of a message box. The captions stand here, since a message must be readable also when the text store, where
+/// all other texts are, is missing.
+struct Nappi {
+  Vastaus vastaus;
+  const char* otsikko;
+  QMessageBox::ButtonRole rooli;
+};
+constexpr std::array kNapit{
+    Nappi{Vastaus::Ok, "OK", QMessageBox::AcceptRole},
+    Nappi{Vastaus::Kylla, "&Kyllä", QMessageBox::YesRole},
+    Nappi{Vastaus::Ei, "&Ei", QMessageBox::NoRole},
+    Nappi{Vastaus::Peruuta, "Peruuta", QMessageBox::RejectRole},
+};
+
+QMessageBox::Icon Kuvake(Vakavuus vakavuus) {
+  switch (vakavuus) {
+    case Vakavuus::Varoitus:
+      return QMessageBox::Warning;
+    case Vakavuus::Virhe:
+      return QMessageBox::Critical;
+    case Vakavuus::Kysymys:
+      return QMessageBox::Question;
+    default:
+      return QMessageBox::Information;
+  }
+}
+
+/// What closing the box means.
+Vastaus Sulkeminen(Napit napit) {
+  if (napit == Napit::Ok) return Vastaus::Ok;
+  return napit == Napit::KyllaEi ? Vastaus::Ei : Vastaus::Peruuta;
+}
+
+Vastaus NaytaLaatikko(const Viesti& viesti) {
+  const NormaaliOsoitin osoitin;
+  QMessageBox laatikko(Kuvake(viesti.vakavuus), Q(viesti.otsikko), Q(viesti.teksti), QMessageBox::NoButton,
+                       QApplication::activeWindow());
+  laatikko.setTextFormat(Qt::PlainText);
+  std::array<QPushButton*, kNapit.size()> napit{};
+  for (std::size_t i = 0; i < kNapit.size(); ++i) {
+    const Nappi& nappi = kNapit[i];
+    if (!OnVastaus(viesti.napit, nappi.vastaus)) continue;
+    napit[i] = laatikko.addButton(QString::fromUtf8(nappi.otsikko), nappi.rooli);
+    if (nappi.vastaus == viesti.oletus) laatikko.setDefaultButton(napit[i]);
+    if (nappi.vastaus == Sulkeminen(viesti.napit)) laatikko.setEscapeButton(napit[i]);
+  }
+  laatikko.exec();
+  const auto painettu = std::ranges::find(napit, laatikko.clickedButton());
+  return painettu == napit.end() ? Sulkeminen(viesti.napit)
+                                 : kNapit[static_cast<std::size_t>(painettu - napit.begin())].vastaus;
+}
+
+bool Samat(const Viesti& x, const Viesti& y) { return x.teksti == y.teksti && x.otsikko == y.otsikko; }
+
+/// "*.lvt" becomes "*.[lL][vV][tT]": a file is found whatever the case of its extension.
+QString KirjainkoostaRiippumaton(const QString& suodatin) {
+  const auto sulku = suodatin.indexOf('(');
+  QString tulos = suodatin.left(sulku);
+  for (const QChar merkki : suodatin.mid(sulku))
+    tulos += merkki.isLetter() ? '[' + QString(merkki.toLower()) + merkki.toUpper() + ']' : QString(merkki);
+  return tulos;
+}
+
+QString Paate(const QString& suodatin) {
+  return QRegularExpression(QStringLiteral(R"(\*\.(\w+))")).match(suodatin).captured(1);
+}
+
+std::optional<std::string> KysyTiedosto(QFileDialog& dialogi, const QString& suodatin) {
+  NaytaOdottavatViestit();
+  const NormaaliOsoitin osoitin;
+  dialogi.setNameFilter(KirjainkoostaRiippumaton(suodatin));
+  dialogi.setOption(QFileDialog::HideNameFilterDetails);
+  dialogi.setLabelText(QFileDialog::Reject, QStringLiteral("Peruuta"));
+  if (dialogi.exec() != QDialog::Accepted || dialogi.selectedFiles().isEmpty()) return std::nullopt;
+  return dialogi.selectedFiles().constFirst().toStdString();
+}
+
+}  // namespace
+
+QtViestit::QtViestit() {
+  AsetaViestit(this);
+  AsetaViestienNaytto([this] { NaytaOdottavat(); });
+}
+
+QtViestit::~QtViestit() {
+  AsetaViestienNaytto(nullptr);
+  AsetaViestit(nullptr);
+}
+
+void QtViestit::AsetaPaneelinNaytto(std::function<void(const std::string&)> nayta) { naytaPaneeli_ = std::move(nayta); }
+
+Vastaus QtViestit::Nayta(const Viesti& viesti) {
+  if (viesti.napit == Napit::Ok && KomentoKaynnissa()) {
+    PidataViesti(viesti);
+    return Vastaus::Ok;
+  }
+  NaytaOdottavat();
+  return NaytaLaatikko(viesti);
+}
+
+void QtViestit::PidataViesti(const Viesti& viesti) {
+  const auto sama = std::ranges::find_if(odottavat_, [&](const Odottava& o) { return Samat(o.viesti, viesti); });
+  if (sama == odottavat_.end())
+    odottavat_.push_back({viesti, 1});
+  else
+    ++sama->maara;
+}
+
+void QtViestit::NaytaOdottavat() {
+  for (auto& [viesti, maara] : std::exchange(odottavat_, {})) {
+    if (maara > 1) viesti.teksti += "\n\n(Sama ilmoitus tuli " + std::to_string(maara) + " kertaa.)";
+    NaytaLaatikko(viesti);
+  }
+}
+
+std::optional<std::string> QtViestit::KysyTeksti(std::string_view kehote, std::string_view otsikko,
+                                                 std::string_view oletus) {
+  NaytaOdottavat();
+  const NormaaliOsoitin osoitin;
+  QInputDialog dialogi(QApplication::activeWindow());
+  dialogi.setWindowTitle(Q(otsikko));
+  dialogi.setLabelText(Q(kehote));
+  dialogi.setTextValue(Q(oletus));
+  dialogi.setOkButtonText(QStringLiteral("OK"));
+  dialogi.setCancelButtonText(QStringLiteral("Peruuta"));
+  if (dialogi.exec() != QDialog::Accepted) return std::nullopt;
+  return dialogi.textValue().toStdString();
+}
+
+std::optional<std::string> QtViestit::KysyAvattavaTiedosto(std::string_view otsikko, std::string_view suodatin) {
+  QFileDialog dialogi(QApplication::activeWindow(), Q(otsikko));
+  dialogi.setFileMode(QFileDialog::ExistingFile);
+  dialogi.setLabelText(QFileDialog::Accept, QStringLiteral("Avaa"));
+  return KysyTiedosto(dialogi, Q(suodatin));
+}
+
+std::optional<std::string> QtViestit::KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin) {
+  QFileDialog dialogi(QApplication::activeWindow(), Q(otsikko));
+  dialogi.setAcceptMode(QFileDialog::AcceptSave);
+  dialogi.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks in its own words
+  dialogi.setDefaultSuffix(Paate(Q(suodatin)));
+  dialogi.setLabelText(QFileDialog::Accept, QStringLiteral("Tallenna"));
+  return KysyTiedosto(dialogi, Q(suodatin));
+}
+
+void QtViestit::AsetaPaneeli(std::string teksti) {
+  paneeli_ = std::move(teksti);
+  if (naytaPaneeli_) naytaPaneeli_(paneeli_);
+}
+
+void QtViestit::Odotusosoitin(bool paalla) {
+  if (paalla)
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QGuiApplication::restoreOverrideCursor();
+}
+
+void QtViestit::AnnaPiirtaa() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
+void AsennaSuomennos() {
+  static QTranslator kaantaja;
+  if (kaantaja.load(QStringLiteral("qtbase_fi"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QCoreApplication::installTranslator(&kaantaja);
+}
