@@ -7,7 +7,9 @@
 
 /// Sets the mark.
 void AsetaKirjoitussuoja(const std::string& tiedosto);
-/// True when the owner may not write. Looks at the permissions, not at whether writing succeeds: as root it always does.
+/// True when the owner may not write. Looks at the permissions, not at whether writing succeeds: as root it always
+/// does.
 bool OnKirjoitussuojattu(const std::string& tiedosto);
-/// Takes the mark away: the permissions are what they were when this run set it, else the owner gets the right to write.
+/// Takes the mark away: the permissions are what they were when this run set it, else the owner gets the right to
+/// write.
 void PoistaKirjoitussuoja(const std::string& tiedosto);

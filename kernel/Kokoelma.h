@@ -18,11 +18,13 @@ class KokoelmaPohja {
   virtual Alkio* EtsiPohja(const Tunniste& avain) = 0;
   /// Adds at the end; a key that is already in use raises std::invalid_argument.
   virtual Alkio& LisaaPohja(const Tunniste& avain) = 0;
+  /// Removes all items.
+  virtual void Tyhjenna() = 0;
   virtual const Luokka& AlkionLuokka() const noexcept = 0;
 };
 
-/// Ordered, keyed items of one class. Positions count from 1; keys compare without regard to case; an item added with an
-/// empty key has none. A missing key or position raises std::out_of_range, a doubled key std::invalid_argument.
+/// Ordered, keyed items of one class. Positions count from 1; keys compare without regard to case; an item added with
+/// an empty key has none. A missing key or position raises std::out_of_range, a doubled key std::invalid_argument.
 template <class T>
 class Sailio : public KokoelmaPohja {
  public:
@@ -67,7 +69,7 @@ class Sailio : public KokoelmaPohja {
     for (std::size_t i = 0; i < alkiot_.size(); ++i)
       if (alkiot_[i].get() == poistettava) return Remove(static_cast<int>(i) + 1);
   }
-  void Tyhjenna() {
+  void Tyhjenna() override {
     alkiot_.clear();
     hakemisto_.reset();
   }

@@ -56,8 +56,8 @@ struct Latausraportti {
 
 /// Loads a project file into the tree under `juuri`: owned objects are filled, those that may be nothing are made where
 /// the file has them, and the items of the file replace those of the collections. The file isn't changed and nothing is
-/// left beside it. Damaged values are counted and leave the default. Raises Projektivirhe when the file is no project or
-/// can't be read at all; the tree may then be filled in part.
+/// left beside it. Damaged values are counted and leave the default. Raises Projektivirhe when the file is no project
+/// or can't be read at all; the tree may then be filled in part.
 void HaeProjekti(Olio& juuri, const std::string& tiedosto, Latausraportti& raportti);
 
 /// Version of the program that wrote a project file.

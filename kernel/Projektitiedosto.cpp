@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "kernel/Projektitiedosto.h"
+
+#include "kernel/Hakemistot.h"
+#include "kernel/Rivikirjoitin.h"
+#include "kernel/Rivilukija.h"
+#include "kernel/Tietokanta.h"
+#include "kernel/Turvatallennus.h"
+
+namespace {
+
+using Syy = Projektivirhe::Syy;
+
+/// Fills a copy of the template. The journal stays beside the file until the commit, everything is flushed, and pages
+/// are kept in memory until then.
+Tallennusraportti RakennaProjekti(Olio& juuri, const std::string& uusi, const Eteneminen& eteneminen) {
+  Tietokanta kanta(uusi, Tietokanta::Tapa::Kirjoitus);
+  kanta.Aja("PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; PRAGMA cache_spill=OFF");
+  Rivikirjoitin kirjoitin(kanta, eteneminen);
+  Transaktio transaktio(kanta);
+  TyhjennaProjektikanta(kanta);
+  kirjoitin.Kirjoita(juuri);
+  transaktio.Hyvaksy();
+  kirjoitin.TarkistaRivimaarat();
+  return kirjoitin.Raportti();
+}
+
+/// SQLite's error codes: 11 a page can't be read as one, 26 the file isn't a database, 14 it can't be opened.
+[[noreturn]] void NostaLukuvirhe(const Tietokantavirhe& virhe) {
+  constexpr int kVaurioitunut = 11;
+  throw Projektivirhe(virhe.Koodi() == kVaurioitunut ? Syy::Vaurioitunut : Syy::EiProjekti, virhe.what());
+}
+
+Tiedostoversio LueVersio(Tietokanta& kanta) {
+  Kysely rivi(kanta, "SELECT Major, Minor, Revision FROM clsRakennus");
+  Tiedostoversio versio;
+  ArvoNakyma arvo;
+  if (!rivi.Seuraava())
+    throw Projektivirhe(Syy::EiProjekti, kanta.Tiedosto() + ": tiedostossa ei ole katselmuskohdetta");
+  int sarake = 0;
+  for (int* osa : {&versio.Major, &versio.Minor, &versio.Revision}) {
+    rivi.Nayta(sarake++, arvo);
+    if (!Muunna(arvo, *osa))
+      throw Projektivirhe(Syy::EiProjekti, kanta.Tiedosto() + ": tiedoston versiota ei voi lukea");
+  }
+  return versio;
+}
+
+}  // namespace
+
+Tallennusraportti TallennaProjekti(Olio& juuri, const std::string& tiedosto, const std::string& malli,
+                                   const Tallennustapa& tapa) try {
+  Tallennusraportti raportti;
+  KorvaaTurvallisesti(tiedosto, malli.empty() ? AppPath() + "stemplate.tmp" : malli, tapa.sailytaEnnen,
+                      [&](const std::string& uusi) { raportti = RakennaProjekti(juuri, uusi, tapa.eteneminen); });
+  return raportti;
+} catch (const Tietokantavirhe& virhe) {
+  throw Projektivirhe(Syy::Kirjoitus, virhe.what());
+}
+
+void HaeProjekti(Olio& juuri, const std::string& tiedosto, Latausraportti& raportti) try {
+  Tietokanta kanta(tiedosto, Tietokanta::Tapa::Muuttumaton);
+  Rivilukija(kanta, raportti).Lue(juuri);
+} catch (const Tietokantavirhe& virhe) {
+  NostaLukuvirhe(virhe);
+}
+
+Tiedostoversio HaeTiedostonVersio(const std::string& tiedosto) try {
+  Tietokanta kanta(tiedosto, Tietokanta::Tapa::Muuttumaton);
+  return LueVersio(kanta);
+} catch (const Tietokantavirhe& virhe) {
+  NostaLukuvirhe(virhe);
+}
