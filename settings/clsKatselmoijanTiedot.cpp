@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/clsKatselmoijanTiedot.h"
 
-#include "kernel/Asetusvarasto.h"
-
 namespace {
 
 constexpr Jasen kJasenet[] = {
@@ -25,8 +23,7 @@ constexpr std::string clsKatselmoijanTiedot::*kKentat[] = {
 
 const Luokka clsKatselmoijanTiedot::kLuokka{"clsKatselmoijanTiedot", kJasenet};
 
-void clsKatselmoijanTiedot::HaeOletukset(std::string_view alku) {
-  int i = 0;
-  for (std::string clsKatselmoijanTiedot::*kentta : kKentat)
-    this->*kentta = HaeAsetus("Asetukset_KatselmoijanYhteystiedot", std::string(alku) + std::to_string(i++), "");
+void clsKatselmoijanTiedot::HaeOletukset(Avain ensimmainen) {
+  int avain = static_cast<int>(ensimmainen);
+  for (std::string clsKatselmoijanTiedot::*kentta : kKentat) this->*kentta = HaeAsetus(static_cast<Avain>(avain++));
 }

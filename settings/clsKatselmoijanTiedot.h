@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include "kernel/Olio.h"
+#include "settings/Asetusavaimet.h"
 
 /// Contact data of one auditor.
 class clsKatselmoijanTiedot : public Malli<clsKatselmoijanTiedot> {
@@ -14,6 +15,6 @@ class clsKatselmoijanTiedot : public Malli<clsKatselmoijanTiedot> {
   std::string Faksi;
   std::string Sahkoposti;
 
-  /// Takes the user's own data from the settings, keys `alku` + "0" to "5" in the order of the fields.
-  void HaeOletukset(std::string_view alku);
+  /// Takes the user's own data from the settings: six keys from `ensimmainen` on, in the order of the fields.
+  void HaeOletukset(Avain ensimmainen);
 };

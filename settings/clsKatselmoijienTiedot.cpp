@@ -14,6 +14,6 @@ constexpr Jasen kJasenet[] = {
 const Luokka clsKatselmoijienTiedot::kLuokka{"clsKatselmoijienTiedot", kJasenet};
 
 void clsKatselmoijienTiedot::HaeOletukset() {
-  LVIKatselmoija.HaeOletukset("LVI");
-  SahkoKatselmoija.HaeOletukset("Sah");
+  LVIKatselmoija.HaeOletukset(Avain::LVI0);
+  SahkoKatselmoija.HaeOletukset(Avain::Sah0);
 }

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <set>
+
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "results/clsLammKulutuksenVakioOsuus.h"
+#include "results/clsToteutuneetKulutukset.h"
+#include "settings/clsKatselmoijienTiedot.h"
+#include "settings/clsProjektiAsetukset.h"
+#include "supply/clsEnergianHankinta.h"
+#include "supply/clsSahkoTariffienVertailu.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
+#include "tests/measures/Asetuskansio.h"
+#include "ventilation/clsIVKoneet.h"
+
+namespace {
+
+/// Values that no member has by default and that no two members share.
+class ErillisetArvot {
+ public:
+  Variantti Seuraava(Laji laji) {
+    ++n_;
+    if (laji == Laji::Teksti) return "arvo " + std::to_string(n_);
+    if (laji == Laji::Totuus) return true;
+    return static_cast<std::int16_t>(n_);
+  }
+
+ private:
+  int n_ = 1000;
+};
+
+std::string Tekstina(const Olio& olio, const Jasen& jasen) {
+  ArvoNakyma arvo;
+  jasen.nayta(olio, arvo);
+  return jasen.laji == Laji::Teksti ? std::string(arvo.Teksti()) : std::to_string(arvo.Lukuna());
+}
+
+template <class C>
+class Jasentaulu : public Asetuskansio {};
+
+using Luokat =
+    testing::Types<clsToteutunutKulutus, clsToteutuneetKulutukset, clsLammKulutuksenVakioOsuus, clsProjektiAsetukset,
+                   clsKatselmoijanTiedot, clsKatselmoijienTiedot, clsSahkonKulutusryhma, clsSahkoListaItem,
+                   clsSahkonKulutusryhmat, clsVedenTiedot, clsVedenKulutusryhma, clsVesiListaItem,
+                   clsVedenKulutusryhmat, clsResurssi, clsResurssit, clsEnergiamuoto, clsEnergianHankinta,
+                   clsEnergiamaksu, clsTariffi, clsVesitariffi, clsTariffiVertailuTapaus, clsSahkoTariffienVertailu,
+                   clsIVKone, clsMuuttunutAttribuutti, clsMuuttuneetAttribuutit, clsSaastotoimenpide,
+                   clsSaastoToimenpideListaItem, clsSaastotoimenpiteet, clsValittuToimenpide, clsValitutToimenpiteet,
+                   clsToimenpiteidenJarjestelija>;
+TYPED_TEST_SUITE(Jasentaulu, Luokat);
+
+/// Two rows of a table that show one member by mistake would give one value; a member that a copy forgets would differ.
+TYPED_TEST(Jasentaulu, JokainenArvoAsettuuNimellaOmaanJaseneensaJaKopioituu) {
+  TypeParam olio;
+  ErillisetArvot arvot;
+  for (const Jasen& jasen : TypeParam::kLuokka.Jasenet())
+    if (!jasen.OnOlio() && jasen.laji != Laji::Totuus) AsetaJasen(olio, jasen.nimi, arvot.Seuraava(jasen.laji));
+  std::set<std::string> luetut;
+  const auto kopio = olio.Kopioi();
+  for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
+    if (jasen.OnOlio()) continue;
+    EXPECT_EQ(Tekstina(*kopio, jasen), Tekstina(olio, jasen)) << jasen.nimi;
+    if (jasen.laji == Laji::Totuus) continue;
+    EXPECT_TRUE(luetut.insert(Tekstina(olio, jasen)).second) << jasen.nimi;
+  }
+}
+
+TYPED_TEST(Jasentaulu, TotuusarvoVaihtuuVainOmassaJasenessaan) {
+  for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
+    if (jasen.laji != Laji::Totuus) continue;
+    TypeParam olio;
+    const bool ennen = std::get<bool>(HaeJasen(olio, jasen));
+    AsetaJasen(olio, jasen.nimi, !ennen);
+    EXPECT_NE(std::get<bool>(HaeJasen(olio, jasen)), ennen) << jasen.nimi;
+  }
+}
+
+}  // namespace
