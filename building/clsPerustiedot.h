@@ -56,6 +56,9 @@ class clsPerustiedot : public Malli<clsPerustiedot> {
   bool NaytaKayttoliityma();
   void LueDataluokka();
   void KirjoitaDataluokka();
+  /// What an OK does once the values are written: tells the weather when the locality differs from `entinenPaikkakunta`,
+  /// has the first model of a new object generated, and marks the building as changed.
+  void OtaKayttoon(std::int32_t entinenPaikkakunta);
 
  private:
   void LiitaTapahtumat();

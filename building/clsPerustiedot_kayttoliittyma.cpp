@@ -161,18 +161,24 @@ bool clsPerustiedot::VakioOsuusMahtuuKulutukseen() const {
   return true;
 }
 
-void clsPerustiedot::KayttoLiittyma_OkKlikattu() try {
-  Odotus odotus;
-  KirjoitaDataluokka();
-  if (!VakioOsuusMahtuuKulutukseen()) return NaytaVirhe(kVakioOsuusYlittaa);
-  PaaikkunaNyt().TyokalutKaytossa(3, true);
+void clsPerustiedot::OtaKayttoon(std::int32_t entinenPaikkakunta) try {
   const bool uusi = !OletusarvotLaskettu;
-  if (paikkakunta_ != varalla_.arvo->paikkakunta_ || uusi) SaaTietoMuuttui.arvo(paikkakunta_);
+  if (paikkakunta_ != entinenPaikkakunta || uusi) SaaTietoMuuttui.arvo(paikkakunta_);
   if (uusi) {
     LaskeOletusarvotPerustietojenMukaan.arvo();
     OletusarvotLaskettu = true;
   }
   VaadiRakennus().PerusmalliMuuttui();
+} catch (...) {
+  NostaVirhe("clsPerustiedot:OtaKayttoon Method");
+}
+
+void clsPerustiedot::KayttoLiittyma_OkKlikattu() try {
+  Odotus odotus;
+  KirjoitaDataluokka();
+  if (!VakioOsuusMahtuuKulutukseen()) return NaytaVirhe(kVakioOsuusYlittaa);
+  PaaikkunaNyt().TyokalutKaytossa(3, true);
+  OtaKayttoon(varalla_.arvo->paikkakunta_);
   kayttoLiittyma_.arvo->Sulje();
 } catch (...) {
   varalla_.arvo->Kopioi(*this);

@@ -45,6 +45,18 @@ double TilojenSumma(const clsTilat& tilat, F&& arvo) {
   return summa;
 }
 
+/// Loss of turning bought energy into the net demand, MWh, form by form.
+double Konversiohaviot(const clsEnergianHankinta& hankinta, double verkko) {
+  constexpr double kProsentti = 100;
+  double haviot = 0;
+  for (const clsEnergiamuoto& muoto : hankinta.Energiamuodot) {
+    const double osuus = muoto.OsuusNettotarpeesta / kProsentti;
+    const double hyotysuhde = muoto.Hyotysuhde / kProsentti;
+    if (hyotysuhde != 0) haviot += (1 / hyotysuhde - 1) * (verkko * osuus);
+  }
+  return Aarellinen(haviot);
+}
+
 /// The value of a changed attribute as the kind that it was recorded under; nothing for an unknown code.
 Variantti UusiArvo(const clsMuuttunutAttribuutti& muutos) {
   const double arvo = muutos.ArvoJalkeen;
@@ -228,7 +240,7 @@ double clsRakennus::VuotuisetSaatohaviot() try {
 
 double clsRakennus::VuotuisetLammonKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Perustiedot.LammonHankinta.Energiamuodot.Konversiohaviot(VuotuinenIVjalkilammitysLampo() +
+  return Konversiohaviot(Perustiedot.LammonHankinta, VuotuinenIVjalkilammitysLampo() +
                                                                  VuotuinenLampoEnergianTarveTilat());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
@@ -236,21 +248,21 @@ double clsRakennus::VuotuisetLammonKonversiohaviot() try {
 
 double clsRakennus::VuotuisetLaiteSahkoKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Perustiedot.SahkonHankinta.Energiamuodot.Konversiohaviot(SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus());
+  return Konversiohaviot(Perustiedot.SahkonHankinta, SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }
 
 double clsRakennus::VuotuisetSahkoLammonKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Perustiedot.SahkonHankinta.Energiamuodot.Konversiohaviot(SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
+  return Konversiohaviot(Perustiedot.SahkonHankinta, SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }
 
 double clsRakennus::VuotuisetSahkoKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Perustiedot.SahkonHankinta.Energiamuodot.Konversiohaviot(SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus() +
+  return Konversiohaviot(Perustiedot.SahkonHankinta, SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus() +
                                                          SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");

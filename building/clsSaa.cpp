@@ -6,7 +6,7 @@
 #include "kernel/Hakemistot.h"
 #include "kernel/Tekstitiedosto.h"
 #include "kernel/Virhe.h"
-#include "solar/AurinkoLaskin.h"
+#include "solar/Aurinkotaulukot.h"
 
 namespace {
 
