@@ -7,6 +7,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
+#include "settings/clsLumivirtaAsetukset.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -82,6 +83,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   AlustaTekstit();
+  Asetukset().HaeRekisteristä();
   const bool kaikki = json ? TulostaJson(tiedostot) : TulostaYhteenvedot(tiedostot);
   std::cout.flush();
   return kaikki && std::cout ? 0 : 1;
