@@ -25,6 +25,12 @@ void KeraaOhjaimet(QWidget& widget, const std::function<void(QWidget&)>& tee) {
     }
 }
 
+bool OnTaytettava(const Ohjain& ohjain) {
+  const bool kentta = ohjain.Tyyppi() == Ohjaintyyppi::TextBox || ohjain.Tyyppi() == Ohjaintyyppi::ComboBox ||
+                      (ohjain.Tyyppi() == Ohjaintyyppi::OptionButton && ohjain.Valittu());
+  return kentta && !ohjain.Lukittu() && ohjain.Kaytossa() && ohjain.Nakyva();
+}
+
 QWidget* TeeJuuri(const std::string& nimi) {
   for (const LomakeRivi& rivi : Lomaketaulu())
     if (SamaNimi(rivi.nimi, nimi)) return rivi.tee(nullptr);
@@ -54,14 +60,22 @@ void QtIkkuna::Otsikko(const std::string& otsikko) {
 void QtIkkuna::Viimeistele() {
   JaaPikakirjaimet(*this);
   NimeaKentat(*this);
-  for (const char* nimi : {"cmdOk", "cmdJatka", "cmdSulje"})
-    if (auto* nappi = juuri_->findChild<QPushButton*>(nimi)) return nappi->setDefault(true);
+}
+
+/// Marks the button that Enter presses and takes the person to the first field to be filled. In the frame, since the
+/// toolkit would choose by itself.
+void QtIkkuna::Aloita() {
+  for (const char* nimi : {"cmdSulje", "cmdJatka", "cmdOk"})
+    if (auto* nappi = juuri_->findChild<QPushButton*>(nimi)) nappi->setDefault(true);
+  for (const auto& ohjain : Ohjaimet())
+    if (OnTaytettava(*ohjain)) return static_cast<QtOhjain&>(*ohjain).Widget()->setFocus(Qt::TabFocusReason);
 }
 
 Dialogikehys* QtIkkuna::TeeDialogi() {
   Irrota();
   Viimeistele();
   dialogi_ = new Dialogikehys(*this, juuri_, QApplication::activeWindow());
+  Aloita();
   return dialogi_;
 }
 
@@ -69,6 +83,7 @@ Alikehys* QtIkkuna::TeeAlikehys() {
   Viimeistele();
   alikehys_ = new Alikehys(*this, juuri_);
   alue_->addSubWindow(alikehys_);
+  Aloita();
   return alikehys_;
 }
 

@@ -27,6 +27,7 @@ class QtIkkuna : public Lomakeikkuna {
 
  private:
   void Viimeistele();
+  void Aloita();
   void Irrota();
   Dialogikehys* TeeDialogi();
   Alikehys* TeeAlikehys();

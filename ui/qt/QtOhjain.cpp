@@ -130,7 +130,7 @@ class QtTextBox : public QtOhjain {
     const bool luku = Lukittu() || Q(Tag()).section(',', 1, 1).compare(QLatin1String("n"), Qt::CaseInsensitive) == 0;
     if (luku) {
       kentta_.setAlignment(Qt::AlignRight);
-      kentta_.setMaximumWidth(kLuvunLeveys * kentta_.fontMetrics().horizontalAdvance('0'));
+      kentta_.setFixedWidth(kLuvunLeveys * kentta_.fontMetrics().horizontalAdvance('0'));
     }
     if (Lukittu()) {
       QPalette varit = kentta_.palette();

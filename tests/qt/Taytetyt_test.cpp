@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The forms filled with the figures of a large building. With LUMIVIRTA_KUVAT=<folder> their pictures are left there.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QLineEdit>
+#include <QTimer>
+#include <functional>
+
+#include "kernel/Luvut.h"
+#include "ui/frmJakaumaGraafi.h"
+#include "ui/frmLammonTuotonJaJaonHaviot.h"
+#include "ui/frmLampoYhteenveto.h"
+#include "ui/frmNormeeraamatonKulutus.h"
+#include "ui/frmPerustiedot.h"
+#include "ui/frmSplash.h"
+#include "ui/qt/QtIkkuna.h"
+
+namespace {
+
+void TallennaKuva(const Lomake& lomake) {
+  const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
+  if (kansio.isEmpty()) return;
+  QDir().mkpath(kansio);
+  QWidget* ikkuna = static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri()->window();
+  EXPECT_TRUE(ikkuna->grab().save(kansio + '/' + QString::fromStdString(lomake.Nimi()) + ".png"));
+}
+
+void OdotaMahtuvan(const Lomake& lomake) {
+  QCoreApplication::processEvents();
+  for (const QLineEdit* kentta : static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri()->findChildren<QLineEdit*>()) {
+    const int reunat = kentta->sizeHint().width() - 17 * kentta->fontMetrics().horizontalAdvance('x');
+    EXPECT_LE(kentta->fontMetrics().horizontalAdvance(kentta->text()) + reunat, kentta->width())
+        << kentta->objectName().toStdString() << ": " << kentta->text().toStdString();
+  }
+  TallennaKuva(lomake);
+}
+
+class Taytetyt : public ::testing::Test {
+ protected:
+  void SetUp() override { AsetaQtLomakkeet(nullptr); }
+  void TearDown() override { AsetaLomakesovitin(nullptr); }
+
+  /// Looks at a form while it is open as modal, then presses its button.
+  static void KunAuki(const char* nappi, const std::function<void(const Lomake&)>& katso) {
+    QTimer::singleShot(0, [=] {
+      Lomake& lomake = *AvoimetLomakkeet().back();
+      katso(lomake);
+      lomake.Etsi(nappi).KayttajaPainaa();
+    });
+  }
+};
+
+TEST_F(Taytetyt, PerustiedotMahtuvatKenttiinsa) {
+  frmPerustiedot lomake;
+  lomake.txtKohteenNimi.Teksti("Työväenopiston ja kirjaston yhteisrakennus, Åkerlundinkatu 12");
+  lomake.cmbKayttotarkoitus.Indeksi(24);
+  lomake.cmbPaikkakunta.Indeksi(13);
+  lomake.txtNormVuodenLammTarveLuku.Teksti("4719");
+  lomake.txtValmistumisVuosi.Teksti("1974");
+  lomake.txtKokonaistilavuus.Luku(1234567.89, "### ##0.00");
+  lomake.txtBruttoAla.Luku(345678.9, "### ##0.00");
+  for (const TextBox& kentta : {lomake.txtKylmanTilavuudenOsuus, lomake.txtKylmanAlanOsuus}) kentta.Teksti("12,5");
+  lomake.txtKerrostenLukumaara.Teksti("4");
+  lomake.txtKohteenHenkiloMaara.Teksti("1250");
+  lomake.txtPvm.Teksti("21.11.2026");
+  lomake.lblALV.Otsikko("Maksut sisältävät ALV:n");
+  for (std::size_t i = 0; i < 3; ++i) {
+    lomake.lblVuosi[i].Otsikko(std::to_string(2025 - i));
+    lomake.txtLammTarveLuku[i].Teksti("4444");
+    lomake.txtLampo[i].Luku(12345.67, "### ##0.00");
+    lomake.txtSahko[i].Luku(2345.67, "### ##0.00");
+    lomake.txtVesi[i].Luku(123456.78, "### ##0.00");
+  }
+  lomake.optVertailuvuosi[0].Valittu(true);
+  lomake.LaskeOminaiskulutukset();
+  lomake.Nayta();
+  OdotaMahtuvan(lomake);
+}
+
+TEST_F(Taytetyt, YhteenvetoMahtuuKenttiinsa) {
+  frmLampoYhteenveto lomake;
+  lomake.BruttoAla = 345678.9;
+  lomake.Kokonaistilavuus = 1234567.89;
+  const std::pair<const frmLampoYhteenveto::Rivi*, double> luvut[] = {{&lomake.txtTilojenLammitys, 123456.78},
+                                                                      {&lomake.txtIlmanvaihtokoneet, 34567.89},
+                                                                      {&lomake.txtKayttoVedenLammitys, 23456.78},
+                                                                      {&lomake.txtProsessiVedenLammitys, 1234.5},
+                                                                      {&lomake.txtMuuLampo, 0},
+                                                                      {&lomake.txtToteutunutKulutus, 178901.23}};
+  for (const auto& [rivi, arvo] : luvut) rivi->arvo.Luku(arvo, "### ##0.00");
+  lomake.txtSaatoHaviot.Teksti("12345,67890123");
+  lomake.txtLammonTuotonHaviot.Teksti("2345,67890123");
+  lomake.Laske();
+  lomake.Nayta();
+  OdotaMahtuvan(lomake);
+}
+
+TEST_F(Taytetyt, PienetLomakkeetMahtuvatKenttiinsa) {
+  frmSplash alku;
+  alku.lblVersio.Otsikko("2.0.1 SP2");
+  alku.Nayta();
+  OdotaMahtuvan(alku);
+
+  KunAuki("cmdPeruuta", OdotaMahtuvan);
+  double kk = 1234.56, vuosi = 14814.72;
+  EXPECT_FALSE(frmNormeeraamatonKulutus().Kysy(kk, vuosi));
+
+  KunAuki("cmdSulje", OdotaMahtuvan);
+  frmLammonTuotonJaJaonHaviot().NaytaHaviot(182716, -3814.72, 12345.67, 2345.67);
+
+  KunAuki("cmdSulje", TallennaKuva);
+  frmJakaumaGraafi().NaytaJakauma("Työväenopiston ja kirjaston yhteisrakennus",
+                                  {"Tilojen lämmitys", "Ilmanvaihtokoneiden jälkilämmitys", "Käyttöveden lämmitys",
+                                   "Prosessiveden lämmitys", "Muu lämpö"},
+                                  {123456.78, 34567.89, 23456.78, 1234.5, 0});
+}
+
+}  // namespace
