@@ -3,7 +3,7 @@
 #include "kernel/Kokoelma.h"
 
 /// A keyed collection that keeps a second list beside its items: the rows of its display tree. A row bears its parent's
-/// key in `Parent` and its caption in `NimiTeksti`; the parent of the root row is empty.
+/// key in `Parent`, its kind in `ItemTyyppi` and its caption in `NimiTeksti`; the parent of the root row is empty.
 template <class T, class Rivi>
 class RivillinenKokoelma : public Kokoelma<T> {
  public:
@@ -17,15 +17,14 @@ class RivillinenKokoelma : public Kokoelma<T> {
   const Sailio<Rivi>& ListaItems() const noexcept { return listaItemit_; }
 
  protected:
-  /// Where a new row stands in the list.
-  enum class Kohta { Loppu, VanhemmanJalkeen };
-
-  /// Makes a row, with the empty key one without a key. Behind its parent row the newest child stands first; a row
-  /// without a key or a parent, or whose parent has no row, goes to the end.
-  Rivi& LisaaRivi(const Tunniste& sKey, const Tunniste& Parent, std::string NimiTeksti, Kohta kohta) {
-    const bool vanhemmanJalkeen = kohta == Kohta::VanhemmanJalkeen && !sKey.Tyhja() && !Parent.Tyhja();
+  /// Makes a row, with the empty key one without a key: right behind its parent row, so that the newest child stands
+  /// first, or at the end if `loppuun`, if it has no key or parent, or if the parent has no row.
+  Rivi& LisaaRivi(const Tunniste& sKey, const Tunniste& Parent, decltype(Rivi::ItemTyyppi) ItemTyyppi,
+                  std::string NimiTeksti, bool loppuun) {
+    const bool vanhemmanJalkeen = !loppuun && !sKey.Tyhja() && !Parent.Tyhja();
     Rivi& rivi = vanhemmanJalkeen ? listaItemit_.LisaaJalkeen(Parent, sKey) : listaItemit_.Add(sKey);
     rivi.Parent = Parent;
+    rivi.ItemTyyppi = ItemTyyppi;
     rivi.NimiTeksti = std::move(NimiTeksti);
     return rivi;
   }

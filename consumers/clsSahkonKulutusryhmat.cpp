@@ -35,9 +35,7 @@ const Luokka clsSahkonKulutusryhmat::kLuokka{"clsSahkonKulutusryhmat", kJasenet}
 clsSahkoListaItem& clsSahkonKulutusryhmat::AddListaItem(const Tunniste& sKey, const Tunniste& Parent,
                                                         std::int16_t ItemTyyppi, std::string NimiTeksti,
                                                         double Vuosikulutus, bool loppuun) try {
-  const Kohta kohta = loppuun ? Kohta::Loppu : Kohta::VanhemmanJalkeen;
-  clsSahkoListaItem& rivi = LisaaRivi(sKey, Parent, std::move(NimiTeksti), kohta);
-  rivi.ItemTyyppi = ItemTyyppi;
+  clsSahkoListaItem& rivi = LisaaRivi(sKey, Parent, ItemTyyppi, std::move(NimiTeksti), loppuun);
   rivi.Vuosikulutus = Vuosikulutus;
   return rivi;
 } catch (...) {

@@ -49,10 +49,7 @@ clsVedenKulutusryhma& clsVedenKulutusryhmat::Add(const Tunniste& sKey, std::int1
 clsVesiListaItem& clsVedenKulutusryhmat::AddListaItem(const Tunniste& sKey, const Tunniste& Parent,
                                                       std::int16_t ItemTyyppi, std::string NimiTeksti,
                                                       bool loppuun) try {
-  const Kohta kohta = loppuun ? Kohta::Loppu : Kohta::VanhemmanJalkeen;
-  clsVesiListaItem& rivi = LisaaRivi(sKey, Parent, std::move(NimiTeksti), kohta);
-  rivi.ItemTyyppi = ItemTyyppi;
-  return rivi;
+  return LisaaRivi(sKey, Parent, ItemTyyppi, std::move(NimiTeksti), loppuun);
 } catch (...) {
   NostaVirhe("clsVedenKulutusryhmat:AddListaItem Method");
 }

@@ -16,9 +16,7 @@ const Luokka clsSaastotoimenpiteet::kLuokka{"clsSaastotoimenpiteet", kJasenet, L
 
 clsSaastoToimenpideListaItem& clsSaastotoimenpiteet::AddListaItem(const Tunniste& sKey, const Tunniste& Parent,
                                                                   std::string NimiTeksti, std::int32_t ItemTyyppi) try {
-  clsSaastoToimenpideListaItem& solmu = LisaaRivi(sKey, Parent, std::move(NimiTeksti), Kohta::Loppu);
-  solmu.ItemTyyppi = ItemTyyppi;
-  return solmu;
+  return LisaaRivi(sKey, Parent, ItemTyyppi, std::move(NimiTeksti), true);
 } catch (...) {
   NostaVirhe("clsSaastotoimenpiteet:AddListaItem Method");
 }
