@@ -39,7 +39,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kVarakopio = "~backup1lvt.old";
-constexpr std::string_view kSailytetynAlku = "~backup1lvt ";
 constexpr std::size_t kSailytettavia = 5;
 
 using Syy = Projektivirhe::Syy;
@@ -84,20 +83,22 @@ void Levylle(const fs::path& polku) {
 
 std::string VarakopionPolku() { return AppPath() + std::string(kVarakopio); }
 
-fs::path SailytetynPolku(const fs::path& varakopio) {
+std::string SailytettyjenAlku(const fs::path& tiedosto) { return tiedosto.stem().string() + " "; }
+
+fs::path SailytetynPolku(const fs::path& tiedosto) {
   struct stat tiedot {};
-  stat(varakopio.c_str(), &tiedot);
+  stat(tiedosto.c_str(), &tiedot);
   char aika[32];
   tm paikallinen{};
   std::strftime(aika, sizeof aika, "%Y-%m-%d %H.%M.%S", localtime_r(&tiedot.st_mtime, &paikallinen));
-  return varakopio.parent_path() / (std::string(kSailytetynAlku) + aika + ".old");
+  return tiedosto.parent_path() / (SailytettyjenAlku(tiedosto) + aika + tiedosto.extension().string());
 }
 
 /// The last five stay; their names sort by time.
-void KarsiSailytetyt() {
+void KarsiSailytetyt(const fs::path& tiedosto) {
   std::vector<fs::path> sailytetyt;
-  for (const auto& tiedosto : fs::directory_iterator(AppPath()))
-    if (tiedosto.path().filename().string().starts_with(kSailytetynAlku)) sailytetyt.push_back(tiedosto.path());
+  for (const auto& toinen : fs::directory_iterator(tiedosto.parent_path()))
+    if (toinen.path().filename().string().starts_with(SailytettyjenAlku(tiedosto))) sailytetyt.push_back(toinen.path());
   std::ranges::sort(sailytetyt);
   while (sailytetyt.size() > kSailytettavia) {
     fs::remove(sailytetyt.front());
@@ -105,11 +106,12 @@ void KarsiSailytetyt() {
   }
 }
 
-void SailytaLukittuna() {
-  const fs::path varakopio = VarakopionPolku();
-  if (!fs::exists(varakopio)) return;
-  fs::rename(varakopio, SailytetynPolku(varakopio));
-  KarsiSailytetyt();
+std::string SailytaLukittuna(const fs::path& tiedosto) {
+  if (!fs::exists(tiedosto)) return {};
+  const fs::path sailytetty = SailytetynPolku(tiedosto);
+  fs::rename(tiedosto, sailytetty);
+  KarsiSailytetyt(tiedosto);
+  return sailytetty.string();
 }
 
 /// Copies the project aside, if there is one. Runs on the second thread.
@@ -188,7 +190,7 @@ void KorvaaTurvallisesti(const std::string& tiedosto, const std::string& malli, 
   const fs::path kohde = fs::is_symlink(tiedosto) ? fs::weakly_canonical(tiedosto) : fs::path(tiedosto);
   const Lukitus lukko;
   Uusi uusi(kohde, LueMalli(malli));
-  SailytaLukittuna();
+  SailytaLukittuna(VarakopionPolku());
   std::future<void> kopiointi = std::async(std::launch::async, KopioiVanha, kohde, sailytaEnnen);
   rakenna(uusi.Polku().string());
   kopiointi.get();
@@ -203,7 +205,9 @@ std::string JaanytVarakopio() {
   return fs::exists(VarakopionPolku()) ? VarakopionPolku() : std::string();
 }
 
-void SailytaVarakopio() {
+std::string SailytaAjalla(const std::string& tiedosto) {
   const Lukitus lukko;
-  SailytaLukittuna();
+  return SailytaLukittuna(tiedosto);
 }
+
+std::string SailytaVarakopio() { return SailytaAjalla(VarakopionPolku()); }

@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Istunto.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "building/Mallivaraus.h"
+#include "building/Yhteiset.h"
+#include "building/modAlkuarvojaRakennukseen.h"
+#include "kernel/Hakemistot.h"
+#include "kernel/Kirjainkoko.h"
+#include "kernel/Kirjoitussuoja.h"
+#include "kernel/Projektitiedosto.h"
+#include "kernel/Versio.h"
+#include "kernel/Virhe.h"
+#include "ui/Lomake.h"
+#include "ui/Odotus.h"
+#include "ui/Paaikkuna.h"
+#include "ui/Tekstivarasto.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kPaate = ".lvt";
+constexpr const char* kPalautus = "~palautus.lvt";
+constexpr std::size_t kPolkuOtsikossa = 75, kPolkuKysymyksessa = 50;
+constexpr int kUudenPaikkakunta = 1;
+
+/// The texts in a row, a blank between them.
+std::string Tekstit(std::initializer_list<int> tunnukset) {
+  std::string tulos;
+  for (const int tunnus : tunnukset) tulos += (tulos.empty() ? "" : " ") + Teksti(tunnus);
+  return tulos;
+}
+
+Vastaus Kysy(std::string teksti, int otsikko, Napit napit, Vastaus oletus, Vakavuus vakavuus = Vakavuus::Kysymys) {
+  return ViestitNyt().Nayta({std::move(teksti), otsikko ? Teksti(otsikko) : std::string(), vakavuus, napit, oletus});
+}
+
+/// Refuses a command while the model is reserved.
+bool EstaaVaraus() {
+  if (!MalliVarattu()) return false;
+  Ilmoita(Teksti(9515), Teksti(9101));
+  return true;
+}
+
+bool OnKohdetiedostonNimi(const std::string& tiedosto) {
+  const std::size_t alku = tiedosto.size() < 3 ? 0 : tiedosto.size() - 3;
+  return SamaNimi(std::string_view(tiedosto).substr(alku), "lvt");
+}
+
+/// The name with the extension that opening asks for.
+std::string Paatteella(const std::string& tiedosto) {
+  return SamaNimi(fs::path(tiedosto).extension().string(), kPaate) ? tiedosto : tiedosto + kPaate;
+}
+
+std::string PalautuksenPolku() { return AppPath() + kPalautus; }
+
+/// The file's version allows opening. A file that isn't a project, or a newer one, is told of and refused; an older one
+/// is told of.
+bool VersioKay(const std::string& tiedosto) try {
+  const Tiedostoversio versio = HaeTiedostonVersio(tiedosto);
+  const std::string teksti =
+      Teksti(9222) + " " + std::to_string(versio.Major) + "." + std::to_string(versio.Minor) + ".xx ";
+  if (versio.Major > kVersioMajor || versio.Minor > kVersioMinor) {
+    Ilmoita(teksti + Teksti(9223), Teksti(9101), Vakavuus::Varoitus);
+    return false;
+  }
+  if (versio.Major < kVersioMajor || versio.Minor < kVersioMinor)
+    Ilmoita(teksti + Tekstit({9224, 9225, 9226}), Teksti(9101));
+  return true;
+} catch (const Projektivirhe& virhe) {
+  Ilmoita(Teksti(9501) + "\n\n" + virhe.what(), Teksti(9100), Vakavuus::Virhe);
+  return false;
+}
+
+}  // namespace
+
+Istunto::~Istunto() { SuljeKohde(); }
+
+std::string Istunto::Tiedosto() const {
+  return rakennus_ ? rakennus_->ProjektiAsetukset.strCurrentProjectFile : std::string();
+}
+
+void Istunto::mnuFileNew_Click() {
+  if (EstaaVaraus()) return;
+  Odotus odotus;
+  if (!VoiVaihtaa()) return;
+  auto uusi = std::make_unique<clsRakennus>();
+  uusi->Saa.AsetaSaaPaikkakunta(kUudenPaikkakunta);
+  Vaihda(std::move(uusi));
+  AlustaPerustiedot(rakennus_->Perustiedot);
+  AlustaToteutuneetKulutukset(rakennus_->Perustiedot.ToteutuneetKulutukset);
+  PaaikkunaNyt().AsetaOtsikko(Teksti(1001));
+  rakennus_->Tallennettu = true;
+  NaytaPerustiedot();
+}
+
+void Istunto::mnuFileOpen_Click() {
+  if (EstaaVaraus()) return;
+  Odotus odotus;
+  if (!VoiVaihtaa()) return;
+  const auto tiedosto = ViestitNyt().KysyAvattavaTiedosto(Teksti(1132), Teksti(1130));
+  if (tiedosto && Avaa(*tiedosto)) NaytaPerustiedot();
+}
+
+/// An object that doesn't take shape, for the person cancels its first dialog or an error comes, is dropped.
+void Istunto::NaytaPerustiedot() try {
+  if (!rakennus_->Perustiedot.NaytaKayttoliityma()) SuljeKohde();
+} catch (...) {
+  if (!KohdeValmis()) SuljeKohde();
+  throw;
+}
+
+/// The question of New and Open. After No the forms of the object are closed: nothing is entered into it any more.
+bool Istunto::VoiVaihtaa() {
+  const std::string nimi = rakennus_ ? rakennus_->Perustiedot.KohteenNimi : std::string();
+  const bool saa = VoiLuopua({Teksti(9000) + " " + nimi + " " + Teksti(9001), Teksti(9002), Vakavuus::Kysymys,
+                              Napit::KyllaEiPeruuta, Vastaus::Kylla});
+  if (saa && rakennus_ && !rakennus_->Tallennettu) SuljeLomakkeet();
+  return saa;
+}
+
+/// True when the object is saved, or gets saved now, or the person gives it up.
+bool Istunto::VoiLuopua(const Viesti& kysymys) {
+  if (!rakennus_ || rakennus_->Tallennettu) return true;
+  const Vastaus vastaus = ViestitNyt().Nayta(kysymys);
+  if (vastaus != Vastaus::Kylla) return vastaus == Vastaus::Ei;
+  mnuFileSave_Click();
+  return rakennus_ && rakennus_->Tallennettu;
+}
+
+bool Istunto::Avaa(const std::string& tiedosto) { return VoiAvata(tiedosto) && Lataa(tiedosto); }
+
+bool Istunto::VoiAvata(const std::string& tiedosto) const {
+  if (!OnKohdetiedostonNimi(tiedosto)) {
+    Ilmoita(Teksti(1156), Teksti(9101), Vakavuus::Varoitus);
+    return false;
+  }
+  const std::string kaytossa =
+      Teksti(1153) + " " + LyhennaPolku(tiedosto, kPolkuKysymyksessa) + " " + Teksti(1157) + "\n" + Teksti(1158);
+  if (OnKirjoitussuojattu(tiedosto) && !OnOmaTiedosto(tiedosto) &&
+      Kysy(kaytossa, 1155, Napit::KyllaEi, Vastaus::Ei, Vakavuus::Varoitus) == Vastaus::Ei)
+    return false;
+  return VersioKay(tiedosto);
+}
+
+bool Istunto::OnOmaTiedosto(const std::string& tiedosto) const {
+  std::error_code virhe;
+  return fs::equivalent(tiedosto, Tiedosto(), virhe) && !virhe;
+}
+
+void Istunto::Vaihda(std::unique_ptr<clsRakennus> rakennus) {
+  SuljeKohde();
+  rakennus_ = std::move(rakennus);
+  AsetaGlobaaliRakennus(rakennus_.get());
+}
+
+/// An object that could be read only in part stays, as one without a file: saving it can't replace what is good in the
+/// file. One that has no measured consumption isn't even a part.
+bool Istunto::Lataa(const std::string& tiedosto) {
+  Vaihda(std::make_unique<clsRakennus>());
+  try {
+    rakennus_->Hae(tiedosto);
+  } catch (const Virhe& virhe) {
+    Ilmoita(virhe.Kuvaus() + "\n" + virhe.SyynKuvaus(), Teksti(9100), Vakavuus::Virhe);
+    AsetaTiedosto({});
+    rakennus_->Tallennettu = false;
+  }
+  Merkitse(tiedosto);
+  if (rakennus_->Perustiedot.ToteutuneetKulutukset.Count() > 0) return true;
+  Ilmoita(Teksti(9500), Teksti(9100), Vakavuus::Virhe);
+  SuljeKohde();
+  return false;
+}
+
+void Istunto::SuljeKohde() {
+  PoistaMerkki();
+  if (!rakennus_) return;
+  SuljeLomakkeet();
+  AsetaTiedosto({});
+  rakennus_->Delete();
+  rakennus_.reset();
+}
+
+void Istunto::mnuFileSave_Click() {
+  if (!rakennus_ || EstaaVaraus() || TarjoaVarakopio()) return;
+  if (Tiedosto().empty()) return TallennaNimella();
+  Tallenna(Tiedosto());
+}
+
+void Istunto::mnuFileSaveAs_Click() {
+  if (!rakennus_ || EstaaVaraus() || TarjoaVarakopio()) return;
+  TallennaNimella();
+}
+
+void Istunto::TallennaNimella() {
+  const auto valittu = ViestitNyt().KysyTallennettavaTiedosto(Teksti(1131), Teksti(1130));
+  if (!valittu) return;
+  const std::string tiedosto = Paatteella(*valittu);
+  if (fs::exists(tiedosto)) {
+    if (Kysy(Teksti(1150) + tiedosto + Teksti(1151), 1152, Napit::KyllaEiPeruuta, Vastaus::Ei) != Vastaus::Kylla)
+      return;
+    if (OnKirjoitussuojattu(tiedosto))
+      return Ilmoita(Teksti(1153) + " " + tiedosto + " " + Teksti(1154), Teksti(9101), Vakavuus::Varoitus);
+  }
+  const std::string entinen = Tiedosto();
+  AsetaTiedosto(tiedosto);
+  if (Tallenna(tiedosto)) return;
+  PoistaMerkki();
+  AsetaTiedosto(entinen);
+  Merkitse(entinen);
+}
+
+bool Istunto::Tallenna(const std::string& tiedosto) {
+  PoistaMerkki();
+  const bool onnistui = rakennus_->Tallenna(tiedosto);
+  Merkitse(tiedosto);
+  return onnistui;
+}
+
+/// Takes the name as the object's own and shows it in the caption.
+void Istunto::AsetaTiedosto(const std::string& tiedosto) {
+  rakennus_->ProjektiAsetukset.strCurrentProjectFile = tiedosto;
+  rakennus_->ProjektiAsetukset.strCurrentProjectPath = fs::path(tiedosto).parent_path().string();
+  PaaikkunaNyt().AsetaOtsikko({});
+}
+
+void Istunto::Merkitse(const std::string& tiedosto) {
+  merkitty_ = tiedosto;
+  AsetaKirjoitussuoja(tiedosto);
+}
+
+void Istunto::PoistaMerkki() {
+  if (!merkitty_.empty()) PoistaKirjoitussuoja(std::exchange(merkitty_, {}));
+}
+
+bool Istunto::QueryUnload(bool istuntoPaattyy) {
+  if (EstaaVaraus()) return false;
+  const Napit napit = istuntoPaattyy ? Napit::KyllaEi : Napit::KyllaEiPeruuta;
+  if (!VoiLuopua({Teksti(9003), Teksti(9002), Vakavuus::Kysymys, napit, Vastaus::Kylla})) return false;
+  PoistaMerkki();
+  return true;
+}
+
+bool Istunto::TarjoaJaaneet() {
+  const std::string palautus = PalautuksenPolku();
+  return (fs::exists(palautus) && Tarjoa(palautus, 9518)) || TarjoaVarakopio();
+}
+
+bool Istunto::TarjoaVarakopio() {
+  const std::string varakopio = JaanytVarakopio();
+  return !varakopio.empty() && Tarjoa(varakopio, 9502);
+}
+
+/// Whatever the answer, the file is first put aside under a name of its own, where no later save replaces it.
+bool Istunto::Tarjoa(const std::string& tiedosto, int kysymys) {
+  const std::string talteen = SailytaAjalla(tiedosto);
+  if (Kysy(Teksti(kysymys), 9101, Napit::KyllaEi, Vastaus::Ei) == Vastaus::Ei) {
+    Ilmoita(Teksti(9503) + " " + talteen, Teksti(9101));
+    return false;
+  }
+  if (!VoiVaihtaa() || !VersioKay(talteen)) return false;
+  LataaTalteenotettu(talteen);
+  return true;
+}
+
+/// Opens it as an object that has no file and isn't saved.
+void Istunto::LataaTalteenotettu(const std::string& tiedosto) {
+  if (!Lataa(tiedosto)) return;
+  PoistaMerkki();
+  AsetaTiedosto({});
+  rakennus_->Tallennettu = false;
+  NaytaPerustiedot();
+}
+
+void Istunto::OtaTalteen() try {
+  if (rakennus_ && !rakennus_->Tallennettu) TallennaProjekti(*rakennus_, PalautuksenPolku());
+} catch (const std::exception&) {
+}
+
+void Istunto::PoistaTalteenotettu() {
+  std::error_code virhe;
+  fs::remove(PalautuksenPolku(), virhe);
+}
+
+std::string PaaikkunanOtsikko(const std::string& teksti) {
+  const clsRakennus* rakennus = GlobaaliRakennus();
+  std::string loppu = teksti;
+  if (loppu.empty() && rakennus)
+    loppu = LyhennaPolku(rakennus->ProjektiAsetukset.strCurrentProjectFile, kPolkuOtsikossa);
+  return loppu.empty() ? Teksti(1081) : Teksti(1081) + " - " + loppu;
+}

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Ohjelma.h"
+
+#include <QApplication>
+#include <QSessionManager>
+#include <QTimer>
+#include <chrono>
+#include <iostream>
+#include <string>
+
+#include "kernel/Hakemistot.h"
+#include "kernel/Versio.h"
+#include "settings/clsLumivirtaAsetukset.h"
+#include "ui/KerataanViestit.h"
+#include "ui/Komento.h"
+#include "ui/Lomakekaannos.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/qt/QtIkkuna.h"
+
+namespace {
+
+constexpr std::chrono::milliseconds kUusiYritys{100};
+
+std::string Versioteksti() {
+  return std::to_string(kVersioMajor) + "." + std::to_string(kVersioMinor) + "." + std::to_string(kVersioRevision) +
+         " SP2 Win NT 4.0, Win 95, 2000";
+}
+
+/// Data directory and texts: what everything else, the first message too, needs.
+void LueAineistot() {
+  const Siemennys siemennys = SiemennaTiedostot();
+  AlustaTekstit();
+  if (!siemennys.virhe.empty())
+    Ilmoita(Teksti(9505) + " " + AppPath() + "\n" + siemennys.virhe, Teksti(9100), Vakavuus::Varoitus);
+}
+
+void LueAsetukset() {
+  PaivitaKaynnistyksessa();
+  Asetukset().HaeRekisteristä();
+  AsetaRahayksikko(Asetukset().strDefaultCurrencyUnit);
+}
+
+std::unique_ptr<frmSplash> TeeAlkuikkuna() {
+  auto alku = std::make_unique<frmSplash>();
+  alku->lblVersio.Otsikko(Versioteksti());
+  alku->cmdJatka.Kaytossa(false);
+  return alku;
+}
+
+/// A command that waits for the person in a dialog may be left; one that computes or writes may not.
+bool KomentoKesken() { return KomentoKaynnissa() && !QApplication::activeModalWidget(); }
+
+}  // namespace
+
+Ohjelma::Ohjelma() : lopetussignaali_([this] { Lopeta(); }) {
+  const Odotus odotus;
+  LueAineistot();
+  AsetaQtLomakkeet(nullptr);
+  frmSplash_ = TeeAlkuikkuna();
+  frmSplash_->Nayta();
+  viestit_.AnnaPiirtaa();
+  paaikkuna_ = std::make_unique<frmMain>(istunto_);
+  viestit_.AsetaPaneelinNaytto([this](const std::string& teksti) { paaikkuna_->AsetaPaneeli(teksti); });
+  viestit_.AsetaPaneeli(Teksti(1092));
+  SuoritaKomento(LueAsetukset);
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, paaikkuna_.get(), [this](QSessionManager& istunto) {
+    if (istunto.allowsInteraction() && !paaikkuna_->IstuntoPaattyy()) istunto.cancel();
+  });
+  QTimer::singleShot(0, paaikkuna_.get(), [this] { Nayta(); });
+}
+
+Ohjelma::~Ohjelma() { istunto_.SuljeKohde(); }
+
+void Ohjelma::Nayta() {
+  paaikkuna_->show();
+  viestit_.AnnaPiirtaa();
+  frmSplash_->Sulje();
+  bool avattu = false;
+  SuoritaKomento([&] { avattu = istunto_.TarjoaJaaneet(); });
+  if (!avattu) NaytaAlkuikkuna();
+  frmSplash_.reset();
+  paaikkuna_->PaivitaValikot();
+}
+
+/// Closing the start window without its button leaves the choice to the menus.
+void Ohjelma::NaytaAlkuikkuna() {
+  bool jatketaan = false;
+  frmSplash_->JatkaKlikattu = [&] {
+    jatketaan = true;
+    frmSplash_->Sulje();
+  };
+  frmSplash_->cmdJatka.Kaytossa(true);
+  frmSplash_->NaytaModaalisena();
+  if (jatketaan) ValitseAlku(frmSplash_->Option1.Valittu());
+}
+
+void Ohjelma::ValitseAlku(bool uusi) {
+  SuoritaKomento([&] { uusi ? istunto_.mnuFileNew_Click() : istunto_.mnuFileOpen_Click(); });
+}
+
+void Ohjelma::Lopeta() {
+  if (lopetetaan_) return;
+  if (KomentoKesken()) return QTimer::singleShot(kUusiYritys, paaikkuna_.get(), [this] { Lopeta(); });
+  lopetetaan_ = true;
+  istunto_.OtaTalteen();
+  if (paaikkuna_->IstuntoPaattyy()) {
+    istunto_.PoistaTalteenotettu();
+    QApplication::exit();
+  }
+  lopetetaan_ = false;
+}
+
+int KuvaaPaaikkuna(const std::string& kuva, const std::string& avattava) {
+  KerataanViestit viestit;
+  AsetaViestit(&viestit);
+  bool onnistui = false;
+  SuoritaKomento([&] {
+    LueAineistot();
+    Istunto istunto;
+    frmMain ikkuna(istunto);
+    LueAsetukset();
+    ikkuna.AsetaPaneeli(Teksti(1092));
+    ikkuna.show();
+    if (!avattava.empty() && istunto.Avaa(avattava)) istunto.Rakennus()->NaytaLampoYhteenvetoDlg();
+    ikkuna.PaivitaValikot();
+    QApplication::processEvents();
+    onnistui = ikkuna.grab().save(QString::fromStdString(kuva));
+    istunto.SuljeKohde();
+  });
+  for (const Viesti& viesti : viestit.Naytetyt()) std::cerr << viesti.teksti << '\n';
+  AsetaViestit(nullptr);
+  return onnistui ? 0 : 1;
+}

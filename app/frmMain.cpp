@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/frmMain.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "app/Ikkunapaikka.h"
+#include "app/Istunto.h"
+#include "ui/Komento.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
+#include "ui/qt/QtIkkuna.h"
+
+namespace {
+
+QString Q(const std::string& teksti) { return QString::fromStdString(teksti); }
+
+/// A caption without a marked letter gets its first one: the store's text may also be used without a menu.
+QString Valikkoteksti(int tunnus) {
+  const QString teksti = Q(Teksti(tunnus));
+  return teksti.contains('&') ? teksti : '&' + teksti;
+}
+
+}  // namespace
+
+frmMain::frmMain(Istunto& istunto) : istunto_(istunto), alue_(this), paneeli_(this) {
+  setObjectName("frmMain");
+  setCentralWidget(&alue_);
+  alue_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  alue_.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  statusBar()->setObjectName("sbStatusBar");
+  statusBar()->addWidget(&paneeli_, 1);
+  LuoValikot();
+  connect(&alue_, &QMdiArea::subWindowActivated, this, &frmMain::PaivitaValikot);
+  PalautaPaikka(*this);
+  AsetaQtLomakkeet(&alue_);
+  AsetaPaaikkuna(this);
+  AsetaOtsikko({});
+  PaivitaValikot();
+}
+
+frmMain::~frmMain() {
+  alue_.disconnect(this);
+  AsetaPaaikkuna(nullptr);
+  AsetaQtLomakkeet(nullptr);
+}
+
+void frmMain::AsetaOtsikko(const std::string& teksti) { setWindowTitle(Q(PaaikkunanOtsikko(teksti))); }
+
+void frmMain::AsetaPaneeli(const std::string& teksti) { paneeli_.setText(Q(teksti)); }
+
+void frmMain::TyokalutKaytossa(int maara, bool kaytossa) {
+  for (QAction* nappi : tyokalut_->actions())
+    if (maara-- > 0) nappi->setEnabled(kaytossa);
+}
+
+void frmMain::LuoValikot() {
+  tyokalut_ = addToolBar(Q(Teksti(1081)));
+  tyokalut_->setObjectName("tbToolBar");
+  tyokalut_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  tyokalut_->setMovable(false);
+  tyokalut_->setContextMenuPolicy(Qt::PreventContextMenu);
+  for (const Paavalikko& paavalikko : Paavalikot()) {
+    QMenu& valikko = LuoValikko(paavalikko);
+    for (const Valikkorivi& rivi : Valikkorivit()) {
+      if (std::string_view(rivi.valikko) != paavalikko.ohjain) continue;
+      *rivi.ohjain ? LuoToiminto(rivi, valikko) : static_cast<void>(valikko.addSeparator());
+    }
+  }
+}
+
+QMenu& frmMain::LuoValikko(const Paavalikko& paavalikko) {
+  QMenu& valikko = *menuBar()->addMenu(Valikkoteksti(paavalikko.teksti));
+  valikko.setObjectName(paavalikko.ohjain);
+  connect(&valikko, &QMenu::aboutToShow, this, &frmMain::PaivitaValikot);
+  return valikko;
+}
+
+void frmMain::LuoToiminto(const Valikkorivi& rivi, QMenu& valikko) {
+  QAction& toiminto = *valikko.addAction(Valikkoteksti(rivi.teksti), this, [this, &rivi] { Suorita(rivi); });
+  toiminto.setObjectName(rivi.ohjain);
+  toiminto.setShortcut(QKeySequence(rivi.nappaimet));
+  toiminnot_.push_back({rivi, toiminto});
+  if (!*rivi.tyokalu) return;
+  toiminto.setIcon(style()->standardIcon(rivi.kuvake));
+  const QString nappaimet = toiminto.shortcut().toString(QKeySequence::NativeText);
+  toiminto.setToolTip(Q(Teksti(rivi.tyokaluvihje)) + " (" + nappaimet + ')');
+  tyokalut_->addAction(&toiminto);
+}
+
+void frmMain::PaivitaValikot() {
+  for (const Toiminto& t : toiminnot_) t.toiminto.setEnabled(!t.rivi.kaytossa || t.rivi.kaytossa(*this));
+}
+
+void frmMain::Suorita(const Valikkorivi& rivi) {
+  SuoritaKomento([&] { rivi.toiminto(*this); });
+  PaivitaValikot();
+}
+
+void frmMain::mnuFileExit_Click() { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); }
+
+bool frmMain::QueryUnload(bool istuntoPaattyy) {
+  bool saa = false;
+  SuoritaKomento([&] { saa = istunto_.QueryUnload(istuntoPaattyy); });
+  return saa;
+}
+
+bool frmMain::IstuntoPaattyy() {
+  if (!QueryUnload(true)) return false;
+  MDIForm_Unload();
+  return true;
+}
+
+void frmMain::MDIForm_Unload() {
+  SuoritaKomento([this] { TallennaPaikka(*this); });
+}
+
+/// The window system may ask for closing while a calculation lets the windows paint.
+void frmMain::closeEvent(QCloseEvent* tapahtuma) {
+  tapahtuma->ignore();
+  if (KomentoKaynnissa()) return ViestitNyt().AsetaPaneeli(Teksti(9515));
+  if (!QueryUnload(false)) return PaivitaValikot();
+  MDIForm_Unload();
+  tapahtuma->accept();
+}

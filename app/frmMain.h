@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <QAction>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <vector>
+
+#include "app/Valikkotaulu.h"
+#include "ui/Paaikkuna.h"
+
+class Istunto;
+
+/// The main window: what the auditor can open, by menus and tool bar, and the area of the forms. Its commands are the
+/// rows of Valikkotaulu.h. Makes the forms real windows in its area and is the main window of the model for its life.
+class frmMain : public QMainWindow, public Paaikkuna {
+ public:
+  explicit frmMain(Istunto& istunto);
+  ~frmMain() override;
+
+  Istunto& Kohteet() const { return istunto_; }
+
+  void AsetaOtsikko(const std::string& teksti) override;
+  void TyokalutKaytossa(int maara, bool kaytossa) override;
+  /// Text of the first panel of the status bar.
+  void AsetaPaneeli(const std::string& teksti);
+  /// Enables the entries by the present object and forms: when a menu opens and after each command.
+  void PaivitaValikot();
+
+  /// Closes the window once the command has come to its end.
+  void mnuFileExit_Click();
+  /// The person's session at the desktop ends. True when the program may end; its place is then stored.
+  bool IstuntoPaattyy();
+
+ protected:
+  void closeEvent(QCloseEvent* tapahtuma) override;
+
+ private:
+  void LuoValikot();
+  QMenu& LuoValikko(const Paavalikko& valikko);
+  void LuoToiminto(const Valikkorivi& rivi, QMenu& valikko);
+  void Suorita(const Valikkorivi& rivi);
+  bool QueryUnload(bool istuntoPaattyy);
+  void MDIForm_Unload();
+
+  Istunto& istunto_;
+  QMdiArea alue_;
+  QLabel paneeli_;
+  QToolBar* tyokalut_ = nullptr;
+  struct Toiminto {
+    const Valikkorivi& rivi;
+    QAction& toiminto;
+  };
+  std::vector<Toiminto> toiminnot_;
+};

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window program. LUMIVIRTA_KUVA=<png> draws a picture of the main window and ends; LUMIVIRTA_AVAA=<project file>
+// is then opened for it.
+#include <QApplication>
+
+#include "app/Ohjelma.h"
+#include "ui/qt/QtViestit.h"
+
+int main(int argc, char** argv) {
+  QApplication sovellus(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Lumivirta"));
+  AsennaSuomennos();
+  if (const QString kuva = qEnvironmentVariable("LUMIVIRTA_KUVA"); !kuva.isEmpty())
+    return KuvaaPaaikkuna(kuva.toStdString(), qEnvironmentVariable("LUMIVIRTA_AVAA").toStdString());
+  Ohjelma ohjelma;
+  return QApplication::exec();
+}

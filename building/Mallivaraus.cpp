@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/Mallivaraus.h"
+
+namespace {
+int g_varauksia = 0;
+}
+
+Mallivaraus::Mallivaraus() noexcept { ++g_varauksia; }
+Mallivaraus::~Mallivaraus() { --g_varauksia; }
+
+bool MalliVarattu() noexcept { return g_varauksia > 0; }
