@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real windows under real events: keyboard, wheel, closing, messages.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include "kernel/Virhe.h"
+#include "ui/Komento.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/frmJakaumaGraafi.h"
+#include "ui/frmLampoYhteenveto.h"
+#include "ui/frmNormeeraamatonKulutus.h"
+#include "ui/frmPerustiedot.h"
+#include "ui/qt/QtIkkuna.h"
+#include "ui/qt/QtViestit.h"
+
+namespace {
+
+class Tapahtumat : public ::testing::Test {
+ protected:
+  void SetUp() override { AsetaQtLomakkeet(nullptr); }
+  void TearDown() override { AsetaLomakesovitin(nullptr); }
+
+  template <class W>
+  static W& Etsi(const Lomake& lomake, const char* nimi) {
+    return *static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri()->findChild<W*>(nimi);
+  }
+
+  static void NaytaAktiivisena(Lomakeikkuna& ikkuna, QWidget* juuri) {
+    ikkuna.Nayta();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(juuri->window()));
+  }
+  static void NaytaAktiivisena(Lomake& lomake) {
+    NaytaAktiivisena(lomake.Ikkuna(), static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri());
+  }
+
+  /// Runs when the next dialog or box has opened. One that stays open is hidden, so that a fault can't hang the run.
+  static void KunAuki(std::function<void(QWidget*)> f) {
+    QTimer::singleShot(0, [f = std::move(f)] {
+      const QPointer<QWidget> dialogi = QApplication::activeModalWidget();
+      ASSERT_TRUE(dialogi && QTest::qWaitForWindowActive(dialogi));
+      f(dialogi);
+      EXPECT_FALSE(dialogi && dialogi->isVisible());
+      if (dialogi) dialogi->hide();
+    });
+  }
+
+  /// Texts of the boxes that open while `f` runs; each is answered by its default button.
+  QStringList Laatikot(const std::function<void()>& f) {
+    QStringList tekstit;
+    QTimer vahti;
+    QObject::connect(&vahti, &QTimer::timeout, [&] {
+      auto* laatikko = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!laatikko) return;
+      tekstit << laatikko->text();
+      QTest::keyClick(laatikko, Qt::Key_Return);
+    });
+    vahti.start(1);
+    f();
+    return tekstit;
+  }
+
+  QtViestit viestit_;
+};
+
+TEST_F(Tapahtumat, NappaimistollaKirjoitetaanJaHyvaksytaan) {
+  double kk = 0, vuosi = 0;
+  KunAuki([](QWidget* dialogi) {
+    auto* kuukausi = dialogi->findChild<QLineEdit*>("txtKk_kulutus");
+    EXPECT_TRUE(kuukausi->hasFocus());
+    QTest::keyClicks(kuukausi, "2,5");
+    EXPECT_EQ(dialogi->findChild<QLineEdit*>("txtVuosi_kulutus")->text(), "30,0");
+    QTest::keyClick(kuukausi, Qt::Key_Return);
+  });
+  EXPECT_TRUE(frmNormeeraamatonKulutus().Kysy(kk, vuosi));
+  EXPECT_EQ(kk, 2.5);
+  KunAuki([](QWidget* dialogi) {
+    QTest::keyClick(dialogi->focusWidget(), '9');
+    QTest::keyClick(dialogi->focusWidget(), Qt::Key_Escape);
+  });
+  EXPECT_FALSE(frmNormeeraamatonKulutus().Kysy(kk, vuosi));
+  EXPECT_EQ(kk, 2.5);
+}
+
+TEST_F(Tapahtumat, PikakirjainVieKenttaan) {
+  frmPerustiedot lomake;
+  NaytaAktiivisena(lomake);
+  QTest::keyClick(&Etsi<QLineEdit>(lomake, "txtKohteenNimi"), Qt::Key_B, Qt::AltModifier);
+  EXPECT_TRUE(Etsi<QLineEdit>(lomake, "txtBruttoAla").hasFocus());
+}
+
+TEST_F(Tapahtumat, RullaEiMuutaListaaJollaEiOleKohdistusta) {
+  frmPerustiedot lomake;
+  lomake.cmbPaikkakunta.Indeksi(5);
+  NaytaAktiivisena(lomake);
+  auto& lista = Etsi<QComboBox>(lomake, "cmbPaikkakunta");
+  const auto rullaa = [&] {
+    QWheelEvent rulla(QPointF(5, 5), lista.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&lista, &rulla);
+  };
+  rullaa();
+  EXPECT_EQ(lomake.cmbPaikkakunta.Indeksi(), 5);
+  lista.setFocus();
+  rullaa();
+  EXPECT_EQ(lomake.cmbPaikkakunta.Indeksi(), 6);
+}
+
+TEST_F(Tapahtumat, VainYksiVertailuvuosiJaSenVoiTyhjentaa) {
+  frmPerustiedot lomake;
+  int tapahtumia = 0;
+  lomake.KulutustietoMuuttui = [&] { ++tapahtumia; };
+  lomake.optVertailuvuosi[0].Valittu(true);
+  NaytaAktiivisena(lomake);
+  auto& kolmas = Etsi<QRadioButton>(lomake, "optVertailuvuosi3");
+  QTest::mouseClick(&kolmas, Qt::LeftButton, {}, QPoint(8, kolmas.height() / 2));
+  EXPECT_EQ(tapahtumia, 1);
+  EXPECT_EQ(lomake.Vertailuvuosi(), 2);
+  EXPECT_FALSE(Etsi<QRadioButton>(lomake, "optVertailuvuosi1").isChecked());
+  lomake.optVertailuvuosi[2].Valittu(false);
+  EXPECT_FALSE(Etsi<QRadioButton>(lomake, "optVertailuvuosi3").isChecked());
+  EXPECT_EQ(tapahtumia, 1);
+}
+
+TEST_F(Tapahtumat, TaydennysNakyyKunKentastaPoistutaan) {
+  frmLampoYhteenveto lomake;
+  lomake.MuuLampoMuuttui = [&](double arvo) { lomake.txtMuuLampo.arvo.Luku(arvo, "### ##0.00"); };
+  NaytaAktiivisena(lomake);
+  auto& kentta = Etsi<QLineEdit>(lomake, "txtMuuLampo");
+  QTest::keyClicks(&kentta, "1234.5");
+  EXPECT_EQ(kentta.text(), "1234.5");
+  QTest::keyClick(&kentta, Qt::Key_Tab);
+  EXPECT_EQ(kentta.text(), "1 234,50");
+}
+
+TEST_F(Tapahtumat, KohdistusTuoPiilossaOlevanSivunEsiin) {
+  auto* juuri = new QWidget;
+  auto* sivut = new QTabWidget;
+  (new QVBoxLayout(juuri))->addWidget(sivut);
+  auto* lista = new QTreeWidget;
+  auto* sivu = new QWidget;
+  auto* kentta = new QLineEdit(sivu);
+  lista->setColumnCount(2);
+  kentta->setObjectName("txtSivulla");
+  lista->setObjectName("lvwRivit");
+  sivut->setObjectName("tabSivut");
+  sivut->addTab(lista, "");
+  sivut->addTab(sivu, "");
+  QtIkkuna ikkuna(juuri, nullptr);
+  ikkuna.Etsi("lvwRivit").Rivit({{"Tuloilmakone 1", "2,5"}, {"Poistoilmakone", "1,0"}});
+  NaytaAktiivisena(ikkuna, juuri);
+  int valintoja = 0;
+  ikkuna.Etsi("lvwRivit").Muuttui = [&] { ++valintoja; };
+  lista->setCurrentItem(lista->topLevelItem(1));
+  EXPECT_EQ(ikkuna.Etsi("lvwRivit").Indeksi(), 1);
+  EXPECT_EQ(valintoja, 1);
+  EXPECT_EQ(lista->topLevelItem(0)->text(1), "2,5");
+  EXPECT_TRUE(ikkuna.Etsi("txtSivulla").Nakyva()) << "piilossa oleva sivu ei piilota kenttää";
+  ikkuna.Etsi("txtSivulla").Kohdista();
+  EXPECT_EQ(sivut->currentIndex(), 1);
+  EXPECT_TRUE(kentta->hasFocus());
+  EXPECT_EQ(ikkuna.Etsi("tabSivut").Indeksi(), 1);
+}
+
+TEST_F(Tapahtumat, ModaalitonLomakeOnPaaikkunanSisallaJaSulkeutuuItse) {
+  QMainWindow paaikkuna;
+  auto* alue = new QMdiArea;
+  paaikkuna.setCentralWidget(alue);
+  paaikkuna.show();
+  AsetaQtLomakkeet(alue);
+  frmLampoYhteenveto yhteenveto;
+  frmPerustiedot perustiedot;
+  yhteenveto.Nayta();
+  perustiedot.Nayta();
+  ASSERT_EQ(alue->subWindowList().size(), 2);
+  EXPECT_EQ(AktiivinenLomake(), &perustiedot);
+  yhteenveto.Nayta();
+  EXPECT_EQ(alue->subWindowList().size(), 2);
+  EXPECT_EQ(AktiivinenLomake(), &yhteenveto);
+  int peruttu = 0;
+  perustiedot.PeruutaKlikattu = [&] { ++peruttu; };
+  alue->subWindowList().at(1)->close();
+  EXPECT_EQ(peruttu, 1);
+  EXPECT_TRUE(perustiedot.Auki()) << "lomake itse päättää sulkemisesta";
+  alue->subWindowList().at(0)->close();
+  EXPECT_FALSE(yhteenveto.Auki());
+  yhteenveto.Nayta();
+  EXPECT_TRUE(yhteenveto.Aktiivinen());
+  SuljeLomakkeet();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(alue->subWindowList().isEmpty());
+}
+
+TEST_F(Tapahtumat, SamatIlmoituksetYhdistetaanKomennonLopussa) {
+  EXPECT_EQ(Laatikot([] {
+              SuoritaKomento([] {
+                for (int i = 0; i < 3; ++i) Ilmoita("Jako nollalla");
+                Ilmoita("Muu");
+                EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+              });
+            }),
+            QStringList({"Jako nollalla\n\n(Sama ilmoitus tuli 3 kertaa.)", "Muu"}));
+}
+
+TEST_F(Tapahtumat, VirheKomennossaNakyyJaOsoitinPalautuu) {
+  viestit_.AsetaPaneeli("Valmis!");
+  EXPECT_EQ(Laatikot([] {
+              SuoritaKomento([] {
+                const Odotus odotus("Lasketaan");
+                EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+                NostaVirhe("clsTilat:Laske Method", "koe");
+              });
+            }),
+            QStringList(QString::fromStdString(Teksti(9999) + "\nclsTilat:Laske Method")));
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(viestit_.Paneeli(), "Valmis!");
+}
+
+TEST_F(Tapahtumat, KysymyksenNapitOvatSuomeksiJaTiimalasiVaistyy) {
+  QStringList napit;
+  KunAuki([&](QWidget* laatikko) {
+    for (const QAbstractButton* nappi : laatikko->findChildren<QPushButton*>()) napit << nappi->text().remove('&');
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    QTest::keyClick(laatikko, Qt::Key_Escape);
+  });
+  const Odotus odotus;
+  EXPECT_EQ(viestit_.Nayta({"Tallennetaanko?", "Kohde", Vakavuus::Kysymys, Napit::KyllaEiPeruuta, Vastaus::Kylla}),
+            Vastaus::Peruuta);
+  napit.sort();
+  EXPECT_EQ(napit, QStringList({"Ei", "Kyllä", "Peruuta"}));
+  EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Tapahtumat, KaavioKopioituuKuvanaJaLukuina) {
+  KunAuki([](QWidget* dialogi) {
+    QTest::mouseClick(dialogi->findChild<QPushButton*>("cmdKopioi"), Qt::LeftButton);
+    QTest::keyClick(dialogi, Qt::Key_Escape);
+  });
+  frmJakaumaGraafi().NaytaJakauma("Koulu", {"Tilat", "Muu lämpö"}, {30, 10});
+  const QMimeData* tiedot = QGuiApplication::clipboard()->mimeData();
+  EXPECT_TRUE(tiedot->hasImage());
+  EXPECT_TRUE(tiedot->text().contains("Tilat  (75 %)\t30,00")) << tiedot->text().toStdString();
+}
+
+}  // namespace
