@@ -30,6 +30,18 @@ std::vector<std::string> Taulunimet(Tietokanta& kanta) {
   return nimet;
 }
 
+/// One number of each table, all in one query: a prepared template has some seventy tables.
+std::vector<std::int64_t> KysyTauluittain(Tietokanta& kanta, const std::vector<std::string>& taulut,
+                                          std::string_view kysymys) {
+  std::string lause = "SELECT 0";
+  for (const std::string& taulu : taulut) lause.append(",").append(kysymys).append(Lainaa(taulu)).append(")");
+  Kysely kysely(kanta, lause);
+  kysely.Seuraava();
+  std::vector<std::int64_t> luvut;
+  for (std::size_t i = 1; i <= taulut.size(); ++i) luvut.push_back(kysely.Kokonais(static_cast<int>(i)));
+  return luvut;
+}
+
 }  // namespace
 
 /// A class's table: its columns resolved to members once, and the prepared insertion of a row.
@@ -196,16 +208,16 @@ int Rivikirjoitin::Riveja(std::string_view taulu) const {
 
 void Rivikirjoitin::TarkistaRivimaarat() const {
   const std::vector<std::string> taulut = Taulunimet(kanta_);
-  std::string lause = "SELECT 0";
-  for (const std::string& taulu : taulut) lause += ",(SELECT count(*) FROM " + Lainaa(taulu) + ")";
-  Kysely maarat(kanta_, lause);
-  maarat.Seuraava();
+  const std::vector<std::int64_t> maarat = KysyTauluittain(kanta_, taulut, "(SELECT count(*) FROM ");
   for (std::size_t i = 0; i < taulut.size(); ++i)
-    if (maarat.Kokonais(static_cast<int>(i) + 1) != Riveja(taulut[i]))
+    if (maarat[i] != Riveja(taulut[i]))
       throw Projektivirhe(Projektivirhe::Syy::Kirjoitus,
                           "taulun " + taulut[i] + " rivimäärä poikkeaa tallennettavien olioiden määrästä");
 }
 
 void TyhjennaProjektikanta(Tietokanta& kanta) {
-  for (const std::string& taulu : Taulunimet(kanta)) kanta.Aja("DELETE * FROM " + Lainaa(taulu));
+  const std::vector<std::string> taulut = Taulunimet(kanta);
+  const std::vector<std::int64_t> riveja = KysyTauluittain(kanta, taulut, "EXISTS (SELECT 1 FROM ");
+  for (std::size_t i = 0; i < taulut.size(); ++i)
+    if (riveja[i]) kanta.Aja("DELETE * FROM " + Lainaa(taulut[i]));
 }

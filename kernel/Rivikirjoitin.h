@@ -55,5 +55,6 @@ class Rivikirjoitin {
   Tallennusraportti raportti_;
 };
 
-/// Removes the rows of every class's table; the list of classes stays.
+/// Removes the rows of every class's table; the list of classes stays. Empty tables aren't touched: each would cost a
+/// page of the journal.
 void TyhjennaProjektikanta(Tietokanta& kanta);

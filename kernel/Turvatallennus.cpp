@@ -76,7 +76,7 @@ void VaadiOnnistuminen(bool onnistui, const fs::path& tiedosto) {
 void Levylle(const fs::path& polku) {
   const int kahva = open(polku.c_str(), O_RDONLY | O_CLOEXEC);
   VaadiOnnistuminen(kahva >= 0, polku);
-  const bool onnistui = fsync(kahva) == 0 || errno == EINVAL;  // some file systems can't flush a directory
+  const bool onnistui = fdatasync(kahva) == 0 || errno == EINVAL;  // some file systems can't flush a directory
   close(kahva);
   VaadiOnnistuminen(onnistui, polku);
 }
