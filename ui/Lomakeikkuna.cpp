@@ -41,8 +41,8 @@ void Lomakeikkuna::KayttajaHyvaksyy() {
 
 void Lomakeikkuna::KayttajaPeruuttaa() {
   Ohjain* nappi = Kaytettavissa({"cmdPeruuta", "cmdSulje"});
-  if (!nappi) return SuoritaKomento([this] { Suljettu(); });
-  if (nappi->Kaytossa()) nappi->KayttajaPainaa();
+  if (nappi && nappi->Kaytossa()) nappi->KayttajaPainaa();
+  if (!nappi && Suljettu) SuoritaKomento(Suljettu);
 }
 
 void AsetaLomakesovitin(Lomakesovitin sovitin) { Sovitin() = std::move(sovitin); }

@@ -88,6 +88,7 @@ void Piirakka::paintEvent(QPaintEvent*) {
 }
 
 void Piirakka::PiirraSiivut(QPainter& maalain, const QRectF& ympyra) const {
+  const int rivi = fontMetrics().height();
   const double summa = Summa(kaavio_.arvot);
   double alku = 0;  // share of the circle that is painted, clockwise from the top
   for (std::size_t i = 0; i < kaavio_.arvot.size(); ++i) {
@@ -101,7 +102,8 @@ void Piirakka::PiirraSiivut(QPainter& maalain, const QRectF& ympyra) const {
     const QPointF paikka = ympyra.center() + QPointF(qSin(suunta), -qCos(suunta)) * ympyra.width() * 0.36;
     maalain.save();
     maalain.setPen(Qt::black);
-    if (osuus > 0.03) maalain.drawText(QRectF(paikka - QPointF(20, 20), QSizeF(40, 40)), Qt::AlignCenter, Numero(i));
+    if (osuus > 0.03)
+      maalain.drawText(QRectF(paikka - QPointF(rivi, rivi), QSizeF(2 * rivi, 2 * rivi)), Qt::AlignCenter, Numero(i));
     maalain.restore();
     alku += osuus;
   }

@@ -2,6 +2,7 @@
 #include "ui/qt/QtOhjain.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QFocusEvent>
@@ -130,7 +131,7 @@ class QtTextBox : public QtOhjain {
     const bool luku = Lukittu() || Q(Tag()).section(',', 1, 1).compare(QLatin1String("n"), Qt::CaseInsensitive) == 0;
     if (luku) {
       kentta_.setAlignment(Qt::AlignRight);
-      kentta_.setFixedWidth(kLuvunLeveys * kentta_.fontMetrics().horizontalAdvance('0'));
+      kentta_.setFixedWidth(kLuvunLeveys * QApplication::fontMetrics().horizontalAdvance('0'));
     }
     if (Lukittu()) {
       QPalette varit = kentta_.palette();

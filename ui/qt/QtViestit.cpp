@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -180,6 +181,7 @@ void QtViestit::Odotusosoitin(bool paalla) {
 void QtViestit::AnnaPiirtaa() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
 
 void AsennaSuomennos() {
+  QLocale::setDefault(QLocale(QLocale::Finnish, QLocale::Finland));
   static QTranslator kaantaja;
   if (kaantaja.load(QStringLiteral("qtbase_fi"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QCoreApplication::installTranslator(&kaantaja);
