@@ -67,7 +67,7 @@ void clsRakennus::LuoOletusmalli() try {
   PaivitaInstanssiIdLista();
   Tallennettu = false;
 } catch (...) {
-  NostaVirhe("clsRakennus:Perustiedot_LaskeOletusarvotPerustietojenMukaan Method");
+  NostaVirhe("clsRakennus:LuoOletusmalli Method");
 }
 
 void clsRakennus::NaytaLampoYhteenvetoDlg() try {

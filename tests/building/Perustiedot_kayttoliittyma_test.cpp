@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The basic-data dialog and the heat summary, driven as a person would, without a screen.
+#include "kernel/Luvut.h"
+#include "tests/building/Koerakennus.h"
+#include "ui/Ikkunaton.h"
+#include "ui/frmLampoYhteenveto.h"
+
+namespace {
+
+class DialogiTesti : public RakennusTesti {
+ protected:
+  DialogiTesti() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+    AlustaPerustiedot(rakennus->Perustiedot);
+    AlustaToteutuneetKulutukset(rakennus->Perustiedot.ToteutuneetKulutukset);
+  }
+
+  static void TaytaOmakotitalo(Ikkunaton& lomake) {
+    lomake.KayttajaKirjoittaa("txtKohteenNimi", "Mäkelä");
+    lomake.KayttajaKirjoittaa("txtValmistumisVuosi", "1985");
+    lomake.KayttajaKirjoittaa("txtKokonaistilavuus", "430,5");
+    lomake.KayttajaKirjoittaa("txtBruttoAla", "160");
+    lomake.KayttajaValitsee("cmbPaikkakunta", "Kuopio");
+    lomake.KayttajaKirjoittaa("txtLampo1", "20,4");
+  }
+
+  Ikkunattomat ikkunat;
+};
+
+TEST_F(DialogiTesti, TheFirstOkMakesTheModel) {
+  ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
+    EXPECT_EQ(lomake.Otsikko(), "Perustiedot");
+    TaytaOmakotitalo(lomake);
+    EXPECT_EQ(lomake.Teksti("txtNormVuodenLammTarveLuku"), "5 068");
+    EXPECT_EQ(lomake.Teksti("txtLampoNelioille"), "127,5") << "20 400 kWh over 160 m²";
+    lomake.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  const clsPerustiedot& tiedot = rakennus->Perustiedot;
+  EXPECT_EQ(tiedot.KohteenNimi, "Mäkelä");
+  EXPECT_EQ(tiedot.Kokonaistilavuus, 430.5);
+  EXPECT_EQ(tiedot.LammTarveLukuPaikkakunta, "Kuopio");
+  EXPECT_EQ(tiedot.NormVuodenLammTarveLuku, 5068);
+  EXPECT_EQ(tiedot.ToteutuneetKulutukset.Item(1).Lampo, 20.4);
+  EXPECT_EQ(rakennus->Saa.SaaFileNimi, "SaaVyohyke3.txt");
+  ASSERT_EQ(rakennus->Tilat.Count(), 1);
+  EXPECT_EQ(rakennus->Tilat.Item(1).Rakenteet.Count(), 7);
+  EXPECT_FALSE(rakennus->Tallennettu);
+}
+
+TEST_F(DialogiTesti, CancelRestoresExactlyAndDropsANewObject) {
+  const std::string pvm = rakennus->Perustiedot.Pvm;
+  ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
+    TaytaOmakotitalo(lomake);
+    lomake.KayttajaPainaa("cmdPeruuta");
+  });
+  EXPECT_FALSE(rakennus->Perustiedot.NaytaKayttoliityma()) << "the object never took shape";
+  EXPECT_EQ(rakennus->Perustiedot.Kokonaistilavuus, 0) << "stored while typing, restored by Cancel";
+  EXPECT_EQ(rakennus->Perustiedot.ToteutuneetKulutukset.Item(1).Lampo, 0);
+  EXPECT_EQ(rakennus->Perustiedot.Pvm, pvm);
+  EXPECT_EQ(rakennus->Tilat.Count(), 0);
+}
+
+TEST_F(DialogiTesti, ALaterOkKeepsTheModelAndUnshownDecimals) {
+  rakennus->Perustiedot.Kokonaistilavuus = 430.123456;
+  rakennus->Perustiedot.ValmistumisVuosi = 1985;
+  rakennus->Perustiedot.OtaKayttoon(kHelsinki);
+  rakennus->Tilat.Item(1).TilanNimi = "Oma";
+  rakennus->Tallennettu = true;
+  ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
+    lomake.KayttajaValitsee("cmbPaikkakunta", "Tampere");
+    lomake.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  EXPECT_EQ(rakennus->Perustiedot.Kokonaistilavuus, 430.123456) << "an untouched field isn't rounded";
+  EXPECT_EQ(rakennus->Tilat.Item(1).TilanNimi, "Oma");
+  EXPECT_EQ(rakennus->Saa.SaaFileNimi, "SaaVyohyke2.txt");
+  EXPECT_FALSE(rakennus->Tallennettu);
+}
+
+TEST_F(DialogiTesti, AConstantShareAboveTheMeasuredHeatIsRefused) {
+  rakennus->Perustiedot.OletusarvotLaskettu = true;
+  rakennus->Perustiedot.LammKulVakioOsuus.VuosiOsuus = 30;
+  ikkunat.KunNaytetaan("frmPerustiedot", [this](Ikkunaton& lomake) {
+    lomake.KayttajaKirjoittaa("txtLampo1", "20");
+    lomake.KayttajaPainaa("cmdOk");
+    EXPECT_TRUE(lomake.Auki());
+    EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "error 1041";
+    lomake.KayttajaPainaa("cmdPeruuta");
+  });
+  rakennus->Perustiedot.NaytaKayttoliityma();
+  EXPECT_EQ(rakennus->Perustiedot.ToteutuneetKulutukset.Item(1).Lampo, 0);
+}
+
+TEST_F(DialogiTesti, LettersInANumberFieldAreRefusedAndTheDialogStays) {
+  ikkunat.KunNaytetaan("frmPerustiedot", [this](Ikkunaton& lomake) {
+    TaytaOmakotitalo(lomake);
+    lomake.KayttajaKirjoittaa("txtBruttoAla", "sata");
+    lomake.KayttajaPainaa("cmdOk");
+    EXPECT_TRUE(lomake.Auki());
+    EXPECT_EQ(lomake.Kohdistettu(), "txtBruttoAla");
+    EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "error 1008";
+    lomake.KayttajaPainaa("cmdPeruuta");
+  });
+  rakennus->Perustiedot.NaytaKayttoliityma();
+}
+
+TEST_F(DialogiTesti, HeatSummaryShowsTheModelBesideTheMeasuredHeat) {
+  LuoKoulu();
+  rakennus->Perustiedot.ToteutuneetKulutukset.Item(1).Lampo = 800;
+  rakennus->NaytaLampoYhteenvetoDlg();
+  Ikkunaton& lomake = ikkunat.Ikkuna("frmLampoYhteenveto");
+  const double tilat = rakennus->VuotuinenLampoEnergianTarveTilat();
+  EXPECT_NEAR(LueLuku(lomake.Teksti("txtTilojenLammitys")).value(), tilat, 0.005);
+  EXPECT_NEAR(LueLuku(lomake.Teksti("txtTilojenLammitysNelioille")).value(), tilat / 4200 * 1000, 0.01);
+  EXPECT_NEAR(LueLuku(lomake.Teksti("txtHaviot")).value(), rakennus->ToteutunutNormitettuLampo() - tilat, 0.011);
+  lomake.KayttajaKirjoittaa("txtMuuLampo", "10");
+  EXPECT_EQ(rakennus->MuuLampo, 10);
+  EXPECT_NEAR(LueLuku(lomake.Teksti("txtYhteensa")).value(), tilat + 10, 0.005);
+  EXPECT_FALSE(rakennus->Tilat.VuotuinenLampoEnergianTarveUpToDate());
+  lomake.KayttajaPainaa("cmdOk");
+  EXPECT_FALSE(lomake.Auki());
+}
+
+TEST_F(DialogiTesti, HeatSummaryWarnsOfPoorGroundStructures) {
+  LuoKoulu();
+  clsRakenne& lattia = rakennus->Tilat.Item(1).Rakenteet.Item(6);
+  lattia.LaskeU_arvoMateriaaleista = false;
+  lattia.U_arvo(1.2);
+  rakennus->NaytaLampoYhteenvetoDlg();
+  ASSERT_EQ(viestit.Naytetyt().size(), 1u);
+  EXPECT_NE(viestit.Naytetyt()[0].teksti.find(lattia.RakenneRatkaisu->Nimi), std::string::npos);
+}
+
+}  // namespace
