@@ -54,6 +54,15 @@ bool KomentoKesken() { return KomentoKaynnissa() && !QApplication::activeModalWi
 }  // namespace
 
 Ohjelma::Ohjelma() : lopetussignaali_([this] { Lopeta(); }) {
+  Lataa();
+  viestit_.AsetaPaneeli(Teksti(1092));
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, paaikkuna_.get(), [this](QSessionManager& istunto) {
+    if (istunto.allowsInteraction() && !paaikkuna_->IstuntoPaattyy()) istunto.cancel();
+  });
+  QTimer::singleShot(0, paaikkuna_.get(), [this] { Nayta(); });
+}
+
+void Ohjelma::Lataa() {
   const Odotus odotus;
   LueAineistot();
   AsetaQtLomakkeet(nullptr);
@@ -62,12 +71,7 @@ Ohjelma::Ohjelma() : lopetussignaali_([this] { Lopeta(); }) {
   viestit_.AnnaPiirtaa();
   paaikkuna_ = std::make_unique<frmMain>(istunto_);
   viestit_.AsetaPaneelinNaytto([this](const std::string& teksti) { paaikkuna_->AsetaPaneeli(teksti); });
-  viestit_.AsetaPaneeli(Teksti(1092));
   SuoritaKomento(LueAsetukset);
-  QObject::connect(qApp, &QGuiApplication::commitDataRequest, paaikkuna_.get(), [this](QSessionManager& istunto) {
-    if (istunto.allowsInteraction() && !paaikkuna_->IstuntoPaattyy()) istunto.cancel();
-  });
-  QTimer::singleShot(0, paaikkuna_.get(), [this] { Nayta(); });
 }
 
 Ohjelma::~Ohjelma() { istunto_.SuljeKohde(); }

@@ -26,6 +26,7 @@ class Ohjelma {
   void Lopeta();
 
  private:
+  void Lataa();
   void NaytaAlkuikkuna();
   void ValitseAlku(bool uusi);
 

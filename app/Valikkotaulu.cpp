@@ -26,7 +26,7 @@ constexpr Valikkorivi kRivit[] = {
      [](frmMain& i) { i.Kohteet().mnuFileSaveAs_Click(); }},
     {"mnuFile", ""},
     {"mnuFile", "mnuFileExit", 1012, "Ctrl+Q", nullptr, [](frmMain& i) { i.mnuFileExit_Click(); }},
-    {"mnuRakennus", "mnuPerustiedot", 1082, "Ctrl+P", KohdeValmis, [](frmMain& i) { i.Kohteet().NaytaPerustiedot(); }},
+    {"mnuRakennus", "mnuPerustiedot", 1082, "Ctrl+K", KohdeValmis, [](frmMain& i) { i.Kohteet().NaytaPerustiedot(); }},
     {"mnuRakennus", ""},
     {"mnuRakennus", "mnuLampo", 1093, "Ctrl+L", LampoAvattavissa,
      [](frmMain& i) { i.Kohteet().Rakennus()->NaytaLampoYhteenvetoDlg(); }},
