@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Projektitiedosto.h"
 
+#include <filesystem>
+
 #include "kernel/Hakemistot.h"
 #include "kernel/Rivikirjoitin.h"
 #include "kernel/Rivilukija.h"
@@ -31,6 +33,21 @@ Tallennusraportti RakennaProjekti(Olio& juuri, const std::string& uusi, const Et
   throw Projektivirhe(virhe.Koodi() == kVaurioitunut ? Syy::Vaurioitunut : Syy::EiProjekti, virhe.what());
 }
 
+std::int64_t Luku(Tietokanta& kanta, const char* kysymys) {
+  Kysely kysely(kanta, kysymys);
+  return kysely.Seuraava() ? kysely.Kokonais(0) : 0;
+}
+
+/// Opens a file to be read. One that lacks its end reads as zeros there, which would pass for values.
+Tietokanta AvaaLuettavaksi(const std::string& tiedosto) {
+  Tietokanta kanta(tiedosto, Tietokanta::Tapa::Muuttumaton);
+  const std::int64_t koko = Luku(kanta, "PRAGMA page_count") * Luku(kanta, "PRAGMA page_size");
+  std::error_code virhe;
+  if (koko > static_cast<std::int64_t>(std::filesystem::file_size(tiedosto, virhe)))
+    throw Projektivirhe(Syy::Vaurioitunut, tiedosto + ": tiedoston loppu puuttuu");
+  return kanta;
+}
+
 Tiedostoversio LueVersio(Tietokanta& kanta) {
   Kysely rivi(kanta, "SELECT Major, Minor, Revision FROM clsRakennus");
   Tiedostoversio versio;
@@ -59,14 +76,14 @@ Tallennusraportti TallennaProjekti(Olio& juuri, const std::string& tiedosto, con
 }
 
 void HaeProjekti(Olio& juuri, const std::string& tiedosto, Latausraportti& raportti) try {
-  Tietokanta kanta(tiedosto, Tietokanta::Tapa::Muuttumaton);
+  Tietokanta kanta = AvaaLuettavaksi(tiedosto);
   Rivilukija(kanta, raportti).Lue(juuri);
 } catch (const Tietokantavirhe& virhe) {
   NostaLukuvirhe(virhe);
 }
 
 Tiedostoversio HaeTiedostonVersio(const std::string& tiedosto) try {
-  Tietokanta kanta(tiedosto, Tietokanta::Tapa::Muuttumaton);
+  Tietokanta kanta = AvaaLuettavaksi(tiedosto);
   return LueVersio(kanta);
 } catch (const Tietokantavirhe& virhe) {
   NostaLukuvirhe(virhe);

@@ -111,6 +111,8 @@ Tietokanta::Tietokanta(const std::string& tiedosto, Tapa tapa) try : tiedosto_(t
   NostaTietokantavirhe(virhe.getErrorCode(), tiedosto, virhe.what());
 }
 
+Tietokanta::Tietokanta(Tietokanta&&) noexcept = default;
+
 Tietokanta::~Tietokanta() = default;
 
 sqlite3* Tietokanta::Kahva() const noexcept { return kanta_->getHandle(); }

@@ -42,6 +42,7 @@ class Tietokanta {
     Uusi,         ///< made if it doesn't exist
   };
   explicit Tietokanta(const std::string& tiedosto, Tapa tapa = Tapa::Luku);
+  Tietokanta(Tietokanta&&) noexcept;
   ~Tietokanta();
 
   /// Runs one or several statements without values.

@@ -135,7 +135,7 @@ std::string LueMalli(const std::string& malli) try {
 class Uusi {
  public:
   Uusi(const fs::path& kohde, const std::string& malli) : kohde_(kohde), polku_(kohde.string() + ".uusi") {
-    Poista();
+    VaadiOnnistuminen(Poista(), polku_);
     const int kahva = open(polku_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     VaadiOnnistuminen(kahva >= 0, polku_);
     const bool onnistui = KirjoitaKaikki(kahva, malli) && AsetaOikeudet(kahva);
@@ -175,8 +175,11 @@ class Uusi {
     return fchmod(kahva, (vanha.st_mode & 07777) | S_IWUSR) == 0 || errno == EPERM;
   }
 
-  void Poista() const {
-    for (const char* loppu : {"", "-journal", "-wal", "-shm"}) unlink((polku_.string() + loppu).c_str());
+  bool Poista() const {
+    bool poissa = true;
+    for (const char* loppu : {"", "-journal", "-wal", "-shm"})
+      poissa &= unlink((polku_.string() + loppu).c_str()) == 0 || errno == ENOENT;
+    return poissa;
   }
 
   fs::path kohde_;
