@@ -131,7 +131,7 @@ class QtTextBox : public QtOhjain {
     const bool luku = Lukittu() || Q(Tag()).section(',', 1, 1).compare(QLatin1String("n"), Qt::CaseInsensitive) == 0;
     if (luku) {
       kentta_.setAlignment(Qt::AlignRight);
-      kentta_.setFixedWidth(kLuvunLeveys * QApplication::fontMetrics().horizontalAdvance('0'));
+      kentta_.setFixedWidth(kLuvunLeveys * QFontMetrics(QApplication::font()).horizontalAdvance('0'));
     }
     if (Lukittu()) {
       QPalette varit = kentta_.palette();
