@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Copying a building and freeing the copy, against a plain copy of as many bytes as the copy holds.
+#include <malloc.h>
+
+#include <cstring>
+
+#include "bench/Mittaukset.h"
+
+namespace mittaus {
+
+namespace {
+
+std::size_t VarattujaTavuja() {
+  const struct mallinfo2 tiedot = mallinfo2();
+  return tiedot.uordblks + tiedot.hblkhd;
+}
+
+/// Bytes that a copy of the building takes from the heap.
+std::size_t KopionTavut(clsRakennus& rakennus) {
+  const std::size_t ennen = VarattujaTavuja();
+  const auto kopio = rakennus.Kopioi();
+  return VarattujaTavuja() - ennen;
+}
+
+}  // namespace
+
+Vertailupari Kopiointipari(clsRakennus& rakennus) {
+  struct Tila {
+    explicit Tila(clsRakennus& r) : rakennus(r), lahde(KopionTavut(r), 'x'), kohde(lahde.size(), '\0') {}
+    clsRakennus& rakennus;
+    std::vector<char> lahde, kohde;
+    int tiloja = 0;
+    double ala = 0;
+  };
+  auto tila = std::make_shared<Tila>(rakennus);
+  return {[tila] {
+            std::unique_ptr<clsRakennus> kopio;
+            double kesto = Kesto([&] { kopio = tila->rakennus.Kopioi(); });
+            tila->tiloja = kopio->Tilat.Count();
+            tila->ala = kopio->Tilat.BruttoAlaYht();
+            kesto += Kesto([&] {
+              kopio->Delete();
+              kopio.reset();
+            });
+            return kesto;
+          },
+          [tila] {
+            return Kesto([&] {
+              std::memcpy(tila->kohde.data(), tila->lahde.data(), tila->lahde.size());
+              Kayta(tila->kohde[tila->kohde.size() / 2]);
+            });
+          },
+          [tila] {
+            if (tila->tiloja != tila->rakennus.Tilat.Count() || tila->kohde != tila->lahde)
+              throw std::runtime_error("the copy differs");
+            VaadiSama(tila->ala, tila->rakennus.Tilat.BruttoAlaYht(), 0, "area");
+          }};
+}
+
+}  // namespace mittaus

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Recalculation of the whole building against the same formulas over plain arrays.
+#include "bench/Mittaukset.h"
+#include "bench/Vertailulaskenta.h"
+#include "building/Tasehaarukka.h"
+
+namespace mittaus {
+
+namespace {
+
+constexpr double kTarkkuus = 1e-12;
+
+/// The bracket, and the figures of the heat summary that are read in it.
+Vertailulaskenta::Tulos Laske(clsRakennus& rakennus) {
+  const Tasehaarukka haarukka(rakennus);
+  Vertailulaskenta::Tulos tulos;
+  tulos.lampoenergianTarve = rakennus.VuotuinenLampoEnergianTarveTilat();
+  tulos.haviot = rakennus.VuotuisetLampoHaviot();
+  tulos.saatohaviot = rakennus.VuotuisetSaatohaviot();
+  tulos.konversiohaviot = rakennus.VuotuisetLammonKonversiohaviot();
+  Kayta(rakennus.VuotuinenIVjalkilammitysLampo());
+  Kayta(rakennus.VuotuisetLKVHaviot());
+  Kayta(rakennus.VuotuisetProsessiVesiHaviot());
+  Kayta(rakennus.ToteutunutNormitettuLampo());
+  return tulos;
+}
+
+void VaadiSamat(const Vertailulaskenta::Tulos& oma, const Vertailulaskenta::Tulos& vertailu) {
+  VaadiSama(oma.lampoenergianTarve, vertailu.lampoenergianTarve, kTarkkuus, "heat demand");
+  VaadiSama(oma.haviot, vertailu.haviot, kTarkkuus, "losses");
+  VaadiSama(oma.saatohaviot, vertailu.saatohaviot, kTarkkuus, "control losses");
+  VaadiSama(oma.konversiohaviot, vertailu.konversiohaviot, kTarkkuus, "conversion losses");
+}
+
+}  // namespace
+
+Vertailupari Laskentapari(clsRakennus& rakennus) {
+  struct Tila {
+    explicit Tila(clsRakennus& r) : rakennus(r), vertailu(r) {}
+    clsRakennus& rakennus;
+    Vertailulaskenta vertailu;
+    Vertailulaskenta::Tulos oma, toinen;
+  };
+  auto tila = std::make_shared<Tila>(rakennus);
+  return {[tila] { return Kesto([&] { tila->oma = Laske(tila->rakennus); }); },
+          [tila] {
+            return Kesto([&] {
+              tila->toinen = tila->vertailu.Laske();
+              Kayta(tila->toinen);
+            });
+          },
+          [tila] { VaadiSamat(tila->oma, tila->toinen); }};
+}
+
+}  // namespace mittaus

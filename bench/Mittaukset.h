@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "bench/Mallirakennus.h"
+#include "bench/Parit.h"
+
+namespace mittaus {
+
+/// What is measured on a building, whatever its size: ours, the yardstick, and the check that both did the work. The
+/// building must outlive it.
+struct Vertailupari {
+  Ajo meidan, vertailu;
+  std::function<void()> tarkista;
+};
+
+Vertailupari Tallennuspari(clsRakennus& rakennus);
+Vertailupari Avauspari(clsRakennus& rakennus);
+Vertailupari Kopiointipari(clsRakennus& rakennus);
+Vertailupari Laskentapari(clsRakennus& rakennus);
+
+/// Access to attributes by name: declares its benchmarks.
+void IlmoitaJasenmittaukset();
+
+}  // namespace mittaus

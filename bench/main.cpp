@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// lumivirta-bench: saving, opening, copying and recalculating a building, each beside a yardstick. See
+// docs/performance.md.
+#include <cstdlib>
+#include <iostream>
+
+#include "bench/Mittaukset.h"
+#include "bench/Taulukko.h"
+#include "bench/Vertailukanta.h"
+#include "building/Yhteiset.h"
+#include "settings/clsLumivirtaAsetukset.h"
+#include "ui/KerataanViestit.h"
+#include "ui/Tekstivarasto.h"
+
+namespace mittaus {
+
+namespace {
+
+constexpr double kKaltevuusvara = 0.03, kLaskennanKaltevuus = 1.02;
+constexpr std::array<int, 4> kKasvunTilat{10, 100, 1000, 10000};
+
+struct Toiminto {
+  const char* nimi;
+  const char* vertailu;
+  double tavoite;
+  Vertailupari (*pari)(clsRakennus&);
+};
+constexpr Toiminto kToiminnot[] = {
+    {"save", "one plain transaction of the same rows", 1.0, Tallennuspari},
+    {"open", "plain scans into structs", 1.3, Avauspari},
+    {"copy and free", "memcpy of the same bytes", 6, Kopiointipari},
+    {"recalculate", "scalar loop over arrays", 1.0, Laskentapari},
+};
+
+clsRakennus& Rakennus() {
+  static const auto rakennus = TeeMallirakennus(kTiloja, kRakenteita);
+  AsetaGlobaaliRakennus(rakennus.get());
+  return *rakennus;
+}
+
+template <std::size_t I>
+void Paataulu(benchmark::State& state) {
+  const Vertailupari pari = kToiminnot[I].pari(Rakennus());
+  MittaaParit(state, kToiminnot[I].tavoite, pari.meidan, pari.vertailu, pari.tarkista);
+}
+
+/// So many runs that together they take at least two milliseconds; in seconds for one.
+Ajo Toistettuna(const Ajo& ajo) {
+  constexpr double kVahintaan = 2e-3;
+  const int kertoja = 1 + static_cast<int>(kVahintaan / std::max(1e-7, ajo()));
+  return [ajo, kertoja] {
+    double summa = 0;
+    for (int i = 0; i < kertoja; ++i) summa += ajo();
+    return summa / kertoja;
+  };
+}
+
+/// Medians of ours and of the yardstick at one size; fewer pairs where one takes long.
+std::pair<double, double> Koossa(const Toiminto& toiminto, int tiloja) {
+  const auto rakennus = TeeMallirakennus(tiloja, kKasvunRakenteita);
+  const Vertailupari pari = toiminto.pari(*rakennus);
+  const Ajo meidan = Toistettuna(pari.meidan), vertailu = Toistettuna(pari.vertailu);
+  Paritulos tulos;
+  const int pareja = tiloja >= 10000 ? 5 : tiloja >= 1000 ? 11 : kPareja;
+  for (int i = 0; i < pareja; ++i) {
+    AjaPari(tulos, meidan, vertailu, i % 2 == 1);
+    pari.tarkista();
+  }
+  return {Mediaani(tulos.meidan), Mediaani(tulos.vertailu)};
+}
+
+/// The slopes of ours and of the yardstick. Goal: theirs and a little, but that of the recalculation stands fixed.
+template <std::size_t I>
+void Kasvu(benchmark::State& state) {
+  std::vector<double> koot, meidan, vertailu;
+  for (auto _ : state) {
+    for (const int tiloja : kKasvunTilat) {
+      const auto [oma, toinen] = Koossa(kToiminnot[I], tiloja);
+      koot.push_back(tiloja);
+      meidan.push_back(oma);
+      vertailu.push_back(toinen);
+    }
+    state.SetIterationTime(meidan.back());
+  }
+  const bool laskenta = kToiminnot[I].pari == Laskentapari;
+  const double kaltevuus = Kaltevuus(koot, meidan), verrattava = Kaltevuus(koot, vertailu);
+  state.counters["kaltevuus"] = 1;
+  state.counters["meidan_s"] = kaltevuus;
+  state.counters["vertailu_s"] = verrattava;
+  state.counters["suhde"] = kaltevuus;
+  state.counters["tavoite"] = laskenta ? kLaskennanKaltevuus : verrattava + kKaltevuusvara;
+}
+
+template <std::size_t... I>
+void Ilmoita(std::index_sequence<I...>) {
+  (IlmoitaParit(std::string(kToiminnot[I].nimi) + "; " + kToiminnot[I].vertailu, Paataulu<I>), ...);
+  IlmoitaJasenmittaukset();
+  (benchmark::RegisterBenchmark(
+       (std::string("slope of ") + kToiminnot[I].nimi + ", 10 to 10,000 spaces; " + kToiminnot[I].vertailu).c_str(),
+       Kasvu<I>)
+       ->UseManualTime()
+       ->Iterations(1),
+   ...);
+}
+
+void KerroMalli() {
+  clsRakennus& rakennus = Rakennus();
+  const std::string tiedosto = Mittauskansio() + "malli.lvt";
+  rakennus.Tallenna(tiedosto);
+  const Vertailukanta kanta(tiedosto);
+  std::cout << "Building: " << kTiloja << " spaces x " << kRakenteita << " structures, " << Olioita(rakennus)
+            << " objects, " << kanta.Riveja() << " rows in " << kanta.Tauluja() << " tables\n";
+}
+
+}  // namespace
+
+}  // namespace mittaus
+
+int main(int argc, char** argv) try {
+  setenv("XDG_CONFIG_HOME", mittaus::Mittauskansio().c_str(), 1);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+  KerataanViestit viestit;
+  AsetaViestit(&viestit);
+  AlustaTekstit();
+  Asetukset().HaeRekisteristä();
+  mittaus::KerroMalli();
+  mittaus::Ilmoita(std::make_index_sequence<std::size(mittaus::kToiminnot)>());
+  mittaus::Taulukko taulukko;
+  benchmark::RunSpecifiedBenchmarks(&taulukko);
+  for (const Viesti& viesti : viestit.Naytetyt()) std::cerr << viesti.teksti << '\n';
+  return taulukko.Epaonnistui() || !viestit.Naytetyt().empty() ? 1 : 0;
+} catch (const std::exception& virhe) {
+  std::cerr << "lumivirta-bench: " << virhe.what() << '\n';
+  return 1;
+}
