@@ -149,6 +149,27 @@ TEST_F(Tapahtumat, TaydennysNakyyKunKentastaPoistutaan) {
   EXPECT_EQ(kentta.text(), "1 234,50");
 }
 
+TEST_F(Tapahtumat, PeruuttajaltaEiKysytaKeskeneraisistaKentista) {
+  for (const bool hiirella : {false, true}) {
+    frmPerustiedot lomake;
+    int huomautuksia = 0;
+    lomake.KulutustietoMuuttui = [&] { ++huomautuksia; };
+    lomake.PeruutaKlikattu = [&] { lomake.Sulje(); };
+    KunAuki([&](QWidget* dialogi) {
+      auto& kentta = Etsi<QLineEdit>(lomake, "txtLampo1");
+      kentta.setFocus();
+      QTest::keyClick(&kentta, 'x');
+      if (hiirella)
+        QTest::mouseClick(&Etsi<QPushButton>(lomake, "cmdPeruuta"), Qt::LeftButton);
+      else
+        QTest::keyClick(dialogi, Qt::Key_Escape);
+    });
+    lomake.NaytaModaalisena();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(huomautuksia, 0) << (hiirella ? "hiirellä" : "Escillä");
+  }
+}
+
 TEST_F(Tapahtumat, KohdistusTuoPiilossaOlevanSivunEsiin) {
   auto* juuri = new QWidget;
   auto* sivut = new QTabWidget;

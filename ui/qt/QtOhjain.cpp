@@ -16,6 +16,7 @@
 #include <QTreeWidget>
 #include <utility>
 
+#include "kernel/Kirjainkoko.h"
 #include "ui/qt/Piirakka.h"
 
 namespace {
@@ -64,6 +65,8 @@ class QtCommandButton : public QtPainike {
   QtCommandButton(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QPushButton& nappi)
       : QtPainike(ikkuna, std::move(kuvaus), nappi) {
     nappi.setAutoDefault(true);
+    // A click on Cancel doesn't take the focus: the field that is being edited isn't asked about what it holds.
+    if (SamaNimi(Nimi(), "cmdPeruuta")) nappi.setFocusPolicy(Qt::TabFocus);
     connect(&nappi, &QPushButton::clicked, this, [this] { KayttajaPainaa(); });
   }
 };

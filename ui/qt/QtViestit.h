@@ -40,5 +40,6 @@ class QtViestit : public Viestit {
   std::function<void(const std::string&)> naytaPaneeli_;
 };
 
-/// Finnish for what the window toolkit itself shows: menus of fields, file dialogs, dates. Once, after QApplication is made.
+/// Finnish for what the window toolkit itself shows: menus of fields, file dialogs, dates. Once, after QApplication is
+/// made.
 void AsennaSuomennos();
