@@ -100,16 +100,20 @@ clsRakennus::~clsRakennus() {
 
 void clsRakennus::Delete() try {
   TyyppiTiedot.Nimet.TyhjennaIdListat();
+  TyhjennaOsat();
+  Tariffit.Tyhjenna();
+  Vesitariffit.Tyhjenna();
+} catch (...) {
+  NostaVirhe("clsRakennus:Delete Method");
+}
+
+void clsRakennus::TyhjennaOsat() {
   IVKoneet.Tyhjenna();
   SahkonKulutusryhmat.Tyhjenna();
   Tilat.Tyhjenna();
   VedenKulutusryhmat.Tyhjenna();
-  Tariffit.Tyhjenna();
   Saastotoimenpiteet.Tyhjenna();
   ToimenpiteidenJarjestelija.ValitutToimenpiteet.Tyhjenna();
-  Vesitariffit.Tyhjenna();
-} catch (...) {
-  NostaVirhe("clsRakennus:Delete Method");
 }
 
 void clsRakennus::PaivitaInstanssiIdLista() try {

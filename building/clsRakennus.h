@@ -132,6 +132,7 @@ class clsRakennus : public Malli<clsRakennus> {
 
  private:
   void LuoOletusmalli();
+  void TyhjennaOsat();
   void TarjoaMateriaalienPaivitysta();
   void VaroitaMaanvaraisista() const;
   void VaroitaIlmavirroista();

@@ -41,6 +41,7 @@ void clsRakennus::PerusmalliMuuttui() {
 }
 
 void clsRakennus::LuoOletusmalli() try {
+  TyhjennaOsat();  // what a failed try has left
   ProjektiAsetukset.strCurrentProjectFile.clear();
   Vaiheet vaiheet;
   const auto kayttotarkoitus = static_cast<std::size_t>(Perustiedot.KayttoTarkoitusID);

@@ -15,6 +15,11 @@ class RivillinenKokoelma : public Kokoelma<T> {
   void RemoveListaItem(int paikka) { listaItemit_.Remove(paikka); }
   void RemoveListaItem(const Tunniste& sKey) { listaItemit_.Remove(sKey); }
   const Sailio<Rivi>& ListaItems() const noexcept { return listaItemit_; }
+  /// Removes the items and the rows.
+  void Tyhjenna() {
+    Kokoelma<T>::Tyhjenna();
+    listaItemit_.Tyhjenna();
+  }
 
  protected:
   /// Makes a row, with the empty key one without a key: right behind its parent row, so that the newest child stands
