@@ -203,7 +203,9 @@ TEST_F(Lomakekerros, KenttatarkistusEhdoittain) {
     lomake.txtVapaa.Teksti("mitä vain");
     EXPECT_EQ(TarkistaLukukentat(lomake), t.viesti == nullptr);
     EXPECT_EQ(viestit_.Naytetyt().size(), t.viesti ? 1u : 0u);
-    if (t.viesti) EXPECT_TRUE(viestit_.Naytetyt()[0].teksti.ends_with(t.viesti)) << viestit_.Naytetyt()[0].teksti;
+    if (t.viesti) {
+      EXPECT_TRUE(viestit_.Naytetyt()[0].teksti.ends_with(t.viesti)) << viestit_.Naytetyt()[0].teksti;
+    }
     EXPECT_EQ(Ikkuna().Kohdistettu(), t.kohdistus);
     EXPECT_EQ(Ikkuna().TekstiValittu(), t.valittu);
   }
