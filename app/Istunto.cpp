@@ -255,10 +255,12 @@ bool Istunto::TarjoaVarakopio() {
   return !varakopio.empty() && Tarjoa(varakopio, 9502);
 }
 
-/// Whatever the answer, the file is first put aside under a name of its own, where no later save replaces it.
+/// Whatever the answer, the file is kept under a name of its own, where no later save replaces it. Until there is an
+/// answer it stays where it was, to be offered anew.
 bool Istunto::Tarjoa(const std::string& tiedosto, int kysymys) {
+  const Vastaus vastaus = Kysy(Teksti(kysymys), 9101, Napit::KyllaEi, Vastaus::Kylla);
   const std::string talteen = SailytaAjalla(tiedosto);
-  if (Kysy(Teksti(kysymys), 9101, Napit::KyllaEi, Vastaus::Ei) == Vastaus::Ei) {
+  if (vastaus == Vastaus::Ei) {
     Ilmoita(Teksti(9503) + " " + talteen, Teksti(9101));
     return false;
   }

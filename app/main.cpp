@@ -2,7 +2,6 @@
 // The window program. LUMIVIRTA_KUVA=<png> draws a picture of the main window and ends; LUMIVIRTA_AVAA=<project file>
 // is then opened for it.
 #include <QApplication>
-#include <QLocale>
 
 #include "app/Kuvake.h"
 #include "app/Ohjelma.h"
@@ -12,7 +11,6 @@ int main(int argc, char** argv) {
   QApplication sovellus(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lumivirta"));
   QApplication::setWindowIcon(Ohjelmakuvake());
-  QLocale::setDefault(QLocale(QLocale::Finnish, QLocale::Finland));
   AsennaSuomennos();
   if (const QString kuva = qEnvironmentVariable("LUMIVIRTA_KUVA"); !kuva.isEmpty())
     return KuvaaPaaikkuna(kuva.toStdString(), qEnvironmentVariable("LUMIVIRTA_AVAA").toStdString());

@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The real main window: start, menus, keys, closing.
+#include "app/frmMain.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSet>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <csignal>
+#include <filesystem>
+#include <functional>
+
+#include "app/Ohjelma.h"
+#include "building/modAlkuarvojaRakennukseen.h"
+#include "settings/Asetusavaimet.h"
+#include "tests/app/Koekoti.h"
+#include "ui/KerataanViestit.h"
+#include "ui/Lomake.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kEnintaan = 5000;  // ms
+
+/// A project file of a generated building.
+void TeeKohde(const std::string& tiedosto) {
+  clsRakennus rakennus;
+  AsetaGlobaaliRakennus(&rakennus);
+  AlustaPerustiedot(rakennus.Perustiedot);
+  AlustaToteutuneetKulutukset(rakennus.Perustiedot.ToteutuneetKulutukset);
+  rakennus.Perustiedot.BruttoAla = 4200;
+  rakennus.Perustiedot.Kokonaistilavuus = 17500;
+  rakennus.Perustiedot.ValmistumisVuosi = 1965;
+  rakennus.Perustiedot.OtaKayttoon(0);
+  ASSERT_TRUE(rakennus.Tallenna(tiedosto));
+}
+
+QAction& Toiminto(const QMainWindow& ikkuna, const char* nimi) {
+  auto* toiminto = ikkuna.findChild<QAction*>(nimi);
+  if (!toiminto) throw std::logic_error(nimi);
+  return *toiminto;
+}
+
+void AvaaValikko(const QMainWindow& ikkuna, const char* nimi) {
+  auto* valikko = ikkuna.findChild<QMenu*>(nimi);
+  ASSERT_TRUE(valikko) << nimi;
+  emit valikko->aboutToShow();
+}
+
+class PaaikkunaTesti : public testing::Test {
+ protected:
+  PaaikkunaTesti() {
+    AsetaViestit(&viestit);
+    TeeKohde(kohde);
+    ikkuna = std::make_unique<frmMain>(istunto);
+    ikkuna->show();
+  }
+  ~PaaikkunaTesti() override {
+    istunto.SuljeKohde();
+    ikkuna.reset();
+    AsetaViestit(nullptr);
+  }
+  bool Kaytossa(const char* nimi) const { return Toiminto(*ikkuna, nimi).isEnabled(); }
+
+  Koekoti koti;
+  std::string kohde = koti.Tiedosto("Koulu.lvt");
+  KerataanViestit viestit;
+  Istunto istunto;
+  std::unique_ptr<frmMain> ikkuna;
+};
+
+TEST_F(PaaikkunaTesti, EntriesFollowTheObject) {
+  for (const char* nimi : {"mnuFileNew", "mnuFileOpen", "mnuFileExit"}) EXPECT_TRUE(Kaytossa(nimi)) << nimi;
+  for (const char* nimi : {"mnuFileSave", "mnuFileSaveAs", "mnuPerustiedot", "mnuLampo"})
+    EXPECT_FALSE(Kaytossa(nimi)) << nimi;
+  ASSERT_TRUE(istunto.Avaa(kohde));
+  AvaaValikko(*ikkuna, "mnuFile");
+  for (const char* nimi : {"mnuFileSave", "mnuFileSaveAs", "mnuPerustiedot", "mnuLampo"})
+    EXPECT_TRUE(Kaytossa(nimi)) << nimi;
+
+  Toiminto(*ikkuna, "mnuLampo").trigger();
+  ASSERT_TRUE(AvoinLomake("frmLampoYhteenveto"));
+  EXPECT_FALSE(Kaytossa("mnuLampo")) << "open already";
+  AvoinLomake("frmLampoYhteenveto")->Sulje();
+  AvaaValikko(*ikkuna, "mnuRakennus");
+  EXPECT_TRUE(Kaytossa("mnuLampo"));
+}
+
+TEST_F(PaaikkunaTesti, EveryEntryHasAFinnishTextALetterAndKeysOfItsOwn) {
+  QSet<QKeySequence> nappaimet;
+  for (const Valikkorivi& rivi : Valikkorivit()) {
+    if (!*rivi.ohjain) continue;
+    const QAction& toiminto = Toiminto(*ikkuna, rivi.ohjain);
+    EXPECT_FALSE(toiminto.text().contains("missing")) << rivi.ohjain;
+    EXPECT_TRUE(toiminto.text().contains('&')) << rivi.ohjain;
+    EXPECT_FALSE(nappaimet.contains(toiminto.shortcut())) << rivi.ohjain;
+    nappaimet.insert(toiminto.shortcut());
+  }
+  for (const QMenu* valikko : ikkuna->menuBar()->findChildren<QMenu*>()) {
+    QSet<QChar> kirjaimet;
+    for (const QAction* toiminto : valikko->actions()) {
+      if (toiminto->isSeparator()) continue;
+      const QChar kirjain = toiminto->text().at(toiminto->text().indexOf('&') + 1).toLower();
+      EXPECT_FALSE(kirjaimet.contains(kirjain)) << toiminto->text().toStdString();
+      kirjaimet.insert(kirjain);
+    }
+  }
+}
+
+TEST_F(PaaikkunaTesti, TheModelDisablesTheFirstButtons) {
+  ASSERT_TRUE(istunto.Avaa(kohde));
+  ikkuna->PaivitaValikot();
+  const auto napit = ikkuna->findChild<QToolBar*>("tbToolBar")->actions();
+  ASSERT_EQ(napit.size(), 3);
+  ikkuna->TyokalutKaytossa(2, false);
+  EXPECT_FALSE(napit[0]->isEnabled() || napit[1]->isEnabled());
+  EXPECT_TRUE(napit[2]->isEnabled());
+}
+
+TEST_F(PaaikkunaTesti, ClosingAsksAndObeys) {
+  ASSERT_TRUE(istunto.Avaa(kohde));
+  istunto.Rakennus()->Tallennettu = false;
+  viestit.AsetaSeuraavaVastaus(Vastaus::Peruuta);
+  EXPECT_FALSE(ikkuna->close());
+  EXPECT_TRUE(ikkuna->isVisible());
+  viestit.AsetaSeuraavaVastaus(Vastaus::Ei);
+  EXPECT_TRUE(ikkuna->close());
+  EXPECT_FALSE(ikkuna->isVisible());
+}
+
+TEST_F(PaaikkunaTesti, ThePlaceIsKeptInTwips) {
+  EXPECT_EQ(ikkuna->size(), QSize(814, 634)) << "12210 by 9510";
+  ikkuna->resize(700, 500);
+  ikkuna->move(40, 60);
+  ikkuna->close();
+  EXPECT_EQ(HaeAsetus(Avain::MainLeft), "600");
+  EXPECT_EQ(HaeAsetus(Avain::MainHeight), "7500");
+  frmMain uusi(istunto);
+  EXPECT_EQ(uusi.size(), QSize(700, 500));
+  TallennaAsetus(Avain::MainLeft, "900000");
+  frmMain ulkona(istunto);
+  EXPECT_TRUE(QRect(0, 0, 800, 800).contains(ulkona.pos())) << "a place off the screens is ignored";
+}
+
+/// Presses a button of the message box or form that is shown next as modal.
+void PainaKunAukeaa(std::function<QPushButton*(QWidget&)> nappi) {
+  auto* ajastin = new QTimer(qApp);
+  QObject::connect(ajastin, &QTimer::timeout, qApp, [ajastin, nappi = std::move(nappi)] {
+    QWidget* ikkuna = QApplication::activeModalWidget();
+    QPushButton* painettava = ikkuna ? nappi(*ikkuna) : nullptr;
+    if (!painettava || !painettava->isVisible()) return;
+    ajastin->deleteLater();
+    QTest::mouseClick(painettava, Qt::LeftButton);
+  });
+  ajastin->start(10);
+}
+
+void PainaNimea(const char* nimi) {
+  PainaKunAukeaa([nimi](QWidget& ikkuna) { return ikkuna.findChild<QPushButton*>(nimi); });
+}
+
+void PainaOtsikkoa(const QString& otsikko) {
+  PainaKunAukeaa([otsikko](QWidget& ikkuna) -> QPushButton* {
+    for (auto* nappi : ikkuna.findChildren<QPushButton*>())
+      if (qobject_cast<QMessageBox*>(&ikkuna) && nappi->text().remove('&') == otsikko) return nappi;
+    return nullptr;
+  });
+}
+
+TEST(Ohjelma, TheStartWindowLeadsToANewObject) {
+  const Koekoti koti;
+  Ohjelma ohjelma;
+  EXPECT_TRUE(AvoinLomake("frmSplash")) << "shown while the program loads";
+  EXPECT_FALSE(ohjelma.Paaikkuna().isVisible());
+  PainaNimea("cmdJatka");
+  PainaNimea("cmdOk");  // the basic data
+  ASSERT_TRUE(QTest::qWaitFor([&] { return ohjelma.Kohteet().Rakennus() != nullptr; }, kEnintaan));
+  PainaOtsikkoa("OK");  // a building without area can't be generated: told, and nothing is lost
+  QTest::qWait(200);
+  EXPECT_TRUE(ohjelma.Paaikkuna().isVisible());
+  EXPECT_EQ(HaeAsetus(Avain::Kotihakemisto), AppPath());
+  if (QWidget* dialogi = QApplication::activeModalWidget()) QTest::keyClick(dialogi, Qt::Key_Escape);
+}
+
+TEST(Ohjelma, TerminationRescuesTheObjectBeforeItAsks) {
+  const Koekoti koti;
+  TeeKohde(koti.Tiedosto("Koulu.lvt"));
+  Ohjelma ohjelma;
+  QTimer::singleShot(50, qApp, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+  ASSERT_TRUE(QTest::qWaitFor([] { return !AvoinLomake("frmSplash"); }, kEnintaan));
+  EXPECT_EQ(ohjelma.Kohteet().Rakennus(), nullptr) << "the choice was left to the menus";
+
+  ASSERT_TRUE(ohjelma.Kohteet().Avaa(koti.Tiedosto("Koulu.lvt")));
+  ohjelma.Kohteet().Rakennus()->Tallennettu = false;
+  const std::string palautus = AppPath() + "~palautus.lvt";
+  bool talteen = false;
+  PainaKunAukeaa([&](QWidget& ikkuna) {
+    talteen = fs::exists(palautus);
+    return ikkuna.findChild<QPushButton*>();
+  });
+  std::raise(SIGTERM);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return ohjelma.Kohteet().Rakennus()->Tallennettu; }, kEnintaan)) << "Yes saves";
+  EXPECT_TRUE(talteen) << "written before the question";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !fs::exists(palautus); }, kEnintaan));
+}
+
+TEST(Ohjelma, ThePictureShowsTheHeatSummary) {
+  const Koekoti koti;
+  TeeKohde(koti.Tiedosto("Koulu.lvt"));
+  const std::string tyhja = koti.Tiedosto("tyhjä.png"), kuva = koti.Tiedosto("kuva.png");
+  EXPECT_EQ(KuvaaPaaikkuna(tyhja, ""), 0);
+  EXPECT_EQ(KuvaaPaaikkuna(kuva, koti.Tiedosto("Koulu.lvt")), 0);
+  EXPECT_NE(QImage(QString::fromStdString(kuva)), QImage(QString::fromStdString(tyhja)));
+  EXPECT_EQ(KuvaaPaaikkuna(koti.Tiedosto("ei/ole.png"), ""), 1);
+}
+
+}  // namespace

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "ui/qt/QtViestit.h"
+
+/// Tests that need real widgets: the platform is "offscreen" unless the caller sets another.
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication sovellus(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  AsennaSuomennos();
+  ::testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
