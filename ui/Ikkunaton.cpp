@@ -79,12 +79,20 @@ pugi::xml_document LueLomaketiedosto(const std::string& polku) {
   return tiedosto;
 }
 
-std::size_t RivinPaikka(const Ohjain& ohjain, std::string_view teksti) {
-  const auto& rivit = ohjain.Rivit();
-  const auto it =
-      std::ranges::find_if(rivit, [&](const auto& rivi) { return !rivi.empty() && rivi.front() == teksti; });
-  if (it == rivit.end()) throw std::logic_error(ohjain.Nimi() + ": ei riviä " + std::string(teksti));
-  return static_cast<std::size_t>(it - rivit.begin());
+/// Captions of what the person can choose from: rows of a list, pages of a tab control.
+std::vector<std::string> Valittavat(const Ohjain& ohjain) {
+  std::vector<std::string> otsikot;
+  for (const auto& rivi : ohjain.Rivit()) otsikot.push_back(rivi.empty() ? std::string() : rivi.front());
+  if (ohjain.Tyyppi() == Ohjaintyyppi::TabStrip)
+    for (const Osa& sivu : ohjain.Osat()) otsikot.push_back(sivu.otsikko);
+  return otsikot;
+}
+
+int ValittavanPaikka(const Ohjain& ohjain, std::string_view teksti) {
+  const auto otsikot = Valittavat(ohjain);
+  const auto it = std::ranges::find(otsikot, teksti);
+  if (it == otsikot.end()) throw std::logic_error(ohjain.Nimi() + ": ei ole valittavana " + std::string(teksti));
+  return static_cast<int>(it - otsikot.begin());
 }
 
 }  // namespace
@@ -117,8 +125,8 @@ void Ikkunaton::KayttajaKirjoittaa(std::string_view nimi, std::string teksti) {
 void Ikkunaton::KayttajaPoistuu(std::string_view nimi) { Kaytettava(nimi).KayttajaPoistuu(); }
 
 void Ikkunaton::KayttajaValitsee(std::string_view nimi, std::string_view rivi) {
-  Ohjain& lista = Kaytettava(nimi);
-  lista.KayttajaValitsee(static_cast<int>(RivinPaikka(lista, rivi)));
+  Ohjain& ohjain = Kaytettava(nimi);
+  ohjain.KayttajaValitsee(ValittavanPaikka(ohjain, rivi));
 }
 
 void Ikkunaton::KayttajaPainaa(std::string_view nimi) { Kaytettava(nimi).KayttajaPainaa(); }

@@ -29,6 +29,7 @@ class Ikkunaton : public Lomakeikkuna {
 
   void KayttajaKirjoittaa(std::string_view nimi, std::string teksti);
   void KayttajaPoistuu(std::string_view nimi);
+  /// `rivi`: first cell of a row, or caption of a page.
   void KayttajaValitsee(std::string_view nimi, std::string_view rivi);
   void KayttajaPainaa(std::string_view nimi);
 

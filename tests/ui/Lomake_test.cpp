@@ -173,6 +173,21 @@ TEST_F(Lomakekerros, KaannosPaneeTekstitTagienMukaan) {
   EXPECT_EQ(lomake_->lvwRivit.Kohde().Osat()[0].otsikko, "Investointi (t€)");
 }
 
+TEST_F(Lomakekerros, ValitaanSivujaJaRivejaOtsikollaan) {
+  int valintoja = 0;
+  lomake_->tabSivut.KunMuuttuu([&] { ++valintoja; });
+  lomake_->lvwRivit.KunMuuttuu([&] { ++valintoja; });
+  lomake_->lvwRivit.Rivit({{"Aula"}, {"Keittiö"}});
+  lomake_->lvwRivit.Indeksi(7);  // there is no such row
+  EXPECT_EQ(lomake_->lvwRivit.Indeksi(), -1);
+  Ikkuna().KayttajaValitsee("lvwRivit", "Keittiö");
+  Ikkuna().KayttajaValitsee("tabSivut", Teksti(2143));
+  EXPECT_EQ(lomake_->lvwRivit.Indeksi(), 1);
+  EXPECT_EQ(lomake_->tabSivut.Indeksi(), 1);
+  EXPECT_EQ(valintoja, 2);
+  EXPECT_THROW(Ikkuna().KayttajaValitsee("lvwRivit", "Sauna"), std::logic_error);
+}
+
 TEST_F(Lomakekerros, MuokkausnapitLukitaanKunToimenpiteitaOn) {
   LukitseMuokkausnapit(*lomake_, false);
   EXPECT_TRUE(lomake_->cmdLisaaRivi.Kaytossa());
