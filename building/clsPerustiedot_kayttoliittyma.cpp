@@ -102,7 +102,7 @@ void clsPerustiedot::LueKulutukset() {
     if (!vuosi) continue;
     const auto n = static_cast<std::size_t>(i);
     lomake.lblVuosi[n].Otsikko(std::to_string(ToteutuneetKulutukset.KulutusTietojenViimVuosi - i));
-    lomake.optVertailuvuosi[n].Valittu(vuosi->KaytaVertailuVuotena);
+    lomake.optVertailuvuosi[n].Valittu(vuosi == &ToteutuneetKulutukset.VertailuVuodenTiedot());
     for (const Kulutuskentta& k : kKulutuskentat) (lomake.*k.kentat)[n].Luku(vuosi->*k.luku, k.kuvio);
   }
 }
