@@ -40,7 +40,8 @@ const std::vector<Attribuutti>& Attribuutit() {
 struct Tila {
   Tila() {
     std::mt19937 arpa(1);
-    for (const Attribuutti& a : Attribuutit()) hajautus.emplace(a.nimi, a.haku);
+    for (const Jasen& jasen : clsTila::kLuokka.Jasenet()) hajautus.emplace(jasen.nimi, nullptr);
+    for (const Attribuutti& a : Attribuutit()) hajautus.at(a.nimi) = a.haku;
     for (int i = 0; i < 256; ++i) {
       const Attribuutti& a = Attribuutit()[arpa() % Attribuutit().size()];
       nimet.push_back(a.nimi);
@@ -55,7 +56,7 @@ struct Tila {
   std::vector<std::unique_ptr<clsTila>> tilat;
   std::vector<std::string> nimet;  // in random order
   std::vector<std::size_t> indeksit;
-  std::unordered_map<std::string, Haku> hajautus;
+  std::unordered_map<std::string, Haku> hajautus;  // all names of the class
   double oma = 0, toinen = 0;
 };
 

@@ -3,31 +3,33 @@
 
 #include <algorithm>
 
-std::size_t InstanssiLista::Etsi(const Tunniste& tunniste) const noexcept {
+std::size_t InstanssiLista::Etsi(std::size_t tiiviste, const Tunniste& tunniste) const noexcept {
   const std::size_t peite = paikat_.size() - 1;
-  std::size_t kohta = tunniste.Tiiviste() & peite;
-  while (paikat_[kohta].olio && !(paikat_[kohta].tunniste == tunniste)) kohta = (kohta + 1) & peite;
+  std::size_t kohta = tiiviste & peite;
+  while (paikat_[kohta].olio && !(paikat_[kohta].tiiviste == tiiviste && paikat_[kohta].olio->InstanssiId == tunniste))
+    kohta = (kohta + 1) & peite;
   return kohta;
 }
 
 bool InstanssiLista::Add(Olio& olio) {
   if (maara_ * 2 >= paikat_.size()) Kasvata();
-  Paikka& paikka = paikat_[Etsi(olio.InstanssiId)];
+  const std::size_t tiiviste = olio.InstanssiId.Tiiviste();
+  Paikka& paikka = paikat_[Etsi(tiiviste, olio.InstanssiId)];
   if (paikka.olio) return false;
-  paikka = {olio.InstanssiId, &olio};
+  paikka = {tiiviste, &olio};
   ++maara_;
   return true;
 }
 
 Olio* InstanssiLista::Item(const Tunniste& instanssiId) const noexcept {
-  return paikat_.empty() ? nullptr : paikat_[Etsi(instanssiId)].olio;
+  return paikat_.empty() ? nullptr : paikat_[Etsi(instanssiId.Tiiviste(), instanssiId)].olio;
 }
 
 void InstanssiLista::Kasvata() {
   std::vector<Paikka> vanhat(std::max<std::size_t>(16, paikat_.size() * 2));
   vanhat.swap(paikat_);
   for (const Paikka& paikka : vanhat)
-    if (paikka.olio) paikat_[Etsi(paikka.tunniste)] = paikka;
+    if (paikka.olio) paikat_[Etsi(paikka.tiiviste, paikka.olio->InstanssiId)] = paikka;
 }
 
 void InstanssiLista::Tyhjenna() noexcept {

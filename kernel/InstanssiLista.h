@@ -4,8 +4,8 @@
 
 #include "kernel/Olio.h"
 
-/// The live objects of one class by `InstanssiId`. Open addressing over one array: entering thousands of objects at each
-/// copy and save allocates nothing once the array has grown.
+/// The live objects of one class by `InstanssiId`. Open addressing over one array: entering thousands of objects at
+/// each copy and save allocates nothing once the array has grown.
 class InstanssiLista {
  public:
   /// False when the identity is already there.
@@ -17,10 +17,10 @@ class InstanssiLista {
 
  private:
   struct Paikka {
-    Tunniste tunniste;
+    std::size_t tiiviste = 0;  // of the object's identity when it was entered
     Olio* olio = nullptr;
   };
-  std::size_t Etsi(const Tunniste& tunniste) const noexcept;
+  std::size_t Etsi(std::size_t tiiviste, const Tunniste& tunniste) const noexcept;
   void Kasvata();
 
   std::vector<Paikka> paikat_;

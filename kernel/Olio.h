@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "kernel/Jasen.h"
+#include "kernel/Oliomuisti.h"
 
 class KokoelmaPohja;
 
@@ -56,6 +57,8 @@ class TuntematonJasen : public std::runtime_error {
 class Olio {
  public:
   virtual ~Olio() = default;
+  static void* operator new(std::size_t koko) { return oliomuisti::Varaa(koko); }
+  static void operator delete(void* olio, std::size_t koko) noexcept { oliomuisti::Vapauta(olio, koko); }
 
   virtual const Luokka& LuokanTiedot() const noexcept = 0;
   std::string_view LuokanNimi() const noexcept { return LuokanTiedot().Nimi(); }

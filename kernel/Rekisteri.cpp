@@ -21,8 +21,7 @@ int PaivitaIdLista(Olio& olio, clsTyyppiTiedot& tyypit) {
   if (KokoelmaPohja* kokoelma = olio.Kokoelmana())
     for (int i = 1; i <= kokoelma->Count(); ++i) uusittu += PaivitaIdLista(kokoelma->Pohja(i), tyypit);
   if (const clsTyyppiTieto* tieto = tyypit.Etsi(olio.LuokanTiedot()))
-    for (const Jasen* jasen : tieto->Jasenet())
-      if (jasen->OnOlio())
-        if (Olio* lapsi = jasen->olio(olio)) uusittu += PaivitaIdLista(*lapsi, tyypit);
+    for (const Jasen* jasen : tieto->Oliojasenet())
+      if (Olio* lapsi = jasen->olio(olio)) uusittu += PaivitaIdLista(*lapsi, tyypit);
   return uusittu;
 }

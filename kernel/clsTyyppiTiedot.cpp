@@ -50,9 +50,11 @@ const Mallipohja& HaeMallipohja(const std::string& tiedosto) {
 void clsTyyppiTieto::Ratkaise() {
   luokka_ = Luokka::Nimella(clsNimi);
   jasenet_.clear();
+  oliojasenet_.clear();
   if (!luokka_) return;
   for (const std::string& nimi : clsAttribuutit)
     if (const Jasen* jasen = luokka_->Etsi(nimi)) jasenet_.push_back(jasen);
+  std::ranges::copy_if(jasenet_, std::back_inserter(oliojasenet_), &Jasen::OnOlio);
 }
 
 void clsTyyppiTiedot::AlustaTyyppitiedot(const std::string& tiedosto) try {

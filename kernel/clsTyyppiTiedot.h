@@ -17,13 +17,15 @@ class clsTyyppiTieto {
   const Luokka* LuokanTiedot() const noexcept { return luokka_; }
   /// The attributes that the class has, resolved once, in the order of the columns.
   const std::vector<const Jasen*>& Jasenet() const noexcept { return jasenet_; }
+  /// Those of them that hold objects.
+  const std::vector<const Jasen*>& Oliojasenet() const noexcept { return oliojasenet_; }
 
  private:
   friend class clsTyyppiTiedot;
   void Ratkaise();
 
   const Luokka* luokka_ = nullptr;
-  std::vector<const Jasen*> jasenet_;
+  std::vector<const Jasen*> jasenet_, oliojasenet_;
 };
 
 /// The type catalogue of a building: per class the attribute names read from the template of project files, and the
