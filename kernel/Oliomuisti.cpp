@@ -9,6 +9,11 @@ namespace oliomuisti {
 
 namespace {
 
+#ifdef __has_feature  // clang
+#if __has_feature(address_sanitizer)
+#define __SANITIZE_ADDRESS__
+#endif
+#endif
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::size_t kSuurinLohko = 0;
 #else
@@ -49,7 +54,7 @@ void* Varaa(std::size_t koko) {
 
 void Vapauta(void* lohko, std::size_t koko) noexcept {
   g_kaytossa -= koko;
-  if (koko > kSuurinLohko) return ::operator delete(lohko, koko);
+  if (koko > kSuurinLohko) return ::operator delete(lohko);
   Lohko*& vapaa = g_vapaat[Kokoluokka(koko)];
   vapaa = new (lohko) Lohko{vapaa};
 }
