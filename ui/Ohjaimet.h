@@ -124,15 +124,17 @@ class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
   void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
   void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
   void KunKlikataan(std::function<void()> f) const { ohjain_->Klikattu = std::move(f); }
+  bool KopioiLeikepoydalle() const { return ohjain_->KopioiLeikepoydalle(); }
 };
 
-/// Pie chart.
+/// Pie or column chart.
 class MSChart : public TyypitettyKahva<Ohjaintyyppi::MSChart> {
  public:
   using TyypitettyKahva::TyypitettyKahva;
   const Kaaviotiedot& Kaavio() const { return ohjain_->Kaavio(); }
   void Kaavio(Kaaviotiedot kaavio) const { ohjain_->Kaavio(std::move(kaavio)); }
   bool KopioiLeikepoydalle() const { return ohjain_->KopioiLeikepoydalle(); }
+  bool TallennaKuva(const std::string& tiedosto) const { return ohjain_->TallennaKuva(tiedosto); }
 };
 
 /// Three controls whose names end in 1, 2 and 3.

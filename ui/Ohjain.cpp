@@ -25,6 +25,7 @@ constexpr Tyyppirivi kTyypit[] = {
     {"QTabWidget", "TabStrip", Ohjaintyyppi::TabStrip},
     {"QTreeWidget", "ListView", Ohjaintyyppi::ListView},
     {"Piirakka", "MSChart", Ohjaintyyppi::MSChart},
+    {"Pylvaikko", "MSChart", Ohjaintyyppi::MSChart},
 };
 
 }  // namespace

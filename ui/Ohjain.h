@@ -30,11 +30,22 @@ bool TyyppiLuokasta(std::string_view luokka, Ohjaintyyppi& tyyppi);
 /// A trait of a control that an adapter shows on the screen.
 enum class Piirre { Teksti, Vihje, Kaytossa, Nakyva, Valittu, Rivit, Indeksi, Osat, Kaavio, Kohdistus, Tekstivalinta };
 
-/// A pie chart: a name and a value for each slice.
+/// A series of a column chart: a value for each column.
+struct Kaaviosarja {
+  static constexpr int kViiva = -1;
+  std::string nimi;
+  std::vector<double> arvot;
+  int pino = 0;  ///< which of the columns side by side it is stacked in; kViiva: drawn as a line
+};
+
+/// What a chart shows. A pie has a name and a value for each slice; a column chart a name for each place of its axis,
+/// series and their unit.
 struct Kaaviotiedot {
   std::string otsikko;
   std::vector<std::string> nimet;
-  std::vector<double> arvot;
+  std::vector<double> arvot{};
+  std::vector<Kaaviosarja> sarjat{};
+  std::string yksikko{};
 };
 
 /// A page of a tab control or a column of a list.
@@ -106,8 +117,11 @@ class Ohjain {
 
   const Kaaviotiedot& Kaavio() const { return kaavio_; }
   void Kaavio(Kaaviotiedot kaavio);
-  /// Puts the control's picture on the clipboard. False when the adapter has no clipboard.
+  /// Puts what the control shows on the clipboard: a chart as a picture and figures, a list as lines with tabs. False
+  /// when the adapter has no clipboard.
   virtual bool KopioiLeikepoydalle() { return false; }
+  /// Writes the control's picture in the format of the file's extension. False when it can't be written.
+  virtual bool TallennaKuva(const std::string&) { return false; }
 
   /// Gives the focus; a hidden page of a tab control is brought to front first.
   void Kohdista() { Paivita(Piirre::Kohdistus); }

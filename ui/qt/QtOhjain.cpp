@@ -17,7 +17,7 @@
 #include <utility>
 
 #include "kernel/Kirjainkoko.h"
-#include "ui/qt/Piirakka.h"
+#include "ui/qt/Kaaviokuva.h"
 
 namespace {
 
@@ -242,13 +242,14 @@ class QtListView : public QtOhjain {
 
 class QtMSChart : public QtOhjain {
  public:
-  QtMSChart(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, Piirakka& kaavio)
+  QtMSChart(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, Kaaviokuva& kaavio)
       : QtOhjain(ikkuna, std::move(kuvaus), &kaavio), kaavio_(kaavio) {}
 
   bool KopioiLeikepoydalle() override {
     kaavio_.KopioiLeikepoydalle();
     return true;
   }
+  bool TallennaKuva(const std::string& tiedosto) override { return kaavio_.TallennaKuva(tiedosto); }
 
  protected:
   void NaytaPiirre(Piirre piirre) override {
@@ -256,7 +257,7 @@ class QtMSChart : public QtOhjain {
   }
 
  private:
-  Piirakka& kaavio_;
+  Kaaviokuva& kaavio_;
 };
 
 std::vector<Osa> LueOsat(QWidget& widget) {
@@ -319,9 +320,8 @@ void QtOhjain::Kohdista() {
 }
 
 std::unique_ptr<QtOhjain> TeeOhjain(Lomakeikkuna& ikkuna, QWidget& widget) {
-  const bool piirakka = dynamic_cast<Piirakka*>(&widget) != nullptr;
-  Ohjaintyyppi tyyppi;
-  if (!TyyppiLuokasta(piirakka ? "Piirakka" : widget.metaObject()->className(), tyyppi)) return nullptr;
+  Ohjaintyyppi tyyppi = Ohjaintyyppi::MSChart;
+  if (!dynamic_cast<Kaaviokuva*>(&widget) && !TyyppiLuokasta(widget.metaObject()->className(), tyyppi)) return nullptr;
   switch (tyyppi) {
     case Ohjaintyyppi::Label:
       return Tee<QtLabel, QLabel>(ikkuna, widget, tyyppi);
@@ -341,7 +341,7 @@ std::unique_ptr<QtOhjain> TeeOhjain(Lomakeikkuna& ikkuna, QWidget& widget) {
     case Ohjaintyyppi::ListView:
       return Tee<QtListView, QTreeWidget>(ikkuna, widget, tyyppi);
     case Ohjaintyyppi::MSChart:
-      return Tee<QtMSChart, Piirakka>(ikkuna, widget, tyyppi);
+      return Tee<QtMSChart, Kaaviokuva>(ikkuna, widget, tyyppi);
   }
   return nullptr;
 }

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <QStringList>
+#include <QWidget>
+
+#include "ui/Ohjain.h"
+
+/// A chart painted in the palette's text colour on its base colour. Parts bear the number of their legend row, so that
+/// colour alone doesn't tell them apart.
+class Kaaviokuva : public QWidget {
+ public:
+  explicit Kaaviokuva(QWidget* vanhempi = nullptr);
+
+  virtual void AsetaKaavio(const Kaaviotiedot& kaavio);
+  /// Picture of the widget and its figures as text.
+  void KopioiLeikepoydalle();
+  /// Writes the picture in the format that the file's extension tells. False when it can't be written.
+  bool TallennaKuva(const std::string& tiedosto);
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  const Kaaviotiedot& Tiedot() const { return kaavio_; }
+  /// The figures as lines of cells with a tab between, and the names of the legend.
+  virtual QStringList Luvut() const = 0;
+  virtual QStringList Nimet() const = 0;
+
+  static QString Teksti(const std::string& teksti) { return QString::fromStdString(teksti); }
+  /// Colour of a legend row; clear of its neighbours also for the colour-blind.
+  static QColor Vari(std::size_t i);
+  static QString Numero(std::size_t i) { return QString::number(i + 1); }
+  static QFont Lihava(QFont fontti);
+
+  int SelitteenLeveys() const;
+  /// Background and title; leaves the text colour and the plain font set.
+  void PiirraPohja(QPainter& maalain) const;
+  void PiirraSelite(QPainter& maalain, const QRect& alue) const;
+  /// Mark of a legend row: a box in its colour with its number.
+  virtual void PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const;
+
+ private:
+  Kaaviotiedot kaavio_;
+};

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/Pylvaikko.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QtMath>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "kernel/Luvut.h"
+
+namespace {
+
+constexpr int kAsteikonVaaleus = 40;  // of 255: lines of the scale behind the columns
+constexpr double kPalkinOsuus = 0.8;  // of the width of a place
+constexpr double kPisteenKoko = 7;
+
+bool OnViiva(const Kaaviosarja& sarja) { return sarja.pino == Kaaviosarja::kViiva; }
+
+/// Sums of a stack's values above and below zero.
+struct Korkeus {
+  double yla = 0, ala = 0;
+  void Lisaa(double arvo) { (arvo < 0 ? ala : yla) += arvo; }
+};
+
+}  // namespace
+
+Pylvaikko::Pylvaikko(QWidget* vanhempi) : Kaaviokuva(vanhempi) { setMouseTracking(true); }
+
+/// A scale of round steps (1, 2 or 5 times a power of ten) that holds zero and both ends.
+Pylvaikko::Asteikko Pylvaikko::Sovita(double pienin, double suurin) {
+  const double vali = std::max(suurin - pienin, 1e-9) / 5;
+  const double kymmen = std::pow(10, std::floor(std::log10(vali)));
+  const std::array kertoimet = {1.0, 2.0, 5.0, 10.0};
+  const double askel =
+      kymmen * *std::ranges::find_if(kertoimet, [&](double k) { return k == 10 || k * kymmen >= vali; });
+  return {std::floor(pienin / askel) * askel, std::ceil(suurin / askel) * askel, askel};
+}
+
+void Pylvaikko::AsetaKaavio(const Kaaviotiedot& kaavio) {
+  double pienin = 0, suurin = 0;
+  pinoja_ = 1;
+  for (const Kaaviosarja& sarja : kaavio.sarjat) pinoja_ = std::max(pinoja_, sarja.pino + 1);
+  for (std::size_t i = 0; i < kaavio.nimet.size(); ++i) {
+    std::vector<Korkeus> pinot(static_cast<std::size_t>(pinoja_) + kaavio.sarjat.size());
+    for (std::size_t s = 0; s < kaavio.sarjat.size(); ++s) {
+      const Kaaviosarja& sarja = kaavio.sarjat[s];
+      pinot[static_cast<std::size_t>(OnViiva(sarja) ? pinoja_ + static_cast<int>(s) : sarja.pino)].Lisaa(
+          sarja.arvot[i]);
+    }
+    for (const Korkeus& pino : pinot) {
+      pienin = std::min(pienin, pino.ala);
+      suurin = std::max(suurin, pino.yla);
+    }
+  }
+  asteikko_ = Sovita(pienin, suurin);
+  Kaaviokuva::AsetaKaavio(kaavio);
+}
+
+QStringList Pylvaikko::Nimet() const {
+  QStringList nimet;
+  for (const Kaaviosarja& sarja : Tiedot().sarjat) nimet << Teksti(sarja.nimi);
+  return nimet;
+}
+
+QStringList Pylvaikko::Luvut() const {
+  QStringList otsikot(Teksti(Tiedot().yksikko));
+  for (const std::string& nimi : Tiedot().nimet) otsikot << Teksti(nimi);
+  QStringList rivit(otsikot.join('\t'));
+  for (const Kaaviosarja& sarja : Tiedot().sarjat) {
+    QStringList solut(Teksti(sarja.nimi));
+    for (const double arvo : sarja.arvot) solut << Teksti(Muotoile(arvo, "0.0"));
+    rivit << solut.join('\t');
+  }
+  return rivit;
+}
+
+QSize Pylvaikko::sizeHint() const {
+  const int rivi = fontMetrics().height();
+  return {28 * rivi + SelitteenLeveys(),
+          std::max(14 * rivi, static_cast<int>(Tiedot().sarjat.size() + 3) * rivi * 3 / 2)};
+}
+
+QRectF Pylvaikko::Kuvaala() const {
+  const int rivi = fontMetrics().height();
+  const int luvut =
+      fontMetrics().horizontalAdvance(Teksti(Muotoile(-std::max(asteikko_.yla, -asteikko_.ala), "### ##0")));
+  return QRectF(rect()).adjusted(luvut + rivi, 5 * rivi / 2, -SelitteenLeveys(), -2 * rivi);
+}
+
+double Pylvaikko::Y(double arvo) const {
+  const QRectF ala = Kuvaala();
+  return ala.bottom() - (arvo - asteikko_.ala) / (asteikko_.yla - asteikko_.ala) * ala.height();
+}
+
+QPointF Pylvaikko::Viivalla(const Kaaviosarja& sarja, std::size_t paikka) const {
+  return {Kuvaala().left() + (static_cast<double>(paikka) + 0.5) * PaikanLeveys(), Y(sarja.arvot[paikka])};
+}
+
+void Pylvaikko::LisaaPino(int pino, std::size_t paikka, std::vector<Pala>& palat) const {
+  const double leveys = PaikanLeveys() * kPalkinOsuus / pinoja_;
+  const double vasen =
+      Kuvaala().left() + (static_cast<double>(paikka) + (1 - kPalkinOsuus) / 2) * PaikanLeveys() + pino * leveys;
+  Korkeus korkeus;
+  for (std::size_t s = 0; s < Tiedot().sarjat.size(); ++s) {
+    const Kaaviosarja& sarja = Tiedot().sarjat[s];
+    const double arvo = sarja.arvot[paikka];
+    if (sarja.pino != pino || arvo == 0) continue;
+    const double alku = arvo < 0 ? korkeus.ala : korkeus.yla;
+    korkeus.Lisaa(arvo);
+    palat.push_back({QRectF(QPointF(vasen, Y(alku)), QPointF(vasen + leveys, Y(alku + arvo))).normalized(), s, paikka});
+  }
+}
+
+/// Columns first, so that a point of a line lies on top of them.
+std::vector<Pylvaikko::Pala> Pylvaikko::Palat() const {
+  std::vector<Pala> palat;
+  const QPointF puolikas(kPisteenKoko / 2, kPisteenKoko / 2);
+  for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
+    for (int pino = 0; pino < pinoja_; ++pino) LisaaPino(pino, i, palat);
+  for (std::size_t s = 0; s < Tiedot().sarjat.size(); ++s)
+    for (std::size_t i = 0; i < Tiedot().nimet.size() && OnViiva(Tiedot().sarjat[s]); ++i) {
+      const QPointF piste = Viivalla(Tiedot().sarjat[s], i);
+      palat.push_back({QRectF(piste - puolikas, piste + puolikas), s, i});
+    }
+  return palat;
+}
+
+const Pylvaikko::Pala* Pylvaikko::Kohdassa(const std::vector<Pala>& palat, const QPointF& kohta) const {
+  const auto pala = std::find_if(palat.rbegin(), palat.rend(), [&](const Pala& p) { return p.alue.contains(kohta); });
+  return pala == palat.rend() ? nullptr : &*pala;
+}
+
+QString Pylvaikko::Seloste(const Pala& pala) const {
+  const Kaaviosarja& sarja = Tiedot().sarjat[pala.sarja];
+  return Teksti(Tiedot().nimet[pala.paikka] + ", " + sarja.nimi + ": " + Muotoile(sarja.arvot[pala.paikka], "### ##0") +
+                " " + Tiedot().yksikko);
+}
+
+QString Pylvaikko::Seloste(const QPointF& kohta) const {
+  const std::vector<Pala> palat = Palat();
+  const Pala* pala = Kohdassa(palat, kohta);
+  return pala ? Seloste(*pala) : QString();
+}
+
+void Pylvaikko::mouseMoveEvent(QMouseEvent* tapahtuma) {
+  osoitin_ = tapahtuma->position();
+  QToolTip::showText(tapahtuma->globalPosition().toPoint(), Seloste(osoitin_), this);
+  update();
+}
+
+void Pylvaikko::leaveEvent(QEvent*) {
+  osoitin_ = {-1, -1};
+  update();
+}
+
+void Pylvaikko::paintEvent(QPaintEvent*) {
+  QPainter maalain(this);
+  PiirraPohja(maalain);
+  if (Tiedot().sarjat.empty()) return;
+  PiirraAsteikko(maalain);
+  PiirraPalat(maalain);
+  PiirraViivat(maalain);
+  const QRect ala = Kuvaala().toRect();
+  PiirraSelite(maalain, QRect(ala.right(), ala.top(), width() - ala.right(), ala.height()));
+}
+
+void Pylvaikko::PiirraAsteikko(QPainter& maalain) const {
+  const QRectF ala = Kuvaala();
+  const int rivi = fontMetrics().height();
+  QColor himmea = palette().color(QPalette::Text);
+  himmea.setAlpha(kAsteikonVaaleus);
+  maalain.drawText(QRectF(0, ala.top() - 3 * rivi / 2.0, ala.left() - rivi / 2.0, rivi),
+                   Qt::AlignRight | Qt::AlignVCenter, Teksti(Tiedot().yksikko));
+  const int askelia = qRound((asteikko_.yla - asteikko_.ala) / asteikko_.vali);
+  for (int i = 0; i <= askelia; ++i) {
+    const double arvo = asteikko_.ala + i * asteikko_.vali, y = Y(arvo);
+    maalain.drawText(QRectF(0, y - rivi / 2.0, ala.left() - rivi / 2.0, rivi), Qt::AlignRight | Qt::AlignVCenter,
+                     Teksti(Muotoile(arvo, "### ##0.##")));
+    maalain.save();
+    if (std::abs(arvo) > asteikko_.vali / 2) maalain.setPen(himmea);
+    maalain.drawLine(QPointF(ala.left(), y), QPointF(ala.right(), y));
+    maalain.restore();
+  }
+  for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
+    maalain.drawText(
+        QRectF(ala.left() + static_cast<double>(i) * PaikanLeveys(), ala.bottom() + rivi / 4.0, PaikanLeveys(), rivi),
+        Qt::AlignCenter, Teksti(Tiedot().nimet[i]));
+}
+
+void Pylvaikko::PiirraPalat(QPainter& maalain) const {
+  const std::vector<Pala> palat = Palat();
+  const Pala* osoitettu = Kohdassa(palat, osoitin_);
+  const int rivi = fontMetrics().height();
+  maalain.save();
+  for (const Pala& pala : palat) {
+    if (OnViiva(Tiedot().sarjat[pala.sarja])) continue;
+    maalain.setBrush(Vari(pala.sarja));
+    maalain.setPen(QPen(palette().color(QPalette::Text), &pala == osoitettu ? 2.5 : 0.5));
+    maalain.drawRect(pala.alue);
+    maalain.setPen(Qt::black);
+    if (pala.alue.height() > rivi && pala.alue.width() > rivi)
+      maalain.drawText(pala.alue, Qt::AlignCenter, Numero(pala.sarja));
+  }
+  maalain.restore();
+}
+
+void Pylvaikko::PiirraViivat(QPainter& maalain) const {
+  maalain.save();
+  for (std::size_t s = 0; s < Tiedot().sarjat.size(); ++s) {
+    const Kaaviosarja& sarja = Tiedot().sarjat[s];
+    if (!OnViiva(sarja)) continue;
+    QPolygonF viiva;
+    for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i) viiva << Viivalla(sarja, i);
+    maalain.setPen(QPen(palette().color(QPalette::Text), 2));
+    maalain.drawPolyline(viiva);
+    maalain.setBrush(palette().base());
+    for (const QPointF& piste : viiva) maalain.drawEllipse(piste, kPisteenKoko / 2, kPisteenKoko / 2);
+  }
+  maalain.restore();
+}
+
+void Pylvaikko::PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const {
+  if (!OnViiva(Tiedot().sarjat[i])) return Kaaviokuva::PiirraMerkki(maalain, merkki, i);
+  maalain.save();
+  maalain.setPen(QPen(palette().color(QPalette::Text), 2));
+  maalain.drawLine(merkki.left(), merkki.center().y(), merkki.right(), merkki.center().y());
+  maalain.setBrush(palette().base());
+  maalain.drawEllipse(QRectF(merkki).center(), kPisteenKoko / 2, kPisteenKoko / 2);
+  maalain.restore();
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <vector>
+
+#include "ui/qt/Kaaviokuva.h"
+
+/// A column chart: at each place of the axis stacked columns side by side, and lines over them. What is below zero is
+/// stacked downward. The part under the pointer is outlined and tells its value.
+class Pylvaikko : public Kaaviokuva {
+ public:
+  explicit Pylvaikko(QWidget* vanhempi = nullptr);
+  void AsetaKaavio(const Kaaviotiedot& kaavio) override;
+  QSize sizeHint() const override;
+  /// "Place, series: value unit" of the part at the point; "" when there is none.
+  QString Seloste(const QPointF& kohta) const;
+
+ protected:
+  void paintEvent(QPaintEvent* tapahtuma) override;
+  void mouseMoveEvent(QMouseEvent* tapahtuma) override;
+  void leaveEvent(QEvent* tapahtuma) override;
+  QStringList Luvut() const override;
+  QStringList Nimet() const override;
+  void PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const override;
+
+ private:
+  /// A part of a column, or the point of a line.
+  struct Pala {
+    QRectF alue;
+    std::size_t sarja, paikka;
+  };
+  struct Asteikko {
+    double ala, yla, vali;
+  };
+
+  static Asteikko Sovita(double pienin, double suurin);
+  QRectF Kuvaala() const;
+  double Y(double arvo) const;
+  double PaikanLeveys() const {
+    return Kuvaala().width() / static_cast<double>(std::max<std::size_t>(1, Tiedot().nimet.size()));
+  }
+  std::vector<Pala> Palat() const;
+  void LisaaPino(int pino, std::size_t paikka, std::vector<Pala>& palat) const;
+  QPointF Viivalla(const Kaaviosarja& sarja, std::size_t paikka) const;
+  const Pala* Kohdassa(const std::vector<Pala>& palat, const QPointF& kohta) const;
+  QString Seloste(const Pala& pala) const;
+  void PiirraAsteikko(QPainter& maalain) const;
+  void PiirraPalat(QPainter& maalain) const;
+  void PiirraViivat(QPainter& maalain) const;
+
+  Asteikko asteikko_{0, 1, 1};
+  int pinoja_ = 1;
+  QPointF osoitin_{-1, -1};
+};
