@@ -31,11 +31,25 @@ void CommandButton::Nostaa(const std::function<void()>& tapahtuma) const {
   KunKlikataan([&tapahtuma] { Nosta(tapahtuma); });
 }
 
+void TabStrip::SivuKaytossa(int indeksi, bool kaytossa) const {
+  std::vector<Osa> sivut = ohjain_->Osat();
+  sivut.at(static_cast<std::size_t>(indeksi)).kaytossa = kaytossa;
+  ohjain_->Osat(std::move(sivut));
+}
+
 bool LueArvo(const TextBox& kentta, double& kohde) {
   if (!kentta.Muuttunut()) return true;
   const auto luku = LueLuku(kentta.Teksti());
   if (luku) kohde = *luku;
   return luku.has_value();
+}
+
+bool LueArvo(const TextBox& kentta, float& kohde) {
+  if (!kentta.Muuttunut()) return true;
+  double luku = 0;
+  if (!LueArvo(kentta, luku)) return false;
+  kohde = static_cast<float>(luku);
+  return true;
 }
 
 bool LueArvo(const TextBox& kentta, std::int32_t& kohde) {

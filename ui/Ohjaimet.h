@@ -111,19 +111,25 @@ class TabStrip : public TyypitettyKahva<Ohjaintyyppi::TabStrip> {
   using TyypitettyKahva::TyypitettyKahva;
   int Indeksi() const { return ohjain_->Indeksi(); }
   void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
+  /// Whether the person can open the page of that place.
+  void SivuKaytossa(int indeksi, bool kaytossa) const;
   void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
 };
 
-/// List with columns.
+/// List with columns. The person sorts it by its headings and copies its rows (Ctrl+C).
 class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
  public:
   using TyypitettyKahva::TyypitettyKahva;
-  void Rivit(std::vector<std::vector<std::string>> rivit) const { ohjain_->Rivit(std::move(rivit)); }
-  const std::vector<std::vector<std::string>>& Rivit() const { return ohjain_->Rivit(); }
+  void Rivit(Taulukko rivit) const { ohjain_->Rivit(std::move(rivit)); }
+  const Taulukko& Rivit() const { return ohjain_->Rivit(); }
+  void Summarivi(std::vector<std::string> solut) const { ohjain_->Summarivi(std::move(solut)); }
   int Indeksi() const { return ohjain_->Indeksi(); }
   void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
   void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
+  /// Enter or a double click on a row.
   void KunKlikataan(std::function<void()> f) const { ohjain_->Klikattu = std::move(f); }
+  /// Rows pasted from the clipboard (Ctrl+V).
+  void KunLiitetaan(std::function<void(const Taulukko&)> f) const { ohjain_->Liitetty = std::move(f); }
   bool KopioiLeikepoydalle() const { return ohjain_->KopioiLeikepoydalle(); }
 };
 
@@ -146,5 +152,6 @@ std::array<Kahva, 3> Kolme(const Lomake& lomake, const std::string& nimi) {
 /// Reads a field into `kohde`. An unchanged field leaves it as it is; so does a text that is no number, which gives
 /// false. An empty field is no number.
 bool LueArvo(const TextBox& kentta, double& kohde);
+bool LueArvo(const TextBox& kentta, float& kohde);
 /// The same for a whole number, a half rounded to even; also false outside the range of 32 bits.
 bool LueArvo(const TextBox& kentta, std::int32_t& kohde);

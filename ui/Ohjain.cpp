@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Ohjain.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "ui/Komento.h"
@@ -94,10 +95,26 @@ int Ohjain::RajattuIndeksi(int indeksi) const {
   return indeksi >= 0 && static_cast<std::size_t>(indeksi) < maara ? indeksi : -1;
 }
 
-void Ohjain::Rivit(std::vector<std::vector<std::string>> rivit) {
+void Ohjain::Rivit(Taulukko rivit) {
   rivit_ = std::move(rivit);
   indeksi_ = -1;
+  jarjestys_ = Jarjestyksessa(rivit_, lajittelu_.sarake, lajittelu_.laskeva);
   Paivita(Piirre::Rivit);
+}
+
+void Ohjain::Summarivi(std::vector<std::string> solut) {
+  summarivi_ = std::move(solut);
+  Paivita(Piirre::Rivit);
+}
+
+std::string Ohjain::RivitTekstina(const std::vector<int>& rivit) const {
+  Taulukko tulos(1);
+  for (const Osa& sarake : Osat()) tulos.front().push_back(sarake.otsikko);
+  for (const int rivi : jarjestys_)
+    if (rivit.empty() || std::ranges::find(rivit, rivi) != rivit.end())
+      tulos.push_back(rivit_[static_cast<std::size_t>(rivi)]);
+  if (rivit.empty() && !summarivi_.empty()) tulos.push_back(summarivi_);
+  return TaulukkoTekstina(tulos);
 }
 
 void Ohjain::Indeksi(int indeksi) {
@@ -137,6 +154,16 @@ void Ohjain::KayttajaPainaa() {
   if (Tyyppi() == Ohjaintyyppi::OptionButton) Valittu(true);
   if (Tyyppi() == Ohjaintyyppi::CheckBox) Valittu(!Valittu());
   Nosta(Klikattu);
+}
+
+void Ohjain::KayttajaLajittelee(int sarake) {
+  lajittelu_ = {sarake, lajittelu_.sarake == sarake && !lajittelu_.laskeva};
+  jarjestys_ = Jarjestyksessa(rivit_, lajittelu_.sarake, lajittelu_.laskeva);
+  Paivita(Piirre::Rivit);
+}
+
+void Ohjain::KayttajaLiittaa(std::string_view leikepoyta) {
+  if (Liitetty) Nosta([this, rivit = TaulukkoTekstista(leikepoyta)] { Liitetty(rivit); });
 }
 
 void Ohjain::KayttajaPoistuu() {

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/Taulukko.h"
+
 class Lomakeikkuna;
 
 /// Kinds of control, named as in TyypinNimi.
@@ -48,12 +50,19 @@ struct Kaaviotiedot {
   std::string yksikko{};
 };
 
+/// The column by which a list is sorted; -1: rows stand in the order given.
+struct Lajittelu {
+  int sarake = -1;
+  bool laskeva = false;
+};
+
 /// A page of a tab control or a column of a list.
 struct Osa {
   std::string otsikko;
   std::string vihje;
   std::string tag;       ///< design-time text: id of the caption
   std::string vihjetag;  ///< design-time text: id of the tool tip
+  bool kaytossa = true;  ///< the person can open the page
 };
 
 /// What a form file tells of a control.
@@ -106,11 +115,21 @@ class Ohjain {
   void Valittu(bool valittu);
 
   /// Rows of a choice list (one cell) or of a list (a cell per column).
-  const std::vector<std::vector<std::string>>& Rivit() const { return rivit_; }
-  void Rivit(std::vector<std::vector<std::string>> rivit);
-  /// Chosen row, or page of a tab control; -1 none. Outside the rows it becomes -1.
+  const Taulukko& Rivit() const { return rivit_; }
+  void Rivit(Taulukko rivit);
+  /// Chosen row, or page of a tab control; -1 none. Outside the rows it becomes -1. A row keeps its number wherever a
+  /// sorted list shows it.
   int Indeksi() const { return indeksi_; }
   void Indeksi(int indeksi);
+  /// Sums below the rows of a list: always last, never chosen. Empty: none.
+  const std::vector<std::string>& Summarivi() const { return summarivi_; }
+  void Summarivi(std::vector<std::string> solut);
+  /// How the list is sorted, and its rows in the order in which they stand on the screen.
+  const Lajittelu& Lajiteltu() const { return lajittelu_; }
+  const std::vector<int>& Jarjestys() const { return jarjestys_; }
+  /// Headings and these rows of the list in the order of the screen, for the clipboard; all rows and the sums when none
+  /// is told.
+  std::string RivitTekstina(const std::vector<int>& rivit) const;
 
   const std::vector<Osa>& Osat() const { return kuvaus_.osat; }
   void Osat(std::vector<Osa> osat);
@@ -128,14 +147,18 @@ class Ohjain {
   /// Selects the whole text.
   void ValitseTeksti() { Paivita(Piirre::Tekstivalinta); }
 
-  std::function<void()> Muuttui;    ///< text written, row or page chosen
-  std::function<void()> Klikattu;   ///< button pressed, box ticked, row double-clicked
-  std::function<void()> Poistuttu;  ///< focus left the control
+  std::function<void()> Muuttui;                  ///< text written, row or page chosen
+  std::function<void()> Klikattu;                 ///< button pressed, box ticked, row double-clicked
+  std::function<void()> Poistuttu;                ///< focus left the control
+  std::function<void(const Taulukko&)> Liitetty;  ///< rows pasted into a list
 
   void KayttajaKirjoittaa(std::string teksti);
   void KayttajaValitsee(int indeksi);
   void KayttajaPainaa();
   void KayttajaPoistuu();
+  /// Sorts a list by the column; once more the other way round.
+  void KayttajaLajittelee(int sarake);
+  void KayttajaLiittaa(std::string_view leikepoyta);
 
  protected:
   /// Shows the trait on the screen; nothing to show without windows.
@@ -154,7 +177,10 @@ class Ohjain {
   bool odottaa_ = false;    // filled while being written in
   std::string vihje_;
   bool valittu_ = false;
-  std::vector<std::vector<std::string>> rivit_;
+  Taulukko rivit_;
+  std::vector<std::string> summarivi_;
+  Lajittelu lajittelu_;
+  std::vector<int> jarjestys_;
   int indeksi_ = -1;
   Kaaviotiedot kaavio_;
 };

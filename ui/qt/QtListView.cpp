@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/QtListView.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int kRivinumero = Qt::UserRole;  // of a display row: the number of the row, -1 for the sums
+constexpr int kLeveinSarake = 40;          // at first, in letters
+
+QString Q(std::string_view teksti) { return QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())); }
+
+bool OnOmaNappain(const QKeyEvent& tapahtuma) {
+  return tapahtuma.matches(QKeySequence::Copy) || tapahtuma.matches(QKeySequence::Paste);
+}
+
+}  // namespace
+
+QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista)
+    : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
+  lista.setRootIsDecorated(false);
+  lista.setUniformRowHeights(true);
+  lista.setAllColumnsShowFocus(true);
+  lista.setSelectionMode(QAbstractItemView::ExtendedSelection);
+  lista.header()->setSectionsClickable(true);
+  connect(&lista, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rivi) { RiviValittu(rivi); });
+  connect(&lista, &QTreeWidget::itemDoubleClicked, this, [this] {
+    if (Indeksi() >= 0) KayttajaPainaa();
+  });
+  connect(lista.header(), &QHeaderView::sectionClicked, this, [this](int sarake) { KayttajaLajittelee(sarake); });
+  lista.installEventFilter(this);
+}
+
+bool QtListView::KopioiLeikepoydalle() {
+  QGuiApplication::clipboard()->setText(Q(RivitTekstina({})));
+  return true;
+}
+
+/// The main window's menu has the same keys: the list asks for them first.
+bool QtListView::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+  const bool esto = tapahtuma->type() == QEvent::ShortcutOverride;
+  if (!esto && tapahtuma->type() != QEvent::KeyPress) return QtOhjain::eventFilter(kohde, tapahtuma);
+  const auto& nappain = static_cast<const QKeyEvent&>(*tapahtuma);
+  if (!esto) return Nappain(nappain);
+  if (OnOmaNappain(nappain)) tapahtuma->accept();
+  return OnOmaNappain(nappain);
+}
+
+bool QtListView::Nappain(const QKeyEvent& tapahtuma) {
+  const bool enter = tapahtuma.key() == Qt::Key_Return || tapahtuma.key() == Qt::Key_Enter;
+  if (enter && Indeksi() >= 0)
+    KayttajaPainaa();
+  else if (tapahtuma.matches(QKeySequence::Copy))
+    QGuiApplication::clipboard()->setText(Q(RivitTekstina(ValitutRivit())));
+  else if (tapahtuma.matches(QKeySequence::Paste))
+    KayttajaLiittaa(QGuiApplication::clipboard()->text().toStdString());
+  else
+    return false;
+  return true;
+}
+
+/// A form may refuse the row and go back to the former one. The toolkit is still selecting then: the choice is shown
+/// afterwards.
+void QtListView::RiviValittu(const QTreeWidgetItem* rivi) {
+  const int valittu = rivi ? rivi->data(0, kRivinumero).toInt() : -1;
+  KayttajaValitsee(valittu);
+  if (Indeksi() == valittu) return;
+  QTimer::singleShot(0, this, [this] {
+    const QSignalBlocker esto(lista_);
+    lista_.setCurrentItem(RivinPaikka(Indeksi()), 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  });
+}
+
+void QtListView::NaytaPiirre(Piirre piirre) {
+  const QSignalBlocker esto(lista_);
+  if (piirre == Piirre::Osat) NaytaOtsikot();
+  if (piirre == Piirre::Rivit) NaytaRivit();
+  if (piirre == Piirre::Indeksi || piirre == Piirre::Rivit) NaytaIndeksi();
+}
+
+void QtListView::NaytaOtsikot() {
+  QStringList otsikot;
+  for (const Osa& sarake : Osat()) otsikot << Q(sarake.otsikko);
+  lista_.setHeaderLabels(otsikot);
+}
+
+/// Display rows are reused: the form may fill the list while the person is choosing a row.
+void QtListView::NaytaRivit() {
+  const auto rivia = static_cast<int>(Jarjestys().size()) + (Summarivi().empty() ? 0 : 1);
+  while (lista_.topLevelItemCount() > rivia) delete lista_.takeTopLevelItem(rivia);
+  while (lista_.topLevelItemCount() < rivia) lista_.addTopLevelItem(new QTreeWidgetItem);
+  int paikka = 0;
+  for (const int rivi : Jarjestys()) {
+    lista_.topLevelItem(paikka)->setData(0, kRivinumero, rivi);
+    NaytaRivi(paikka++, Rivit()[static_cast<std::size_t>(rivi)]);
+  }
+  if (!Summarivi().empty()) NaytaRivi(paikka, Summarivi());
+  if (!Summarivi().empty()) MuotoileSummarivi(*lista_.topLevelItem(paikka));
+  lista_.header()->setSortIndicatorShown(Lajiteltu().sarake >= 0);
+  lista_.header()->setSortIndicator(Lajiteltu().sarake, Lajiteltu().laskeva ? Qt::DescendingOrder : Qt::AscendingOrder);
+  if (!mitoitettu_ && rivia > 0) MitoitaSarakkeet();
+}
+
+void QtListView::NaytaRivi(int paikka, const std::vector<std::string>& solut) {
+  QTreeWidgetItem& rivi = *lista_.topLevelItem(paikka);
+  rivi.setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+  for (int s = 0; s < lista_.columnCount(); ++s) {
+    const QString teksti = Q(Solu(solut, static_cast<std::size_t>(s)));
+    rivi.setText(s, teksti);
+    rivi.setToolTip(s, teksti);
+    rivi.setTextAlignment(s, Tasaus(s));
+    rivi.setData(s, Qt::FontRole, {});
+    rivi.setData(s, Qt::ForegroundRole, {});
+  }
+}
+
+void QtListView::MuotoileSummarivi(QTreeWidgetItem& rivi) const {
+  QFont lihava = lista_.font();
+  lihava.setBold(true);
+  rivi.setData(0, kRivinumero, -1);
+  rivi.setFlags(Qt::NoItemFlags);
+  for (int s = 0; s < lista_.columnCount(); ++s) {
+    rivi.setFont(s, lihava);
+    rivi.setForeground(s, lista_.palette().brush(QPalette::Active, QPalette::Text));
+  }
+}
+
+Qt::Alignment QtListView::Tasaus(int sarake) const {
+  const bool luku = OnLukusarake(Rivit(), static_cast<std::size_t>(sarake));
+  const auto tasaus = luku ? Qt::AlignRight : Qt::Alignment(lista_.headerItem()->textAlignment(sarake));
+  return tasaus | Qt::AlignVCenter;
+}
+
+void QtListView::NaytaIndeksi() {
+  QTreeWidgetItem* rivi = RivinPaikka(Indeksi());
+  if (lista_.currentItem() != rivi || (rivi && !rivi->isSelected()))
+    lista_.setCurrentItem(rivi, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void QtListView::MitoitaSarakkeet() {
+  mitoitettu_ = true;
+  const int levein = kLeveinSarake * lista_.fontMetrics().averageCharWidth();
+  for (int s = 0; s < lista_.columnCount(); ++s) {
+    lista_.resizeColumnToContents(s);
+    lista_.setColumnWidth(s, std::min(lista_.columnWidth(s), levein));
+  }
+}
+
+QTreeWidgetItem* QtListView::RivinPaikka(int indeksi) const {
+  for (int i = 0; i < lista_.topLevelItemCount() && indeksi >= 0; ++i)
+    if (lista_.topLevelItem(i)->data(0, kRivinumero).toInt() == indeksi) return lista_.topLevelItem(i);
+  return nullptr;
+}
+
+std::vector<int> QtListView::ValitutRivit() const {
+  std::vector<int> rivit;
+  for (const QTreeWidgetItem* rivi : lista_.selectedItems()) rivit.push_back(rivi->data(0, kRivinumero).toInt());
+  return rivit;
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <QTreeWidget>
+
+#include "ui/qt/QtOhjain.h"
+
+/// A list with columns. A click on a heading sorts it, Ctrl+C copies the selected rows (all when none is), Ctrl+V gives
+/// rows to the form, Enter and a double click press it.
+class QtListView : public QtOhjain {
+ public:
+  QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista);
+
+  bool KopioiLeikepoydalle() override;
+  bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override;
+
+ private:
+  void NaytaOtsikot();
+  void NaytaRivit();
+  void NaytaRivi(int paikka, const std::vector<std::string>& solut);
+  void NaytaIndeksi();
+  void MuotoileSummarivi(QTreeWidgetItem& rivi) const;
+  void MitoitaSarakkeet();
+  void RiviValittu(const QTreeWidgetItem* rivi);
+  bool Nappain(const QKeyEvent& tapahtuma);
+  QTreeWidgetItem* RivinPaikka(int indeksi) const;
+  std::vector<int> ValitutRivit() const;
+  Qt::Alignment Tasaus(int sarake) const;
+
+  QTreeWidget& lista_;
+  bool mitoitettu_ = false;  // later the widths are the person's
+};
