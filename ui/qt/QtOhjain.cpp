@@ -18,6 +18,7 @@
 
 #include "kernel/Kirjainkoko.h"
 #include "ui/qt/Kaaviokuva.h"
+#include "ui/qt/QtListView.h"
 
 namespace {
 
@@ -196,48 +197,12 @@ class QtTabStrip : public QtOhjain {
     for (int i = 0; i < sivut_.count(); ++i) {
       const Osa& sivu = Osat()[static_cast<std::size_t>(i)];
       sivut_.setTabText(i, Merkitty(Q(sivu.otsikko), {}));
+      sivut_.setTabEnabled(i, sivu.kaytossa);
       sivut_.setTabToolTip(i, Q(sivu.vihje));
     }
   }
 
   QTabWidget& sivut_;
-};
-
-class QtListView : public QtOhjain {
- public:
-  QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista)
-      : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
-    lista.setRootIsDecorated(false);
-    connect(&lista, &QTreeWidget::currentItemChanged, this,
-            [this](QTreeWidgetItem* rivi) { KayttajaValitsee(lista_.indexOfTopLevelItem(rivi)); });
-    connect(&lista, &QTreeWidget::itemActivated, this, [this] { KayttajaPainaa(); });
-  }
-
- protected:
-  void NaytaPiirre(Piirre piirre) override {
-    const QSignalBlocker esto(lista_);
-    if (piirre == Piirre::Osat) NaytaOtsikot();
-    if (piirre == Piirre::Rivit) NaytaRivit();
-    if (piirre == Piirre::Indeksi || piirre == Piirre::Rivit) lista_.setCurrentItem(lista_.topLevelItem(Indeksi()));
-  }
-
- private:
-  void NaytaOtsikot() {
-    QStringList otsikot;
-    for (const Osa& sarake : Osat()) otsikot << Q(sarake.otsikko);
-    lista_.setHeaderLabels(otsikot);
-  }
-
-  void NaytaRivit() {
-    lista_.clear();
-    for (const auto& rivi : Rivit()) {
-      QStringList solut;
-      for (const std::string& solu : rivi) solut << Q(solu);
-      lista_.addTopLevelItem(new QTreeWidgetItem(solut));
-    }
-  }
-
-  QTreeWidget& lista_;
 };
 
 class QtMSChart : public QtOhjain {
