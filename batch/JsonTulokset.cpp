@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
-#include "building/Tasehaarukka.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 
@@ -64,6 +63,34 @@ constexpr Vuositulos<clsTila> kTilanVuosi[] = {
     VUOSI(clsTila, VuotuinenHenkiloKuorma),   VUOSI(clsTila, VuotuinenAurinkoKuorma),
     VUOSI(clsTila, VuotuinenIVKoneLampoKuorma), VUOSI(clsTila, VuotuisetHyodynnetytLampoKuormat),
     VUOSI(clsTila, VuotuinenLampoEnergianTarve), VUOSI(clsTila, VuotuisetSaatohaviot),
+};
+
+constexpr Vuositulos<clsIVKoneet> kKoneidenVuosi[] = {
+    VUOSI(clsIVKoneet, VuotuinenPuhallinSahko),
+    VUOSI(clsIVKoneet, Tuloilmavirtojen11Summa),
+    VUOSI(clsIVKoneet, Poistoilmavirtojen11Summa),
+    VUOSI(clsIVKoneet, LammitystehonTarve),
+};
+
+constexpr Kuukausitulos<clsIVKone> kKoneenKuukaudet[] = {
+    KUUKAUSI(clsIVKone, IV_LammEnergia),
+    KUUKAUSI(clsIVKone, LtoEnergia),
+    KUUKAUSI(clsIVKone, SahkoPatterinEnergia),
+    KUUKAUSI(clsIVKone, VesikiertoisenLampoPatterinEnergia),
+    KUUKAUSI(clsIVKone, PuhallinSahko),
+};
+
+constexpr Vuositulos<clsIVKone> kKoneenVuosi[] = {
+    VUOSI(clsIVKone, VuotuinenPuhallinSahko),
+    VUOSI(clsIVKone, VuotuinenIVjalkilammitysLampo),
+    VUOSI(clsIVKone, Sahko),
+};
+
+constexpr Vuositulos<clsPuhaltimenSahkonKulutus> kPuhaltimet[] = {
+    VUOSI(clsPuhaltimenSahkonKulutus, TuloSahkoOminaisteho),
+    VUOSI(clsPuhaltimenSahkonKulutus, PoistoSahkoOminaisteho),
+    VUOSI(clsPuhaltimenSahkonKulutus, TuloSahkoOsaTeho),
+    VUOSI(clsPuhaltimenSahkonKulutus, PoistoSahkoOsaTeho),
 };
 #undef VUOSI
 #undef KUUKAUSI
@@ -162,6 +189,37 @@ void KirjoitaTila(JsonKirjoitin& json, Arvokirjoitin& arvot, clsTila& tila) {
   json.LopetaOlio();
 }
 
+void KirjoitaKayntiajat(JsonKirjoitin& json, Arvokirjoitin& arvot, const clsKayntiAjat& ajat) {
+  json.Avain("KayntiAjat");
+  json.AlaTaulukko();
+  for (const clsKayntiAika& aika : ajat) {
+    json.AlaOlio();
+    arvot.Teksti("sKey", aika.sKey.Teksti());
+    arvot.Luku("KayntiTunnit", [&] { return aika.KayntiTunnit(); });
+    json.LopetaOlio();
+  }
+  json.LopetaTaulukko();
+}
+
+void KirjoitaKone(JsonKirjoitin& json, Arvokirjoitin& arvot, const clsTilat& tilat, clsIVKone& kone) {
+  const clsTila* tila = tilat.Etsi(kone.LiittyyTilaansKey);
+  const double Tsisa = tila ? tila->Sisalampotila : kone.PoistoLampotila;
+  kone.PaivitaPuhaltimienTiedot();
+  json.AlaOlio();
+  arvot.Teksti("sKey", kone.sKey.Teksti());
+  arvot.Teksti("KoneenTunnus", kone.KoneenTunnus);
+  arvot.Kuukausitulokset(kone, kKoneenKuukaudet);
+  arvot.Kuukaudet("HaviotTilaan", [&](int m) { return kone.HaviotTilaan(Tsisa, m); });
+  arvot.Vuositulokset(kone, kKoneenVuosi);
+  arvot.Vuositulokset(kone.PuhaltimienSahkonKulutus, kPuhaltimet);
+  json.Avain("Lto");
+  json.AlaOlio();
+  arvot.Luku("LtoHyotysuhde", [&] { return kone.Lto.LtoHyotysuhde(kone.Lto.Tp); });
+  json.LopetaOlio();
+  KirjoitaKayntiajat(json, arvot, kone.KayntiAikaYleistiedot);
+  json.LopetaOlio();
+}
+
 void KirjoitaViestit(JsonKirjoitin& json, const Arvokirjoitin& arvot, const KerataanViestit& viestit) {
   json.Avain("Viestit");
   json.AlaTaulukko();
@@ -193,10 +251,15 @@ void KirjoitaJson(JsonKirjoitin& json, const std::string& tiedosto, clsRakennus&
   json.AlaOlio();
   arvot.Vuositulokset(rakennus, kRakennuksenVuosi);
   arvot.Kuukausitulokset(rakennus, kRakennuksenKuukaudet);
+  arvot.Vuositulokset(rakennus.IVKoneet, kKoneidenVuosi);
   json.LopetaOlio();
   json.Avain("Tilat");
   json.AlaTaulukko();
   for (clsTila& tila : rakennus.Tilat) KirjoitaTila(json, arvot, tila);
+  json.LopetaTaulukko();
+  json.Avain("IVKoneet");
+  json.AlaTaulukko();
+  for (clsIVKone& kone : rakennus.IVKoneet) KirjoitaKone(json, arvot, rakennus.Tilat, kone);
   json.LopetaTaulukko();
   KirjoitaViestit(json, arvot, viestit);
   json.LopetaOlio();

@@ -2,10 +2,12 @@
 #include "building/clsTila.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
+#include "ui/Edistyminen.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -72,19 +74,34 @@ double clsTila::Vuotoilma(int kuukausi) const {
          kPaivatKuukaudessa[static_cast<std::size_t>(kuukausi)] * kTuntiaVuorokaudessa;
 }
 
+clsTila::Koneet clsTila::LiittyvatKoneet() const {
+  return VaadiRakennus().IVKoneet.ListaaTilaanLiittyvatIVKoneet(sKey);
+}
+
+/// Adds what the machine takes from the space or gives it in the month; nothing with natural ventilation.
+void clsTila::LisaaKone(const clsIVKone& kone, int kuukausi, double& haviot, double& kuormat) const {
+  if (PainovoimainenIlmanvaihto) return;
+  const double h = kone.HaviotTilaan(Sisalampotila, kuukausi);
+  (h > 0 ? haviot : kuormat) += std::abs(h);
+}
+
 double clsTila::IVHaviotTilassa(int kuukausi) try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   if (ivHaviotUpToDate_) return ivHaviot_.arvo[m];
-  ivKuormat_.arvo[m] = 0;
-  return Vuotoilma(kuukausi);
+  double haviot = 0, kuormat = 0;
+  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, kuukausi, haviot, kuormat);
+  ivKuormat_.arvo[m] = kuormat;
+  return haviot + Vuotoilma(kuukausi);
 } catch (...) {
   NostaVirhe("clsTila:IVHaviotTilassa Method");
 }
 
 double clsTila::IVKoneLampoKuorma(int kuukausi) try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
-  if (!ivKuormatUpToDate_) ivKuormat_.arvo[m] = 0;
-  return ivKuormat_.arvo[m];
+  if (ivKuormatUpToDate_) return ivKuormat_.arvo[m];
+  double haviot = 0, kuormat = 0;
+  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, kuukausi, haviot, kuormat);
+  return ivKuormat_.arvo[m] = kuormat;
 } catch (...) {
   NostaVirhe("clsTila:IVKoneLampoKuorma Method");
 }
@@ -129,7 +146,7 @@ double clsTila::AurinkoKuorma(int kuukausi) try {
   if (aurKuormatUpToDate_) return aurKuormat_.arvo[m];
   double summa = 0;
   for (clsRakenne& rakenne : Rakenteet)
-    if (rakenne.RakenneRatkaisu && rakenne.RakenneRatkaisu->OnIkkuna) summa += rakenne.AurinkoKuorma(kuukausi);
+    if (rakenne.PaastaaAuringon()) summa += rakenne.AurinkoKuorma(kuukausi);
   return summa;
 } catch (...) {
   NostaVirhe("clsTila:AurinkoKuorma Method");
@@ -212,7 +229,10 @@ double clsTila::VuotuinenAurinkoKuorma() try {
 }
 
 double clsTila::VuotuinenIVKoneLampoKuorma() try {
-  return Vuosisumma([this](int m) { return IVKoneLampoKuorma(m); });
+  return Vuosisumma([this](int m) {
+    IVHaviotTilassa(m);  // fills the month's gain if it isn't up to date
+    return ivKuormat_.arvo[static_cast<std::size_t>(m)];
+  });
 } catch (...) {
   NostaVirhe("clsTila:VuotuinenIVKoneLampoKuorma Method");
 }
@@ -250,12 +270,33 @@ double clsTila::VuotuisetSaatohaviot() try {
 }
 
 void clsTila::PaivitaIVHaviotTilassa() try {
-  for (int m = 0; m < kKuukausia; ++m)
-    ivHaviot_.arvo[static_cast<std::size_t>(m)] = OnLammityskautta(m) ? IVHaviotTilassa(m) : 0;
+  Edistyminen edistyminen;
+  PaivitaIVHaviotTilassa(ivHaviotUpToDate_ ? Koneet{} : LiittyvatKoneet(), edistyminen);
+} catch (...) {
+  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method");
+}
+
+void clsTila::PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistyminen) try {
+  if (!ivHaviotUpToDate_) LaskeIVHaviot(koneet, edistyminen);
   ivHaviotUpToDate_ = true;
   ivKuormatUpToDate_ = true;
 } catch (...) {
   NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method");
+}
+
+void clsTila::LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen) {
+  Kuukausitaulu haviot{}, kuormat{};
+  const auto kuukausittain = [](auto&& laske) {
+    for (int m = 0; m < kKuukausia; ++m)
+      if (OnLammityskautta(m)) laske(m, static_cast<std::size_t>(m));
+  };
+  for (const clsIVKone* kone : koneet) {
+    edistyminen.Nayta("Lasketaan ilmanvaihtokonetta: ", kone->KoneenTunnus);
+    kuukausittain([&](int m, std::size_t i) { LisaaKone(*kone, m, haviot[i], kuormat[i]); });
+  }
+  kuukausittain([&](int m, std::size_t i) { haviot[i] += Vuotoilma(m); });
+  ivHaviot_.arvo = haviot;
+  ivKuormat_.arvo = kuormat;
 }
 
 void clsTila::PaivitaIVKuormatTilassa() try {
@@ -270,7 +311,7 @@ void clsTila::PaivitaAurKuormatTilassa() try {
   if (aurKuormatUpToDate_) return;
   Kuukausitaulu summa{};
   for (clsRakenne& rakenne : Rakenteet) {
-    if (!rakenne.RakenneRatkaisu || !rakenne.RakenneRatkaisu->OnIkkuna) continue;
+    if (!rakenne.PaastaaAuringon()) continue;
     const Kuukausitaulu& kuormat = rakenne.AurinkoKuormat();
     for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += kuormat[m];
   }

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <vector>
+
 #include "building/clsRakenteet.h"
+
+class Edistyminen;
+class clsIVKone;
 
 /// A space: the unit of the monthly heat balance. Steady-state degree hours with ideal utilisation: gains count in a
 /// month up to that month's losses. Months are 0 to 11, monthly figures kWh, yearly ones MWh.
@@ -10,6 +15,7 @@
 class clsTila : public Malli<clsTila, Alkio> {
  public:
   static const Luokka kLuokka;
+  using Koneet = std::vector<clsIVKone*>;
 
   std::string TilanNimi;
   double Kokonaistilavuus = 0;             ///< m³
@@ -79,6 +85,8 @@ class clsTila : public Malli<clsTila, Alkio> {
   /// 1029 is shown and the load stays as it was.
   void PaivitaSahkoOmKuorma();
   void PaivitaIVHaviotTilassa();
+  /// The same with the machines of this space given, so that many spaces take one pass over the machines.
+  void PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistyminen);
   void PaivitaIVKuormatTilassa();
   void PaivitaAurKuormatTilassa();
   void PaivitaJohtumishaviot();
@@ -91,6 +99,9 @@ class clsTila : public Malli<clsTila, Alkio> {
   Tase KuukaudenTase(int kuukausi);
   double KuukaudenTarve(int kuukausi);
   double Vuotoilma(int kuukausi) const;
+  Koneet LiittyvatKoneet() const;
+  void LisaaKone(const clsIVKone& kone, int kuukausi, double& haviot, double& kuormat) const;
+  void LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen);
   template <class F>
   static double Vuosisumma(F&& kuukausiarvo);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/clsTilat.h"
 
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 #include "ui/Edistyminen.h"
 
@@ -43,6 +45,7 @@ double clsTilat::BruttoAlaYht() const {
 double clsTilat::VuotuinenLampoEnergianTarve() try {
   if (tarveUpToDate_) return tarve_.arvo;
   Edistyminen edistyminen;
+  PaivitaIVHaviot(edistyminen);
   tarve_.arvo = Summa(*this, [&edistyminen](clsTila& tila) {
     edistyminen.Nayta("Lasketaan lämmöntarvetta tilalle: ", tila.TilanNimi);
     return tila.VuotuinenLampoEnergianTarve();
@@ -70,10 +73,21 @@ double clsTilat::VuotuisetSaatohaviot() try {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }
 
+/// Fills the ventilation caches that aren't up to date, with one pass over the machines for all spaces.
+void clsTilat::PaivitaIVHaviot(Edistyminen& edistyminen) {
+  const KoneetTiloittain koneet = VaadiRakennus().IVKoneet.ListaaTiloittain();
+  const clsTila::Koneet eiKoneita;
+  for (clsTila& tila : *this) {
+    const auto omat = koneet.find(tila.sKey);
+    tila.PaivitaIVHaviotTilassa(omat == koneet.end() ? eiKoneita : omat->second, edistyminen);
+  }
+}
+
 void clsTilat::PaivitaTilojenLampotaseenLahtotiedot() try {
+  Edistyminen edistyminen;
+  PaivitaIVHaviot(edistyminen);
   for (clsTila& tila : *this) {
     tila.PaivitaAurKuormatTilassa();
-    tila.PaivitaIVHaviotTilassa();
     tila.PaivitaJohtumishaviot();
   }
 } catch (...) {

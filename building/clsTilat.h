@@ -27,6 +27,8 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   void PaivitaTilojenLampotaseenLahtotiedot();
 
  private:
+  void PaivitaIVHaviot(Edistyminen& edistyminen);
+
   Lippu tarveUpToDate_;
   Oma<double> tarve_;  // MWh/a
 };

@@ -51,9 +51,16 @@ double clsSahkonKulutusryhmat::Vuosikulutus() const try {
 double clsSahkonKulutusryhmat::SahkoLaitteidenVuosikulutus() const try {
   double summa = 0;
   for (const clsSahkonKulutusryhma& ryhma : *this) summa += ryhma.Vuosikulutus();
-  return Aarellinen(summa);
+  return Aarellinen(summa + VuotuinenPuhallinSahko());
 } catch (...) {
   NostaVirhe("clsSahkonKulutusryhmat:SahkoLaitteidenVuosikulutus Method");
+}
+
+double clsSahkonKulutusryhmat::VuotuinenPuhallinSahko() const try {
+  const clsRakennus* rakennus = GlobaaliRakennus();
+  return rakennus ? rakennus->IVKoneet.VuotuinenPuhallinSahko() : 0;
+} catch (...) {
+  NostaVirhe("clsSahkonKulutusryhmat:VuotuinenPuhallinSahko Method");
 }
 
 double clsSahkonKulutusryhmat::LammitysSahkonVuosikulutus() const try {

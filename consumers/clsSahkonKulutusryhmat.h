@@ -16,8 +16,10 @@ class clsSahkonKulutusryhmat
 
   /// All electricity: devices and heating, MWh/a.
   double Vuosikulutus() const;
-  /// Electricity of the groups, MWh/a.
+  /// Electricity of the groups and of the machines' fans, MWh/a.
   double SahkoLaitteidenVuosikulutus() const;
+  /// Fans of all machines of the building being worked on, MWh/a; 0 when there is none.
+  double VuotuinenPuhallinSahko() const;
   /// Electricity that goes into heat, MWh/a: electrically heated spaces with their control losses, electric coils of
   /// the machines, electric heating of domestic and process water, all of the building being worked on.
   double LammitysSahkonVuosikulutus() const;

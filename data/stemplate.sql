@@ -13,12 +13,18 @@ INSERT INTO ClassTypes VALUES ('clsIVKone');
 INSERT INTO ClassTypes VALUES ('clsIVKoneet');
 INSERT INTO ClassTypes VALUES ('clsKatselmoijanTiedot');
 INSERT INTO ClassTypes VALUES ('clsKatselmoijienTiedot');
+INSERT INTO ClassTypes VALUES ('clsKayntiAika');
+INSERT INTO ClassTypes VALUES ('clsKayntiAjat');
 INSERT INTO ClassTypes VALUES ('clsLammKulutuksenVakioOsuus');
+INSERT INTO ClassTypes VALUES ('clsLammTehot');
 INSERT INTO ClassTypes VALUES ('clsLippaVarjostus');
+INSERT INTO ClassTypes VALUES ('clsLto');
 INSERT INTO ClassTypes VALUES ('clsMuuttuneetAttribuutit');
 INSERT INTO ClassTypes VALUES ('clsMuuttunutAttribuutti');
 INSERT INTO ClassTypes VALUES ('clsPerustiedot');
 INSERT INTO ClassTypes VALUES ('clsProjektiAsetukset');
+INSERT INTO ClassTypes VALUES ('clsPuhallinSahkoLaskParametrit');
+INSERT INTO ClassTypes VALUES ('clsPuhaltimenSahkonKulutus');
 INSERT INTO ClassTypes VALUES ('clsRakenne');
 INSERT INTO ClassTypes VALUES ('clsRakennekerros');
 INSERT INTO ClassTypes VALUES ('clsRakennus');
@@ -187,7 +193,11 @@ CREATE TABLE clsIVKone (
   PuhaltimenVoimansiirtoTapa TEXT,
   VakioPaineOsuusID INTEGER,
   VakioPaineOsuus TEXT,
-  LiittyyTilaansKey TEXT
+  LiittyyTilaansKey TEXT,
+  Lto TEXT,
+  KayntiAikaYleistiedot TEXT,
+  PuhaltimienSahkonKulutus TEXT,
+  LammTehot TEXT
 );
 
 CREATE TABLE clsIVKoneet (
@@ -222,6 +232,33 @@ CREATE TABLE clsKatselmoijienTiedot (
   SahkoKatselmoija TEXT
 );
 
+CREATE TABLE clsKayntiAika (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  sKey TEXT,
+  Jakso INTEGER,
+  KayntiJaksojenLkm INTEGER,
+  Alkaa DATETIME,
+  Paattyy DATETIME,
+  TuloIlmavirtaProsentti REAL,
+  Tsp REAL,
+  dTPuhallin REAL
+);
+
+CREATE TABLE clsKayntiAjat (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  KayntiaikojenSyottotapaID INTEGER,
+  KayntiAikojenSyottoTapa TEXT,
+  IvKoneenNimi TEXT
+);
+
 CREATE TABLE clsLammKulutuksenVakioOsuus (
   ObjID TEXT COLLATE NOCASE,
   ParentID TEXT COLLATE NOCASE,
@@ -230,6 +267,17 @@ CREATE TABLE clsLammKulutuksenVakioOsuus (
   InstanssiId TEXT,
   kkOsuus REAL,
   VuosiOsuus REAL
+);
+
+CREATE TABLE clsLammTehot (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  TuloilmanLammitysteho REAL,
+  LtoTeho REAL,
+  JalkilammitysTeho REAL
 );
 
 CREATE TABLE clsLippaVarjostus (
@@ -241,6 +289,17 @@ CREATE TABLE clsLippaVarjostus (
   TyyppiID INTEGER,
   TyyppiStr TEXT,
   Varjostuskulma REAL
+);
+
+CREATE TABLE clsLto (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  Tu REAL,
+  Tp REAL,
+  Tlto REAL
 );
 
 CREATE TABLE clsMuuttuneetAttribuutit (
@@ -307,6 +366,49 @@ CREATE TABLE clsProjektiAsetukset (
   strCurrentProjectFile TEXT,
   strCurrentProjectPath TEXT,
   strCurrentProjectFileRevision TEXT
+);
+
+CREATE TABLE clsPuhallinSahkoLaskParametrit (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  Ilmavirta REAL,
+  PaineenKorotus REAL,
+  PuhaltimenHyotysuhde REAL,
+  HihnavalityksenHyotysuhde REAL,
+  MoottorinHyotysuhde REAL,
+  TaajuusmuuttajanHyotysuhde REAL
+);
+
+CREATE TABLE clsPuhaltimenSahkonKulutus (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  TuloSahkoTeho11 REAL,
+  PoistoSahkoTeho11 REAL,
+  TuloSahkoOsaTeho REAL,
+  PoistoSahkoOsaTeho REAL,
+  Teho11Prosentti REAL,
+  OsaTehoProsentti REAL,
+  TuloIlmavirta11Teho REAL,
+  PoistoIlmavirta11Teho REAL,
+  Teho11TiedonLaatuIDTulo INTEGER,
+  Teho11TiedonLaatuIDPoisto INTEGER,
+  OsaTehoTiedonLaatuIDTulo INTEGER,
+  OsaTehoTiedonLaatuIDPoisto INTEGER,
+  VakioPaineOsuusID INTEGER,
+  PuhaltimenVoimansiirtoTapaID INTEGER,
+  PuhaltimenSaatotapaID INTEGER,
+  JarjestelmaTyyppiID INTEGER,
+  IVPeriaateID INTEGER,
+  PuhaltimenSaatotapa TEXT,
+  KoneenTunnus TEXT,
+  TuloPuhParam TEXT,
+  PoistoPuhParam TEXT
 );
 
 CREATE TABLE clsRakenne (

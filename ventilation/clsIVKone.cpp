@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/clsIVKone.h"
 
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "kernel/Virhe.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -11,7 +14,8 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsIVKone::KoneenTunnus>("KoneenTunnus"),
     Arvo<&clsIVKone::TuloIlmavirta11Teho>("TuloIlmavirta11Teho", "m³/s"),
     Arvo<&clsIVKone::PoistoIlmavirta11Teho>("PoistoIlmavirta11Teho", "m³/s"),
-    Arvo<&clsIVKone::SisaanpuhallusLampotila>("SisaanpuhallusLampotila", "°C"),
+    Ominaisuus<clsIVKone, [](const clsIVKone& k) { return k.SisaanpuhallusLampotila(); },
+               [](clsIVKone& k, double T) { k.SisaanpuhallusLampotila(T); }>("SisaanpuhallusLampotila", "°C"),
     Arvo<&clsIVKone::PoistoLampotila>("PoistoLampotila", "°C"),
     Arvo<&clsIVKone::IlmanLampeneminenPuhaltimessa>("IlmanLampeneminenPuhaltimessa", "K"),
     Arvo<&clsIVKone::LtoHyotysuhde>("LtoHyotysuhde", "%"),
@@ -24,15 +28,132 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsIVKone::PuhaltimenSaatotapa>("PuhaltimenSaatotapa"),
     Arvo<&clsIVKone::PuhaltimenVoimansiirtoTapaID>("PuhaltimenVoimansiirtoTapaID"),
     Arvo<&clsIVKone::PuhaltimenVoimansiirtoTapa>("PuhaltimenVoimansiirtoTapa"),
-    Arvo<&clsIVKone::VakioPaineOsuusID>("VakioPaineOsuusID"),
+    Ominaisuus<clsIVKone, [](const clsIVKone& k) { return k.VakioPaineOsuusID(); },
+               [](clsIVKone& k, std::int32_t rivi) { k.VakioPaineOsuusID(rivi); }>("VakioPaineOsuusID"),
     Arvo<&clsIVKone::VakioPaineOsuus>("VakioPaineOsuus"),
     Arvo<&clsIVKone::LiittyyTilaansKey>("LiittyyTilaansKey"),
+    Lapsi<&clsIVKone::Lto>("Lto"),
+    Lapsi<&clsIVKone::KayntiAikaYleistiedot>("KayntiAikaYleistiedot"),
+    Lapsi<&clsIVKone::PuhaltimienSahkonKulutus>("PuhaltimienSahkonKulutus"),
+    Lapsi<&clsIVKone::LammTehot>("LammTehot"),
 };
 
 constexpr int kUusiKoneTekstinro = 9129;
+constexpr double kkWhperMWh = 1000;
+constexpr double kTaysVirta = 100;  // %
+
+/// Sum of the months, kWh, as MWh.
+template <class F>
+double Vuosisumma(F&& kuukausiarvo) {
+  double summa = 0;
+  for (int m = 0; m < kKuukausia; ++m) summa += kuukausiarvo(m);
+  return Aarellinen(summa / kkWhperMWh);
+}
 
 }  // namespace
 
 const Luokka clsIVKone::kLuokka{"clsIVKone", kJasenet};
 
-clsIVKone::clsIVKone() : KoneenTunnus(Teksti(kUusiKoneTekstinro)) {}
+clsIVKone::clsIVKone() : KoneenTunnus(Teksti(kUusiKoneTekstinro)) { PaivitaPuhaltimienTiedot(); }
+
+void clsIVKone::SisaanpuhallusLampotila(double lampotila) noexcept {
+  sisaanpuhallusLampotila_ = lampotila;
+  for (clsKayntiAika& jakso : KayntiAikaYleistiedot)
+    if (jakso.Jakso == clsKayntiAika::KokoVuosi) jakso.Tsp = lampotila;
+}
+
+void clsIVKone::VakioPaineOsuusID(std::int32_t rivi) noexcept {
+  vakioPaineOsuusID_ = rivi;
+  PuhaltimienSahkonKulutus.VakioPaineOsuusID = rivi;
+}
+
+void clsIVKone::PaivitaPuhaltimienTiedot() {
+  clsPuhaltimenSahkonKulutus& puhaltimet = PuhaltimienSahkonKulutus;
+  puhaltimet.TuloIlmavirta11Teho = TuloIlmavirta11Teho;
+  puhaltimet.PoistoIlmavirta11Teho = PoistoIlmavirta11Teho;
+  puhaltimet.VakioPaineOsuusID = vakioPaineOsuusID_;
+  puhaltimet.PuhaltimenVoimansiirtoTapaID = PuhaltimenVoimansiirtoTapaID;
+  puhaltimet.PuhaltimenSaatotapaID = PuhaltimenSaatotapaID;
+  puhaltimet.JarjestelmaTyyppiID = JarjestelmaTyyppiID;
+  puhaltimet.IVPeriaateID = IVPeriaateID;
+  puhaltimet.PuhaltimenSaatotapa = PuhaltimenSaatotapa;
+  puhaltimet.KoneenTunnus = KoneenTunnus;
+}
+
+double clsIVKone::HaviotTilaan(double Tsisa, int kuukausi) const try {
+  const double poistuva = OnPoistopuhallin() ? PoistoIlmavirta11Teho : TuloIlmavirta11Teho;
+  const double poistoilma = KayntiAikaYleistiedot.LammonTarvePerKuukausi(poistuva, kuukausi, Tsisa);
+  if (!OnTulopuhallin()) return poistoilma;
+  return poistoilma - KayntiAikaYleistiedot.LammonTarvePerKuukausi(TuloIlmavirta11Teho, kuukausi);
+} catch (...) {
+  NostaVirhe("clsIVKone:HaviotTilaan Method");
+}
+
+double clsIVKone::IV_LammEnergia(int kuukausi) const try {
+  return KayntiAikaYleistiedot.LammonTarvePerKuukausi(TuloIlmavirta11Teho, kuukausi) - LtoEnergia(kuukausi);
+} catch (...) {
+  NostaVirhe("clsIVKone:IV_LammEnergia Method");
+}
+
+/// Temperature of the exhaust air, °C.
+double clsIVKone::Poistoilma() const {
+  const clsTila* tila = LiittyyTilaansKey.Tyhja() ? nullptr : VaadiRakennus().Tilat.Etsi(LiittyyTilaansKey);
+  return tila ? tila->Sisalampotila : PoistoLampotila;
+}
+
+double clsIVKone::LtoEnergia(int kuukausi) const try {
+  return KayntiAikaYleistiedot.LtoEnergiaPerKuukausi(TuloIlmavirta11Teho, kuukausi, Poistoilma(), LtoHyotysuhde);
+} catch (...) {
+  NostaVirhe("clsIVKone:LtoEnergia Method");
+}
+
+double clsIVKone::SahkoPatterinEnergia(int kuukausi) const try {
+  return TuloilmanLammitysSahkoPatterilla ? IV_LammEnergia(kuukausi) : 0;
+} catch (...) {
+  NostaVirhe("clsIVKone:SahkoPatterinEnergia Method");
+}
+
+double clsIVKone::VesikiertoisenLampoPatterinEnergia(int kuukausi) const try {
+  return TuloilmanLammitysSahkoPatterilla ? 0 : IV_LammEnergia(kuukausi);
+} catch (...) {
+  NostaVirhe("clsIVKone:VesikiertoisenLampoPatterinEnergia Method");
+}
+
+double clsIVKone::VuotuinenIVjalkilammitysLampo() const try {
+  return Vuosisumma([this](int m) { return IV_LammEnergia(m); });
+} catch (...) {
+  NostaVirhe("clsIVKone:VuotuinenIVjalkilammitysLampo Method");
+}
+
+/// The fans' electricity by system type; each of the two counts if the machine has it.
+double clsIVKone::PuhallinSahko(PuhaltimenTeho& tulo, PuhaltimenTeho& poisto, int kuukausi) const {
+  if (TuloIlmavirta11Teho == 0 && PoistoIlmavirta11Teho == 0) return 0;
+  const clsKayntiAjat& ajat = KayntiAikaYleistiedot;
+  if (JarjestelmaTyyppiID == PuhaltimenTeho::Kaksinopeus || JarjestelmaTyyppiID == PuhaltimenTeho::MuuttuvaIlmavirta)
+    return (OnTulopuhallin() ? ajat.PuhallinSahkoPerKuukausi(tulo, kuukausi) : 0) +
+           (OnPoistopuhallin() ? ajat.PuhallinSahkoPerKuukausi(poisto, kuukausi) : 0);
+  const double teho = (OnTulopuhallin() ? tulo.Taysteho() : 0) + (OnPoistopuhallin() ? poisto.Taysteho() : 0);
+  return teho * ajat.KayntiAikaPerKuukausi(kuukausi, ajat.KayntiaikojenSyottotapaID, kTaysVirta, kTaysVirta);
+}
+
+double clsIVKone::PuhallinSahko(int kuukausi) try {
+  PaivitaPuhaltimienTiedot();
+  PuhaltimenTeho tulo = PuhaltimienSahkonKulutus.Tulopuhallin(), poisto = PuhaltimienSahkonKulutus.Poistopuhallin();
+  return PuhallinSahko(tulo, poisto, kuukausi);
+} catch (...) {
+  NostaVirhe("clsIVKone:PuhallinSahko Method");
+}
+
+double clsIVKone::VuotuinenPuhallinSahko() try {
+  PaivitaPuhaltimienTiedot();
+  PuhaltimenTeho tulo = PuhaltimienSahkonKulutus.Tulopuhallin(), poisto = PuhaltimienSahkonKulutus.Poistopuhallin();
+  return Vuosisumma([&](int m) { return PuhallinSahko(tulo, poisto, m); });
+} catch (...) {
+  NostaVirhe("clsIVKone:VuotuinenPuhallinSahko Method");
+}
+
+double clsIVKone::Sahko() try {
+  return Vuosisumma([this](int m) { return SahkoPatterinEnergia(m); }) + VuotuinenPuhallinSahko();
+} catch (...) {
+  NostaVirhe("clsIVKone:Sahko Method");
+}

@@ -1,8 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "kernel/Olio.h"
+#include "kernel/Laskenta.h"
+#include "ventilation/clsKayntiAjat.h"
+#include "ventilation/clsLammTehot.h"
+#include "ventilation/clsLto.h"
+#include "ventilation/clsPuhaltimenSahkonKulutus.h"
 
-/// A ventilation machine.
+/// A ventilation machine: flows, temperatures, schedule, heat recovery and fans. It gives the space that it serves its
+/// ventilation loss or gain, and the building its after-heating and fan electricity.
+///
+/// Months are 0 to 11, monthly energy is kWh, yearly MWh. A machine without a schedule gives 0. The space and the
+/// locality's degree days are those of the global building. Errors: 9999 with the method's literal.
 class clsIVKone : public Malli<clsIVKone, Alkio> {
  public:
   static const Luokka kLuokka;
@@ -12,25 +20,59 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   std::string KoneenTunnus;                       ///< the machine's identifier
   double TuloIlmavirta11Teho = 1.0;               ///< supply air flow at full power, m³/s
   double PoistoIlmavirta11Teho = 1.0;             ///< exhaust air flow at full power, m³/s
-  double SisaanpuhallusLampotila = 16.0;          ///< supply air temperature, °C
   double PoistoLampotila = 21.0;                  ///< exhaust air temperature when no space is joined, °C
-  double IlmanLampeneminenPuhaltimessa = 1.0;     ///< K
-  double LtoHyotysuhde = 0;                       ///< efficiency of heat recovery, %
+  double IlmanLampeneminenPuhaltimessa = 1.0;     ///< K; the periods of the schedule have their own
+  double LtoHyotysuhde = 0;                       ///< temperature efficiency of heat recovery, %
   bool TuloilmanLammitysSahkoPatterilla = false;  ///< the supply air is heated by an electric coil
   std::int32_t IVPeriaateID = TuloilmakonePlusLTO;
   std::string IVPeriaate;
-  std::int32_t JarjestelmaTyyppiID = 2;  ///< 0 constant flow, 1 two speeds, 2 variable flow
+  std::int32_t JarjestelmaTyyppiID = PuhaltimenTeho::MuuttuvaIlmavirta;  ///< PuhaltimenTeho::Jarjestelma
   std::string JarjestelmaTyyppi;
-  std::int32_t PuhaltimenSaatotapaID = 5;  ///< control of the flow
+  std::int32_t PuhaltimenSaatotapaID = 5;  ///< control of the flow (IlmavirranSaatotavat)
   std::string PuhaltimenSaatotapa;
-  std::int32_t PuhaltimenVoimansiirtoTapaID = 0;  ///< drive
+  std::int32_t PuhaltimenVoimansiirtoTapaID = 0;  ///< drive (clsVoimasiirto::Valitys)
   std::string PuhaltimenVoimansiirtoTapa;
-  std::int32_t VakioPaineOsuusID = 1;  ///< share of constant pressure: index of the list
   std::string VakioPaineOsuus = "20";
   Tunniste LiittyyTilaansKey;  ///< key of the space served; empty: none
+  clsLto Lto;
+  clsKayntiAjat KayntiAikaYleistiedot;
+  clsPuhaltimenSahkonKulutus PuhaltimienSahkonKulutus;
+  clsLammTehot LammTehot;
+
+  /// Supply air temperature, °C. Setting it sets `Tsp` of the schedule's year-round periods as well.
+  double SisaanpuhallusLampotila() const noexcept { return sisaanpuhallusLampotila_; }
+  void SisaanpuhallusLampotila(double lampotila) noexcept;
+  /// Share of constant pressure: row of the choice, tens of per cent. Setting it passes it to the fans.
+  std::int32_t VakioPaineOsuusID() const noexcept { return vakioPaineOsuusID_; }
+  void VakioPaineOsuusID(std::int32_t rivi) noexcept;
 
   bool OnTulopuhallin() const noexcept { return IVPeriaateID != Poistoilmakone; }
   bool OnPoistopuhallin() const noexcept { return IVPeriaateID != Tuloilmakone; }
-  /// Yearly after-heating of the supply air, MWh/a. A machine without a running schedule needs none.
-  double VuotuinenIVjalkilammitysLampo() const noexcept { return 0; }
+  /// Gives the fans their copies of the machine's flows, choices and name. Every fan calculation does.
+  void PaivitaPuhaltimienTiedot();
+
+  /// What the machine takes from the heat of a space at Tsisa °C: warming the exhaust flow (the supply flow of a supply
+  /// machine) from outdoors to Tsisa, less warming the supply flow to the set-points. Negative: a gain of the space.
+  double HaviotTilaan(double Tsisa, int kuukausi) const;
+  /// After-heating of the supply air: warming it to the set-points less recovery.
+  double IV_LammEnergia(int kuukausi) const;
+  /// Heat recovered, from air at the temperature of the space served or at `PoistoLampotila`.
+  double LtoEnergia(int kuukausi) const;
+  /// The after-heating that an electric coil gives, and that a water coil gives: one of them is 0.
+  double SahkoPatterinEnergia(int kuukausi) const;
+  double VesikiertoisenLampoPatterinEnergia(int kuukausi) const;
+  /// Electricity of the fans. With constant flow only periods at exactly 100 % count.
+  double PuhallinSahko(int kuukausi);
+  double VuotuinenPuhallinSahko();
+  double VuotuinenIVjalkilammitysLampo() const;
+  /// Electricity of the coil and the fans, MWh/a.
+  double Sahko();
+  double LammitystehonTarve() const { return 0; }
+
+ private:
+  double Poistoilma() const;
+  double PuhallinSahko(PuhaltimenTeho& tulo, PuhaltimenTeho& poisto, int kuukausi) const;
+
+  double sisaanpuhallusLampotila_ = 16.0;
+  std::int32_t vakioPaineOsuusID_ = 1;
 };

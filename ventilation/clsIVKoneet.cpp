@@ -42,6 +42,32 @@ double clsIVKoneet::Poistoilmavirtojen11Summa() const try {
   NostaVirhe("clsIVKoneet:Poistoilmavirtojen11Summa Method");
 }
 
+double clsIVKoneet::VuotuinenPuhallinSahko() const try {
+  double summa = 0;
+  for (clsIVKone& kone : *this) summa += kone.VuotuinenPuhallinSahko();
+  return Aarellinen(summa);
+} catch (...) {
+  NostaVirhe("clsIVKoneet:VuotuinenPuhallinSahko Method");
+}
+
+std::vector<clsIVKone*> clsIVKoneet::ListaaTilaanLiittyvatIVKoneet(const Tunniste& tila) const try {
+  std::vector<clsIVKone*> liittyvat;
+  for (clsIVKone& kone : *this)
+    if (!tila.Tyhja() && kone.LiittyyTilaansKey == tila) liittyvat.push_back(&kone);
+  return liittyvat;
+} catch (...) {
+  NostaVirhe("clsIVKoneet:ListaaTilaanLiittyvatIVKoneet Method");
+}
+
+KoneetTiloittain clsIVKoneet::ListaaTiloittain() const try {
+  KoneetTiloittain koneet;
+  for (clsIVKone& kone : *this)
+    if (!kone.LiittyyTilaansKey.Tyhja()) koneet[kone.LiittyyTilaansKey].push_back(&kone);
+  return koneet;
+} catch (...) {
+  NostaVirhe("clsIVKoneet:ListaaTiloittain Method");
+}
+
 std::vector<clsIVKone*> clsIVKoneet::ListaaTilaanLiittymattomatIVKoneet() const try {
   std::vector<clsIVKone*> liittymattomat;
   const clsTilat& tilat = VaadiRakennus().Tilat;

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <unordered_map>
 #include <vector>
 
 #include "kernel/Kokoelma.h"
 #include "kernel/Laskenta.h"
 #include "ventilation/clsIVKone.h"
 
-/// The ventilation machines of the building.
+/// Machines by the key of the space that they serve, in the collection's order.
+using KoneetTiloittain = std::unordered_map<Tunniste, std::vector<clsIVKone*>>;
+
+/// The ventilation machines of the building. Errors: 9999 with the method's literal.
 class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
  public:
   static const Luokka kLuokka;
@@ -19,6 +23,13 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
   /// Supply and exhaust air flows at full power of the machines that have that fan, m³/s.
   double Tuloilmavirtojen11Summa() const;
   double Poistoilmavirtojen11Summa() const;
+  /// Electricity of all fans, MWh/a.
+  double VuotuinenPuhallinSahko() const;
+  double LammitystehonTarve() const { return 0; }
+  /// The machines that serve the space of that key; none for an empty key.
+  std::vector<clsIVKone*> ListaaTilaanLiittyvatIVKoneet(const Tunniste& tila) const;
+  /// The same for all spaces in one pass over the machines.
+  KoneetTiloittain ListaaTiloittain() const;
   /// The machines that serve no space: they have no key of one, or one that no space of the building has.
   std::vector<clsIVKone*> ListaaTilaanLiittymattomatIVKoneet() const;
 

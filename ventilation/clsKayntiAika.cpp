@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ventilation/clsKayntiAika.h"
+
+#include <algorithm>
+
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "kernel/Virhe.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
+#include "ventilation/LammitysTaulukko.h"
+#include "ventilation/PuhaltimenTeho.h"
+#include "ventilation/Ulkolampotilat.h"
+#include "ventilation/clsKayntiAjat.h"
+
+namespace {
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsKayntiAika::Jakso>("Jakso"),
+    Arvo<&clsKayntiAika::KayntiJaksojenLkm>("KayntiJaksojenLkm", "1/vko"),
+    Arvo<&clsKayntiAika::Alkaa>("Alkaa"),
+    Arvo<&clsKayntiAika::Paattyy>("Paattyy"),
+    Arvo<&clsKayntiAika::TuloIlmavirtaProsentti>("TuloIlmavirtaProsentti", "%"),
+    Arvo<&clsKayntiAika::Tsp>("Tsp", "°C"),
+    Arvo<&clsKayntiAika::dTPuhallin>("dTPuhallin", "K"),
+};
+
+constexpr int kMinuuttejaVuorokaudessa = 1440;
+constexpr double kMinuuttejaTunnissa = 60, kTuntejaVuorokaudessa = 24, kTuntejaViikossa = 168, kPaiviaViikossa = 7;
+constexpr double kKesanLtoRaja = 5;  // %
+constexpr int kLampotilavirhe = 1015, kJaksovirhe = 1018;
+
+}  // namespace
+
+const Luokka clsKayntiAika::kLuokka{"clsKayntiAika", kJasenet};
+
+bool clsKayntiAika::KuuluuKuukauteen(int kuukausi) const noexcept {
+  if (kuukausi < 0 || kuukausi >= kKuukausia) return false;
+  return Jakso == KokoVuosi || Jakso == clsKayntiAjat::MuunnaKuukausiJaksoksi(kuukausi);
+}
+
+double clsKayntiAika::KayntiTunnit() const {
+  int minuutit = Paattyy.minuutit - Alkaa.minuutit;
+  if (minuutit <= 0) minuutit += kMinuuttejaVuorokaudessa;
+  if (minuutit < 0) return Ilmoita("Yksittäinen käyntiaikaero pienempi kuin nolla!"), 0;
+  if (minuutit > kMinuuttejaVuorokaudessa) return Ilmoita("Yksittäinen käyntiaikaero suurempi kuin 1 vrk!"), 0;
+  return minuutit / kMinuuttejaTunnissa;
+}
+
+double clsKayntiAika::KuukaudenKayntiTunnit(int kuukausi) const try {
+  const int paivia = kPaivatKuukaudessa[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+  return paivia * kTuntejaVuorokaudessa * KayntiJaksojenLkm * KayntiTunnit() / kTuntejaViikossa;
+} catch (...) {
+  NostaVirhe("clsKayntiAika:KuukaudenKayntiTunnit Method");
+}
+
+double clsKayntiAika::KayntiJaksonLampo(double q, int kuukausi, double lampotila) const try {
+  if (TuloIlmavirtaProsentti <= 0 || KayntiJaksojenLkm == 0) return 0;
+  const double S = VaadiRakennus().Perustiedot.NormVuodenLammTarveLuku;
+  const double virta = TuloIlmavirtaProsentti * q / 100;
+  return LammitysKerroin(kuukausi + 1, Alkaa, Paattyy, lampotila - dTPuhallin, virta, S) * KayntiJaksojenLkm /
+         kPaiviaViikossa;
+} catch (...) {
+  Ilmoita("Yksittäisen käyntiajan. Lämpönergialaskennassa tuli virhe!", {}, Vakavuus::Virhe);
+  return 0;
+}
+
+double clsKayntiAika::LtoEnergiaHyotySuhde(double Tsp, double LtoHyoty, double Tp, int jakso) try {
+  if (!OnLammitystaulukonLampotila(Tsp)) return NaytaVirhe(kLampotilavirhe), 0;
+  if (jakso == KolmasNeljannes) return LtoHyoty > kKesanLtoRaja ? 100 : 0;
+  const Pysyvyys ulkoilma = Ulkolampotilat(jakso);
+  if (ulkoilma.tunnit.empty()) return NaytaVirhe(kJaksovirhe), 0;
+  double tarve = 0, talteen = 0;
+  int T = ulkoilma.alin;
+  for (const double tunnit : ulkoilma.tunnit) {
+    const double d = std::max(0.0, (Tsp - T) * tunnit);
+    tarve += d;
+    talteen += std::min((Tp - T) * LtoHyoty / 100 * tunnit, d);
+    ++T;
+  }
+  return Jaa(talteen, tarve) * 100;
+} catch (...) {
+  NostaVirhe("clsKayntiAika:LtoEnergiaHyotySuhde Method");
+}
+
+double clsKayntiAika::KayntiJaksonPuhallinEnergia(PuhaltimenTeho& puhallin, int kuukausi) const try {
+  if (TuloIlmavirtaProsentti <= 0 || KayntiJaksojenLkm <= 0) return 0;
+  return puhallin.Teho(TuloIlmavirtaProsentti) * KuukaudenKayntiTunnit(kuukausi);
+} catch (...) {
+  NostaVirhe("clsKayntiAika:KayntiJaksonPuhallinEnergia Method");
+}

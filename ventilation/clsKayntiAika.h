@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "kernel/Olio.h"
+
+class PuhaltimenTeho;
+
+/// One running period of a ventilation machine: a time of day on some days of the week, in one season.
+/// Months are 0 (January) to 11.
+class clsKayntiAika : public Malli<clsKayntiAika, Alkio> {
+ public:
+  static const Luokka kLuokka;
+  /// Seasons: December to February, March to May, June to August, September to November, the whole year.
+  enum Vuosijakso : std::int32_t { EkaNeljannes, TokaNeljannes, KolmasNeljannes, NeljasNeljannes, KokoVuosi };
+
+  std::int32_t Jakso = EkaNeljannes;   ///< season (enum Vuosijakso)
+  std::int32_t KayntiJaksojenLkm = 0;  ///< times a week that the period is run
+  Kellonaika Alkaa, Paattyy;           ///< an end at or before the start is that of the next day
+  double TuloIlmavirtaProsentti = 0;   ///< flow, % of that at full power; for both fans
+  double Tsp = 16.0;                   ///< set-point of the supply air, °C
+  double dTPuhallin = 1.0;             ///< warming of the air in the fan, K
+
+  /// The period's season takes in the month; never for an unknown season.
+  bool KuuluuKuukauteen(int kuukausi) const noexcept;
+  /// Hours of one run, 0 to 24. Times that aren't times of day: a message, and 0.
+  double KayntiTunnit() const;
+  /// Running hours of the month. Errors: 9999.
+  double KuukaudenKayntiTunnit(int kuukausi) const;
+
+  /// Energy that warms q m³/s of supply air at full power from outdoors to `Tsp` − `dTPuhallin`, kWh in a month; each
+  /// run counts for a seventh of the days. 0 without flow or runs. Error 1015 and 0 for a temperature outside 15 to
+  /// 30 °C. A failure shows a message and gives 0.
+  double KayntiJaksonLampo(double q, int kuukausi) const { return KayntiJaksonLampo(q, kuukausi, Tsp); }
+  /// The same to another set-point than `Tsp`.
+  double KayntiJaksonLampo(double q, int kuukausi, double lampotila) const;
+
+  /// Energy efficiency of heat recovery over a season, %, by the season's outdoor temperatures: set-point `Tsp` °C,
+  /// temperature efficiency `LtoHyoty` %, exhaust air `Tp` °C. In summer 100 as soon as the efficiency exceeds 5.
+  /// Error 1015 for a set-point outside 15 to 30 °C, 1018 for any other season than the four, and 0.
+  static double LtoEnergiaHyotySuhde(double Tsp, double LtoHyoty, double Tp, int jakso);
+
+  /// Electricity of one fan, kWh in a month: its power at this period's flow. 0 without flow or runs.
+  double KayntiJaksonPuhallinEnergia(PuhaltimenTeho& puhallin, int kuukausi) const;
+};

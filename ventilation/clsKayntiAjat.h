@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "kernel/Kokoelma.h"
+#include "ventilation/clsKayntiAika.h"
+
+/// The weekly running schedule of a ventilation machine. It is entered either once for the whole year or season by
+/// season; periods of the other way are kept and don't count. Months are 0 to 11, monthly energy is kWh.
+class clsKayntiAjat : public Malli<clsKayntiAjat, Kokoelma<clsKayntiAika>> {
+ public:
+  static const Luokka kLuokka;
+  static constexpr int kJaksojaVuosijaksossa = 7;
+
+  std::int32_t KayntiaikojenSyottotapaID = 0;  ///< 0 one schedule for the whole year, else season by season
+  std::string KayntiAikojenSyottoTapa;         ///< text of that choice
+  std::string IvKoneenNimi;
+
+  bool Vuosittainen() const noexcept { return KayntiaikojenSyottotapaID == 0; }
+  /// Season of a month: 1 for March to May, 2 for June to August, 3 for September to November, else 0.
+  static int MuunnaKuukausiJaksoksi(int kuukausi) noexcept;
+  /// Key of a line (1 to 7) of a season (clsKayntiAika::Vuosijakso): "1EkaNeljannes" to "7KokoVuosi".
+  static Tunniste JaksonAvain(int rivi, int vuosijakso);
+  /// Replaces the schedule by seven empty periods for each of the five seasons.
+  void LuoJaksot(double Tsp, double dTPuhallin);
+
+  /// Heat that warms the supply air, q m³/s at full power, from outdoors to each period's set-point.
+  double LammonTarvePerKuukausi(double q, int kuukausi) const;
+  /// The same to one temperature, °C, in all periods.
+  double LammonTarvePerKuukausi(double q, int kuukausi, double lampotila) const;
+  /// Heat recovered from exhaust air of Tp °C at a temperature efficiency of LtoHyoty %; 0 up to 0.001 % and when the
+  /// sum isn't positive.
+  double LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const;
+  /// Electricity of one fan.
+  double PuhallinSahkoPerKuukausi(PuhaltimenTeho& puhallin, int kuukausi) const;
+  /// Running hours of the periods whose flow is from `ala` to `yla` %, entered by `syottotapa`.
+  double KayntiAikaPerKuukausi(int kuukausi, std::int32_t syottotapa, double ala, double yla) const;
+
+ private:
+  template <class F>
+  double Summa(int kuukausi, std::int32_t syottotapa, F&& arvo) const;
+};

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ventilation/clsPuhaltimenSahkonKulutus.h"
+
+#include "kernel/Laskenta.h"
+#include "kernel/Virhe.h"
+
+namespace {
+
+using Kulutus = clsPuhaltimenSahkonKulutus;
+
+constexpr Jasen kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Kulutus::TuloSahkoTeho11>("TuloSahkoTeho11", "kW"),
+    Arvo<&Kulutus::PoistoSahkoTeho11>("PoistoSahkoTeho11", "kW"),
+    Ominaisuus<Kulutus, [](const Kulutus& k) { return k.TallennettuTuloSahkoOsaTeho(); },
+               [](Kulutus& k, double teho) { k.TuloSahkoOsaTeho(teho); }>("TuloSahkoOsaTeho", "kW"),
+    Ominaisuus<Kulutus, [](const Kulutus& k) { return k.TallennettuPoistoSahkoOsaTeho(); },
+               [](Kulutus& k, double teho) { k.PoistoSahkoOsaTeho(teho); }>("PoistoSahkoOsaTeho", "kW"),
+    Arvo<&Kulutus::Teho11Prosentti>("Teho11Prosentti", "%"),
+    Arvo<&Kulutus::OsaTehoProsentti>("OsaTehoProsentti", "%"),
+    Arvo<&Kulutus::TuloIlmavirta11Teho>("TuloIlmavirta11Teho", "m³/s"),
+    Arvo<&Kulutus::PoistoIlmavirta11Teho>("PoistoIlmavirta11Teho", "m³/s"),
+    Arvo<&Kulutus::Teho11TiedonLaatuIDTulo>("Teho11TiedonLaatuIDTulo"),
+    Arvo<&Kulutus::Teho11TiedonLaatuIDPoisto>("Teho11TiedonLaatuIDPoisto"),
+    Arvo<&Kulutus::OsaTehoTiedonLaatuIDTulo>("OsaTehoTiedonLaatuIDTulo"),
+    Arvo<&Kulutus::OsaTehoTiedonLaatuIDPoisto>("OsaTehoTiedonLaatuIDPoisto"),
+    Arvo<&Kulutus::VakioPaineOsuusID>("VakioPaineOsuusID"),
+    Arvo<&Kulutus::PuhaltimenVoimansiirtoTapaID>("PuhaltimenVoimansiirtoTapaID"),
+    Arvo<&Kulutus::PuhaltimenSaatotapaID>("PuhaltimenSaatotapaID"),
+    Arvo<&Kulutus::JarjestelmaTyyppiID>("JarjestelmaTyyppiID"),
+    Arvo<&Kulutus::IVPeriaateID>("IVPeriaateID"),
+    Arvo<&Kulutus::PuhaltimenSaatotapa>("PuhaltimenSaatotapa"),
+    Arvo<&Kulutus::KoneenTunnus>("KoneenTunnus"),
+    Lapsi<&Kulutus::TuloPuhParam>("TuloPuhParam"),
+    Lapsi<&Kulutus::PoistoPuhParam>("PoistoPuhParam"),
+};
+
+constexpr double kTaysVirta = 100;          // %
+constexpr std::int32_t kOsuudenAskel = 10;  // % for each row of the choice of constant pressure
+
+double Ominaisteho(PuhaltimenTeho puhallin, double virta) {
+  return virta > 0 ? Jaa(puhallin.Teho(kTaysVirta), virta) : 0;
+}
+
+}  // namespace
+
+const Luokka clsPuhaltimenSahkonKulutus::kLuokka{"clsPuhaltimenSahkonKulutus", kJasenet};
+
+PuhaltimenTeho clsPuhaltimenSahkonKulutus::Puhallin(double taysteho) const {
+  clsMivSaato saato;
+  saato.IlmavirranSaatotapa = PuhaltimenSaatotapaID;
+  saato.VoimansiirtoID = PuhaltimenVoimansiirtoTapaID;
+  saato.PaineenKorotuksenVakioOsuus = VakioPaineOsuusID * kOsuudenAskel;
+  saato.IlmavirtaPros = Teho11Prosentti;
+  saato.P1 = taysteho;
+  return {JarjestelmaTyyppiID, saato};
+}
+
+double clsPuhaltimenSahkonKulutus::TuloSahkoOminaisteho() const try {
+  return Ominaisteho(Tulopuhallin(), TuloIlmavirta11Teho);
+} catch (...) {
+  NostaVirhe("clsPuhaltimenSahkonKulutus:TuloSahkoOminaisteho Method");
+}
+
+double clsPuhaltimenSahkonKulutus::PoistoSahkoOminaisteho() const try {
+  return Ominaisteho(Poistopuhallin(), PoistoIlmavirta11Teho);
+} catch (...) {
+  NostaVirhe("clsPuhaltimenSahkonKulutus:PoistoSahkoOminaisteho Method");
+}
+
+double clsPuhaltimenSahkonKulutus::TuloSahkoOsaTeho() const try {
+  return OsaTehoTiedonLaatuIDTulo == Laskettu ? Tulopuhallin().Osateho(OsaTehoProsentti) : tuloSahkoOsaTeho_;
+} catch (...) {
+  NostaVirhe("clsPuhaltimenSahkonKulutus:TuloSahkoOsaTeho Method");
+}
+
+double clsPuhaltimenSahkonKulutus::PoistoSahkoOsaTeho() const try {
+  return OsaTehoTiedonLaatuIDPoisto == Laskettu ? Poistopuhallin().Osateho(OsaTehoProsentti) : poistoSahkoOsaTeho_;
+} catch (...) {
+  NostaVirhe("clsPuhaltimenSahkonKulutus:PoistoSahkoOsaTeho Method");
+}
