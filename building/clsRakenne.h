@@ -15,17 +15,24 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   static const Luokka kLuokka;
   clsRakenne();
 
-  std::int32_t Rakennetyyppi = 0;        ///< kind, 0 to 7 (Rakennelaji); any other conducts nothing
-  std::int32_t TyyppiID = 0;             ///< boundary of kinds 0 to 2 (enum Rajoittuminen); any other conducts nothing
-  std::string TyyppiStr;                 ///< text of that choice
-  std::int32_t SuuntausID = 0;           ///< orientation (enum Suunta)
-  std::string SuuntausStr;               ///< text of that choice
-  double PintaAla = 0;                   ///< area by outside dimensions, m²
+  // What a recalculation reads stands first.
+  std::int32_t Rakennetyyppi = 0;  ///< kind, 0 to 7 (Rakennelaji); any other conducts nothing
+  std::int32_t TyyppiID = 0;       ///< boundary of kinds 0 to 2 (enum Rajoittuminen); any other conducts nothing
+  std::int32_t SuuntausID = 0;     ///< orientation (enum Suunta)
   bool LaskeU_arvoMateriaaleista = false;  ///< the U-value comes from the layers of the solution
+  double PintaAla = 0;                     ///< area by outside dimensions, m²
   Omistus<Rakenneratkaisu> RakenneRatkaisu;
+
+ private:
+  double u_arvo_ = 0;
+  Lippu aurinkokuormatUpToDate_;
+
+ public:
   clsHorisVarjostus HorisVarjostus;
   clsLippaVarjostus SivuLippa;
   clsLippaVarjostus YlaLippa;
+  std::string TyyppiStr;                 ///< text of the boundary
+  std::string SuuntausStr;               ///< text of the orientation
   std::int32_t RakennekannanVersio = 0;  ///< version of the structure database it was made with
 
   /// Thermal transmittance, W/m²K: computed from the layers when LaskeU_arvoMateriaaleista is set and the solution
@@ -41,6 +48,10 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   /// Adds the losses of all twelve months to `summa`: the same figures in one pass.
   void LisaaLampoHaviot(double Tsisa, const Kuukausitaulu& ulkolampotilat, Kuukausitaulu& summa) const;
 
+  /// A window whose solution lets the sun through: others have no solar gain.
+  bool PaastaaAuringon() const noexcept {
+    return Rakennetyyppi == Rakennelaji::Ikkuna && RakenneRatkaisu && RakenneRatkaisu->OnIkkuna;
+  }
   /// Solar gain of month 0 to 11, kWh. One run of the calculator serves twelve reads: reading month 11 from the cache
   /// ends its validity.  Source: prEN 832.
   double AurinkoKuorma(int kuukausi);
@@ -53,7 +64,5 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
  private:
   void LaskeAurinkokuormat();
 
-  double u_arvo_ = 0;
-  Lippu aurinkokuormatUpToDate_;
   Oma<Kuukausitaulu> aurinkoKuormat_;
 };

@@ -14,21 +14,6 @@ std::vector<const Luokka*>& Luokat() {
   return luokat;
 }
 
-/// The first and the last eight bytes and the length tell the members of any one class apart; the bit that tells small
-/// letters from capitals is set in all bytes.
-std::uint64_t Nimitiiviste(std::string_view nimi) noexcept {
-  constexpr std::uint64_t kPieni = 0x2020202020202020;
-  std::uint64_t alku = 0, loppu = 0;
-  if (nimi.size() >= 8) {
-    std::memcpy(&alku, nimi.data(), 8);
-    std::memcpy(&loppu, nimi.data() + nimi.size() - 8, 8);
-  } else {
-    std::memcpy(&alku, nimi.data(), nimi.size());
-  }
-  const std::uint64_t sekoitus = ((alku | kPieni) ^ std::rotl(loppu | kPieni, 29) ^ nimi.size()) * 0x9E3779B97F4A7C15;
-  return sekoitus ^ sekoitus >> 29;
-}
-
 Variantti LuvuksiLajin(Laji laji, const ArvoNakyma& n) {
   switch (laji) {
     case Laji::Lyhyt:
@@ -80,6 +65,21 @@ const Jasen& VaadiJasen(const Olio& olio, std::string_view nimi) {
 
 }  // namespace
 
+Luokka::Nimenpaat::Nimenpaat(std::string_view nimi) noexcept : pituus(nimi.size()) {
+  if (nimi.size() >= 8) {
+    std::memcpy(&alku, nimi.data(), 8);
+    std::memcpy(&loppu, nimi.data() + nimi.size() - 8, 8);
+  } else {
+    std::memcpy(&alku, nimi.data(), nimi.size());
+  }
+}
+
+std::size_t Luokka::Nimenpaat::Tiiviste() const noexcept {
+  constexpr std::uint64_t kPieni = 0x2020202020202020;  // the bit that tells small letters from capitals
+  const std::uint64_t sekoitus = ((alku | kPieni) ^ std::rotl(loppu | kPieni, 29) ^ pituus) * 0x9E3779B97F4A7C15;
+  return sekoitus ^ sekoitus >> 29;
+}
+
 Luokka::Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu osallistuu)
     : sana_(Sanaksi(nimi)),
       jasenet_(jasenet),
@@ -87,20 +87,25 @@ Luokka::Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu
       numero_(Luokat().size()),
       hakemisto_(std::bit_ceil(jasenet.size() * 4 + 1)) {
   for (const Jasen& jasen : jasenet_) {
-    if (Etsi(jasen.nimi)) throw std::logic_error("jäsen kahdesti: " + std::string(nimi) + "." + std::string(jasen.nimi));
-    std::size_t kohta = Nimitiiviste(jasen.nimi) & (hakemisto_.size() - 1);
-    while (hakemisto_[kohta]) kohta = (kohta + 1) & (hakemisto_.size() - 1);
-    hakemisto_[kohta] = &jasen;
+    if (Etsi(jasen.nimi))
+      throw std::logic_error("jäsen kahdesti: " + std::string(nimi) + "." + std::string(jasen.nimi));
+    const Nimenpaat paat(jasen.nimi);
+    std::size_t kohta = paat.Tiiviste() & (hakemisto_.size() - 1);
+    while (hakemisto_[kohta].jasen) kohta = (kohta + 1) & (hakemisto_.size() - 1);
+    hakemisto_[kohta] = {paat, &jasen};
   }
   Luokat().push_back(this);
 }
 
 const Jasen* Luokka::Etsi(std::string_view nimi) const noexcept {
+  const Nimenpaat paat(nimi);
   const std::size_t peite = hakemisto_.size() - 1;
-  for (std::size_t kohta = Nimitiiviste(nimi) & peite; hakemisto_[kohta]; kohta = (kohta + 1) & peite) {
-    const std::string_view oma = hakemisto_[kohta]->nimi;
-    if (oma.size() != nimi.size()) continue;
-    if (std::memcmp(oma.data(), nimi.data(), nimi.size()) == 0 || SamaNimi(oma, nimi)) return hakemisto_[kohta];
+  for (std::size_t kohta = paat.Tiiviste() & peite; hakemisto_[kohta].jasen; kohta = (kohta + 1) & peite) {
+    const Paikka& paikka = hakemisto_[kohta];
+    const std::string_view oma = paikka.jasen->nimi;
+    if (paikka.paat == paat && (paat.OnKokoNimi() || std::memcmp(oma.data(), nimi.data(), nimi.size()) == 0))
+      return paikka.jasen;
+    if (SamaNimi(oma, nimi)) return paikka.jasen;
   }
   return nullptr;
 }

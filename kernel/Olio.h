@@ -15,9 +15,9 @@ class Luokka {
  public:
   /// How a class stands towards the instance register and the comparison of object trees.
   enum class Osallistuu : std::uint8_t {
-    Kaikkeen,        ///< register and comparison
-    EiRekisteriin,   ///< compared, but not entered in the register and not walked further by it
-    EiKumpaankaan,   ///< objects of the structure library: neither registered nor compared
+    Kaikkeen,       ///< register and comparison
+    EiRekisteriin,  ///< compared, but not entered in the register and not walked further by it
+    EiKumpaankaan,  ///< objects of the structure library: neither registered nor compared
   };
 
   /// `nimi` and `jasenet` live for the whole run. Enters the class in the list of all classes.
@@ -40,11 +40,28 @@ class Luokka {
   static const Luokka* Nimella(std::string_view nimi) noexcept;
 
  private:
+  /// The first and the last eight bytes of a name, and its length: they tell the members of any one class apart, and up
+  /// to sixteen bytes they are the whole name.
+  struct Nimenpaat {
+    Nimenpaat() = default;
+    explicit Nimenpaat(std::string_view nimi) noexcept;
+    std::size_t Tiiviste() const noexcept;
+    bool OnKokoNimi() const noexcept { return pituus <= 16; }
+    friend bool operator==(const Nimenpaat&, const Nimenpaat&) = default;
+
+    std::uint64_t alku = 0, loppu = 0;
+    std::size_t pituus = 0;
+  };
+  struct Paikka {
+    Nimenpaat paat;
+    const Jasen* jasen = nullptr;
+  };
+
   const Sana& sana_;
   std::span<const Jasen> jasenet_;
   Osallistuu osallistuu_;
   std::size_t numero_;
-  std::vector<const Jasen*> hakemisto_;  // open addressing, size a power of two
+  std::vector<Paikka> hakemisto_;  // open addressing, size a power of two
 };
 
 /// Access by a name that the class doesn't have, or a value that the member can't take.

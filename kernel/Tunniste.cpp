@@ -64,8 +64,17 @@ bool LueHeksa(const char* p, std::uint64_t& arvo) {
   return virhe >= 0;
 }
 
+using Heksapari = std::array<char, 2>;
+
+constexpr std::array<Heksapari, 256> kHeksaparit = [] {
+  constexpr char kNumerot[] = "0123456789ABCDEF";
+  std::array<Heksapari, 256> t{};
+  for (std::size_t i = 0; i < t.size(); ++i) t[i] = {kNumerot[i >> 4], kNumerot[i & 15]};
+  return t;
+}();
+
 void KirjoitaHeksa(std::uint64_t arvo, char* p) {
-  for (int i = 15; i >= 0; --i, arvo >>= 4) p[i] = "0123456789ABCDEF"[arvo & 15];
+  for (int i = 14; i >= 0; i -= 2, arvo >>= 8) std::memcpy(p + i, kHeksaparit[arvo & 255].data(), 2);
 }
 
 /// Length of the word before the digits, or npos when the text isn't word, blank and 32 digits.
@@ -107,8 +116,9 @@ Tunniste::Tunniste(std::string_view teksti) {
 Tunniste Tunniste::Lue(std::string_view teksti, const Sana& vihje) {
   const std::size_t n = vihje.teksti.size();
   Tunniste t;
-  if (teksti.size() == n + kNumeroita + 1 && teksti[n] == ' ' && std::memcmp(teksti.data(), vihje.teksti.data(), n) == 0 &&
-      LueHeksa(teksti.data() + n + 1, t.a_) && LueHeksa(teksti.data() + n + 17, t.b_) && t.OnGuid()) {
+  if (teksti.size() == n + kNumeroita + 1 && teksti[n] == ' ' &&
+      std::memcmp(teksti.data(), vihje.teksti.data(), n) == 0 && LueHeksa(teksti.data() + n + 1, t.a_) &&
+      LueHeksa(teksti.data() + n + 17, t.b_) && t.OnGuid()) {
     t.sana_ = &vihje;
     return t;
   }

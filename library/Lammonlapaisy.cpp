@@ -32,8 +32,6 @@ Osat KerroksenOsat(const Kerros& kerros) {
   return {vastus1, AineenVastus(kerros.paksuus_m, kerros.lambda2), std::clamp(kerros.osuus2, 0.0, 1.0)};
 }
 
-bool OnJaettu(const Kerros& kerros) { return KerroksenOsat(kerros).Jaettu(); }
-
 /// Transmittance of the parallel sections through the layers, W/m²K, behind the resistance R met so far.
 double LohkojenLapaisy(std::span<const Kerros> kerrokset, double R, int jakoja) {
   if (kerrokset.empty()) return 1 / R;
@@ -53,8 +51,13 @@ struct Vastukset {
 Vastukset LaskeVastukset(std::span<const Kerros> kerrokset, double Rsi, double Rse) {
   const double pinnat = Positiivinen(Rsi) + Positiivinen(Rse);
   double ala = pinnat;
-  for (const Kerros& kerros : kerrokset) ala += KerroksenOsat(kerros).Vastus();
-  if (std::none_of(kerrokset.begin(), kerrokset.end(), OnJaettu)) return {ala, ala, ala};
+  bool jaettu = false;
+  for (const Kerros& kerros : kerrokset) {
+    const Osat osat = KerroksenOsat(kerros);
+    ala += osat.Vastus();
+    jaettu = jaettu || osat.Jaettu();
+  }
+  if (!jaettu) return {ala, ala, ala};
   const double yla = 1 / LohkojenLapaisy(kerrokset, pinnat, kJaettujaKerroksiaEnintaan);
   return {yla, ala, (yla + ala) / 2};
 }

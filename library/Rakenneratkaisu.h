@@ -20,10 +20,19 @@ class Rakenneratkaisu : public Malli<Rakenneratkaisu> {
   /// Sets `Paksuus` and `KerrostenMassaYht` from the layers; a solution without layers keeps what it has.
   void PaivitaKerrossummat();
 
+  // What a recalculation reads stands first.
+  bool OnIkkuna = false;             ///< a window solution: lets the sun through
+  bool U_arvoAnnettu = false;        ///< `U_arvo` is given, not computed from the layers
+  float U_arvo = 0;                  ///< W/m²K; 0: not known
+  float PintavastusSisa = 0;         ///< inner surface resistance, m²K/W
+  float PintavastusUlko = 0;         ///< outer surface resistance, m²K/W
+  float Karmikerroin = 0;            ///< window: share that is glass, per cent
+  float Aurinkoenergianlapaisy = 0;  ///< window: total solar transmittance at normal incidence, per cent
+  float Verhokerroin = 0;            ///< window: share that curtains let through, per cent
+  colMateriaalit Kerrokset;
+  std::string Rakennetyyppi;  ///< the library's word of the kind, see RakennetyyppiSanasta()
   std::string Nimi;
   std::string Kuvaus;
-  std::string Rakennetyyppi;  ///< the library's word of the kind, see RakennetyyppiSanasta()
-  colMateriaalit Kerrokset;
   std::string Paloluokka;
   float Rw = 0;                        ///< airborne sound reduction index, dB
   float Paksuus = 0;                   ///< mm
@@ -31,16 +40,8 @@ class Rakenneratkaisu : public Malli<Rakenneratkaisu> {
   float PistemaisetWpK = 0;            ///< W/K each
   float Viivamaiset = 0;               ///< line thermal bridges: number or length
   float ViivamaisetWpK = 0;            ///< W/K for each of them
-  float PintavastusSisa = 0;           ///< inner surface resistance, m²K/W
-  float PintavastusUlko = 0;           ///< outer surface resistance, m²K/W
   float KerrostenMassaYht = 0;         ///< kg/m²
-  float Karmikerroin = 0;              ///< window: share that is glass, per cent
-  float Aurinkoenergianlapaisy = 0;    ///< window: total solar transmittance at normal incidence, per cent
-  float Verhokerroin = 0;              ///< window: share that curtains let through, per cent
   float Kokonaisvarjostuskerroin = 0;  ///< window: per cent
-  bool OnIkkuna = false;               ///< a window solution: lets the sun through
-  bool U_arvoAnnettu = false;          ///< `U_arvo` is given, not computed from the layers
-  float U_arvo = 0;                    ///< W/m²K; 0: not known
 };
 
 /// What stands in for a solution that neither library knows: texts that name what is missing, one layer, U given but

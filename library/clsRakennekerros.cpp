@@ -41,10 +41,6 @@ double Metreina(float mm) { return double{mm} / 1000; }
 
 const Luokka clsRakennekerros::kLuokka("clsRakennekerros", kJasenet, Luokka::Osallistuu::EiKumpaankaan);
 
-bool clsRakennekerros::Vastustaa() const noexcept {
-  return UArvoon && (Lammonvastus > 0 || (Paksuus > 0 && Materiaali.Lambda > 0));
-}
-
 double clsRakennekerros::LisamateriaalinPaino() const noexcept {
   return Yhtenainen ? 0 : std::clamp(double{LisamateriaalinOsuus} / 100, 0.0, 1.0);
 }

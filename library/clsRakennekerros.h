@@ -11,20 +11,21 @@ class clsRakennekerros : public Malli<clsRakennekerros, Alkio> {
 
   /// True when the layer counts towards the U-value and has a resistance: a fixed one, or a positive thickness and
   /// conductivity of the main material.
-  bool Vastustaa() const noexcept;
+  bool Vastustaa() const noexcept { return UArvoon && (Lammonvastus > 0 || (Paksuus > 0 && Materiaali.Lambda > 0)); }
   /// The layer in the form of the U-value calculation.
   Kerros Laskentakerros() const noexcept;
   /// Mass per area, kg/m²; an inhomogeneous layer's materials by their shares.
   double Massa() const noexcept;
 
-  std::string Nimi;  ///< empty: the layer is shown by its number
-  ::Materiaali Materiaali;
-  float Paksuus = 0;       ///< mm
-  bool UArvoon = true;     ///< counts towards the U-value
-  bool Yhtenainen = true;  ///< homogeneous; else the additional material takes its share of the area
-  ::Materiaali Lisamateriaali;
+  // What the U-value is computed from stands together: it is read for every layer in each recalculation.
+  float Paksuus = 0;               ///< mm
   float LisamateriaalinOsuus = 0;  ///< per cent of the area, 0 to 100; clamped in calculations
   float Lammonvastus = 0;          ///< fixed resistance of an air layer, m²K/W; 0: from thickness and conductivity
+  bool UArvoon = true;             ///< counts towards the U-value
+  bool Yhtenainen = true;          ///< homogeneous; else the additional material takes its share of the area
+  ::Materiaali Materiaali;
+  ::Materiaali Lisamateriaali;
+  std::string Nimi;  ///< empty: the layer is shown by its number
 
  private:
   double LisamateriaalinPaino() const noexcept;

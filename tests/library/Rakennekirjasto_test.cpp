@@ -77,7 +77,7 @@ TEST_F(RakennekirjastoTesti, SolutionIsReadWithItsLayersFromInsideOut) {
   EXPECT_FALSE(seina->U_arvoAnnettu);
   ASSERT_EQ(seina->Kerrokset.Count(), 3);
   const auto& sisin = seina->Kerrokset.Item(1);
-  EXPECT_EQ(sisin.Materiaali, (Materiaali{"Puu", 0.12F, 500, 1.6F}));
+  EXPECT_EQ(sisin.Materiaali, (Materiaali{0.12F, 500, 1.6F, "Puu"}));
   EXPECT_EQ(sisin.Paksuus, 12);
   EXPECT_FALSE(sisin.UArvoon);
   const auto& ranka = seina->Kerrokset.Item(2);
@@ -119,7 +119,7 @@ TEST_F(RakennekirjastoTesti, MaterialsAreBroughtUpToDateByName) {
   EXPECT_FALSE(kanta.PaivitaMateriaalit(seina));
   seina.Kerrokset.Item(2).Materiaali.Lambda = 0.05F;
   seina.Kerrokset.Item(2).Lisamateriaali.Tiheys = 1;
-  seina.Kerrokset.Item(3).Materiaali = {"Oma aine", 0.5F, 100, 1};
+  seina.Kerrokset.Item(3).Materiaali = {0.5F, 100, 1, "Oma aine"};
   EXPECT_TRUE(kanta.PaivitaMateriaalit(seina));
   EXPECT_EQ(seina.Kerrokset.Item(2).Materiaali.Lambda, 0.04F);
   EXPECT_EQ(seina.Kerrokset.Item(3).Materiaali.Lambda, 0.5F);
