@@ -17,7 +17,9 @@ using Syy = Projektivirhe::Syy;
 /// are kept in memory until then.
 Tallennusraportti RakennaProjekti(Olio& juuri, const std::string& uusi, const Eteneminen& eteneminen) {
   Tietokanta kanta(uusi, Tietokanta::Tapa::Kirjoitus);
-  kanta.Aja("PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; PRAGMA cache_spill=OFF");
+  kanta.Aja(
+      "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; PRAGMA cache_spill=OFF; "
+      "PRAGMA cache_size=-262144");
   Rivikirjoitin kirjoitin(kanta, eteneminen);
   Transaktio transaktio(kanta);
   TyhjennaProjektikanta(kanta);
