@@ -7,8 +7,8 @@
 #include <limits>
 #include <optional>
 #include <system_error>
+#include <utility>
 
-#include "kernel/Asetusvarasto.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
@@ -42,6 +42,11 @@ std::string HaeAsetus(Avain avain) {
 
 void TallennaAsetus(Avain avain, std::string_view arvo) {
   TallennaAsetus(AsetuksenRivi(avain).osio, AsetuksenRivi(avain).avain, arvo);
+}
+
+Asetus AsetuksenArvo(Avain avain, std::string arvo) {
+  const auto& rivi = AsetuksenRivi(avain);
+  return {std::string(rivi.osio), std::string(rivi.avain), std::move(arvo)};
 }
 
 double HaeMiljoonasosat(Avain avain) { return LueTaiOletus(avain) / kMiljoona; }

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "kernel/Asetusvarasto.h"
+
 /// The keys of the settings store, in the order of the table below. The six fields of an auditor follow each other.
 enum class Avain {
   YleinenALV,                 ///< general VAT, %
@@ -123,6 +125,8 @@ std::string OletusAsetus(Avain avain);
 std::string HaeAsetus(Avain avain);
 /// Raises 9999 when the store can't be written.
 void TallennaAsetus(Avain avain, std::string_view arvo);
+/// A value to be saved with others, by TallennaAsetukset.
+Asetus AsetuksenArvo(Avain avain, std::string arvo);
 
 /// Values of the kinds Miljoonasosat, Totuus and Kokonaisluku. A text that doesn't say such a value gives the default.
 double HaeMiljoonasosat(Avain avain);

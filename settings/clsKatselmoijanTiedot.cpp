@@ -13,8 +13,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsKatselmoijanTiedot::Sahkoposti>("Sahkoposti"),
 };
 
-// In the order of the settings keys.
-constexpr std::string clsKatselmoijanTiedot::*kKentat[] = {
+constexpr std::string clsKatselmoijanTiedot::*kKentat[clsKatselmoijanTiedot::kKenttia] = {
     &clsKatselmoijanTiedot::Tehtavanimike, &clsKatselmoijanTiedot::Nimi,  &clsKatselmoijanTiedot::Puhelin,
     &clsKatselmoijanTiedot::Matkapuhelin,  &clsKatselmoijanTiedot::Faksi, &clsKatselmoijanTiedot::Sahkoposti,
 };
@@ -22,6 +21,8 @@ constexpr std::string clsKatselmoijanTiedot::*kKentat[] = {
 }  // namespace
 
 const Luokka clsKatselmoijanTiedot::kLuokka{"clsKatselmoijanTiedot", kJasenet};
+
+std::string clsKatselmoijanTiedot::*clsKatselmoijanTiedot::Kentta(std::size_t i) { return kKentat[i]; }
 
 void clsKatselmoijanTiedot::HaeOletukset(Avain ensimmainen) {
   int avain = static_cast<int>(ensimmainen);

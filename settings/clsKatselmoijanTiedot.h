@@ -15,6 +15,10 @@ class clsKatselmoijanTiedot : public Malli<clsKatselmoijanTiedot> {
   std::string Faksi;
   std::string Sahkoposti;
 
+  /// The six fields in the order of the settings keys.
+  static constexpr std::size_t kKenttia = 6;
+  static std::string clsKatselmoijanTiedot::*Kentta(std::size_t i);
+
   /// Takes the user's own data from the settings: six keys from `ensimmainen` on, in the order of the fields.
   void HaeOletukset(Avain ensimmainen);
 };

@@ -2,6 +2,8 @@
 #pragma once
 #include "settings/clsKatselmoijanTiedot.h"
 
+class frmKatselmoijienTiedot;
+
 /// The auditors of the building.
 class clsKatselmoijienTiedot : public Malli<clsKatselmoijienTiedot> {
  public:
@@ -12,4 +14,11 @@ class clsKatselmoijienTiedot : public Malli<clsKatselmoijienTiedot> {
 
   /// Fills both from the user's settings: a new building starts with them and has its own copy from then on.
   void HaeOletukset();
+
+  /// Lets the person edit the auditors of the global building. The dialog's fields are written at OK, all at once.
+  void NaytaKayttoliittyma();
+
+ private:
+  void LueDataluokka(frmKatselmoijienTiedot& lomake) const;
+  void KirjoitaDataluokka(const frmKatselmoijienTiedot& lomake);
 };

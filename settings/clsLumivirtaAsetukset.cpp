@@ -11,7 +11,6 @@
 #include <utility>
 #include <vector>
 
-#include "kernel/Asetusvarasto.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
@@ -64,16 +63,12 @@ void KerroVioittumisesta() {
   });
 }
 
-Asetus Rivi(Avain avain, std::string arvo) {
-  const auto& rivi = AsetuksenRivi(avain);
-  return {std::string(rivi.osio), std::string(rivi.avain), std::move(arvo)};
-}
-
 std::vector<Asetus> KaynnistyksenAsetukset() {
-  std::vector<Asetus> asetukset = {Rivi(Avain::Kotihakemisto, AppPath()), Rivi(Avain::Julkaisuversionumero, "1")};
-  for (const Avain avain : kKaynnistyksessaVirkistettavat) asetukset.push_back(Rivi(avain, HaeAsetus(avain)));
+  std::vector<Asetus> asetukset = {AsetuksenArvo(Avain::Kotihakemisto, AppPath()),
+                                   AsetuksenArvo(Avain::Julkaisuversionumero, "1")};
+  for (const Avain avain : kKaynnistyksessaVirkistettavat) asetukset.push_back(AsetuksenArvo(avain, HaeAsetus(avain)));
   for (const Avain avain : {Avain::Energia_Kayttajakohtainen, Avain::Energia_Vakiokanta}) {
-    asetukset.push_back(Rivi(avain, OletusAsetus(avain)));
+    asetukset.push_back(AsetuksenArvo(avain, OletusAsetus(avain)));
   }
   return asetukset;
 }

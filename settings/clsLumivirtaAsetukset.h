@@ -5,6 +5,11 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "kernel/Asetusvarasto.h"
+
+class frmOptions;
 
 /// Which VAT rate an amount takes. The first three are the kind codes of an energy supply.
 enum class Energialaji { Lampo = 0, Sahko = 1, Vesi = 2, Yleinen = 3 };
@@ -61,12 +66,19 @@ class clsLumivirtaAsetukset {
   /// Nothing is written through the object: the dialog writes the store.
   void VieRekisteriin() {}
 
+  /// Lets the person edit the store. OK writes what has changed, all of it or nothing, and lets this object read the
+  /// store again; the open forms follow the currency and the VAT. Cancel leaves everything as it was.
+  void NaytaKayttoliittyma();
+
   /// What a shown amount is multiplied by: the coefficient of the currency, with the VAT of the kind when amounts are
   /// shown with it.
   double NayttoKerroin(Energialaji laji) const;
 
  private:
   void HaeKayttajanNimet();
+  static void LueDataluokka(frmOptions& lomake);
+  static std::vector<Asetus> KirjoitaDataluokka(const frmOptions& lomake);
+  void KayttoLiittyma_OkKlikattu(frmOptions& lomake);
   double AlvProsentti(Energialaji laji) const;
 
   std::int32_t valuuttaTyyppi_ = 0;

@@ -38,6 +38,9 @@ class Lomake {
 
   /// Closed by the window's own close button or Escape, when the form has no cancelling button.
   std::function<void()> Suljettu;
+  /// The currency or the VAT of shown amounts has changed while the form is open, and its captions show the new unit:
+  /// fill the amounts anew. A form without amounts leaves it unset.
+  std::function<void()> RahatMuuttuivat;
 
  protected:
   explicit Lomake(std::string nimi);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <optional>
 #include <utility>
 
 #include "kernel/Kirjainkoko.h"
@@ -32,40 +33,50 @@ int TekstinId(std::string_view tag) {
   return tulos.ec == std::errc() && tulos.ptr == alku.data() + alku.size() ? id : 0;
 }
 
-std::string NakyvaTeksti(int id) { return Korvattu(Teksti(id), kRahatagi, Rahayksikko()); }
+/// Which texts are put on a form: all, or those that bear the currency unit.
+enum class Kaannettavat { Kaikki, Rahat };
 
-void KaannaOtsikko(Ohjain& ohjain) {
-  if (const int id = TekstinId(ohjain.Tag()); id > 0) ohjain.Teksti(NakyvaTeksti(id));
+/// The text of a tag that is to be put on the form, if there is one.
+std::optional<std::string> NakyvaTeksti(std::string_view tag, Kaannettavat mitka) {
+  const int id = TekstinId(tag);
+  if (id <= 0) return std::nullopt;
+  std::string teksti = Teksti(id);
+  if (mitka == Kaannettavat::Rahat && teksti.find(kRahatagi) == std::string::npos) return std::nullopt;
+  return RahayksikonKanssa(std::move(teksti), Rahayksikko());
 }
 
-void KaannaVihje(Ohjain& ohjain, const std::string& tag) {
-  if (const int id = TekstinId(tag); id > 0) ohjain.Vihje(NakyvaTeksti(id));
+void KaannaOtsikko(Ohjain& ohjain, Kaannettavat mitka) {
+  if (auto teksti = NakyvaTeksti(ohjain.Tag(), mitka)) ohjain.Teksti(std::move(*teksti));
 }
 
-void KaannaOsat(Ohjain& ohjain) {
+void KaannaVihje(Ohjain& ohjain, const std::string& tag, Kaannettavat mitka) {
+  if (auto teksti = NakyvaTeksti(tag, mitka)) ohjain.Vihje(std::move(*teksti));
+}
+
+void KaannaOsat(Ohjain& ohjain, Kaannettavat mitka) {
   std::vector<Osa> osat = ohjain.Osat();
   for (Osa& osa : osat) {
-    if (const int id = TekstinId(osa.tag); id > 0) osa.otsikko = NakyvaTeksti(id);
-    if (const int id = TekstinId(osa.vihjetag); id > 0) osa.vihje = NakyvaTeksti(id);
+    if (auto otsikko = NakyvaTeksti(osa.tag, mitka)) osa.otsikko = std::move(*otsikko);
+    if (auto vihje = NakyvaTeksti(osa.vihjetag, mitka)) osa.vihje = std::move(*vihje);
   }
   ohjain.Osat(std::move(osat));
 }
 
-void KaannaOhjain(Ohjain& ohjain) {
+void KaannaOhjain(Ohjain& ohjain, Kaannettavat mitka) {
   switch (ohjain.Tyyppi()) {
     case Ohjaintyyppi::Label:
-      return KaannaOtsikko(ohjain);
+      return KaannaOtsikko(ohjain, mitka);
     case Ohjaintyyppi::TextBox:
     case Ohjaintyyppi::ComboBox:
-      return KaannaVihje(ohjain, ohjain.Tag());
+      return KaannaVihje(ohjain, ohjain.Tag(), mitka);
     case Ohjaintyyppi::TabStrip:
-      return KaannaOsat(ohjain);
+      return KaannaOsat(ohjain, mitka);
     case Ohjaintyyppi::ListView:
-      KaannaOsat(ohjain);
-      return KaannaVihje(ohjain, ohjain.Vihjetag());
+      KaannaOsat(ohjain, mitka);
+      return KaannaVihje(ohjain, ohjain.Vihjetag(), mitka);
     default:
-      KaannaOtsikko(ohjain);
-      return KaannaVihje(ohjain, ohjain.Vihjetag());
+      KaannaOtsikko(ohjain, mitka);
+      return KaannaVihje(ohjain, ohjain.Vihjetag(), mitka);
   }
 }
 
@@ -75,9 +86,22 @@ bool AlkaaNimella(std::string_view nimi, std::string_view alku) { return SamaNim
 
 void AsetaRahayksikko(std::string yksikko) { Rahayksikko() = std::move(yksikko); }
 
+std::string RahayksikonKanssa(std::string teksti, std::string_view yksikko) {
+  return Korvattu(std::move(teksti), kRahatagi, yksikko);
+}
+
+void PaivitaRahat() {
+  const std::vector<Lomake*> avoimet = AvoimetLomakkeet();  // a copy: a listener may open or close forms
+  for (Lomake* lomake : avoimet) {
+    if (!lomake->RahatMuuttuivat) continue;
+    for (const auto& ohjain : lomake->Ohjaimet()) KaannaOhjain(*ohjain, Kaannettavat::Rahat);
+    lomake->RahatMuuttuivat();
+  }
+}
+
 void KaannaLomake(Lomake& lomake) {
-  if (const int id = TekstinId(lomake.Ikkuna().Tag()); id > 0) lomake.Otsikko(NakyvaTeksti(id));
-  for (const auto& ohjain : lomake.Ohjaimet()) KaannaOhjain(*ohjain);
+  if (auto otsikko = NakyvaTeksti(lomake.Ikkuna().Tag(), Kaannettavat::Kaikki)) lomake.Otsikko(std::move(*otsikko));
+  for (const auto& ohjain : lomake.Ohjaimet()) KaannaOhjain(*ohjain, Kaannettavat::Kaikki);
 }
 
 void TaytaValinta(const Lomake& lomake, const ComboBox& valinta, bool valitseViimeinen) {

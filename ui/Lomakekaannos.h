@@ -11,6 +11,12 @@ void KaannaLomake(Lomake& lomake);
 
 /// Currency unit shown from now on, e.g. "€".
 void AsetaRahayksikko(std::string yksikko);
+/// The text with the unit in place of "mkTagi".
+std::string RahayksikonKanssa(std::string teksti, std::string_view yksikko);
+/// Lets the open forms that show amounts follow a change of the currency or of the VAT: captions that hold "mkTagi"
+/// take the present unit, and RahatMuuttuivat is raised. A form that doesn't listen keeps captions and amounts together
+/// as they were.
+void PaivitaRahat();
 
 /// Fills a choice list from the store's rows for this form and control. `valitseViimeinen` chooses the last row.
 void TaytaValinta(const Lomake& lomake, const ComboBox& valinta, bool valitseViimeinen = false);

@@ -149,6 +149,13 @@ std::array<Kahva, 3> Kolme(const Lomake& lomake, const std::string& nimi) {
   return {Kahva(lomake, nimi + "1"), Kahva(lomake, nimi + "2"), Kahva(lomake, nimi + "3")};
 }
 
+/// Six controls whose names end in 0 to 5.
+template <class Kahva>
+std::array<Kahva, 6> Kuusi(const Lomake& lomake, const std::string& nimi) {
+  return {Kahva(lomake, nimi + "0"), Kahva(lomake, nimi + "1"), Kahva(lomake, nimi + "2"),
+          Kahva(lomake, nimi + "3"), Kahva(lomake, nimi + "4"), Kahva(lomake, nimi + "5")};
+}
+
 /// Reads a field into `kohde`. An unchanged field leaves it as it is; so does a text that is no number, which gives
 /// false. An empty field is no number.
 bool LueArvo(const TextBox& kentta, double& kohde);
