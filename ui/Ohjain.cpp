@@ -27,6 +27,7 @@ constexpr Tyyppirivi kTyypit[] = {
     {"QTreeWidget", "ListView", Ohjaintyyppi::ListView},
     {"Piirakka", "MSChart", Ohjaintyyppi::MSChart},
     {"Pylvaikko", "MSChart", Ohjaintyyppi::MSChart},
+    {"Lampotilakuva", "MSChart", Ohjaintyyppi::MSChart},
 };
 
 }  // namespace

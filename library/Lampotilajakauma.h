@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "library/Lammonlapaisy.h"
+#include "library/Rakenneratkaisu.h"
+
+/// Temperatures at which a structure is shown, °C.
+inline constexpr double kNayttoTsisa = 21;
+inline constexpr double kNayttoTulko = -26;
+
+/// Resistances and temperatures through all layers of a solution, as `LaskeU_arvo` counts them: a layer that doesn't
+/// resist has resistance 0, and `U` is that function's value. Not `onArvo` when no layer resists.
+LammonlapaisyTulos LaskeLampotilajakauma(const Rakenneratkaisu& ratkaisu, double Tsisa, double Tulko);
+
+/// The layer's name, or its material's when it has none.
+const std::string& KerroksenNimi(const clsRakennekerros& kerros);

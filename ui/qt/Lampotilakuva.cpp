@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/Lampotilakuva.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <numeric>
+
+#include "kernel/Luvut.h"
+#include "ui/Lampotilakuvaus.h"
+
+namespace {
+
+constexpr double kKapein = 0.04;  // of the picture's width: also a foil is to be seen
+constexpr double kIlmaa = 0.14;   // of the width, on both sides for the room and the outdoors
+constexpr double kViivanLeveys = 2.5;
+
+QString Asteina(double lampotila) { return QString::fromStdString(Muotoile(lampotila, "0.0")) + QStringLiteral(" °C"); }
+
+}  // namespace
+
+void Lampotilakuva::AsetaKaavio(const Kaaviotiedot& kaavio) {
+  const auto n = kaavio.nimet.size();
+  const bool kelpaa = kaavio.sarjat.size() == 3 && kaavio.sarjat[kPaksuudet].arvot.size() == n &&
+                      kaavio.sarjat[kVastukset].arvot.size() == n &&
+                      (kaavio.sarjat[kLampotilat].arvot.empty() || kaavio.sarjat[kLampotilat].arvot.size() == n + 3);
+  Kaaviokuva::AsetaKaavio(kelpaa ? kaavio : Kaaviotiedot{kaavio.otsikko, {}});
+}
+
+const std::vector<double>& Lampotilakuva::Sarja(std::size_t i) const {
+  static const std::vector<double> tyhja;
+  return i < Tiedot().sarjat.size() ? Tiedot().sarjat[i].arvot : tyhja;
+}
+
+QStringList Lampotilakuva::Nimet() const {
+  QStringList nimet;
+  for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
+    nimet << fontMetrics().elidedText(Teksti(Tiedot().nimet[i]), Qt::ElideRight, 14 * fontMetrics().height());
+  return nimet;
+}
+
+QStringList Lampotilakuva::Luvut() const {
+  if (Tiedot().sarjat.empty()) return {};
+  QStringList rivit(QString("\t%1\t%2\t%3")
+                        .arg(Teksti(Tiedot().sarjat[kPaksuudet].nimi), Teksti(Tiedot().sarjat[kVastukset].nimi),
+                             Teksti(Tiedot().sarjat[kLampotilat].nimi)));
+  const auto& lampotilat = Sarja(kLampotilat);
+  for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
+    rivit << QString("%1\t%2\t%3\t%4")
+                 .arg(Teksti(Tiedot().nimet[i]), Teksti(Muotoile(Sarja(kPaksuudet)[i], "0.#")),
+                      Teksti(Muotoile(Sarja(kVastukset)[i], "0.000")),
+                      lampotilat.empty() ? QString() : Teksti(Muotoile(lampotilat[i + 2], "0.0")));
+  return rivit;
+}
+
+QSize Lampotilakuva::sizeHint() const {
+  const int rivi = fontMetrics().height();
+  const int selite = static_cast<int>(Tiedot().nimet.size()) * rivi * 3 / 2;
+  return {20 * rivi + SelitteenLeveys(), std::max(12 * rivi, 4 * rivi + selite)};
+}
+
+QRectF Lampotilakuva::Kuvaala() const {
+  const int rivi = fontMetrics().height();
+  return QRectF(rect()).adjusted(rivi, 5 * rivi / 2.0, -SelitteenLeveys(), -rivi);
+}
+
+std::vector<double> Lampotilakuva::Rajat() const {
+  const QRectF ala = Kuvaala();
+  const double kapein = kKapein * ala.width();
+  const double leveys = ala.width() * (1 - 2 * kIlmaa);
+  const auto& paksuudet = Sarja(kPaksuudet);
+  const double jaettavaa = std::max(0.0, leveys - kapein * static_cast<double>(paksuudet.size()));
+  double yhteensa = 0;
+  for (const double paksuus : paksuudet) yhteensa += std::max(paksuus, 0.0);
+  std::vector<double> rajat{ala.left() + kIlmaa * ala.width()};
+  for (const double paksuus : paksuudet)
+    rajat.push_back(rajat.back() + kapein + (yhteensa > 0 ? jaettavaa * std::max(paksuus, 0.0) / yhteensa : 0));
+  return rajat;
+}
+
+double Lampotilakuva::Y(double lampotila) const {
+  const auto [pienin, suurin] = std::ranges::minmax(Sarja(kLampotilat));
+  const int rivi = fontMetrics().height();
+  const QRectF ala = Kuvaala().adjusted(0, 3 * rivi / 2.0, 0, -2 * rivi);
+  return ala.bottom() - (lampotila - pienin) / std::max(suurin - pienin, 1e-9) * ala.height();
+}
+
+std::vector<QPointF> Lampotilakuva::Viiva() const {
+  const auto& lampotilat = Sarja(kLampotilat);
+  if (lampotilat.empty()) return {};
+  std::vector<double> kohdat = Rajat();
+  const double ilma = kIlmaa * Kuvaala().width() / 2;
+  kohdat.insert(kohdat.begin(), kohdat.front() - ilma);
+  kohdat.push_back(kohdat.back() + ilma);
+  std::vector<QPointF> pisteet{{Kuvaala().left(), Y(lampotilat.front())}};
+  for (std::size_t i = 0; i < kohdat.size(); ++i) pisteet.emplace_back(kohdat[i], Y(lampotilat[i]));
+  pisteet.emplace_back(Kuvaala().right(), Y(lampotilat.back()));
+  return pisteet;
+}
+
+void Lampotilakuva::paintEvent(QPaintEvent*) {
+  QPainter maalain(this);
+  PiirraPohja(maalain);
+  if (Tiedot().nimet.empty()) return;
+  PiirraKerrokset(maalain);
+  PiirraNollaviiva(maalain);
+  PiirraLampotilat(maalain);
+  const QRect ala = Kuvaala().toRect();
+  PiirraSelite(maalain, QRect(ala.right(), ala.top(), width() - ala.right(), ala.height()));
+}
+
+void Lampotilakuva::PiirraKerrokset(QPainter& maalain) const {
+  const QRectF ala = Kuvaala();
+  const auto rajat = Rajat();
+  maalain.save();
+  for (std::size_t i = 0; i + 1 < rajat.size(); ++i) {
+    const QRectF kerros(rajat[i], ala.top(), rajat[i + 1] - rajat[i], ala.height());
+    maalain.setBrush(Vastustaa(i) ? QBrush(Vari(i)) : QBrush(Vari(i), Qt::BDiagPattern));
+    maalain.drawRect(kerros);
+    maalain.save();
+    if (Vastustaa(i)) maalain.setPen(Qt::black);
+    maalain.drawText(kerros.adjusted(-9, 0, 9, -2), Qt::AlignHCenter | Qt::AlignBottom, Numero(i));
+    maalain.restore();
+  }
+  maalain.restore();
+}
+
+void Lampotilakuva::PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const {
+  if (Vastustaa(i)) return Kaaviokuva::PiirraMerkki(maalain, merkki, i);
+  maalain.save();
+  maalain.setBrush(QBrush(Vari(i), Qt::BDiagPattern));
+  maalain.drawRect(merkki);
+  maalain.drawText(merkki, Qt::AlignCenter, Numero(i));
+  maalain.restore();
+}
+
+/// Freezing point, where the temperature passes it.
+void Lampotilakuva::PiirraNollaviiva(QPainter& maalain) const {
+  const auto& lampotilat = Sarja(kLampotilat);
+  if (lampotilat.empty() || std::ranges::min(lampotilat) >= 0 || std::ranges::max(lampotilat) <= 0) return;
+  const QRectF ala = Kuvaala();
+  maalain.save();
+  maalain.setPen(QPen(palette().color(QPalette::Text), 1, Qt::DashLine));
+  maalain.drawLine(QPointF(ala.left(), Y(0)), QPointF(ala.right(), Y(0)));
+  maalain.restore();
+  maalain.drawText(QRectF(ala.left(), Y(0), ala.width(), fontMetrics().height()), Qt::AlignRight,
+                   QStringLiteral("0 °C"));
+}
+
+void Lampotilakuva::PiirraLampotilat(QPainter& maalain) const {
+  const auto pisteet = Viiva();
+  if (pisteet.empty()) return;
+  const int pisteita = static_cast<int>(pisteet.size());
+  maalain.save();
+  maalain.setPen(QPen(palette().color(QPalette::Base), kViivanLeveys + 3));
+  maalain.drawPolyline(pisteet.data(), pisteita);
+  maalain.setPen(QPen(palette().color(QPalette::Text), kViivanLeveys));
+  maalain.drawPolyline(pisteet.data(), pisteita);
+  maalain.restore();
+  const QRectF ala = Kuvaala();
+  const int rivi = fontMetrics().height();
+  maalain.drawText(QRectF(ala.left(), pisteet.front().y() - 3 * rivi / 2.0, ala.width(), rivi), Qt::AlignLeft,
+                   Asteina(Sarja(kLampotilat).front()));
+  maalain.drawText(QRectF(ala.left(), pisteet.back().y() + rivi / 3.0, ala.width(), rivi), Qt::AlignRight,
+                   Asteina(Sarja(kLampotilat).back()));
+}
