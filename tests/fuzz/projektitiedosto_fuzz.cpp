@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Feeds the loader of project files. The first byte of an input chooses: even, the rest is a file as it stands; odd,
-// the rest tells changes of rows and columns of a whole file, which reach further than bytes that SQLite refuses.
+// Feeds the loader of project files. The first byte of an input chooses the tree and the kind: even, the rest is a file
+// as it stands; odd, the rest tells changes of rows and columns of a whole file, which reach further than bytes that
+// SQLite refuses.
 #include <fuzzer/FuzzedDataProvider.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <fstream>
+#include <memory>
 
+#include "building/clsRakennus.h"
 #include "kernel/Projektitiedosto.h"
 #include "tests/tuki/Koepuu.h"
 
@@ -14,21 +16,56 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// A tree that is loaded into: how it is made, and a whole file of it.
+struct Kohde {
+  std::unique_ptr<Olio> (*luo)();
+  std::vector<const Luokka*> luokat;
+  std::string ehja;
+};
+
 koe::Hakemisto& Hakemisto() {
   static koe::Hakemisto hakemisto;
   return hakemisto;
 }
 
-/// A whole file, bytes.
-const std::string& Ehja() {
-  static const std::string ehja = [] {
-    koe::Rakennus puu;
-    koe::Tayta(puu, 3);
-    puu.Saasto.Oma.Luo();
-    TallennaProjekti(puu, Hakemisto().Projekti());
-    return LueTiedosto(Hakemisto().Projekti());
+std::string Tallennettuna(Olio& puu, const std::string& malli) {
+  TallennaProjekti(puu, Hakemisto().Projekti(), malli);
+  return LueTiedosto(Hakemisto().Projekti());
+}
+
+Kohde Koepuu() {
+  koe::Rakennus puu;
+  koe::Tayta(puu, 3);
+  puu.Saasto.Oma.Luo();
+  return {[]() -> std::unique_ptr<Olio> { return std::make_unique<koe::Rakennus>(); },
+          {std::begin(koe::kLuokat), std::end(koe::kLuokat)},
+          Tallennettuna(puu, Hakemisto().Malli())};
+}
+
+/// The building of the program, with an item in each of its larger collections.
+Kohde Rakennus(const std::string& malli) {
+  clsRakennus rakennus;
+  for (int i = 0; i < 3; ++i)
+    rakennus.Tilat.Add(UusiInstanssiId("clsTila")).Rakenteet.Add(UusiInstanssiId("clsRakenne")).RakenneRatkaisu.Luo();
+  Kohde kohde{
+      []() -> std::unique_ptr<Olio> { return std::make_unique<clsRakennus>(); }, {}, Tallennettuna(rakennus, malli)};
+  for (const std::string& nimi : koe::Arvot(malli, "ClassTypes", "Name"))
+    if (const Luokka* luokka = Luokka::Nimella(nimi)) kohde.luokat.push_back(luokka);
+  return kohde;
+}
+
+/// The small tree, and the building where the program's data has been built: its template takes the place of the
+/// tree's.
+const std::vector<Kohde>& Kohteet() {
+  static const std::vector<Kohde> kohteet = [] {
+    const std::string malli = AppPath() + "stemplate.tmp";  // before the test's own directory takes its place
+    std::vector<Kohde> tulos{Koepuu()};
+    if (!fs::exists(malli)) return tulos;
+    fs::copy_file(malli, Hakemisto().Malli(), fs::copy_options::overwrite_existing);
+    tulos.push_back(Rakennus(Hakemisto().Malli()));
+    return tulos;
   }();
-  return ehja;
+  return kohteet;
 }
 
 void Kirjoita(std::string_view sisalto) {
@@ -42,8 +79,8 @@ std::string Arvo(FuzzedDataProvider& data) {
   return kArvot[data.ConsumeIntegralInRange<std::size_t>(0, std::size(kArvot) - 1)];
 }
 
-std::string Muutos(FuzzedDataProvider& data) {
-  const Luokka& luokka = *koe::kLuokat[data.ConsumeIntegralInRange<std::size_t>(0, std::size(koe::kLuokat) - 1)];
+std::string Muutos(const Kohde& kohde, FuzzedDataProvider& data) {
+  const Luokka& luokka = *kohde.luokat[data.ConsumeIntegralInRange<std::size_t>(0, kohde.luokat.size() - 1)];
   const std::string taulu(luokka.Nimi()),
       ehto = " WHERE rowid % 7 = " + std::to_string(data.ConsumeIntegral<std::uint8_t>() % 8);
   static constexpr std::string_view kKiinteat[] = {"ObjID", "ParentID", "MyRealNameInParentObj", "OrderID"};
@@ -61,22 +98,22 @@ std::string Muutos(FuzzedDataProvider& data) {
   }
 }
 
-void KirjoitaMuutettu(FuzzedDataProvider& data) {
-  Kirjoita(Ehja());
+void KirjoitaMuutettu(const Kohde& kohde, FuzzedDataProvider& data) {
+  Kirjoita(kohde.ehja);
   Tietokanta kanta(Hakemisto().Projekti(), Tietokanta::Tapa::Kirjoitus);
   kanta.Aja("PRAGMA synchronous=OFF; PRAGMA journal_mode=OFF");
   for (int i = 0; i < 20 && data.remaining_bytes() > 0; ++i) try {
-      kanta.Aja(Muutos(data));
+      kanta.Aja(Muutos(kohde, data));
     } catch (const Tietokantavirhe&) {  // a column that was renamed already
     }
 }
 
-void Lue() {
+void Lue(const Kohde& kohde) {
   const std::string ennen = LueTiedosto(Hakemisto().Projekti());
-  koe::Rakennus puu;
+  const std::unique_ptr<Olio> puu = kohde.luo();
   Latausraportti raportti;
   try {
-    HaeProjekti(puu, Hakemisto().Projekti(), raportti);
+    HaeProjekti(*puu, Hakemisto().Projekti(), raportti);
   } catch (const Projektivirhe&) {
   }
   try {
@@ -93,8 +130,12 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   for (int i = 1; i < *argc; ++i) {
     const fs::path korpus = (*argv)[i];
     if (!fs::is_directory(korpus)) continue;
-    std::ofstream(korpus / "ehja", std::ios::binary) << '\0' << Ehja();
-    std::ofstream(korpus / "muutettu", std::ios::binary) << "\1" << std::string(64, 'x');
+    for (char i = 0; i < static_cast<char>(Kohteet().size()); ++i) {
+      std::ofstream(korpus / ("ehja" + std::to_string(i)), std::ios::binary)
+          << static_cast<char>(2 * i) << Kohteet()[static_cast<std::size_t>(i)].ehja;
+      std::ofstream(korpus / ("muutettu" + std::to_string(i)), std::ios::binary)
+          << static_cast<char>(2 * i + 1) << std::string(64, 'x');
+    }
     break;
   }
   return 0;
@@ -102,12 +143,13 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* tavut, std::size_t maara) {
   if (maara == 0) return 0;
+  const Kohde& kohde = Kohteet()[tavut[0] / 2 % Kohteet().size()];
   if (tavut[0] % 2 == 0) {
     Kirjoita({reinterpret_cast<const char*>(tavut + 1), maara - 1});
   } else {
     FuzzedDataProvider data(tavut + 1, maara - 1);
-    KirjoitaMuutettu(data);
+    KirjoitaMuutettu(kohde, data);
   }
-  Lue();
+  Lue(kohde);
   return 0;
 }
