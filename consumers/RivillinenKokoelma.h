@@ -16,7 +16,7 @@ class RivillinenKokoelma : public Kokoelma<T> {
   void RemoveListaItem(const Tunniste& sKey) { listaItemit_.Remove(sKey); }
   const Sailio<Rivi>& ListaItems() const noexcept { return listaItemit_; }
   /// Removes the items and the rows.
-  void Tyhjenna() {
+  void Tyhjenna() override {
     Kokoelma<T>::Tyhjenna();
     listaItemit_.Tyhjenna();
   }
