@@ -67,11 +67,14 @@ double clsTila::JohtumisHaviot(int kuukausi) try {
   NostaVirhe("clsTila:JohtumisHaviot Method");
 }
 
-double clsTila::Vuotoilma(int kuukausi) const {
+double clsTila::Vuotoilma(int kuukausi) const try {
+  const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   const double n = PainovoimainenIlmanvaihto ? PainovoimainenIVMaara : Vuotoilmanvaihto;
   const double q = Kokonaistilavuus * n / kSekuntiaTunnissa;
   return q * kIlmanTiheys * kIlmanLampokapasiteetti * (Sisalampotila - VaadiSaa().Keskilampotila(kuukausi)) *
-         kPaivatKuukaudessa[static_cast<std::size_t>(kuukausi)] * kTuntiaVuorokaudessa;
+         kPaivatKuukaudessa[m] * kTuntiaVuorokaudessa;
+} catch (...) {
+  NostaVirhe("clsTila:Vuotoilma Method");
 }
 
 clsTila::Koneet clsTila::LiittyvatKoneet() const {

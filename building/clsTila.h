@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "building/clsRakenteet.h"
 
 class Edistyminen;
 class clsIVKone;
+class frmTila;
 
 /// A space: the unit of the monthly heat balance. Steady-state degree hours with ideal utilisation: gains count in a
 /// month up to that month's losses. Months are 0 to 11, monthly figures kWh, yearly ones MWh.
@@ -38,6 +41,9 @@ class clsTila : public Malli<clsTila, Alkio> {
   std::string RakenteidenDynamiikkaStr;    ///< text of that choice
   clsRakenteet Rakenteet;
 
+  /// At the OK of the space's dialog.
+  Oma<std::function<void()>> DataMuuttui;
+
   // Validity of the monthly caches. Clearing that of the solar gains makes the structures compute theirs afresh.
   bool IVHaviotTilassaUpToDate() const noexcept { return ivHaviotUpToDate_; }
   void IVHaviotTilassaUpToDate(bool voimassa) noexcept { ivHaviotUpToDate_ = voimassa; }
@@ -53,6 +59,8 @@ class clsTila : public Malli<clsTila, Alkio> {
   /// Loss by machines and by leakage or natural ventilation, kWh: machines' losses +
   /// q × 1.2 kg/m³ × 1.006 kJ/(kg·K) × (Tsisa − Tulko) × days × 24 h, q = volume × n / 3600 m³/s. Not cut at zero.
   double IVHaviotTilassa(int kuukausi);
+  /// The part of IVHaviotTilassa that isn't the machines': leakage or natural ventilation, kWh.
+  double Vuotoilma(int kuukausi) const;
   double LampoHaviot(int kuukausi);
   /// Internal gain from electricity, kWh: the same in every month.
   double SahkoKuorma(int kuukausi) const;
@@ -91,6 +99,14 @@ class clsTila : public Malli<clsTila, Alkio> {
   void PaivitaAurKuormatTilassa();
   void PaivitaJohtumishaviot();
 
+  /// Opens the dialog of the space, modal. OK writes the values and tells so by DataMuuttui; Cancel restores the space
+  /// with its structures. True after OK.
+  bool NaytaKayttoliittyma();
+  void LueDataluokka();
+  void KirjoitaDataluokka();
+  /// Opens the dialog of the structures.
+  void EditoiRakenteita();
+
  private:
   /// What a month's balance rests on, kWh.
   struct Tase {
@@ -98,14 +114,22 @@ class clsTila : public Malli<clsTila, Alkio> {
   };
   Tase KuukaudenTase(int kuukausi);
   double KuukaudenTarve(int kuukausi);
-  double Vuotoilma(int kuukausi) const;
   Koneet LiittyvatKoneet() const;
   void LisaaKone(const clsIVKone& kone, int kuukausi, double& haviot, double& kuormat) const;
   void LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen);
   template <class F>
   static double Vuosisumma(F&& kuukausiarvo);
+  void LiitaTapahtumat();
+  bool OnElavassaMallissa() const;
+  void MuutosVoimaan();
+  void KayttoLiittyma_KayttoaikaValittu(int rivi);
+  void KayttoLiittyma_SaatotapaValittu(int rivi);
+  void KayttoLiittyma_OkKlikattu();
+  void KayttoLiittyma_PeruutaKlikattu();
 
   double sahkoOmKuorma_ = 3.57856132909155;  // kWh/m² in a month
   Lippu ivHaviotUpToDate_, ivKuormatUpToDate_, aurKuormatUpToDate_, johtumishaviotUpToDate_;
   Oma<Kuukausitaulu> ivHaviot_, ivKuormat_, aurKuormat_, johtumishaviot_;  // kWh
+  Oma<std::shared_ptr<frmTila>> kayttoLiittyma_;
+  Oma<std::shared_ptr<clsTila>> varalla_;  // as it was when the dialog opened
 };
