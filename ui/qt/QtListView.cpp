@@ -29,7 +29,8 @@ QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& l
   lista.setUniformRowHeights(true);
   lista.setAllColumnsShowFocus(true);
   lista.setSelectionMode(QAbstractItemView::ExtendedSelection);
-  lista.header()->setSectionsClickable(true);
+  const bool lajiteltava = lista.property("Lajiteltava") != QVariant(false);
+  lista.header()->setSectionsClickable(lajiteltava);
   connect(&lista, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rivi) { RiviValittu(rivi); });
   connect(&lista, &QTreeWidget::itemDoubleClicked, this, [this] {
     if (Indeksi() >= 0) KayttajaPainaa();

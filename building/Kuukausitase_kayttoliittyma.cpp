@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The monthly balance on the screen and in a sheet.
+#include "building/Kuukausitase.h"
+#include "building/clsRakennus.h"
+#include "kernel/Luvut.h"
+#include "kernel/Virhe.h"
+#include "results/Laskentataulukko.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/frmKuukausitase.h"
+
+namespace {
+
+constexpr int kOtsikko = 2920, kTase = 2923, kYksikko = 2924, kVuosi = 2925, kKokoRakennus = 2937, kNormitettu = 2938,
+              kEiNormitettavissa = 2939, kTammi = 2940, kEnsimmainenTermi = 2960, kkWh = 2972, kProsentti = 2022;
+
+/// How a term is drawn: losses and gains in columns of their own, the demand as a line. Sums and shares aren't drawn.
+struct Sarja {
+  Tasetermi termi;
+  int pino;
+};
+constexpr Sarja kSarjat[] = {
+    {Tasetermi::Johtuminen, 0}, {Tasetermi::Ilmanvaihtokoneet, 0},
+    {Tasetermi::Vuotoilma, 0},  {Tasetermi::Sahko, 1},
+    {Tasetermi::Henkilot, 1},   {Tasetermi::Aurinko, 1},
+    {Tasetermi::IVKuormat, 1},  {Tasetermi::Tarve, Kaaviosarja::kViiva},
+};
+
+constexpr Tasetermi Termi(std::size_t i) { return static_cast<Tasetermi>(i); }
+
+bool OnSuhde(Tasetermi termi) { return termi == Tasetermi::Hyvaksikayttoaste; }
+
+std::string TerminNimi(Tasetermi termi) { return Teksti(kEnsimmainenTermi + static_cast<int>(termi)); }
+
+/// A ratio is shown per cent.
+double Naytettava(Tasetermi termi, double arvo) { return OnSuhde(termi) ? arvo * 100 : arvo; }
+
+std::vector<std::string> KuukausienNimet() {
+  std::vector<std::string> nimet;
+  for (int m = 0; m < kKuukausia; ++m) nimet.push_back(Teksti(kTammi + m));
+  return nimet;
+}
+
+/// Name, unit, months and the year of a term; `Solu` makes a cell of a number.
+template <class Solu>
+auto TerminRivi(const Kuukausitase& tase, Tasetermi termi, Solu&& solu) {
+  std::vector<decltype(solu(0.0))> rivi = {TerminNimi(termi), Teksti(OnSuhde(termi) ? kProsentti : kkWh)};
+  for (const double arvo : tase[termi]) rivi.push_back(solu(Naytettava(termi, arvo)));
+  rivi.push_back(solu(Naytettava(termi, tase.Vuosi(termi))));
+  return rivi;
+}
+
+std::string NormitusTekstina(const Kuukausitase& tase) {
+  if (tase.vyohyke <= 0) return Teksti(kEiNormitettavissa);
+  return Teksti(kNormitettu) + " " + Muotoile(tase.Vuosi(Tasetermi::Tarve), "### ##0") + " kWh × " +
+         Muotoile(tase.paikkakunta, "### ##0") + " °Cd / " + Muotoile(tase.vyohyke, "### ##0") +
+         " °Cd = " + Muotoile(tase.NormitettuTarve(), "### ##0.00") + " MWh/a";
+}
+
+Kaaviotiedot Kaavio(const Kuukausitase& tase, const std::string& nimi) {
+  Kaaviotiedot kaavio{.otsikko = nimi, .nimet = KuukausienNimet(), .yksikko = Teksti(kkWh)};
+  for (const Sarja& s : kSarjat)
+    kaavio.sarjat.push_back({TerminNimi(s.termi), {tase[s.termi].begin(), tase[s.termi].end()}, s.pino});
+  return kaavio;
+}
+
+Laskentataulukko Taulukoksi(const Kuukausitase& tase, const std::string& otsikko) {
+  Laskentataulukko taulukko{otsikko, {Teksti(kTase), Teksti(kYksikko)}, {}};
+  for (std::string& nimi : KuukausienNimet()) taulukko.sarakkeet.push_back(std::move(nimi));
+  taulukko.sarakkeet.push_back(Teksti(kVuosi));
+  for (std::size_t i = 0; i < kTasetermeja; ++i)
+    taulukko.rivit.push_back(TerminRivi(tase, Termi(i), [](double arvo) { return Taulukkosolu(arvo); }));
+  taulukko.rivit.push_back({});
+  taulukko.rivit.push_back({NormitusTekstina(tase)});
+  return taulukko;
+}
+
+void TaytaTaulukko(const frmKuukausitase& lomake, const Kuukausitase& tase) {
+  const auto teksti = [](double arvo) { return Muotoile(arvo, "### ##0"); };
+  std::vector<std::vector<std::string>> rivit;
+  for (std::size_t i = 0; i < kTasetermeja; ++i) rivit.push_back(TerminRivi(tase, Termi(i), teksti));
+  lomake.lvwTase.Summarivi(rivit.back());  // the demand
+  rivit.pop_back();
+  lomake.lvwTase.Rivit(std::move(rivit));
+}
+
+void Nayta(const Kuukausitase& tase, const std::string& nimi) {
+  frmKuukausitase lomake;
+  lomake.Otsikko(Teksti(kOtsikko) + ": " + nimi);
+  TaytaTaulukko(lomake, tase);
+  lomake.chtTase.Kaavio(Kaavio(tase, nimi));
+  lomake.lblNormitus.Otsikko(NormitusTekstina(tase));
+  lomake.TallennaTaulukko = [&](const std::string& tiedosto) {
+    TallennaLaskentataulukko(Taulukoksi(tase, lomake.Otsikko()), Teksti(kOtsikko), tiedosto);
+    return true;
+  };
+  lomake.NaytaModaalisena();
+}
+
+/// Computes under the hourglass, which ends before the person is shown anything.
+template <class Lasku>
+Kuukausitase Odottaen(Lasku&& lasku) {
+  const Odotus odotus;
+  return lasku();
+}
+
+}  // namespace
+
+void NaytaKuukausitase(clsRakennus& rakennus) try {
+  const Kuukausitase tase = Odottaen([&] { return LaskeKuukausitase(rakennus); });
+  Nayta(tase, rakennus.Perustiedot.KohteenNimi + ", " + Teksti(kKokoRakennus));
+} catch (...) {
+  NostaVirhe("Kuukausitase:NaytaKuukausitase Function");
+}
+
+void NaytaKuukausitase(clsRakennus& rakennus, clsTila& tila) try {
+  const Kuukausitase tase = Odottaen([&] { return LaskeKuukausitase(rakennus, tila); });
+  Nayta(tase, rakennus.Perustiedot.KohteenNimi + ", " + tila.TilanNimi);
+} catch (...) {
+  NostaVirhe("Kuukausitase:NaytaKuukausitase Function");
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Tallennuskysely.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "kernel/Kirjainkoko.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr int kTiedosto = 1150, kOnJoOlemassa = 1151, kOlemassaOtsikko = 1152, kEiVoituTallentaa = 2936, kVirhe = 9100;
+
+std::string Paatteella(const std::string& tiedosto, std::string_view paate) {
+  const std::string nykyinen = std::filesystem::path(tiedosto).extension().string();
+  return SamaNimi(nykyinen, paate) ? tiedosto : tiedosto + std::string(paate);
+}
+
+bool SaaKirjoittaa(const std::string& tiedosto) {
+  std::error_code virhe;
+  if (!std::filesystem::exists(tiedosto, virhe)) return true;
+  return ViestitNyt().Nayta({Teksti(kTiedosto) + tiedosto + Teksti(kOnJoOlemassa), Teksti(kOlemassaOtsikko),
+                             Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei}) == Vastaus::Kylla;
+}
+
+/// Why it couldn't be saved; "" when it was.
+std::string Yrita(const std::function<bool(const std::string&)>& tallenna, const std::string& tiedosto) try {
+  const Odotus odotus;
+  return tallenna(tiedosto) ? "" : " ";
+} catch (const std::exception& virhe) {
+  return std::string("\n") + virhe.what();
+}
+
+}  // namespace
+
+void KysyJaTallenna(const Tallennettava& mika, const std::function<bool(const std::string&)>& tallenna) {
+  const auto valittu = ViestitNyt().KysyTallennettavaTiedosto(Teksti(mika.otsikko), Teksti(mika.suodatin));
+  if (!valittu) return;
+  const std::string tiedosto = Paatteella(*valittu, mika.paate);
+  if (!SaaKirjoittaa(tiedosto)) return;
+  if (const std::string syy = Yrita(tallenna, tiedosto); !syy.empty())
+    Ilmoita(Teksti(kEiVoituTallentaa) + " " + tiedosto + syy, Teksti(kVirhe), Vakavuus::Virhe);
+}
