@@ -100,6 +100,16 @@ class Kahva {
       sisalto.append(pala.data(), static_cast<std::size_t>(std::max<ssize_t>(n, 0)));
     }
   }
+  /// Appends a file, in the kernel where the file systems can.
+  void LiitaTiedosto(const fs::path& lahde) {
+    Kahva luettava(lahde, O_RDONLY);
+    for (;;) {
+      const ssize_t n = copy_file_range(luettava.kahva_, nullptr, kahva_, nullptr, kKerralla, 0);
+      if (n == 0) return;
+      if (n < 0 && errno != EINTR) break;
+    }
+    Kirjoita(luettava.Lue());  // what is left: both handles stand where the copy ended
+  }
   void Oikeudet(mode_t oikeudet) {
     if (fchmod(kahva_, oikeudet) != 0 && errno != EPERM) NostaJarjestelmavirhe(tiedosto_);
   }
@@ -108,6 +118,8 @@ class Kahva {
   }
 
  private:
+  static constexpr std::size_t kKerralla = 1 << 30;
+
   fs::path tiedosto_;
   int kahva_;
 };
@@ -130,6 +142,24 @@ class Keskenerainen {
 /// What a link points to, also when that doesn't exist yet; other paths as they are.
 fs::path LinkinKohde(const fs::path& tiedosto) {
   return fs::is_symlink(tiedosto) ? fs::weakly_canonical(tiedosto) : tiedosto;
+}
+
+/// Fills a new file beside `tiedosto`, flushes it and gives it the name.
+template <class Tayta>
+void Korvaa(const fs::path& tiedosto, Tayta&& tayta) {
+  const fs::path kohde = LinkinKohde(tiedosto);
+  fs::create_directories(kohde.parent_path());
+  const fs::path uusi = kohde.string() + ".uusi." + std::to_string(getpid());
+  Keskenerainen siivous(uusi);
+  {
+    Kahva kahva(uusi, O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    if (struct stat vanha; stat(kohde.c_str(), &vanha) == 0) kahva.Oikeudet(vanha.st_mode & 07777);
+    tayta(kahva);
+    kahva.Levylle();
+  }
+  if (rename(uusi.c_str(), kohde.c_str()) != 0) NostaJarjestelmavirhe(kohde);
+  siivous.Valmis();
+  Kahva(kohde.parent_path(), O_RDONLY | O_DIRECTORY).Levylle();
 }
 
 using Tiivisteet = std::map<std::string, std::string>;  // file -> SHA-256
@@ -194,7 +224,7 @@ class Siementaja {
     return std::find(kKayttajanOmat.begin(), kKayttajanOmat.end(), tiedosto) != kKayttajanOmat.end();
   }
 
-  void Kopioi(const std::string& tiedosto) { KirjoitaTiedosto(kohde_ / tiedosto, LueTiedosto(lahde_ / tiedosto)); }
+  void Kopioi(const std::string& tiedosto) { KopioiTiedosto(lahde_ / tiedosto, kohde_ / tiedosto); }
 
   fs::path lahde_;
   fs::path kohde_;
@@ -262,19 +292,11 @@ Lukitus::~Lukitus() { close(kahva_); }
 std::string LueTiedosto(const fs::path& tiedosto) { return Kahva(tiedosto, O_RDONLY).Lue(); }
 
 void KirjoitaTiedosto(const fs::path& tiedosto, std::string_view sisalto) {
-  const fs::path kohde = fs::absolute(LinkinKohde(tiedosto));
-  fs::create_directories(kohde.parent_path());
-  const fs::path uusi = kohde.string() + ".uusi." + std::to_string(getpid());
-  Keskenerainen siivous(uusi);
-  {
-    Kahva kahva(uusi, O_WRONLY | O_CREAT | O_TRUNC, 0666);
-    if (struct stat vanha; stat(kohde.c_str(), &vanha) == 0) kahva.Oikeudet(vanha.st_mode & 07777);
-    kahva.Kirjoita(sisalto);
-    kahva.Levylle();
-  }
-  if (rename(uusi.c_str(), kohde.c_str()) != 0) NostaJarjestelmavirhe(kohde);
-  siivous.Valmis();
-  Kahva(kohde.parent_path(), O_RDONLY | O_DIRECTORY).Levylle();
+  Korvaa(tiedosto, [sisalto](Kahva& kahva) { kahva.Kirjoita(sisalto); });
+}
+
+void KopioiTiedosto(const fs::path& lahde, const fs::path& tiedosto) {
+  Korvaa(tiedosto, [&lahde](Kahva& kahva) { kahva.LiitaTiedosto(lahde); });
 }
 
 std::string LyhennaPolku(std::string_view polku, std::size_t n) {

@@ -52,6 +52,8 @@ std::string LueTiedosto(const std::filesystem::path& tiedosto);
 /// Writes the file so that at every moment either the old or the new content stands under its name, also after a power
 /// cut; a link is followed. Makes the missing directories. Throws std::system_error; the old file is then whole.
 void KirjoitaTiedosto(const std::filesystem::path& tiedosto, std::string_view sisalto);
+/// The same with the content of the file `lahde`.
+void KopioiTiedosto(const std::filesystem::path& lahde, const std::filesystem::path& tiedosto);
 
 /// The path in about `n` characters (not bytes): as it is when it is no longer than that, else its first three
 /// characters, "..." and its end from the first "/" of the last n − 6 characters, or all of these when they have none.

@@ -117,9 +117,8 @@ std::string SailytaLukittuna(const fs::path& tiedosto) {
 /// Copies the project aside, if there is one. Runs on the second thread.
 void KopioiVanha(const fs::path& tiedosto, bool sailytaEnnen) try {
   if (!fs::exists(tiedosto)) return;
-  const std::string sisalto = LueTiedosto(tiedosto);
-  KirjoitaTiedosto(VarakopionPolku(), sisalto);
-  if (sailytaEnnen) KirjoitaTiedosto(tiedosto.string() + ".ennen", sisalto);
+  KopioiTiedosto(tiedosto, VarakopionPolku());
+  if (sailytaEnnen) KopioiTiedosto(tiedosto, tiedosto.string() + ".ennen");
 } catch (const std::system_error& virhe) {
   NostaTiedostovirhe(Syy::Varmuuskopio, VarakopionPolku(), virhe.code());
 }

@@ -7,6 +7,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
@@ -86,6 +87,12 @@ ssize_t write(int kahva, const void* tavut, size_t n) {
 ssize_t pwrite64(int kahva, const void* tavut, size_t n, off64_t kohta) {
   if (!kutsut::Osuu()) return syscall(SYS_pwrite64, kahva, tavut, n, kohta);
   syscall(SYS_pwrite64, kahva, tavut, n / 2, kohta);
+  return kutsut::Iske();
+}
+
+ssize_t copy_file_range(int mista, off64_t* kohta, int mihin, off64_t* toinen, size_t n, unsigned tapa) {
+  if (!kutsut::Osuu()) return syscall(SYS_copy_file_range, mista, kohta, mihin, toinen, n, tapa);
+  syscall(SYS_copy_file_range, mista, kohta, mihin, toinen, std::min<size_t>(n, 10000), tapa);
   return kutsut::Iske();
 }
 
