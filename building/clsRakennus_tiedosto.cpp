@@ -73,8 +73,10 @@ bool clsRakennus::Tallenna(const std::string& tiedosto) {
     Minor = kVersioMinor;
     Revision = kVersioRevision;
     Tallennettu = true;  // as the file says it
-    TallennaProjekti(*this, tiedosto, {},
-                     {.sailytaEnnen = vaurioitunut_, .eteneminen = NaytaOsat(odotus, Teksti(9103))});
+    const Tallennusraportti raportti = TallennaProjekti(
+        *this, tiedosto, {}, {.sailytaEnnen = vaurioitunut_, .eteneminen = NaytaOsat(odotus, Teksti(9103))});
+    for (const std::string& luokka : raportti.ilmanTunnistetta)
+      Ilmoita("Tänne ei pitäisi tulla. InstanssiId puuttuu! Olion typename: " + luokka);
     vaurioitunut_ = false;
     return true;
   } catch (const std::exception& virhe) {
