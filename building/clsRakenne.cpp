@@ -21,8 +21,8 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsRakenne::SuuntausID>("SuuntausID"),
     Arvo<&clsRakenne::SuuntausStr>("SuuntausStr"),
     Arvo<&clsRakenne::PintaAla>("PintaAla", "m²"),
-    Ominaisuus<clsRakenne, [](const clsRakenne& r) { return r.U_arvo(); }, [](clsRakenne& r, double u) { r.U_arvo(u); }>(
-        "U_arvo", "W/m²K"),
+    Ominaisuus<clsRakenne, [](const clsRakenne& r) { return r.U_arvo(); },
+               [](clsRakenne& r, double u) { r.U_arvo(u); }>("U_arvo", "W/m²K"),
     Arvo<&clsRakenne::LaskeU_arvoMateriaaleista>("LaskeU_arvoMateriaaleista"),
     Lapsi<&clsRakenne::RakenneRatkaisu>("RakenneRatkaisu"),
     Lapsi<&clsRakenne::HorisVarjostus>("HorisVarjostus"),
@@ -64,7 +64,8 @@ struct Johtuminen {
 };
 
 Johtuminen MuodostaJohtuminen(const clsRakenne& r) {
-  if (r.Rakennetyyppi == Rakennelaji::Ikkuna || r.Rakennetyyppi == Rakennelaji::Ovi) return {Johtumistapa::Ilmaan, r.PintaAla * r.U_arvo()};
+  if (r.Rakennetyyppi == Rakennelaji::Ikkuna || r.Rakennetyyppi == Rakennelaji::Ovi)
+    return {Johtumistapa::Ilmaan, r.PintaAla * r.U_arvo()};
   if (r.Rakennetyyppi < Rakennelaji::Ulkoseina || r.Rakennetyyppi > Rakennelaji::Alapohja) return {};
   switch (r.TyyppiID) {
     case kUlkoilma:
@@ -160,10 +161,13 @@ double clsRakenne::LampoHaviot(double Tsisa, int kuukausi) const try {
 
 void clsRakenne::LisaaLampoHaviot(double Tsisa, const Kuukausitaulu& ulkolampotilat, Kuukausitaulu& summa) const try {
   const Johtuminen johtuminen = MuodostaJohtuminen(*this);
-  if (johtuminen.tapa == Johtumistapa::Ilmaan)
+  if (johtuminen.tapa == Johtumistapa::Ilmaan) {
+    Kuukausitaulu haviot;
     for (std::size_t m = 0; m < kKuukausia; ++m)
-      summa[m] += HavioIlmaan(johtuminen.WperK, Tsisa, ulkolampotilat[m], kPaivatKuukaudessa[m]);
-  else if (johtuminen.tapa == Johtumistapa::Maahan)
+      haviot[m] = HavioIlmaan(johtuminen.WperK, Tsisa, ulkolampotilat[m], kPaivatKuukaudessa[m]);
+    for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += haviot[m];
+  }
+  if (johtuminen.tapa == Johtumistapa::Maahan)
     for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += HavioMaahan(PintaAla, Tsisa, static_cast<int>(m));
 } catch (...) {
   NostaVirhe("clsRakenne:LampoHaviot Method");
@@ -205,7 +209,8 @@ void clsRakenne::LaskeAurinkokuormat() {
   const auto paikkakunta = static_cast<std::size_t>(VaadiRakennus().Perustiedot.LammTarveLukuPaikkakuntaID());
   if (paikkakunta < kLeveysasteet.size()) laskin.Leveysaste = kLeveysasteet[paikkakunta];
   laskin.LataaFh(tiedostot.fh);
-  laskin.Vyohykkeet.Add(MuodostaVyohyke());
+  static const LaskentaVyohyke kVyohyke = MuodostaVyohyke();
+  laskin.Vyohykkeet.Add(kVyohyke);
   laskin.HorisonttiKulma(SuuntausID, HorisVarjostus.Varjostuskulma);
   laskin.Ikkunat.Add(MuodostaIkkuna(*this, tiedostot));
   laskin.Laske();

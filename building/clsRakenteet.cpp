@@ -9,6 +9,21 @@ namespace {
 constexpr Jasen kJasenet[] = {Arvo<&Olio::InstanssiId>("InstanssiId")};
 }
 
+namespace {
+
+/// Fetches the solutions and layers that the losses are computed from: they lie all over the memory, and waiting for
+/// one after the other would take most of the time. (noipa: the compiler would take a function that only fetches for
+/// one without effect and drop it.)
+[[gnu::noipa]] void Esihae(const clsRakenteet& rakenteet) noexcept {
+  for (const clsRakenne& rakenne : rakenteet)
+    if (rakenne.RakenneRatkaisu) __builtin_prefetch(&rakenne.RakenneRatkaisu->Kerrokset);
+  for (const clsRakenne& rakenne : rakenteet)
+    if (rakenne.LaskeU_arvoMateriaaleista && rakenne.RakenneRatkaisu)
+      for (const clsRakennekerros& kerros : rakenne.RakenneRatkaisu->Kerrokset) __builtin_prefetch(&kerros.Paksuus);
+}
+
+}  // namespace
+
 const Luokka clsRakenteet::kLuokka{"clsRakenteet", kJasenet};
 
 double clsRakenteet::LampoHaviot(double Tsisa, int kuukausi) const try {
@@ -21,6 +36,7 @@ double clsRakenteet::LampoHaviot(double Tsisa, int kuukausi) const try {
 
 Kuukausitaulu clsRakenteet::LampoHaviot(double Tsisa) const try {
   Kuukausitaulu summa{};
+  Esihae(*this);
   const Kuukausitaulu& ulkolampotilat = VaadiSaa().Keskilampotilat();
   for (const clsRakenne& rakenne : *this) rakenne.LisaaLampoHaviot(Tsisa, ulkolampotilat, summa);
   return summa;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/clsRakennekerros.h"
 
-#include <algorithm>
-
 namespace {
 
 /// A figure of one of the layer's materials as a member of the layer.
@@ -35,29 +33,11 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsRakennekerros::sKey>("sKey"),
 };
 
-double Metreina(float mm) { return double{mm} / 1000; }
-
 }  // namespace
 
 const Luokka clsRakennekerros::kLuokka("clsRakennekerros", kJasenet, Luokka::Osallistuu::EiKumpaankaan);
 
-double clsRakennekerros::LisamateriaalinPaino() const noexcept {
-  return Yhtenainen ? 0 : std::clamp(double{LisamateriaalinOsuus} / 100, 0.0, 1.0);
-}
-
-Kerros clsRakennekerros::Laskentakerros() const noexcept {
-  Kerros kerros;
-  kerros.paksuus_m = Metreina(Paksuus);
-  kerros.lambda = Materiaali.Lambda;
-  kerros.mukana = UArvoon;
-  kerros.yhtenainen = Yhtenainen;
-  kerros.lambda2 = Lisamateriaali.Lambda;
-  kerros.osuus2 = LisamateriaalinPaino();
-  if (Lammonvastus > 0) kerros.vastus = Lammonvastus;
-  return kerros;
-}
-
 double clsRakennekerros::Massa() const noexcept {
   const double osuus = LisamateriaalinPaino();
-  return Metreina(Paksuus) * ((1 - osuus) * Materiaali.Tiheys + osuus * Lisamateriaali.Tiheys);
+  return PaksuusMetreina() * ((1 - osuus) * Materiaali.Tiheys + osuus * Lisamateriaali.Tiheys);
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <algorithm>
+
 #include "kernel/Olio.h"
 #include "library/Lammonlapaisy.h"
 #include "library/Materiaali.h"
@@ -13,7 +15,19 @@ class clsRakennekerros : public Malli<clsRakennekerros, Alkio> {
   /// conductivity of the main material.
   bool Vastustaa() const noexcept { return UArvoon && (Lammonvastus > 0 || (Paksuus > 0 && Materiaali.Lambda > 0)); }
   /// The layer in the form of the U-value calculation.
-  Kerros Laskentakerros() const noexcept;
+  Kerros Laskentakerros() const noexcept {
+    Kerros kerros;
+    kerros.paksuus_m = PaksuusMetreina();
+    kerros.lambda = Materiaali.Lambda;
+    kerros.mukana = UArvoon;
+    kerros.yhtenainen = Yhtenainen;
+    if (!Yhtenainen) {
+      kerros.lambda2 = Lisamateriaali.Lambda;
+      kerros.osuus2 = LisamateriaalinPaino();
+    }
+    if (Lammonvastus > 0) kerros.vastus = Lammonvastus;
+    return kerros;
+  }
   /// Mass per area, kg/m²; an inhomogeneous layer's materials by their shares.
   double Massa() const noexcept;
 
@@ -28,5 +42,8 @@ class clsRakennekerros : public Malli<clsRakennekerros, Alkio> {
   std::string Nimi;  ///< empty: the layer is shown by its number
 
  private:
-  double LisamateriaalinPaino() const noexcept;
+  double PaksuusMetreina() const noexcept { return double{Paksuus} / 1000; }
+  double LisamateriaalinPaino() const noexcept {
+    return Yhtenainen ? 0 : std::clamp(double{LisamateriaalinOsuus} / 100, 0.0, 1.0);
+  }
 };
