@@ -12,8 +12,8 @@
 #include "kernel/Luvut.h"
 #include "kernel/Tekstitiedosto.h"
 #include "kernel/Virhe.h"
-#include "ui/KerataanViestit.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "ui/KerataanViestit.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -22,10 +22,10 @@ using Rivi = std::map<std::string, std::string>;
 
 constexpr std::int32_t kMuuKayttoaika = 4;
 
-std::vector<std::string> Kentat(const std::string& rivi) {
+std::vector<std::string> Kentat(const std::string& rivi, char erotin = ',') {
   std::vector<std::string> kentat;
   std::istringstream lahde(rivi);
-  for (std::string kentta; std::getline(lahde, kentta, ',');) kentat.push_back(kentta);
+  for (std::string kentta; std::getline(lahde, kentta, erotin);) kentat.push_back(kentta);
   return kentat;
 }
 
@@ -94,12 +94,78 @@ void AsetaKayttoaika(const Rivi& rivi, clsTila& tila) {
   tila.TilanKayttoaikaHpA = Luku(rivi, "KayttoaikaHpA");
 }
 
+/// The text of a choice, by its row.
+std::string Valinta(const char* lomake, const char* valinta, std::int32_t rivi) {
+  return Valintalista(lomake, valinta).at(static_cast<std::size_t>(rivi));
+}
+
+/// One running period: "5 06:00 16:00 100", times a week, start, end and flow in per cent.
+void TaytaJakso(const std::string& teksti, clsKayntiAika& jakso) {
+  const auto kentat = Kentat(teksti, ' ');
+  AsetaJasen(jakso, "KayntiJaksojenLkm", kentat.at(0));
+  AsetaJasen(jakso, "Alkaa", kentat.at(1));
+  AsetaJasen(jakso, "Paattyy", kentat.at(2));
+  AsetaJasen(jakso, "TuloIlmavirtaProsentti", kentat.at(3));
+}
+
+/// The schedule: periods divided by ";", given once for the whole year or four times, by season, divided by "|".
+void TaytaKayntiajat(const std::string& teksti, clsKayntiAjat& ajat) {
+  const auto vuosijaksot = Kentat(teksti, '|');
+  const bool vuosittain = vuosijaksot.size() == 1;
+  ajat.KayntiaikojenSyottotapaID = vuosittain ? 0 : 1;
+  ajat.KayntiAikojenSyottoTapa =
+      Valinta("frmIlmanvaihtokoneenKayntiajat", "cmbKayntiAikojenSyottoTapa", ajat.KayntiaikojenSyottotapaID);
+  for (std::size_t i = 0; i < vuosijaksot.size(); ++i) {
+    int rivi = 0;
+    for (const std::string& jakso : Kentat(vuosijaksot[i], ';'))
+      TaytaJakso(jakso, ajat.Item(clsKayntiAjat::JaksonAvain(
+                            ++rivi, vuosittain ? clsKayntiAika::KokoVuosi : static_cast<int>(i))));
+  }
+}
+
+void LisaaIVKone(const Rivi& rivi, const clsTila& tila, clsIVKoneet& koneet) {
+  constexpr const char* kLomake = "frmIlmanvaihtokone";
+  clsIVKone& kone = koneet.Add(Tunniste::Uusi(clsIVKone::kLuokka.NimiSana()));
+  kone.IVPeriaateID = Kokonaisluku(rivi, "IVPeriaateID");
+  kone.IVPeriaate = Valinta(kLomake, "cmbIVPeriaate", kone.IVPeriaateID);
+  kone.KoneenTunnus = kone.OnTulopuhallin() ? "TK01" : "PK01";
+  kone.LiittyyTilaansKey = tila.sKey;
+  kone.TuloIlmavirta11Teho = Luku(rivi, "TuloIlmavirta");
+  kone.PoistoIlmavirta11Teho = Luku(rivi, "PoistoIlmavirta");
+  kone.SisaanpuhallusLampotila(Luku(rivi, "SisaanpuhallusLampotila"));
+  kone.PoistoLampotila = tila.Sisalampotila;
+  kone.LtoHyotysuhde = Luku(rivi, "LtoHyotysuhde");
+  kone.JarjestelmaTyyppiID = Kokonaisluku(rivi, "JarjestelmaTyyppiID");
+  kone.JarjestelmaTyyppi = Valinta(kLomake, "cmbJarjestelmaTyyppi", kone.JarjestelmaTyyppiID);
+  kone.PuhaltimenSaatotapaID = Kokonaisluku(rivi, "PuhaltimenSaatotapaID");
+  kone.PuhaltimenSaatotapa = Valinta(kLomake, "cmbPuhaltimenSaatotapa", kone.PuhaltimenSaatotapaID);
+  kone.PuhaltimenVoimansiirtoTapa =
+      Valinta(kLomake, "cmbPuhaltimenVoimansiirtoTapa", kone.PuhaltimenVoimansiirtoTapaID);
+  kone.PuhaltimienSahkonKulutus.TuloSahkoTeho11 = Luku(rivi, "TuloSahkoTeho");
+  kone.PuhaltimienSahkonKulutus.PoistoSahkoTeho11 = Luku(rivi, "PoistoSahkoTeho");
+  kone.KayntiAikaYleistiedot.IvKoneenNimi = kone.KoneenTunnus;
+  kone.KayntiAikaYleistiedot.LuoJaksot(kone.SisaanpuhallusLampotila(), kone.IlmanLampeneminenPuhaltimessa);
+  TaytaKayntiajat(rivi.at("Kayntiajat"), kone.KayntiAikaYleistiedot);
+  kone.PaivitaPuhaltimienTiedot();
+}
+
+/// The machine of the building and, with a rate of natural ventilation, that in its place.
+void AsetaIlmanvaihto(const Rivi& rivi, clsRakennus& rakennus) {
+  clsTila& tila = rakennus.Tilat.Item(1);
+  LisaaIVKone(rivi, tila, rakennus.IVKoneet);
+  const double painovoimainen = Luku(rivi, "PainovoimainenIVMaara");
+  if (painovoimainen <= 0) return;
+  tila.PainovoimainenIlmanvaihto = true;
+  tila.PainovoimainenIVMaara = painovoimainen;
+}
+
 void TeeMalliauditointi(const Rivi& rivi, const std::filesystem::path& kansio) {
   clsRakennus rakennus;
   AsetaGlobaaliRakennus(&rakennus);
   TaytaPerustiedot(rivi, rakennus.Perustiedot);
   rakennus.Perustiedot.OtaKayttoon(0);
   for (clsTila& tila : rakennus.Tilat) AsetaKayttoaika(rivi, tila);
+  AsetaIlmanvaihto(rivi, rakennus);
   const auto tiedosto = kansio / (rivi.at("Tunnus") + " " + rivi.at("Nimi") + ".lvt");
   if (!rakennus.Tallenna(tiedosto.string())) throw std::runtime_error("tallennus epäonnistui: " + tiedosto.string());
 }
