@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Ohje.h"
+
+#include <ranges>
+
+#include "ui/Lomake.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+Ohjenaytto* g_naytto = nullptr;
+
+/// The form shown last is looked at first: a modal form lies over those of the main window.
+const Lomake* PaallimmainenLomake() {
+  for (const Lomake* lomake : AvoimetLomakkeet() | std::views::reverse)
+    if (lomake->Aktiivinen()) return lomake;
+  return nullptr;
+}
+
+}  // namespace
+
+void AsetaOhjenaytto(Ohjenaytto* naytto) { g_naytto = naytto; }
+
+void AvaaOhje(int aihe) {
+  if (g_naytto) g_naytto->Avaa(aihe);
+}
+
+void AvaaOhjeenHaku() {
+  if (g_naytto) g_naytto->AvaaHaku();
+}
+
+void AvaaLomakkeenOhje() {
+  const Lomake* lomake = PaallimmainenLomake();
+  const int aihe = lomake ? Ohjeaihe(lomake->Nimi(), 0) : 0;
+  AvaaOhje(aihe > 0 ? aihe : kOhjeSisallys);
+}
