@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <string>
+
 #include "building/clsRakenne.h"
 #include "kernel/Kokoelma.h"
 
@@ -17,6 +19,12 @@ class clsRakenteet : public Malli<clsRakenteet, Kokoelma<clsRakenne>> {
   double YlaPohjienAla() const { return Ala(Rakennelaji::Ylapohja); }     ///< m²
   double AlapohjienAla() const { return Ala(Rakennelaji::Alapohja); }     ///< m²
   double IkkunoidenAla() const { return Ala(Rakennelaji::Ikkuna); }       ///< m²
+
+  /// Opens the dialog of the structures, modal, with all kinds shown. Edits them live; Cancel restores them. True after
+  /// OK; the caller tells the building of the change.  `tilanNimi`: for the caption.
+  bool NaytaKayttoliityma(const std::string& tilanNimi = {});
+  /// The same with the structures of one kind shown, 0 to 7.
+  bool NaytaRakenteetKayttoliittyma(std::int32_t rakennetyyppi, const std::string& tilanNimi = {});
 
  private:
   double Ala(std::int32_t tyyppi) const;

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "building/clsTila.h"
+
+class frmTilaYhteenveto;
 
 /// The spaces of the building.
 class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
@@ -26,9 +32,30 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   /// Fills the solar, ventilation and conduction caches of every space.
   void PaivitaTilojenLampotaseenLahtotiedot();
 
+  /// Opens the list of spaces, or brings it to front: not modal, one at a time. What is done there takes effect at once.
+  void NaytaKayttoliittyma();
+  void LueDataluokka();
+  void KirjoitaDataluokka();
+  /// Fills the list with the spaces and their balance of the year, if it is open. To be called when the model has
+  /// changed.
+  void ListaaTilat();
+
  private:
+  void LiitaTapahtumat();
+  void TaytaLuettelo();
+  clsTila& ValittuTila() const;
+  void Valitse(const Tunniste& avain);
+  void MalliMuuttui(const Tunniste& valittava);
+  void KayttoLiittyma_LisaaKlikattu();
+  void KayttoLiittyma_MuokkaaKlikattu();
+  void KayttoLiittyma_KopioiKlikattu();
+  void KayttoLiittyma_PoistaKlikattu();
+  void KayttoLiittyma_SahkokuormatMuuttuivat();
+
   void PaivitaIVHaviot(Edistyminen& edistyminen);
 
   Lippu tarveUpToDate_;
   Oma<double> tarve_;  // MWh/a
+  Oma<std::shared_ptr<frmTilaYhteenveto>> kayttoLiittyma_;
+  Oma<std::vector<Tunniste>> rivit_;  // keys of the spaces in the list
 };

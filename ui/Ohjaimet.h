@@ -122,6 +122,7 @@ class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
   using TyypitettyKahva::TyypitettyKahva;
   void Rivit(Taulukko rivit) const { ohjain_->Rivit(std::move(rivit)); }
   const Taulukko& Rivit() const { return ohjain_->Rivit(); }
+  void Rivi(int indeksi, std::vector<std::string> solut) const { ohjain_->Rivi(indeksi, std::move(solut)); }
   void Summarivi(std::vector<std::string> solut) const { ohjain_->Summarivi(std::move(solut)); }
   int Indeksi() const { return ohjain_->Indeksi(); }
   void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }

@@ -103,6 +103,11 @@ void Ohjain::Rivit(Taulukko rivit) {
   Paivita(Piirre::Rivit);
 }
 
+void Ohjain::Rivi(int indeksi, std::vector<std::string> solut) {
+  rivit_.at(static_cast<std::size_t>(indeksi)) = std::move(solut);
+  Paivita(Piirre::Rivit);
+}
+
 void Ohjain::Summarivi(std::vector<std::string> solut) {
   summarivi_ = std::move(solut);
   Paivita(Piirre::Rivit);

@@ -102,6 +102,8 @@ class Ohjain {
   void Teksti(std::string teksti);
   /// True when the person has changed the text after it was filled.
   bool Muuttunut() const;
+  /// What the person has written has been read: the field can be filled at once, though the focus may still be there.
+  void PaataMuokkaus() { muokataan_ = false; }
 
   const std::string& Vihje() const { return vihje_; }
   void Vihje(std::string vihje);
@@ -117,6 +119,8 @@ class Ohjain {
   /// Rows of a choice list (one cell) or of a list (a cell per column).
   const Taulukko& Rivit() const { return rivit_; }
   void Rivit(Taulukko rivit);
+  /// Other cells for one row, which stays where it is.
+  void Rivi(int indeksi, std::vector<std::string> solut);
   /// Chosen row, or page of a tab control; -1 none. Outside the rows it becomes -1. A row keeps its number wherever a
   /// sorted list shows it.
   int Indeksi() const { return indeksi_; }

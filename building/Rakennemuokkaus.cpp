@@ -1,0 +1,463 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/Rakennemuokkaus.h"
+
+#include <algorithm>
+
+#include "building/Kerrosmuokkaus.h"
+#include "building/LisaaKopio.h"
+#include "building/Rakenneliitos.h"
+#include "building/Toimenpideviittaukset.h"
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "building/modAlkuarvojaRakennukseen.h"
+#include "kernel/Luvut.h"
+#include "kernel/Virhe.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr int kKopio = 1998, kUusiRakenne = 2771, kKylla = 2772, kEi = 2773, kRakenneKaytossa = 2774, kLukittu = 2775;
+constexpr int kVirheenOtsikko = 9100;
+
+constexpr const char* kUarvo = "0.00#";
+constexpr const char* kAla = "### ##0.0#";
+constexpr const char* kKulma = "0.#";
+constexpr const char* kEiArvoa = "---";
+
+struct Tekstikentta {
+  TextBox frmRakenteet::*kentta;
+  std::string Rakenneratkaisu::*teksti;
+};
+constexpr Tekstikentta kTekstikentat[] = {
+    {&frmRakenteet::txtNimi, &Rakenneratkaisu::Nimi},
+    {&frmRakenteet::txtKuvaus, &Rakenneratkaisu::Kuvaus},
+    {&frmRakenteet::txtPaloluokka, &Rakenneratkaisu::Paloluokka},
+};
+
+struct Lukukentta {
+  TextBox frmRakenteet::*kentta;
+  float Rakenneratkaisu::*luku;
+  const char* kuvio;
+};
+constexpr Lukukentta kLukukentat[] = {
+    {&frmRakenteet::txtPaksuus, &Rakenneratkaisu::Paksuus, "### ##0.##"},
+    {&frmRakenteet::txtRw, &Rakenneratkaisu::Rw, "0.#"},
+    {&frmRakenteet::txtPistemaiset, &Rakenneratkaisu::Pistemaiset, "### ##0.##"},
+    {&frmRakenteet::txtPistemaisetWpK, &Rakenneratkaisu::PistemaisetWpK, "0.00##"},
+    {&frmRakenteet::txtViivamaiset, &Rakenneratkaisu::Viivamaiset, "### ##0.##"},
+    {&frmRakenteet::txtViivamaisetWpK, &Rakenneratkaisu::ViivamaisetWpK, "0.00##"},
+    {&frmRakenteet::txtPintavastusSisa, &Rakenneratkaisu::PintavastusSisa, "0.00#"},
+    {&frmRakenteet::txtPintavastusUlko, &Rakenneratkaisu::PintavastusUlko, "0.00#"},
+    {&frmRakenteet::txtKerrostenMassaYht, &Rakenneratkaisu::KerrostenMassaYht, "### ##0.#"},
+    {&frmRakenteet::txtKarmikerroin, &Rakenneratkaisu::Karmikerroin, "0.#"},
+    {&frmRakenteet::txtAurinkoenergianlapaisy, &Rakenneratkaisu::Aurinkoenergianlapaisy, "0.#"},
+    {&frmRakenteet::txtVerhokerroin, &Rakenneratkaisu::Verhokerroin, "0.#"},
+    {&frmRakenteet::txtKokonaisvarjostuskerroin, &Rakenneratkaisu::Kokonaisvarjostuskerroin, "0.#"},
+};
+
+/// What a type of shading sets; the types behind leave the angle as it is.
+constexpr std::array<double, 2> kYlalippakulmat{25, 45};  // degrees
+constexpr std::array<double, 2> kSivulippakulmat{10, 30};
+constexpr std::array<double, 3> kHorisonttikulmat{15, 30, 45};
+
+/// Takes the chosen type of shading and its angle.
+template <class V>
+void ValitseVarjostus(V& varjostus, const ComboBox& tyyppi, const TextBox& kulma, std::span<const double> kulmat) {
+  varjostus.TyyppiID = tyyppi.Indeksi();
+  varjostus.TyyppiStr = tyyppi.Teksti();
+  const auto rivi = static_cast<std::size_t>(varjostus.TyyppiID);
+  if (rivi >= kulmat.size()) return;
+  varjostus.Varjostuskulma = kulmat[rivi];
+  kulma.Luku(varjostus.Varjostuskulma, kKulma);
+}
+
+template <class V>
+void LueVarjostus(const V& varjostus, const ComboBox& tyyppi, const TextBox& kulma) {
+  tyyppi.Indeksi(varjostus.TyyppiID);
+  kulma.Luku(varjostus.Varjostuskulma, kKulma);
+}
+
+void AsetaValinta(const ComboBox& valinta, std::int32_t& id, std::string& teksti) {
+  if (valinta.Indeksi() < 0) return;
+  id = valinta.Indeksi();
+  teksti = valinta.Teksti();
+}
+
+std::string ValinnanRivi(const ComboBox& valinta, std::int32_t rivi) {
+  const auto& rivit = valinta.Kohde().Rivit();
+  const auto i = static_cast<std::size_t>(rivi);
+  return rivi >= 0 && i < rivit.size() ? rivit[i].front() : std::string();
+}
+
+bool OnIkkuna(const clsRakenne& rakenne) { return rakenne.Rakennetyyppi == Rakennelaji::Ikkuna; }
+bool Rajoittuu(const clsRakenne& rakenne) { return rakenne.Rakennetyyppi <= Rakennelaji::Alapohja; }
+
+/// A solution without layers; a window lets the sun through as an ordinary one.
+Rakenneratkaisu UusiRatkaisu(const std::string& nimi, std::int32_t rakennetyyppi) {
+  Rakenneratkaisu ratkaisu = PuuttuvaRakenneratkaisu({}, rakennetyyppi);
+  ratkaisu.Nimi = nimi;
+  ratkaisu.Kerrokset.Tyhjenna();
+  const Pintavastukset pinnat = Oletuspintavastukset(ratkaisu.Rakennetyyppi);
+  ratkaisu.PintavastusSisa = pinnat.sisa;
+  ratkaisu.PintavastusUlko = pinnat.ulko;
+  return ratkaisu;
+}
+
+std::string KyllaTaiEi(bool kylla) { return Teksti(kylla ? kKylla : kEi); }
+
+std::vector<std::string> Kerrosrivi(const clsRakennekerros& kerros, int indeksi) {
+  const std::string numero = std::to_string(indeksi);
+  return {kerros.Nimi.empty() ? numero : kerros.Nimi,
+          kerros.Materiaali.Nimi,
+          Muotoile(kerros.Paksuus, "### ##0.##"),
+          KyllaTaiEi(kerros.UArvoon),
+          numero,
+          KyllaTaiEi(kerros.Yhtenainen)};
+}
+
+}  // namespace
+
+Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet) : rakenteet_(rakenteet), varalla_(rakenteet.Kopioi()) {
+  LiitaTapahtumat();
+  LiitaKerrostapahtumat();
+}
+
+bool Rakennemuokkaus::Nayta(std::int32_t rakennetyyppi, const std::string& tilanNimi) {
+  if (!tilanNimi.empty()) KayttoLiittyma.Otsikko(tilanNimi + ": " + KayttoLiittyma.Otsikko());
+  KayttoLiittyma.Naytettavat(rakennetyyppi);
+  NaytaLuettelo({});
+  KayttoLiittyma.NaytaModaalisena();
+  return hyvaksytty_;
+}
+
+void Rakennemuokkaus::LiitaTapahtumat() {
+  frmRakenteet& lomake = KayttoLiittyma;
+  lomake.RakenneValittu = [this] { KayttoLiittyma_RakenneValittu(); };
+  lomake.NaytettavatValittu = [this] { KayttoLiittyma_NaytettavatValittu(); };
+  lomake.LisaaKlikattu = [this] { KayttoLiittyma_LisaaKlikattu(); };
+  lomake.KopioiKlikattu = [this] { KayttoLiittyma_KopioiKlikattu(); };
+  lomake.PoistaKlikattu = [this] { KayttoLiittyma_PoistaKlikattu(); };
+  lomake.RivitLiitetty = [this](const Taulukko& rivit) { KayttoLiittyma_RivitLiitetty(rivit); };
+  lomake.UarvonLahdeKlikattu = [this] { KayttoLiittyma_UarvonLahdeKlikattu(); };
+  lomake.PintavastusMuuttui = [this] { KayttoLiittyma_PintavastusMuuttui(); };
+  lomake.VarjostusValittu = [this](frmRakenteet::Varjostus v) { KayttoLiittyma_VarjostusValittu(v); };
+  lomake.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
+  lomake.PeruutaKlikattu = [this] { KayttoLiittyma_PeruutaKlikattu(); };
+}
+
+void Rakennemuokkaus::LiitaKerrostapahtumat() {
+  KayttoLiittyma.RakKerLisaa = [this] { KayttoLiittyma_RakKerLisaa(); };
+  KayttoLiittyma.RakKerMuokkaa = [this] { KayttoLiittyma_RakKerMuokkaa(); };
+  KayttoLiittyma.RakKerKopioi = [this] { KayttoLiittyma_RakKerKopioi(); };
+  KayttoLiittyma.RakKerPoista = [this] { KayttoLiittyma_RakKerPoista(); };
+  KayttoLiittyma.RakKerSiirraSisaanPain = [this] { KayttoLiittyma_RakKerSiirraSisaanPain(); };
+}
+
+void Rakennemuokkaus::LueDataluokka() {
+  const clsRakenne* rakenne = Muokattava();
+  if (!rakenne) return TyhjennaKentat();
+  const frmRakenteet& l = KayttoLiittyma;
+  l.lblRakennetyypinNimi.Otsikko(ValinnanRivi(l.cmbRakennetyyppi, rakenne->Rakennetyyppi + 1));
+  l.cmbTyyppi.Indeksi(rakenne->TyyppiID);
+  l.cmbSuuntaus.Indeksi(rakenne->SuuntausID);
+  l.txtRakenneala.Luku(rakenne->PintaAla, kAla);
+  l.chkLaskeUarvoMateriaaleista.Valittu(rakenne->LaskeU_arvoMateriaaleista);
+  l.txtUarvo.Luku(rakenne->U_arvo(), kUarvo);
+  LueRatkaisu(rakenne->RakenneRatkaisu ? *rakenne->RakenneRatkaisu : Rakenneratkaisu());
+  LueVarjostukset(*rakenne);
+  NaytaUarvo();
+  NaytaKerrokset(-1);
+}
+
+void Rakennemuokkaus::TyhjennaKentat() {
+  for (const auto& ohjain : KayttoLiittyma.Ohjaimet())
+    if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("");
+  for (const ComboBox& valinta : {KayttoLiittyma.cmbTyyppi, KayttoLiittyma.cmbSuuntaus}) valinta.Indeksi(-1);
+  KayttoLiittyma.chkLaskeUarvoMateriaaleista.Valittu(false);
+  KayttoLiittyma.lblRakennetyypinNimi.Otsikko("");
+  KayttoLiittyma.lvwKerrokset.Rivit({});
+}
+
+void Rakennemuokkaus::LueRatkaisu(const Rakenneratkaisu& ratkaisu) {
+  for (const Tekstikentta& k : kTekstikentat) (KayttoLiittyma.*k.kentta).Teksti(ratkaisu.*k.teksti);
+  for (const Lukukentta& k : kLukukentat) (KayttoLiittyma.*k.kentta).Luku(ratkaisu.*k.luku, k.kuvio);
+}
+
+void Rakennemuokkaus::LueVarjostukset(const clsRakenne& rakenne) {
+  const frmRakenteet& l = KayttoLiittyma;
+  LueVarjostus(rakenne.YlaLippa, l.cmbYlalipanTyyppi, l.txtYlalipanVarjostuskulma);
+  LueVarjostus(rakenne.SivuLippa, l.cmbSivulipanTyyppi, l.txtSivulipanVarjostuskulma);
+  LueVarjostus(rakenne.HorisVarjostus, l.cmbHorisVarjTyyppi, l.txtYmparistonVarjostuskulma);
+}
+
+void Rakennemuokkaus::KirjoitaDataluokka() {
+  clsRakenne* rakenne = Muokattava();
+  if (!rakenne) return;
+  const frmRakenteet& l = KayttoLiittyma;
+  KirjoitaValinnat(*rakenne);
+  LueArvo(l.txtRakenneala, rakenne->PintaAla);
+  double u = 0;
+  if (!rakenne->LaskeU_arvoMateriaaleista && l.txtUarvo.Muuttunut() && LueArvo(l.txtUarvo, u)) rakenne->U_arvo(u);
+  LueArvo(l.txtYlalipanVarjostuskulma, rakenne->YlaLippa.Varjostuskulma);
+  LueArvo(l.txtSivulipanVarjostuskulma, rakenne->SivuLippa.Varjostuskulma);
+  LueArvo(l.txtYmparistonVarjostuskulma, rakenne->HorisVarjostus.Varjostuskulma);
+  if (rakenne->RakenneRatkaisu || RatkaisuaMuokattu()) KirjoitaRatkaisu();
+  for (const auto& ohjain : l.Ohjaimet()) ohjain->PaataMuokkaus();
+}
+
+void Rakennemuokkaus::KirjoitaValinnat(clsRakenne& rakenne) const {
+  if (Rajoittuu(rakenne)) AsetaValinta(KayttoLiittyma.cmbTyyppi, rakenne.TyyppiID, rakenne.TyyppiStr);
+  if (OnIkkuna(rakenne)) AsetaValinta(KayttoLiittyma.cmbSuuntaus, rakenne.SuuntausID, rakenne.SuuntausStr);
+}
+
+void Rakennemuokkaus::KirjoitaRatkaisu() {
+  Rakenneratkaisu& ratkaisu = Ratkaisu();
+  for (const Tekstikentta& k : kTekstikentat) ratkaisu.*k.teksti = (KayttoLiittyma.*k.kentta).Teksti();
+  for (const Lukukentta& k : kLukukentat) LueArvo(KayttoLiittyma.*k.kentta, ratkaisu.*k.luku);
+}
+
+bool Rakennemuokkaus::RatkaisuaMuokattu() const {
+  const auto muokattu = [this](const auto& k) { return (KayttoLiittyma.*k.kentta).Muuttunut(); };
+  return std::ranges::any_of(kTekstikentat, muokattu) || std::ranges::any_of(kLukukentat, muokattu);
+}
+
+Rakenneratkaisu& Rakennemuokkaus::Ratkaisu() {
+  clsRakenne& rakenne = rakenteet_.Item(muokattava_);
+  if (!rakenne.RakenneRatkaisu) rakenne.RakenneRatkaisu.Luo() = UusiRatkaisu({}, rakenne.Rakennetyyppi);
+  return *rakenne.RakenneRatkaisu;
+}
+
+std::string Rakennemuokkaus::RakenteenNimi(const clsRakenne& rakenne) const {
+  if (rakenne.RakenneRatkaisu && !rakenne.RakenneRatkaisu->Nimi.empty()) return rakenne.RakenneRatkaisu->Nimi;
+  return ValinnanRivi(KayttoLiittyma.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1);
+}
+
+std::vector<std::string> Rakennemuokkaus::Rivi(const clsRakenne& rakenne) const {
+  const frmRakenteet& l = KayttoLiittyma;
+  return {RakenteenNimi(rakenne),
+          ValinnanRivi(l.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1),
+          Muotoile(rakenne.PintaAla, kAla),
+          Muotoile(rakenne.U_arvo(), kUarvo),
+          Rajoittuu(rakenne) ? ValinnanRivi(l.cmbTyyppi, rakenne.TyyppiID) : "",
+          OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : ""};
+}
+
+/// Fills the list and shows the structure of that key, or the first one when it isn't in the list.
+void Rakennemuokkaus::NaytaLuettelo(const Tunniste& valittava) {
+  const std::int32_t naytettavat = KayttoLiittyma.Naytettavat();
+  Taulukko rivit;
+  rivit_.clear();
+  for (const clsRakenne& rakenne : rakenteet_) {
+    if (naytettavat != frmRakenteet::kKaikki && naytettavat != rakenne.Rakennetyyppi) continue;
+    rivit_.push_back(rakenne.sKey);
+    rivit.push_back(Rivi(rakenne));
+  }
+  KayttoLiittyma.lvwRakenteet.Rivit(std::move(rivit));
+  const auto paikka = std::ranges::find(rivit_, valittava);
+  const int rivi = paikka == rivit_.end() ? 0 : static_cast<int>(paikka - rivit_.begin());
+  KayttoLiittyma.ValitseRakenne(rivi);
+  muokattava_ = rivit_.empty() ? Tunniste() : rivit_[static_cast<std::size_t>(rivi)];
+  LueDataluokka();
+  PaivitaKentat();
+}
+
+/// The U-value of the layers, and with it the structure's own when that is the source.
+void Rakennemuokkaus::NaytaUarvo() {
+  const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
+  const auto kerroksista = rakenne.RakenneRatkaisu ? rakenne.RakenneRatkaisu->LaskeU_arvo() : std::optional<double>();
+  KayttoLiittyma.txtKerrostenUarvo.Teksti(kerroksista ? Muotoile(*kerroksista, kUarvo) : kEiArvoa);
+  if (rakenne.LaskeU_arvoMateriaaleista) KayttoLiittyma.txtUarvo.Luku(rakenne.U_arvo(), kUarvo);
+}
+
+void Rakennemuokkaus::NaytaKerrokset(int valittava) {
+  const clsRakenne* rakenne = Muokattava();
+  Taulukko rivit;
+  if (rakenne && rakenne->RakenneRatkaisu)
+    for (const clsRakennekerros& kerros : rakenne->RakenneRatkaisu->Kerrokset)
+      rivit.push_back(Kerrosrivi(kerros, static_cast<int>(rivit.size()) + 1));
+  KayttoLiittyma.lvwKerrokset.Rivit(std::move(rivit));
+  KayttoLiittyma.lvwKerrokset.Indeksi(valittava);
+}
+
+bool Rakennemuokkaus::Lukittu() const { return VaadiRakennus().Saastotoimenpiteet.Count() > 0; }
+
+void Rakennemuokkaus::PaivitaKentat() {
+  const clsRakenne* rakenne = Muokattava();
+  KayttoLiittyma.PaivitaKentat({.valittu = rakenne != nullptr,
+                                .lukittu = Lukittu(),
+                                .ikkuna = rakenne && OnIkkuna(*rakenne),
+                                .rajoittuu = rakenne && Rajoittuu(*rakenne),
+                                .kerroksia = !KayttoLiittyma.lvwKerrokset.Rivit().empty()});
+}
+
+/// The list isn't filled anew: what the person has selected there stays.
+void Rakennemuokkaus::KayttoLiittyma_RakenneValittu() {
+  KirjoitaDataluokka();
+  const frmRakenteet& l = KayttoLiittyma;
+  if (const clsRakenne* entinen = Muokattava())
+    l.lvwRakenteet.Rivi(static_cast<int>(std::ranges::find(rivit_, muokattava_) - rivit_.begin()), Rivi(*entinen));
+  const int rivi = l.lvwRakenteet.Indeksi();
+  muokattava_ = rivi < 0 ? Tunniste() : rivit_[static_cast<std::size_t>(rivi)];
+  LueDataluokka();
+  PaivitaKentat();
+}
+
+void Rakennemuokkaus::KayttoLiittyma_NaytettavatValittu() {
+  KirjoitaDataluokka();
+  NaytaLuettelo(muokattava_);
+}
+
+clsRakenne& Rakennemuokkaus::LisaaRakenne(std::int32_t rakennetyyppi, const std::string& nimi) {
+  clsRakenne& rakenne = rakenteet_.Add(Tunniste::Uusi(clsRakenne::kLuokka.NimiSana()));
+  LuoRakenne(rakenne, {nimi, rakennetyyppi, 0, 0, 0, {}}, nullptr);
+  rakenne.RakenneRatkaisu.Luo() = UusiRatkaisu(nimi, rakennetyyppi);
+  return rakenne;
+}
+
+void Rakennemuokkaus::RakenteetMuuttuivat(const Tunniste& valittava) {
+  VaadiRakennus().PaivitaInstanssiIdLista();
+  NaytaLuettelo(valittava);
+}
+
+void Rakennemuokkaus::KayttoLiittyma_LisaaKlikattu() {
+  KirjoitaDataluokka();
+  RakenteetMuuttuivat(LisaaRakenne(KayttoLiittyma.Naytettavat(), Teksti(kUusiRakenne)).sKey);
+  KayttoLiittyma.txtNimi.Kohdista();
+}
+
+void Rakennemuokkaus::KayttoLiittyma_KopioiKlikattu() {
+  KirjoitaDataluokka();
+  const clsRakenne& lahde = rakenteet_.Item(muokattava_);
+  clsRakenne& kopio = LisaaKopio(rakenteet_, lahde);
+  if (kopio.RakenneRatkaisu) kopio.RakenneRatkaisu->Nimi = Teksti(kKopio) + RakenteenNimi(lahde);
+  RakenteetMuuttuivat(kopio.sKey);
+}
+
+void Rakennemuokkaus::KayttoLiittyma_PoistaKlikattu() {
+  if (const std::string nimet = ViittaavatToimenpiteet(rakenteet_.Item(muokattava_)); !nimet.empty())
+    return Ilmoita(Teksti(kRakenneKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+  if (!KysyPoisto()) return;
+  rakenteet_.Remove(muokattava_);
+  RakenteetMuuttuivat({});
+}
+
+void Rakennemuokkaus::KayttoLiittyma_RivitLiitetty(const Taulukko& rivit) {
+  if (Lukittu()) return Ilmoita(Teksti(kLukittu), Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+  const std::int32_t naytettavat = KayttoLiittyma.Naytettavat();
+  const Rakenneliitos liitos(
+      rivit, naytettavat == frmRakenteet::kKaikki ? std::nullopt : std::optional<std::int32_t>(naytettavat));
+  if (!liitos.virhe.empty()) return Ilmoita(liitos.virhe, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+  KirjoitaDataluokka();
+  Tunniste viimeinen = muokattava_;
+  for (const LiitettyRakenne& tieto : liitos.rakenteet) {
+    clsRakenne& rakenne = LisaaRakenne(tieto.rakennetyyppi, tieto.nimi);
+    viimeinen = rakenne.sKey;
+    rakenne.PintaAla = tieto.ala;
+    rakenne.U_arvo(tieto.u_arvo);
+    rakenne.TyyppiID = tieto.rajoittuu.value_or(rakenne.TyyppiID);
+    rakenne.TyyppiStr = ValinnanRivi(KayttoLiittyma.cmbTyyppi, rakenne.TyyppiID);
+    rakenne.SuuntausID = tieto.suuntaus.value_or(rakenne.SuuntausID);
+    rakenne.SuuntausStr = ValinnanRivi(KayttoLiittyma.cmbSuuntaus, rakenne.SuuntausID);
+  }
+  RakenteetMuuttuivat(viimeinen);
+}
+
+/// Unticked, what the field shows becomes the structure's value; ticked, only what was written there is kept.
+void Rakennemuokkaus::KayttoLiittyma_UarvonLahdeKlikattu() {
+  clsRakenne& rakenne = rakenteet_.Item(muokattava_);
+  const TextBox& kentta = KayttoLiittyma.txtUarvo;
+  const bool kerroksista = KayttoLiittyma.chkLaskeUarvoMateriaaleista.Valittu();
+  const auto u = LueLuku(kentta.Teksti());
+  if (u && (!kerroksista || kentta.Muuttunut())) rakenne.U_arvo(*u);
+  rakenne.LaskeU_arvoMateriaaleista = kerroksista;
+  NaytaUarvo();
+}
+
+void Rakennemuokkaus::KayttoLiittyma_PintavastusMuuttui() {
+  Rakenneratkaisu& ratkaisu = Ratkaisu();
+  LueArvo(KayttoLiittyma.txtPintavastusSisa, ratkaisu.PintavastusSisa);
+  LueArvo(KayttoLiittyma.txtPintavastusUlko, ratkaisu.PintavastusUlko);
+  NaytaUarvo();
+}
+
+void Rakennemuokkaus::KayttoLiittyma_VarjostusValittu(frmRakenteet::Varjostus varjostus) {
+  const frmRakenteet& l = KayttoLiittyma;
+  clsRakenne& r = rakenteet_.Item(muokattava_);
+  switch (varjostus) {
+    case frmRakenteet::kYlalippa:
+      return ValitseVarjostus(r.YlaLippa, l.cmbYlalipanTyyppi, l.txtYlalipanVarjostuskulma, kYlalippakulmat);
+    case frmRakenteet::kSivulippa:
+      return ValitseVarjostus(r.SivuLippa, l.cmbSivulipanTyyppi, l.txtSivulipanVarjostuskulma, kSivulippakulmat);
+    case frmRakenteet::kHorisontti:
+      return ValitseVarjostus(r.HorisVarjostus, l.cmbHorisVarjTyyppi, l.txtYmparistonVarjostuskulma, kHorisonttikulmat);
+  }
+}
+
+clsRakennekerros& Rakennemuokkaus::ValittuKerros() {
+  return Ratkaisu().Kerrokset.Item(KayttoLiittyma.lvwKerrokset.Indeksi() + 1);
+}
+
+/// The sums and the U-value follow the layers.
+void Rakennemuokkaus::KerroksetMuuttuivat(int valittava) {
+  Ratkaisu().PaivitaKerrossummat();
+  LueRatkaisu(Ratkaisu());
+  NaytaUarvo();
+  NaytaKerrokset(valittava);
+  PaivitaKentat();
+}
+
+void Rakennemuokkaus::KayttoLiittyma_RakKerLisaa() {
+  KirjoitaDataluokka();
+  clsRakennekerros kerros;
+  if (!MuokkaaKerrosta(kerros)) return;
+  clsRakennekerros& uusi = Ratkaisu().Kerrokset.LisaaKerros();
+  kerros.sKey = uusi.sKey;
+  uusi = kerros;
+  KerroksetMuuttuivat(Ratkaisu().Kerrokset.Count() - 1);
+}
+
+void Rakennemuokkaus::KayttoLiittyma_RakKerMuokkaa() {
+  KirjoitaDataluokka();
+  if (MuokkaaKerrosta(ValittuKerros())) KerroksetMuuttuivat(KayttoLiittyma.lvwKerrokset.Indeksi());
+}
+
+void Rakennemuokkaus::KayttoLiittyma_RakKerKopioi() {
+  KirjoitaDataluokka();
+  LisaaKopio(Ratkaisu().Kerrokset, ValittuKerros());
+  KerroksetMuuttuivat(KayttoLiittyma.lvwKerrokset.Indeksi() + 1);
+}
+
+void Rakennemuokkaus::KayttoLiittyma_RakKerPoista() {
+  if (!KysyPoisto()) return;
+  KirjoitaDataluokka();
+  const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
+  Ratkaisu().Kerrokset.Remove(rivi + 1);
+  KerroksetMuuttuivat(std::min(rivi, Ratkaisu().Kerrokset.Count() - 1));
+}
+
+void Rakennemuokkaus::KayttoLiittyma_RakKerSiirraSisaanPain() {
+  KirjoitaDataluokka();
+  const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
+  Ratkaisu().Kerrokset.SiirraSisaanpain(rivi + 1);
+  KerroksetMuuttuivat(rivi - 1);
+}
+
+void Rakennemuokkaus::KayttoLiittyma_OkKlikattu() try {
+  Odotus odotus;
+  KirjoitaDataluokka();
+  hyvaksytty_ = true;
+  KayttoLiittyma.Sulje();
+} catch (...) {
+  varalla_->Kopioi(rakenteet_);
+  NostaVirhe("clsRakenteet:KayttoLiittyma_OkKlikattu Method");
+}
+
+void Rakennemuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
+  Odotus odotus;
+  varalla_->Kopioi(rakenteet_);
+  VaadiRakennus().PaivitaInstanssiIdLista();
+  KayttoLiittyma.Sulje();
+} catch (...) {
+  NostaVirhe("clsRakenteet:KayttoLiittyma_PeruutaKlikattu Method");
+}

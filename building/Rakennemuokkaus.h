@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "building/clsRakenteet.h"
+#include "ui/frmRakenteet.h"
+
+/// The dialog of a space's structures while it is open. The structures are edited live: what is written of the chosen
+/// one reaches it when another is chosen, or at OK; choices and layers at once. Cancel copies back what was.
+class Rakennemuokkaus {
+ public:
+  explicit Rakennemuokkaus(clsRakenteet& rakenteet);
+
+  /// Shows the dialog with structures of one kind, or frmRakenteet::kKaikki. True after OK.
+  bool Nayta(std::int32_t rakennetyyppi, const std::string& tilanNimi);
+
+ private:
+  void LiitaTapahtumat();
+  void LiitaKerrostapahtumat();
+
+  /// The chosen structure to the fields, and back.
+  void LueDataluokka();
+  void KirjoitaDataluokka();
+  void TyhjennaKentat();
+  void LueRatkaisu(const Rakenneratkaisu& ratkaisu);
+  void KirjoitaRatkaisu();
+  void LueVarjostukset(const clsRakenne& rakenne);
+  void KirjoitaValinnat(clsRakenne& rakenne) const;
+  bool RatkaisuaMuokattu() const;
+
+  void NaytaLuettelo(const Tunniste& valittava);
+  void NaytaUarvo();
+  void NaytaKerrokset(int valittava);
+  void PaivitaKentat();
+  bool Lukittu() const;
+  std::string RakenteenNimi(const clsRakenne& rakenne) const;
+  std::vector<std::string> Rivi(const clsRakenne& rakenne) const;
+
+  clsRakenne* Muokattava() const { return rakenteet_.Etsi(muokattava_); }
+  /// The solution of the chosen structure; made if it has none.
+  Rakenneratkaisu& Ratkaisu();
+  clsRakenne& LisaaRakenne(std::int32_t rakennetyyppi, const std::string& nimi);
+  void RakenteetMuuttuivat(const Tunniste& valittava);
+  void KerroksetMuuttuivat(int valittava);
+  clsRakennekerros& ValittuKerros();
+
+  void KayttoLiittyma_RakenneValittu();
+  void KayttoLiittyma_NaytettavatValittu();
+  void KayttoLiittyma_LisaaKlikattu();
+  void KayttoLiittyma_KopioiKlikattu();
+  void KayttoLiittyma_PoistaKlikattu();
+  void KayttoLiittyma_RivitLiitetty(const Taulukko& rivit);
+  void KayttoLiittyma_UarvonLahdeKlikattu();
+  void KayttoLiittyma_PintavastusMuuttui();
+  void KayttoLiittyma_VarjostusValittu(frmRakenteet::Varjostus varjostus);
+  void KayttoLiittyma_RakKerLisaa();
+  void KayttoLiittyma_RakKerMuokkaa();
+  void KayttoLiittyma_RakKerKopioi();
+  void KayttoLiittyma_RakKerPoista();
+  void KayttoLiittyma_RakKerSiirraSisaanPain();
+  void KayttoLiittyma_OkKlikattu();
+  void KayttoLiittyma_PeruutaKlikattu();
+
+  clsRakenteet& rakenteet_;
+  std::unique_ptr<clsRakenteet> varalla_;  // as they were when the dialog opened
+  frmRakenteet KayttoLiittyma;
+  std::vector<Tunniste> rivit_;  // keys of the structures in the list
+  Tunniste muokattava_;          // key of the chosen one
+  bool hyvaksytty_ = false;
+};

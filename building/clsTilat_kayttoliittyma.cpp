@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of spaces.
+#include <algorithm>
+
+#include "building/LisaaKopio.h"
+#include "building/Tasehaarukka.h"
+#include "building/Toimenpideviittaukset.h"
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "kernel/Luvut.h"
+#include "kernel/Virhe.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/frmTilaYhteenveto.h"
+
+namespace {
+
+constexpr int kKopio = 1998, kUusiTila = 2770, kYhteensa = 2779, kVirheenOtsikko = 9100, kTilaKaytossa = 9512;
+
+constexpr const char* kEiLukua = "---";
+
+/// A column of the list behind the name. `taseesta`: a figure of the year's balance, not of the space itself.
+struct Sarake {
+  double (*arvo)(clsTila&);
+  const char* kuvio;
+  bool summataan;
+  bool taseesta;
+};
+constexpr Sarake kSarakkeet[] = {
+    {[](clsTila& t) { return t.Kokonaistilavuus; }, "### ##0", true, false},
+    {[](clsTila& t) { return t.BruttoAla; }, "### ##0", true, false},
+    {[](clsTila& t) { return t.TilanHenkilomaara; }, "### ##0", true, false},
+    {[](clsTila& t) { return t.Sisalampotila; }, "0.0", false, false},
+    {[](clsTila& t) { return t.VuotuisetJohtumisHaviot(); }, "### ##0.00", true, true},
+    {[](clsTila& t) { return t.VuotuisetIVHaviotTilassa(); }, "### ##0.00", true, true},
+    {[](clsTila& t) { return t.VuotuinenAurinkoKuorma(); }, "### ##0.00", true, true},
+    {[](clsTila& t) { return t.VuotuinenLampoEnergianTarve(); }, "### ##0.00", true, true},
+};
+
+/// Rows of the list and, in the last one, the sums. Without the balance its figures are left open.
+Taulukko TilojenRivit(const clsTilat& tilat, bool tase) {
+  Taulukko rivit;
+  for (const clsTila& tila : tilat) rivit.push_back({tila.TilanNimi});
+  rivit.push_back({Teksti(kYhteensa)});
+  for (const Sarake& sarake : kSarakkeet) {
+    const bool tunnetaan = tase || !sarake.taseesta;
+    double summa = 0;
+    std::size_t i = 0;
+    for (clsTila& tila : tilat) {
+      const double arvo = tunnetaan ? sarake.arvo(tila) : 0;
+      summa += arvo;
+      rivit[i++].push_back(tunnetaan ? Muotoile(arvo, sarake.kuvio) : kEiLukua);
+    }
+    rivit[i].push_back(!sarake.summataan ? "" : tunnetaan ? Muotoile(summa, sarake.kuvio) : kEiLukua);
+  }
+  return rivit;
+}
+
+/// The list must open also over a building whose balance can't be calculated: it is where the fault is mended.
+Taulukko LasketutRivit(clsRakennus& rakennus, const clsTilat& tilat) {
+  try {
+    const Tasehaarukka haarukka(rakennus);
+    return TilojenRivit(tilat, true);
+  } catch (const Virhe& virhe) {
+    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    return TilojenRivit(tilat, false);
+  }
+}
+
+}  // namespace
+
+void clsTilat::NaytaKayttoliittyma() try {
+  if (!kayttoLiittyma_.arvo) {
+    kayttoLiittyma_.arvo = std::make_shared<frmTilaYhteenveto>();
+    LiitaTapahtumat();
+  }
+  LueDataluokka();
+  kayttoLiittyma_.arvo->Nayta();
+} catch (...) {
+  NostaVirhe("clsTilat:NaytaKayttoliittyma Method");
+}
+
+void clsTilat::LiitaTapahtumat() {
+  frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
+  lomake.LisaaKlikattu = [this] { KayttoLiittyma_LisaaKlikattu(); };
+  lomake.MuokkaaKlikattu = [this] { KayttoLiittyma_MuokkaaKlikattu(); };
+  lomake.KopioiKlikattu = [this] { KayttoLiittyma_KopioiKlikattu(); };
+  lomake.PoistaKlikattu = [this] { KayttoLiittyma_PoistaKlikattu(); };
+  lomake.SahkokuormatMuuttuivat = [this] { KayttoLiittyma_SahkokuormatMuuttuivat(); };
+}
+
+void clsTilat::LueDataluokka() try {
+  frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
+  lomake.chkKaytaTotSahkoKuormia.Valittu(KaytaTotSahkoKuormia);
+  lomake.txtTotSahkoKuormaPros.Luku(TotSahkoKuormaPros, "0.0#");
+  TaytaLuettelo();
+} catch (...) {
+  NostaVirhe("clsTilat:LueDataluokka Method");
+}
+
+void clsTilat::KirjoitaDataluokka() try {
+  const frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
+  KaytaTotSahkoKuormia = lomake.chkKaytaTotSahkoKuormia.Valittu();
+  LueArvo(lomake.txtTotSahkoKuormaPros, TotSahkoKuormaPros);
+} catch (...) {
+  NostaVirhe("clsTilat:KirjoitaDataluokka Method");
+}
+
+void clsTilat::ListaaTilat() try {
+  if (kayttoLiittyma_.arvo && kayttoLiittyma_.arvo->Auki()) TaytaLuettelo();
+} catch (...) {
+  NostaVirhe("clsTilat:ListaaTilat Method");
+}
+
+void clsTilat::TaytaLuettelo() {
+  Odotus odotus;
+  const frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
+  const int valittu = lomake.lvwTilat.Indeksi();
+  const Tunniste avain = valittu < 0 ? Tunniste() : rivit_.arvo[static_cast<std::size_t>(valittu)];
+  Taulukko rivit = LasketutRivit(VaadiRakennus(), *this);
+  rivit_.arvo.clear();
+  for (const clsTila& tila : *this) rivit_.arvo.push_back(tila.sKey);
+  std::vector<std::string> summat = std::move(rivit.back());
+  rivit.pop_back();
+  lomake.lvwTilat.Summarivi({});
+  lomake.lvwTilat.Rivit(std::move(rivit));
+  lomake.lvwTilat.Summarivi(std::move(summat));
+  Valitse(avain);
+}
+
+/// Chooses the space, or the first one when it is no more.
+void clsTilat::Valitse(const Tunniste& avain) {
+  frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
+  const auto paikka = std::ranges::find(rivit_.arvo, avain);
+  lomake.lvwTilat.Indeksi(paikka == rivit_.arvo.end() ? 0 : static_cast<int>(paikka - rivit_.arvo.begin()));
+  lomake.PaivitaNapit(VaadiRakennus().Saastotoimenpiteet.Count() > 0);
+}
+
+clsTila& clsTilat::ValittuTila() const {
+  return Item(rivit_.arvo.at(static_cast<std::size_t>(kayttoLiittyma_.arvo->lvwTilat.Indeksi())));
+}
+
+void clsTilat::MalliMuuttui(const Tunniste& valittava) {
+  VaadiRakennus().PaivitaInstanssiIdLista();
+  VaadiRakennus().PerusmalliMuuttui();
+  TaytaLuettelo();
+  Valitse(valittava);
+}
+
+void clsTilat::KayttoLiittyma_LisaaKlikattu() try {
+  const Tunniste avain = Tunniste::Uusi(clsTila::kLuokka.NimiSana());
+  clsTila& tila = Add(avain);
+  tila.TilanNimi = Teksti(kUusiTila);
+  tila.TilanKayttoaikaStr = Valintalista("frmTila", "cmbTilanKayttoaika").at(0);
+  tila.SaatotapaStr = Valintalista("frmTila", "cmbSaatotapa").at(1);
+  if (tila.NaytaKayttoliittyma()) return MalliMuuttui(avain);
+  Remove(avain);
+  VaadiRakennus().PaivitaInstanssiIdLista();
+} catch (...) {
+  NostaVirhe("clsTilat:KayttoLiittyma_LisaaKlikattu Method");
+}
+
+void clsTilat::KayttoLiittyma_MuokkaaKlikattu() try {
+  if (ValittuTila().NaytaKayttoliittyma()) TaytaLuettelo();
+} catch (...) {
+  NostaVirhe("clsTilat:KayttoLiittyma_MuokkaaKlikattu Method");
+}
+
+void clsTilat::KayttoLiittyma_KopioiKlikattu() try {
+  clsTila& kopio = LisaaKopio(*this, ValittuTila());
+  kopio.TilanNimi = Teksti(kKopio) + kopio.TilanNimi;
+  MalliMuuttui(kopio.sKey);
+} catch (...) {
+  NostaVirhe("clsTilat:KayttoLiittyma_KopioiKlikattu Method");
+}
+
+void clsTilat::KayttoLiittyma_PoistaKlikattu() try {
+  const clsTila& tila = ValittuTila();
+  if (const std::string nimet = ViittaavatToimenpiteet(tila); !nimet.empty())
+    return Ilmoita(Teksti(kTilaKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+  if (!KysyPoisto()) return;
+  Remove(Tunniste(tila.sKey));
+  MalliMuuttui({});
+} catch (...) {
+  NostaVirhe("clsTilat:KayttoLiittyma_PoistaKlikattu Method");
+}
+
+void clsTilat::KayttoLiittyma_SahkokuormatMuuttuivat() try {
+  KirjoitaDataluokka();
+  VaadiRakennus().PerusmalliMuuttui();
+  LueDataluokka();
+} catch (...) {
+  NostaVirhe("clsTilat:KayttoLiittyma_SahkokuormatMuuttuivat Method");
+}

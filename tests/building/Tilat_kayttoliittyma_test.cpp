@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of spaces and the dialog of a space, driven as a person would, without a screen.
+#include "kernel/Luvut.h"
+#include "tests/building/Koerakennus.h"
+#include "ui/Ikkunaton.h"
+#include "ui/Kenttatarkistus.h"
+
+namespace {
+
+class TilaDialogi : public RakennusTesti {
+ protected:
+  TilaDialogi() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+    AsetaTarkistuksenKello(nullptr);
+    LuoKoulu();
+    rakennus->Tallennettu = true;
+  }
+
+  clsTila& Koulu() const { return rakennus->Tilat.Item(1); }
+  Ikkunaton& Luettelo() const { return ikkunat.Ikkuna("frmTilaYhteenveto"); }
+  const Taulukko& Rivit() const { return Luettelo().Etsi("lvwTilat").Rivit(); }
+  double Luku(std::size_t rivi, std::size_t sarake) const { return LueLuku(Rivit()[rivi][sarake]).value(); }
+
+  /// Opens the dialog of the first space and does what the person does there.
+  bool Muokkaa(const std::function<void(Ikkunaton&)>& kasikirjoitus) {
+    ikkunat.KunNaytetaan("frmTila", kasikirjoitus);
+    return Koulu().NaytaKayttoliittyma();
+  }
+  void LisaaToimenpide(const Tunniste& kohde, const std::string& nimi) {
+    clsSaastotoimenpide& toimenpide = rakennus->Saastotoimenpiteet.Add("toimenpide " + nimi);
+    toimenpide.Nimi = nimi;
+    toimenpide.MuuttuneetAttribuutit.LiittyyInstanssiin = kohde;
+  }
+
+  mutable Ikkunattomat ikkunat;
+};
+
+TEST_F(TilaDialogi, ListShowsTheBalanceOfEachSpaceAndItsSums) {
+  clsTila& varasto = LisaaTila(300, 100);
+  varasto.TilanNimi = "Varasto";
+  varasto.Sisalampotila = 12;
+  rakennus->Tilat.NaytaKayttoliittyma();
+  ASSERT_EQ(Rivit().size(), 2u);
+  EXPECT_EQ(Rivit()[1][0], "Varasto");
+  EXPECT_EQ(Rivit()[1][4], "12,0");
+  EXPECT_EQ(Luku(1, 5), 0) << "no structures";
+  EXPECT_NEAR(Luku(0, 8), Koulu().VuotuinenLampoEnergianTarve(), 0.005);
+  EXPECT_NEAR(Luku(0, 7), Koulu().VuotuinenAurinkoKuorma(), 0.005);
+  const auto& summat = Luettelo().Etsi("lvwTilat").Summarivi();
+  EXPECT_EQ(summat[1], "17 800");
+  EXPECT_EQ(summat[4], "") << "temperatures have no sum";
+  EXPECT_NEAR(LueLuku(summat[8]).value(), rakennus->Tilat.VuotuinenLampoEnergianTarve(), 0.005);
+  EXPECT_FALSE(rakennus->Tilat.VuotuinenLampoEnergianTarveUpToDate());
+  EXPECT_TRUE(rakennus->Tallennettu) << "looking changes nothing";
+}
+
+TEST_F(TilaDialogi, AddedSpaceStaysOnlyAfterOk) {
+  rakennus->Tilat.NaytaKayttoliittyma();
+  ikkunat.KunNaytetaan("frmTila", [](Ikkunaton& l) { l.KayttajaPainaa("cmdPeruuta"); });
+  Luettelo().KayttajaPainaa("cmdLisaaTila");
+  EXPECT_EQ(rakennus->Tilat.Count(), 1);
+  EXPECT_TRUE(rakennus->Tallennettu);
+  ikkunat.KunNaytetaan("frmTila", [](Ikkunaton& l) {
+    l.KayttajaKirjoittaa("txtTilanNimi", "Aula");
+    l.KayttajaPainaa("cmdOk");
+  });
+  Luettelo().KayttajaPainaa("cmdLisaaTila");
+  ASSERT_EQ(rakennus->Tilat.Count(), 2);
+  EXPECT_EQ(rakennus->Tilat.Item(2).TilanNimi, "Aula");
+  EXPECT_EQ(rakennus->Tilat.Item(2).SaatotapaStr, "Termostaattiventtiilit (80 %)");
+  EXPECT_EQ(Luettelo().Etsi("lvwTilat").Indeksi(), 1) << "the new one is chosen";
+  EXPECT_FALSE(rakennus->Tallennettu);
+}
+
+TEST_F(TilaDialogi, CopyStandsBehindItsSourceUnderIdentitiesOfItsOwn) {
+  LisaaTila(10, 10).TilanNimi = "Viimeinen";
+  Koulu().TilanNimi = "Koulu";
+  rakennus->Tilat.NaytaKayttoliittyma();
+  const Tunniste lahde = Koulu().InstanssiId;
+  Luettelo().KayttajaPainaa("cmdKopioiTila");
+  ASSERT_EQ(rakennus->Tilat.Count(), 3);
+  const clsTila& kopio = rakennus->Tilat.Item(2);
+  EXPECT_EQ(kopio.TilanNimi, "Kopio: Koulu");
+  EXPECT_EQ(rakennus->Tilat.Item(3).TilanNimi, "Viimeinen");
+  EXPECT_EQ(Koulu().InstanssiId, lahde);
+  EXPECT_FALSE(kopio.InstanssiId == lahde);
+  EXPECT_FALSE(kopio.sKey == Koulu().sKey);
+  EXPECT_FALSE(kopio.Rakenteet.Item(1).InstanssiId == Koulu().Rakenteet.Item(1).InstanssiId);
+  EXPECT_EQ(Luku(0, 5), Luku(1, 5));
+}
+
+TEST_F(TilaDialogi, SpaceIsRemovedAfterAQuestionButNotFromUnderAMeasure) {
+  clsTila& varasto = LisaaTila(300, 100);
+  const Tunniste lippa = LisaaIkkuna(varasto, 2, 0).YlaLippa.InstanssiId;
+  rakennus->Tilat.NaytaKayttoliittyma();
+  Luettelo().Etsi("lvwTilat").KayttajaValitsee(1);
+  LisaaToimenpide("jokin muu", "Uudet lipat");
+  clsMuuttunutAttribuutti& muutos = rakennus->Saastotoimenpiteet.Item(1).MuuttuneetAttribuutit.Add("muutos");
+  muutos.InstanssiId = lippa;
+  Luettelo().KayttajaPainaa("cmdPoistaTila");
+  EXPECT_EQ(viestit.Esiintymia("Uudet lipat"), 1) << "the measure changes a shading of the space";
+  EXPECT_EQ(rakennus->Tilat.Count(), 2);
+  muutos.InstanssiId = {};
+  rakennus->Saastotoimenpiteet.Item(1).MuuttuneetAttribuutit.LiittyyInstanssiin = varasto.InstanssiId;
+  Luettelo().KayttajaPainaa("cmdPoistaTila");
+  EXPECT_EQ(rakennus->Tilat.Count(), 2);
+  rakennus->Saastotoimenpiteet.Tyhjenna();
+  Luettelo().KayttajaPainaa("cmdPoistaTila");
+  EXPECT_EQ(rakennus->Tilat.Count(), 2) << "No is the default";
+  viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
+  Luettelo().KayttajaPainaa("cmdPoistaTila");
+  ASSERT_EQ(rakennus->Tilat.Count(), 1);
+  EXPECT_EQ(Rivit().size(), 1u);
+}
+
+TEST_F(TilaDialogi, MeasuresLockTheListAndAnEmptyListOffersOnlyAdding) {
+  LisaaToimenpide("jokin", "Toimenpide");
+  rakennus->Tilat.NaytaKayttoliittyma();
+  for (const char* nappi : {"cmdLisaaTila", "cmdKopioiTila", "cmdPoistaTila"})
+    EXPECT_FALSE(Luettelo().Etsi(nappi).Kaytossa()) << nappi;
+  EXPECT_TRUE(Luettelo().Etsi("cmdMuokkaaTila").Kaytossa());
+  rakennus->Saastotoimenpiteet.Tyhjenna();
+  rakennus->Tilat.Tyhjenna();
+  rakennus->Tilat.NaytaKayttoliittyma();
+  EXPECT_TRUE(Luettelo().Etsi("cmdLisaaTila").Kaytossa());
+  for (const char* nappi : {"cmdMuokkaaTila", "cmdKopioiTila", "cmdPoistaTila"})
+    EXPECT_FALSE(Luettelo().Etsi(nappi).Kaytossa()) << nappi;
+}
+
+TEST_F(TilaDialogi, MeasuredElectricityAsTheLoadLowersTheDemandAtOnce) {
+  rakennus->Perustiedot.ToteutuneetKulutukset.Item(1).Sahko = 200;
+  rakennus->Tilat.NaytaKayttoliittyma();
+  Luettelo().KayttajaPainaa("chkKaytaTotSahkoKuormia");
+  const double ilman = Luku(0, 8);
+  Luettelo().KayttajaKirjoittaa("txtTotSahkoKuormaPros", "50");
+  Luettelo().KayttajaPoistuu("txtTotSahkoKuormaPros");
+  EXPECT_EQ(rakennus->Tilat.TotSahkoKuormaPros, 50);
+  EXPECT_LT(Luku(0, 8), ilman);
+  EXPECT_FALSE(rakennus->Tallennettu);
+  Luettelo().KayttajaKirjoittaa("txtTotSahkoKuormaPros", "101");
+  Luettelo().KayttajaPainaa("cmdSulje");
+  EXPECT_TRUE(Luettelo().Auki());
+  EXPECT_EQ(rakennus->Tilat.TotSahkoKuormaPros, 50);
+  Luettelo().KayttajaPainaa("chkKaytaTotSahkoKuormia");
+  Luettelo().KayttajaPainaa("cmdSulje");
+  EXPECT_FALSE(Luettelo().Auki()) << "a field out of use holds nobody back";
+}
+
+TEST_F(TilaDialogi, ChoicesSetTheirFixedValuesAndOnlyOtherCanBeWritten) {
+  EXPECT_TRUE(Muokkaa([this](Ikkunaton& l) {
+    l.KayttajaValitsee("cmbTilanKayttoaika", "Kolmivuorokäyttö 6240 h/a");
+    EXPECT_EQ(l.Teksti("txtTilanKayttoaikaHpA"), "6 240");
+    EXPECT_FALSE(l.Etsi("txtTilanKayttoaikaHpA").Kaytossa());
+    l.KayttajaValitsee("cmbSaatotapa", "Ei säätöä (20 %)");
+    EXPECT_EQ(l.Teksti("txtSaatohyotysuhde"), "20,0");
+    l.KayttajaValitsee("cmbSaatotapa", "Muu");
+    EXPECT_EQ(l.Teksti("txtSaatohyotysuhde"), "80,0");
+    l.KayttajaKirjoittaa("txtSaatohyotysuhde", "72,5");
+    l.KayttajaPainaa("cmdOk");
+  }));
+  EXPECT_EQ(Koulu().TilanKayttoaikaHpA, 6240);
+  EXPECT_EQ(Koulu().TilanKayttoaikaStr, "Kolmivuorokäyttö 6240 h/a");
+  EXPECT_EQ(Koulu().SaatotapaID, 5);
+  EXPECT_EQ(Koulu().Saatohyotysuhde, 72.5);
+}
+
+TEST_F(TilaDialogi, OkDropsTheCachesAndTellsButKeepsUnshownDecimals) {
+  Koulu().Kokonaistilavuus = 17500.123456;
+  Koulu().JohtumishaviotUpToDate(true);
+  Koulu().AurKuormatTilassaUpToDate(true);
+  LisaaToimenpide("jokin", "Toimenpide");
+  rakennus->Saastotoimenpiteet.Item(1).EnnenTiedotUpToDate = true;
+  int muutoksia = 0;
+  Koulu().DataMuuttui.arvo = [&] { ++muutoksia; };
+  EXPECT_TRUE(Muokkaa([](Ikkunaton& l) {
+    EXPECT_EQ(l.Teksti("txtKokonaistilavuus"), "17 500,12");
+    l.KayttajaPainaa("chkPainovoimainenIlmanvaihto");
+    EXPECT_TRUE(l.Etsi("txtPainovoimainenIVMaara").Kaytossa());
+    EXPECT_FALSE(l.Etsi("txtVuotoilmanvaihto").Kaytossa()) << "one replaces the other";
+    l.KayttajaPainaa("cmdOk");
+  }));
+  EXPECT_EQ(Koulu().Kokonaistilavuus, 17500.123456);
+  EXPECT_TRUE(Koulu().PainovoimainenIlmanvaihto);
+  EXPECT_FALSE(Koulu().JohtumishaviotUpToDate());
+  EXPECT_FALSE(Koulu().AurKuormatTilassaUpToDate());
+  EXPECT_FALSE(rakennus->Saastotoimenpiteet.Item(1).EnnenTiedotUpToDate);
+  EXPECT_FALSE(rakennus->Tallennettu);
+  EXPECT_EQ(muutoksia, 1);
+}
+
+TEST_F(TilaDialogi, CancelRestoresTheSpaceWithItsStructures) {
+  const auto ennen = Koulu().Kopioi();
+  EXPECT_FALSE(Muokkaa([this](Ikkunaton& l) {
+    l.KayttajaKirjoittaa("txtTilanNimi", "Muu nimi");
+    l.KayttajaValitsee("cmbSaatotapa", "Keskitetty käsisäätö (40 %)");
+    ikkunat.KunNaytetaan("frmRakenteet", [](Ikkunaton& r) {
+      r.KayttajaKirjoittaa("txtRakenneala", "1");
+      r.KayttajaPainaa("cmdOk");
+    });
+    l.KayttajaPainaa("cmdRakenteet");
+    EXPECT_EQ(Koulu().Rakenteet.Item(1).PintaAla, 1);
+    l.KayttajaPainaa("cmdPeruuta");
+  }));
+  clsMuuttuneetAttribuutit muutokset;
+  VertaileOliot(Koulu(), *ennen, muutokset, rakennus->TyyppiTiedot);
+  EXPECT_EQ(muutokset.Count(), 0);
+  EXPECT_EQ(Koulu().InstanssiId, ennen->InstanssiId);
+  EXPECT_TRUE(rakennus->Tallennettu);
+}
+
+TEST_F(TilaDialogi, MassivenessIsForShow) {
+  Koulu().RakenteidenDynamiikkaID = 0;
+  Muokkaa([](Ikkunaton& l) {
+    EXPECT_EQ(l.Teksti("txtAikavakio"), "48");
+    l.KayttajaValitsee("cmbRakenteidenDynamiikka", "Raskasrakenteinen");
+    EXPECT_EQ(l.Teksti("txtAikavakio"), "96");
+    EXPECT_EQ(l.Teksti("lblDynamiikanKuvaus"), "Ulkoseinät kivirakenteiset, väliseinät kiveä.");
+    l.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_EQ(Koulu().RakenteidenDynamiikkaID, 0);
+}
+
+TEST_F(TilaDialogi, AFieldWithoutANumberOrOutsideItsLimitsStopsOk) {
+  Muokkaa([this](Ikkunaton& l) {
+    l.KayttajaKirjoittaa("txtSisalampotila", "");
+    l.KayttajaPainaa("cmdOk");
+    EXPECT_EQ(l.Kohdistettu(), "txtSisalampotila");
+    EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "error 1008";
+    l.KayttajaKirjoittaa("txtSisalampotila", "21");
+    l.KayttajaKirjoittaa("txtBruttoAla", "0");
+    l.KayttajaPainaa("cmdOk");
+    EXPECT_EQ(l.Kohdistettu(), "txtBruttoAla");
+    EXPECT_TRUE(l.Auki());
+    l.KayttajaPainaa("cmdPeruuta");
+  });
+  EXPECT_EQ(Koulu().BruttoAla, 4200);
+}
+
+TEST_F(TilaDialogi, ASpaceOfAMeasureTellsOfItsChangeButLeavesTheBuildingsFigures) {
+  const auto jalkeen = Koulu().Kopioi();
+  LisaaToimenpide(Koulu().InstanssiId, "Lämpötilan lasku");
+  rakennus->Saastotoimenpiteet.Item(1).EnnenTiedotUpToDate = true;
+  int muutoksia = 0;
+  jalkeen->DataMuuttui.arvo = [&] { ++muutoksia; };
+  ikkunat.KunNaytetaan("frmTila", [](Ikkunaton& l) {
+    l.KayttajaKirjoittaa("txtSisalampotila", "20");
+    l.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_TRUE(jalkeen->NaytaKayttoliittyma());
+  EXPECT_EQ(muutoksia, 1);
+  EXPECT_EQ(jalkeen->Sisalampotila, 20);
+  EXPECT_EQ(Koulu().Sisalampotila, 21);
+  EXPECT_TRUE(rakennus->Saastotoimenpiteet.Item(1).EnnenTiedotUpToDate) << "the base didn't change";
+  EXPECT_FALSE(rakennus->Tallennettu);
+}
+
+}  // namespace

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frmRakennekerroksenMuokkaaminen.h"
+
+#include "ui/Kenttatarkistus.h"
+
+frmRakennekerroksenMuokkaaminen::frmRakennekerroksenMuokkaaminen() : Lomake("frmRakennekerroksenMuokkaaminen") {
+  for (const TextBox& kentta :
+       {txtPaksuus, paamateriaali.lambda, lisamateriaali.lambda, txtLisamateriaalinOsuus, txtLammonvastus})
+    kentta.KunMuuttuu([this] { Nosta(DataMuuttui); });
+  chkUArvoon.KunKlikataan([this] { Nosta(DataMuuttui); });
+  chkHomogeeninen.KunKlikataan([this] {
+    PaivitaKentat();
+    Nosta(DataMuuttui);
+  });
+  cmdOk.KunKlikataan([this] {
+    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
+  });
+  cmdPeruuta.Nostaa(PeruutaKlikattu);
+}
+
+void frmRakennekerroksenMuokkaaminen::PaivitaKentat() {
+  for (const TextBox& kentta : {lisamateriaali.nimi, lisamateriaali.lambda, lisamateriaali.tiheys,
+                                lisamateriaali.ominaislampo, txtLisamateriaalinOsuus})
+    kentta.Kaytossa(!chkHomogeeninen.Valittu());
+}
