@@ -211,5 +211,3 @@ std::string SailytaAjalla(const std::string& tiedosto) {
   const Lukitus lukko;
   return SailytaLukittuna(tiedosto);
 }
-
-std::string SailytaVarakopio() { return SailytaAjalla(VarakopionPolku()); }
