@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "library/server/Palvelin.h"
+
+#include <QApplication>
+#include <algorithm>
+
+#include "ui/Komento.h"
+
+namespace {
+
+constexpr std::chrono::seconds kOdotaEdellista{3};       // an ending server still holds the lock
+constexpr std::chrono::seconds kEnsimmainenAsiakas{20};  // that started us may have died
+constexpr std::chrono::milliseconds kSiivousvali{100};
+constexpr std::chrono::seconds kTallennusvali{2};
+constexpr int kTallennusyrityksia = 300;  // by the cleaning's interval: half a minute
+
+}  // namespace
+
+Palvelin::Palvelin(Kirjastopaikka paikka) : paikka_(std::move(paikka)) {
+  siivous_.setSingleShot(true);
+  connect(&kuuntelija_, &QLocalServer::newConnection, this, &Palvelin::OtaAsiakkaat);
+  connect(&siivous_, &QTimer::timeout, this, &Palvelin::Siivoa);
+  connect(&tallennus_, &QTimer::timeout, this, &Palvelin::YritaTallennuksia);
+  tallennus_.start(kTallennusvali);
+}
+
+bool Palvelin::Kuuntele() {
+  try {
+    lukko_.emplace(paikka_.lukko, kOdotaEdellista);
+  } catch (const std::exception&) {
+    return false;
+  }
+  const QString nimi = QString::fromStdString(paikka_.pistoke);
+  QLocalServer::removeServer(nimi);  // left by a server that was killed: we hold the lock
+  kuuntelija_.setSocketOptions(QLocalServer::UserAccessOption);
+  siivous_.start(kEnsimmainenAsiakas);
+  return kuuntelija_.listen(nimi);
+}
+
+void Palvelin::OtaAsiakkaat() {
+  while (QLocalSocket* pistoke = kuuntelija_.nextPendingConnection()) {
+    siivous_.stop();
+    asiakkaat_.push_back(std::make_unique<Asiakas>(pistoke));
+    connect(
+        pistoke, &QLocalSocket::disconnected, this, [this, asiakas = asiakkaat_.back().get()] { Poistui(*asiakas); },
+        Qt::QueuedConnection);
+  }
+}
+
+void Palvelin::Poistui(Asiakas& asiakas) {
+  const auto it = std::ranges::find(asiakkaat_, &asiakas, &std::unique_ptr<Asiakas>::get);
+  if (it == asiakkaat_.end()) return;
+  poistuneet_.push_back(std::move(*it));
+  asiakkaat_.erase(it);
+  yrityksia_ = kTallennusyrityksia;
+  siivous_.start(0);
+}
+
+void Palvelin::Siivoa() {
+  if (asiakkaat_.empty())
+    if (QWidget* kysymys = QApplication::activeModalWidget()) kysymys->close();
+  const bool tallessa = std::ranges::all_of(poistuneet_, [](const auto& asiakas) { return asiakas->Yrita(); });
+  if (KomentoKaynnissa() || (!tallessa && --yrityksia_ > 0)) return siivous_.start(kSiivousvali);
+  poistuneet_.clear();
+  if (!asiakkaat_.empty()) return;
+  kuuntelija_.close();
+  QApplication::quit();
+}
+
+void Palvelin::YritaTallennuksia() {
+  if (KomentoKaynnissa()) return;
+  SuoritaKomento([this] {
+    for (const auto& asiakas : asiakkaat_) asiakas->Yrita();
+  });
+}

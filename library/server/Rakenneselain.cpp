@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "library/server/Rakenneselain.h"
+
+#include <algorithm>
+
+#include "kernel/Luvut.h"
+#include "library/Kirjastoluettelo.h"
+#include "library/Kirjastosuodatin.h"
+#include "library/server/Rakennekuvaus.h"
+#include "library/server/Tekstinumerot.h"
+#include "ui/Lomakekaannos.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
+
+using namespace kirjastotekstit;
+
+namespace {
+
+std::string Uteksti(const Rakenneratkaisu& ratkaisu) {
+  const auto U = ratkaisu.VoimassaolevaU_arvo();
+  return U ? Muotoile(*U, "0.00") : std::string("---");
+}
+
+std::vector<std::string> Rivi(const Kirjastorakenne& rakenne, const std::vector<std::string>& tyypit) {
+  const auto tyyppi = RakennetyyppiSanasta(rakenne.Ratkaisu.Rakennetyyppi);
+  const std::size_t i = static_cast<std::size_t>(tyyppi.value_or(-1) + 1);  // row 0 is all kinds
+  return {rakenne.Ratkaisu.Nimi, tyyppi && i < tyypit.size() ? tyypit[i] : rakenne.Ratkaisu.Rakennetyyppi,
+          rakenne.Aikakausi, Uteksti(rakenne.Ratkaisu), KirjastonNimi(rakenne.Kanta)};
+}
+
+}  // namespace
+
+Rakenneselain::Rakenneselain(Selaimenavaus avaus, std::function<void(const Rakenneratkaisu&)> valittu)
+    : avaus_(std::move(avaus)), valittu_(std::move(valittu)) {
+  KayttoLiittyma.cmbRakennetyyppi.Rivit(Valintalista("frmRakenteet", "cmbRakennetyyppi"));
+  KayttoLiittyma.cmbRakennetyyppi.Indeksi(RakennetyyppiSanasta(avaus_.alku).value_or(-1) + 1);
+  KayttoLiittyma.cmbKirjasto.Rivit(Kirjastorivit());
+  KayttoLiittyma.cmbKirjasto.Indeksi(0);
+  KayttoLiittyma.cmdOk.Nakyva(avaus_.valinta);
+  Kuuntele();
+}
+
+void Rakenneselain::Kuuntele() {
+  frmRakennekirjasto& k = KayttoLiittyma;
+  k.SuodatinMuuttui = [this] { Suodata(); };
+  k.RakenneVaihtui = [this] { NaytaRakenne(); };
+  k.ValitseKlikattu = [this] { KayttoLiittyma_Valitse(); };
+  k.UusiKlikattu = [this] { KayttoLiittyma_Uusi(); };
+  k.MuokkaaKlikattu = [this] { KayttoLiittyma_Muokkaa(); };
+  k.KopioiKlikattu = [this] { KayttoLiittyma_Kopioi(); };
+  k.PoistaKlikattu = [this] { KayttoLiittyma_Poista(); };
+  k.TuoKlikattu = [this] { KayttoLiittyma_Tuo(); };
+  k.VieKlikattu = [this] { KayttoLiittyma_Vie(); };
+  k.SuljeKlikattu = [this] { KayttoLiittyma_Sulje(); };
+}
+
+void Rakenneselain::Nayta() {
+  Paivita();
+  KayttoLiittyma.Nayta();
+  KerroViat(avaus_.kirjastot);
+}
+
+void Rakenneselain::Paivita() {
+  const Kirjastorakenne* ennen = Valittu();
+  const std::string id = ennen ? ennen->Id : std::string();
+  naytetyt_.clear();
+  avaus_.kirjastot.Lataa();
+  TaytaAikakaudet();
+  Suodata();
+  Valitse(id);
+}
+
+void Rakenneselain::TaytaAikakaudet() {
+  std::vector<std::pair<std::int32_t, std::string>> aikakaudet;
+  for (const Kirjastorakenne& rakenne : avaus_.kirjastot.Rakenteet())
+    if (!rakenne.Aikakausi.empty()) aikakaudet.emplace_back(rakenne.VuosiAlku, rakenne.Aikakausi);
+  std::ranges::sort(aikakaudet);
+  std::vector<std::string> rivit;
+  for (const auto& [vuosi, nimi] : aikakaudet)
+    if (std::ranges::find(rivit, nimi) == rivit.end()) rivit.push_back(nimi);
+  TaytaEhdot(KayttoLiittyma.cmbAikakausi, rivit);
+}
+
+void Rakenneselain::Suodata() {
+  const Rakennesuodatin ehto{ValittuKirjasto(KayttoLiittyma.cmbKirjasto),
+                             std::string(RakennetyypinSana(KayttoLiittyma.cmbRakennetyyppi.Indeksi() - 1)),
+                             ValittuEhto(KayttoLiittyma.cmbAikakausi),
+                             LueLuku(KayttoLiittyma.txtUvahintaan.Teksti()),
+                             LueLuku(KayttoLiittyma.txtUenintaan.Teksti()),
+                             KayttoLiittyma.txtHaku.Teksti()};
+  const auto tyypit = Valintalista("frmRakenteet", "cmbRakennetyyppi");
+  Taulukko rivit;
+  naytetyt_.clear();
+  for (const Kirjastorakenne& rakenne : avaus_.kirjastot.Rakenteet()) {
+    if (!ehto.Sopii(rakenne)) continue;
+    naytetyt_.push_back(&rakenne);
+    rivit.push_back(Rivi(rakenne, tyypit));
+  }
+  KayttoLiittyma.lblMaara.Otsikko(Teksti(kRakenteita) + " " + std::to_string(rivit.size()) + "    " + Teksti(kVersio) +
+                                  " " + avaus_.kirjastot.Versio());
+  KayttoLiittyma.lvwRakenteet.Rivit(std::move(rivit));
+  Valitse({});
+}
+
+void Rakenneselain::Valitse(const std::string& id) {
+  const auto it = std::ranges::find(naytetyt_, id, &Kirjastorakenne::Id);
+  const int ensimmainen = naytetyt_.empty() ? -1 : KayttoLiittyma.lvwRakenteet.Kohde().Jarjestys().front();
+  KayttoLiittyma.lvwRakenteet.Indeksi(it == naytetyt_.end() ? ensimmainen : static_cast<int>(it - naytetyt_.begin()));
+  NaytaRakenne();
+}
+
+const Kirjastorakenne* Rakenneselain::Valittu() const {
+  const int i = KayttoLiittyma.lvwRakenteet.Indeksi();
+  return i >= 0 && i < static_cast<int>(naytetyt_.size()) ? naytetyt_[static_cast<std::size_t>(i)] : nullptr;
+}
+
+void Rakenneselain::NaytaRakenne() {
+  const Kirjastorakenne* valittu = Valittu();
+  const Rakenneratkaisu tyhja;
+  const Rakenneratkaisu& ratkaisu = valittu ? valittu->Ratkaisu : tyhja;
+  KayttoLiittyma.lblNimi.Otsikko(ratkaisu.Nimi);
+  KayttoLiittyma.lblKuvaus.Otsikko(ratkaisu.Kuvaus);
+  KayttoLiittyma.lblLahde.Otsikko(valittu ? Teksti(kLahde) + " " + valittu->Lahde : std::string());
+  KayttoLiittyma.chtLampotilat.Kaavio(valittu ? Leikkauskuva(ratkaisu) : Kaaviotiedot());
+  Taulukko kerrokset = Kerrosrivit(ratkaisu);
+  for (auto& rivi : kerrokset) rivi = {rivi[0] + " " + rivi[1], rivi[2], rivi[3], rivi[4]};
+  KayttoLiittyma.lvwKerrokset.Rivit(std::move(kerrokset));
+  const bool omaKunnossa = avaus_.kirjastot.Vika(Kirjasto::Oma).empty();
+  const bool oma = omaKunnossa && valittu && valittu->Kanta == Kirjasto::Oma;
+  for (const CommandButton& nappi : {KayttoLiittyma.cmdUusi, KayttoLiittyma.cmdTuo, KayttoLiittyma.cmdVie})
+    nappi.Kaytossa(omaKunnossa);
+  KayttoLiittyma.cmdKopioi.Kaytossa(omaKunnossa && valittu);
+  KayttoLiittyma.cmdMuokkaa.Kaytossa(oma);
+  KayttoLiittyma.cmdPoista.Kaytossa(oma);
+  KayttoLiittyma.cmdOk.Kaytossa(valittu != nullptr);
+}
+
+void Rakenneselain::KayttoLiittyma_Valitse() {
+  const Kirjastorakenne* rakenne = Valittu();
+  if (!rakenne || !SuljeMuokkain()) return;
+  Nosta(valittu_, rakenne->Ratkaisu);
+  KayttoLiittyma_Sulje();
+}
+
+void Rakenneselain::KayttoLiittyma_Uusi() {
+  Kirjastorakenne uusi;
+  uusi.Ratkaisu.Nimi = Teksti(kUusiRakenne);
+  uusi.Ratkaisu.Rakennetyyppi = RakennetyypinSana(std::max(KayttoLiittyma.cmbRakennetyyppi.Indeksi() - 1, 0));
+  if (LisaaOmaan(uusi)) Muokkaa(std::move(uusi));
+}
+
+void Rakenneselain::KayttoLiittyma_Kopioi() {
+  const Kirjastorakenne* malli = Valittu();
+  if (!malli) return;
+  Kirjastorakenne kopio = *malli;
+  if (malli->Kanta == Kirjasto::Oma) kopio.Ratkaisu.Nimi = Teksti(kKopio) + " " + kopio.Ratkaisu.Nimi;
+  kopio.Kanta = Kirjasto::Oma;
+  kopio.Id.clear();
+  LisaaOmaan(kopio);
+}
+
+bool Rakenneselain::LisaaOmaan(Kirjastorakenne& rakenne) {
+  if (!KirjoitaKirjastoon(kEiTallennettu, [&] { avaus_.kirjastot.Avaa().Tallenna(rakenne); })) return false;
+  Valitse(rakenne.Id);
+  return true;
+}
+
+/// The structure as it stands now: another program may have edited or removed it.
+void Rakenneselain::KayttoLiittyma_Muokkaa() {
+  const Kirjastorakenne* valittu = Valittu();
+  if (!valittu || valittu->Kanta != Kirjasto::Oma) return;
+  auto tuore = LueRakenne(avaus_.kirjastot.Polku(Kirjasto::Oma), Kirjasto::Oma, valittu->Id);
+  if (tuore) return Muokkaa(std::move(*tuore));
+  Paivita();
+  Ilmoita(Teksti(kRakenneJoPoistettu));
+}
+
+void Rakenneselain::Muokkaa(Kirjastorakenne rakenne) {
+  if (!SuljeMuokkain()) return;
+  muokkain_ = std::make_unique<Rakennemuokkain>(avaus_.kirjastot, std::move(rakenne));
+  muokkain_->Nayta();
+}
+
+void Rakenneselain::KayttoLiittyma_Poista() {
+  const Kirjastorakenne* valittu = Valittu();
+  if (!valittu || valittu->Kanta != Kirjasto::Oma || !KysyPoisto()) return;
+  const std::string id = valittu->Id;
+  KirjoitaKirjastoon(kPoistoEpaonnistui, [&] { avaus_.kirjastot.Avaa().PoistaRakenne(id); });
+}
+
+void Rakenneselain::KayttoLiittyma_Tuo() {
+  const auto tiedosto = ViestitNyt().KysyAvattavaTiedosto(Teksti(kTuoOtsikko), Teksti(kTiedostosuodatin));
+  if (!tiedosto) return;
+  Tuontitulos tulos;
+  if (!KirjoitaKirjastoon(kTuontiEpaonnistui, [&] { tulos = avaus_.kirjastot.Avaa().Tuo(*tiedosto); })) return;
+  Ilmoita(Teksti(kTuotujaRakenteita) + " " + std::to_string(tulos.rakenteita) + "\n" + Teksti(kTuotujaMateriaaleja) +
+          " " + std::to_string(tulos.materiaaleja) + "\n" + Teksti(kEnnestaan) + " " + std::to_string(tulos.entisia));
+}
+
+void Rakenneselain::KayttoLiittyma_Vie() {
+  const auto tiedosto = ViestitNyt().KysyTallennettavaTiedosto(Teksti(kVieOtsikko), Teksti(kTiedostosuodatin));
+  if (tiedosto && KirjoitaKirjastoon(kVientiEpaonnistui, [&] { avaus_.kirjastot.Avaa().Vie(*tiedosto); }))
+    Ilmoita(Teksti(kViety) + " " + *tiedosto);
+}
+
+/// False when the person keeps the editing window open, since it holds what can't be stored.
+bool Rakenneselain::SuljeMuokkain() {
+  if (muokkain_ && !muokkain_->VoiSulkea()) return false;
+  muokkain_.reset();
+  return true;
+}
+
+void Rakenneselain::KayttoLiittyma_Sulje() {
+  if (!SuljeMuokkain()) return;
+  KayttoLiittyma.Sulje();
+  Nosta(avaus_.Suljettu);
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "library/server/Selain.h"
+
+#include <algorithm>
+
+#include "kernel/Virhe.h"
+#include "library/server/Tekstinumerot.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
+
+using namespace kirjastotekstit;
+
+namespace {
+
+constexpr int kVirheenOtsikko = 9100;
+
+}  // namespace
+
+void KerroViat(const Kirjastot& kirjastot) {
+  for (const auto& [kirjasto, teksti] : {std::pair{Kirjasto::Oma, kOmaaEiLueta}, {Kirjasto::Vakio, kVakiotaEiLueta}})
+    if (const std::string& vika = kirjastot.Vika(kirjasto); !vika.empty())
+      Ilmoita(Teksti(teksti) + "\n" + vika, Teksti(kVirheenOtsikko), Vakavuus::Varoitus);
+}
+
+bool KirjoitaKirjastoon(int epaonnistui, const std::function<void()>& kirjoita) {
+  try {
+    kirjoita();
+  } catch (const Virhe& virhe) {
+    Ilmoita(Teksti(epaonnistui) + " " + virhe.SyynKuvaus(), Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    return false;
+  }
+  IlmoitaMuutos();
+  return true;
+}
+
+std::vector<std::string> Kirjastorivit() {
+  return {Teksti(kKaikkiKirjastot), Teksti(kOmaKirjasto), Teksti(kVakiokirjasto)};
+}
+
+std::optional<Kirjasto> ValittuKirjasto(const ComboBox& valinta) {
+  if (valinta.Indeksi() <= 0) return std::nullopt;
+  return valinta.Indeksi() == 1 ? Kirjasto::Oma : Kirjasto::Vakio;
+}
+
+std::string KirjastonNimi(Kirjasto kirjasto) {
+  return Teksti(kirjasto == Kirjasto::Oma ? kOmaKirjasto : kVakiokirjasto);
+}
+
+void TaytaEhdot(const ComboBox& valinta, const std::vector<std::string>& rivit) {
+  const std::string ennen = valinta.Indeksi() > 0 ? valinta.Teksti() : std::string();
+  std::vector<std::string> kaikki{Teksti(kKaikki)};
+  kaikki.insert(kaikki.end(), rivit.begin(), rivit.end());
+  const auto it = std::ranges::find(kaikki, ennen);
+  valinta.Rivit(kaikki);
+  valinta.Indeksi(it == kaikki.end() ? 0 : static_cast<int>(it - kaikki.begin()));
+}
+
+std::string ValittuEhto(const ComboBox& valinta) { return valinta.Indeksi() > 0 ? valinta.Teksti() : std::string(); }

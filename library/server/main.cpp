@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// RakKirjSrv: the structure and material library as a process of its own, started by the program.
+//   RakKirjSrv --koti <data directory>
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include "library/server/Palvelin.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/qt/QtIkkuna.h"
+#include "ui/qt/QtViestit.h"
+
+int main(int argc, char** argv) {
+  QApplication sovellus(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("RakKirjSrv"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  QCommandLineParser komentorivi;
+  const QCommandLineOption koti(QStringLiteral("koti"), QString(), QStringLiteral("hakemisto"));
+  komentorivi.addOption(koti);
+  komentorivi.process(sovellus);
+  if (komentorivi.isSet(koti)) AsetaAppPath(komentorivi.value(koti).toStdString());
+
+  Palvelin palvelin(PalvelimenPaikka(AppPath()));
+  if (!palvelin.Kuuntele()) return 0;
+  AsennaSuomennos();
+  AlustaTekstit();
+  const QtViestit viestit;
+  AsetaQtLomakkeet(nullptr);
+  return QApplication::exec();
+}
