@@ -118,7 +118,8 @@ TEST_P(Lomakkeet, PikakirjaimetOvatEriKirjaimia) {
 TEST_P(Lomakkeet, SarkainKulkeeLukujarjestyksessa) {
   QWidgetList jarjestys;
   for (QWidget* w = juuri_->nextInFocusChain(); w != juuri_; w = w->nextInFocusChain())
-    if (juuri_->isAncestorOf(w) && w->isVisible() && (w->focusPolicy() & Qt::TabFocus)) jarjestys << w;
+    if (juuri_->isAncestorOf(w) && w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy())
+      jarjestys << w;
   EXPECT_FALSE(jarjestys.isEmpty());
   for (qsizetype i = 1; i < jarjestys.size(); ++i)
     EXPECT_TRUE(LuetaanEnnen(jarjestys[i - 1], jarjestys[i])) << Nimi(jarjestys[i - 1]) << " -> " << Nimi(jarjestys[i]);

@@ -14,8 +14,10 @@
 namespace {
 
 constexpr int kAsteikonVaaleus = 40;  // of 255: lines of the scale behind the columns
+constexpr double kVara = 1.05;        // of the scale beyond the columns
 constexpr double kPalkinOsuus = 0.8;  // of the width of a place
 constexpr double kPisteenKoko = 7;
+constexpr double kOhut = 4;  // of a part that is hard to point at
 
 bool OnViiva(const Kaaviosarja& sarja) { return sarja.pino == Kaaviosarja::kViiva; }
 
@@ -36,7 +38,7 @@ Pylvaikko::Asteikko Pylvaikko::Sovita(double pienin, double suurin) {
   const std::array kertoimet = {1.0, 2.0, 5.0, 10.0};
   const double askel =
       kymmen * *std::ranges::find_if(kertoimet, [&](double k) { return k == 10 || k * kymmen >= vali; });
-  return {std::floor(pienin / askel) * askel, std::ceil(suurin / askel) * askel, askel};
+  return {pienin * kVara, suurin * kVara, askel};
 }
 
 void Pylvaikko::AsetaKaavio(const Kaaviotiedot& kaavio) {
@@ -57,6 +59,7 @@ void Pylvaikko::AsetaKaavio(const Kaaviotiedot& kaavio) {
   }
   asteikko_ = Sovita(pienin, suurin);
   Kaaviokuva::AsetaKaavio(kaavio);
+  Sommittele();
 }
 
 QStringList Pylvaikko::Nimet() const {
@@ -79,30 +82,47 @@ QStringList Pylvaikko::Luvut() const {
 
 QSize Pylvaikko::sizeHint() const {
   const int rivi = fontMetrics().height();
-  return {28 * rivi + SelitteenLeveys(),
+  int paikka = 0;
+  for (const std::string& nimi : Tiedot().nimet)
+    paikka = std::max(paikka, fontMetrics().horizontalAdvance(Teksti(nimi)) + rivi / 2);
+  const int paikat = std::max(20 * rivi, paikka * static_cast<int>(Tiedot().nimet.size()));
+  return {paikat + 8 * rivi + SelitteenLeveys(),
           std::max(14 * rivi, static_cast<int>(Tiedot().sarjat.size() + 3) * rivi * 3 / 2)};
 }
 
-QRectF Pylvaikko::Kuvaala() const {
+QRectF Pylvaikko::Sovitettu() const {
   const int rivi = fontMetrics().height();
   const int luvut =
       fontMetrics().horizontalAdvance(Teksti(Muotoile(-std::max(asteikko_.yla, -asteikko_.ala), "### ##0")));
   return QRectF(rect()).adjusted(luvut + rivi, 5 * rivi / 2, -SelitteenLeveys(), -2 * rivi);
 }
 
+/// Lays the parts out for the present figures, size and font.
+void Pylvaikko::Sommittele() {
+  kuvaala_ = Sovitettu();
+  palat_ = Palat();
+}
+
+void Pylvaikko::resizeEvent(QResizeEvent*) { Sommittele(); }
+
+void Pylvaikko::changeEvent(QEvent* tapahtuma) {
+  Kaaviokuva::changeEvent(tapahtuma);
+  if (tapahtuma->type() == QEvent::FontChange) Sommittele();
+}
+
 double Pylvaikko::Y(double arvo) const {
-  const QRectF ala = Kuvaala();
+  const QRectF& ala = kuvaala_;
   return ala.bottom() - (arvo - asteikko_.ala) / (asteikko_.yla - asteikko_.ala) * ala.height();
 }
 
 QPointF Pylvaikko::Viivalla(const Kaaviosarja& sarja, std::size_t paikka) const {
-  return {Kuvaala().left() + (static_cast<double>(paikka) + 0.5) * PaikanLeveys(), Y(sarja.arvot[paikka])};
+  return {kuvaala_.left() + (static_cast<double>(paikka) + 0.5) * PaikanLeveys(), Y(sarja.arvot[paikka])};
 }
 
 void Pylvaikko::LisaaPino(int pino, std::size_t paikka, std::vector<Pala>& palat) const {
   const double leveys = PaikanLeveys() * kPalkinOsuus / pinoja_;
   const double vasen =
-      Kuvaala().left() + (static_cast<double>(paikka) + (1 - kPalkinOsuus) / 2) * PaikanLeveys() + pino * leveys;
+      kuvaala_.left() + (static_cast<double>(paikka) + (1 - kPalkinOsuus) / 2) * PaikanLeveys() + pino * leveys;
   Korkeus korkeus;
   for (std::size_t s = 0; s < Tiedot().sarjat.size(); ++s) {
     const Kaaviosarja& sarja = Tiedot().sarjat[s];
@@ -128,9 +148,15 @@ std::vector<Pylvaikko::Pala> Pylvaikko::Palat() const {
   return palat;
 }
 
-const Pylvaikko::Pala* Pylvaikko::Kohdassa(const std::vector<Pala>& palat, const QPointF& kohta) const {
-  const auto pala = std::find_if(palat.rbegin(), palat.rend(), [&](const Pala& p) { return p.alue.contains(kohta); });
-  return pala == palat.rend() ? nullptr : &*pala;
+/// A thin part answers a little beyond its edges.
+const Pylvaikko::Pala* Pylvaikko::Kohdassa(const QPointF& kohta) const {
+  const auto osuu = [&](const Pala& p) { return p.alue.contains(kohta); };
+  const auto lahella = [&](const Pala& p) {
+    return p.alue.height() < kOhut && p.alue.adjusted(0, -kOhut, 0, kOhut).contains(kohta);
+  };
+  auto pala = std::find_if(palat_.rbegin(), palat_.rend(), lahella);
+  if (pala == palat_.rend()) pala = std::find_if(palat_.rbegin(), palat_.rend(), osuu);
+  return pala == palat_.rend() ? nullptr : &*pala;
 }
 
 QString Pylvaikko::Seloste(const Pala& pala) const {
@@ -140,8 +166,7 @@ QString Pylvaikko::Seloste(const Pala& pala) const {
 }
 
 QString Pylvaikko::Seloste(const QPointF& kohta) const {
-  const std::vector<Pala> palat = Palat();
-  const Pala* pala = Kohdassa(palat, kohta);
+  const Pala* pala = Kohdassa(kohta);
   return pala ? Seloste(*pala) : QString();
 }
 
@@ -163,24 +188,24 @@ void Pylvaikko::paintEvent(QPaintEvent*) {
   PiirraAsteikko(maalain);
   PiirraPalat(maalain);
   PiirraViivat(maalain);
-  const QRect ala = Kuvaala().toRect();
+  const QRect ala = kuvaala_.toRect();
   PiirraSelite(maalain, QRect(ala.right(), ala.top(), width() - ala.right(), ala.height()));
 }
 
 void Pylvaikko::PiirraAsteikko(QPainter& maalain) const {
-  const QRectF ala = Kuvaala();
+  const QRectF& ala = kuvaala_;
   const int rivi = fontMetrics().height();
   QColor himmea = palette().color(QPalette::Text);
   himmea.setAlpha(kAsteikonVaaleus);
   maalain.drawText(QRectF(0, ala.top() - 3 * rivi / 2.0, ala.left() - rivi / 2.0, rivi),
                    Qt::AlignRight | Qt::AlignVCenter, Teksti(Tiedot().yksikko));
-  const int askelia = qRound((asteikko_.yla - asteikko_.ala) / asteikko_.vali);
-  for (int i = 0; i <= askelia; ++i) {
-    const double arvo = asteikko_.ala + i * asteikko_.vali, y = Y(arvo);
+  const int viimeinen = qFloor(asteikko_.yla / asteikko_.vali);
+  for (int i = qCeil(asteikko_.ala / asteikko_.vali); i <= viimeinen; ++i) {
+    const double arvo = i * asteikko_.vali, y = Y(arvo);
     maalain.drawText(QRectF(0, y - rivi / 2.0, ala.left() - rivi / 2.0, rivi), Qt::AlignRight | Qt::AlignVCenter,
                      Teksti(Muotoile(arvo, "### ##0.##")));
     maalain.save();
-    if (std::abs(arvo) > asteikko_.vali / 2) maalain.setPen(himmea);
+    if (i != 0) maalain.setPen(himmea);
     maalain.drawLine(QPointF(ala.left(), y), QPointF(ala.right(), y));
     maalain.restore();
   }
@@ -191,11 +216,10 @@ void Pylvaikko::PiirraAsteikko(QPainter& maalain) const {
 }
 
 void Pylvaikko::PiirraPalat(QPainter& maalain) const {
-  const std::vector<Pala> palat = Palat();
-  const Pala* osoitettu = Kohdassa(palat, osoitin_);
+  const Pala* osoitettu = Kohdassa(osoitin_);
   const int rivi = fontMetrics().height();
   maalain.save();
-  for (const Pala& pala : palat) {
+  for (const Pala& pala : palat_) {
     if (OnViiva(Tiedot().sarjat[pala.sarja])) continue;
     maalain.setBrush(Vari(pala.sarja));
     maalain.setPen(QPen(palette().color(QPalette::Text), &pala == osoitettu ? 2.5 : 0.5));

@@ -16,6 +16,8 @@ class Pylvaikko : public Kaaviokuva {
 
  protected:
   void paintEvent(QPaintEvent* tapahtuma) override;
+  void resizeEvent(QResizeEvent* tapahtuma) override;
+  void changeEvent(QEvent* tapahtuma) override;
   void mouseMoveEvent(QMouseEvent* tapahtuma) override;
   void leaveEvent(QEvent* tapahtuma) override;
   QStringList Luvut() const override;
@@ -33,15 +35,16 @@ class Pylvaikko : public Kaaviokuva {
   };
 
   static Asteikko Sovita(double pienin, double suurin);
-  QRectF Kuvaala() const;
+  QRectF Sovitettu() const;
+  void Sommittele();
   double Y(double arvo) const;
   double PaikanLeveys() const {
-    return Kuvaala().width() / static_cast<double>(std::max<std::size_t>(1, Tiedot().nimet.size()));
+    return kuvaala_.width() / static_cast<double>(std::max<std::size_t>(1, Tiedot().nimet.size()));
   }
   std::vector<Pala> Palat() const;
   void LisaaPino(int pino, std::size_t paikka, std::vector<Pala>& palat) const;
   QPointF Viivalla(const Kaaviosarja& sarja, std::size_t paikka) const;
-  const Pala* Kohdassa(const std::vector<Pala>& palat, const QPointF& kohta) const;
+  const Pala* Kohdassa(const QPointF& kohta) const;
   QString Seloste(const Pala& pala) const;
   void PiirraAsteikko(QPainter& maalain) const;
   void PiirraPalat(QPainter& maalain) const;
@@ -49,5 +52,7 @@ class Pylvaikko : public Kaaviokuva {
 
   Asteikko asteikko_{0, 1, 1};
   int pinoja_ = 1;
+  QRectF kuvaala_;  // between the scale's ends
+  std::vector<Pala> palat_;
   QPointF osoitin_{-1, -1};
 };

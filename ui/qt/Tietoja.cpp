@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/Tietoja.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+#include <xlsxwriter.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QScreen>
+#include <QSysInfo>
+#include <pugixml.hpp>
+
+#include "kernel/Hakemistot.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/frmAbout.h"
+
+namespace {
+
+constexpr int kJarjestelma = 2905, kSuoritin = 2906, kIkkunointi = 2907, kKieliymparisto = 2908, kTiedostot = 2909,
+              kAsetukset = 2910, kNaytto = 2911;
+
+/// pugixml tells 1.13 as 1130.
+std::string PugixmlVersio() {
+  return std::to_string(PUGIXML_VERSION / 1000) + "." + std::to_string(PUGIXML_VERSION % 1000 / 10);
+}
+
+std::string Naytto() {
+  const QScreen* naytto = QGuiApplication::primaryScreen();
+  if (!naytto) return {};
+  return QStringLiteral("%1 × %2 (× %3)")
+      .arg(naytto->size().width())
+      .arg(naytto->size().height())
+      .arg(naytto->devicePixelRatio())
+      .toStdString();
+}
+
+}  // namespace
+
+Taulukko KirjastojenTiedot() {
+  return {{"Qt", qVersion(), "LGPL-3.0 / GPL-3.0"},
+          {"SQLite", sqlite3_libversion(), "Public domain"},
+          {"SQLiteCpp", SQLITECPP_VERSION, "MIT"},
+          {"pugixml", PugixmlVersio(), "MIT"},
+          {"libxlsxwriter", LXW_VERSION, "BSD-2-Clause"}};
+}
+
+Taulukko JarjestelmanTiedot() {
+  return {
+      {Teksti(kJarjestelma), (QSysInfo::prettyProductName() + ", " + QSysInfo::kernelVersion()).toStdString()},
+      {Teksti(kSuoritin), QSysInfo::currentCpuArchitecture().toStdString()},
+      {Teksti(kIkkunointi), QGuiApplication::platformName().toStdString()},
+      {Teksti(kNaytto), Naytto()},
+      {Teksti(kKieliymparisto), QLocale::system().name().toStdString()},
+      {Teksti(kTiedostot), AppPath()},
+      {Teksti(kAsetukset), AsetusHakemisto().string()},
+  };
+}
+
+void NaytaTietoja() {
+  frmAbout lomake(KirjastojenTiedot(), JarjestelmanTiedot());
+  lomake.KopioiKlikattu = [&lomake] {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(lomake.Tekstina()));
+  };
+  lomake.NaytaModaalisena();
+}
