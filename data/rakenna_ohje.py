@@ -34,7 +34,7 @@ table.taulu { border-collapse: collapse; border-style: solid; border-width: 1px;
 table.taulu th { background-color: palette(alternate-base); }
 table.huom { background-color: palette(alternate-base); margin-top: 8px; margin-bottom: 10px; }
 p.kaava { margin-left: 28px; margin-top: 6px; margin-bottom: 6px; font-family: serif; font-size: large; }
-p.selite { margin-left: 28px; }
+p.kuva { line-height: 100%; margin-top: 8px; margin-bottom: 12px; }
 p.selaus { margin-top: 24px; }
 pre, code { font-family: monospace; }
 pre { margin-left: 28px; margin-top: 8px; margin-bottom: 8px; }
@@ -150,7 +150,8 @@ class Sivu:
 
     def lue_kappale(self):
         rivit = self.ota(lambda r: r.strip() and not re.match(r"#{1,3} |```|\||> |(-|\d+\.) |<", r))
-        self.osat.append("<p>" + rivin_sisalto(" ".join(rivit)) + "</p>")
+        laji = ' class="kuva"' if re.fullmatch(r"!\[[^]]*\]\([^)]+\)", " ".join(rivit)) else ""
+        self.osat.append(f"<p{laji}>" + rivin_sisalto(" ".join(rivit)) + "</p>")
 
 
 def luettelo(rivit):

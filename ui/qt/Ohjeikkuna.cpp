@@ -142,6 +142,7 @@ void Ohjeikkuna::Avaa(int aihe) {
   if (!rivi) return;
   const QString sivu = Q(rivi->sivu);
   AvaaSivu(QFileInfo::exists(KokoPolku(sivu)) ? sivu : Q(luettelo_.Rivit().front().sivu));
+  selain_.setFocus();
 }
 
 void Ohjeikkuna::AvaaSivu(const QString& sivu) {

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The example that the user's guide tells: the figures of its sample audit must be the program's. With
+// LUMIVIRTA_KUVAT=<folder> the pictures of the guide (docs/opas/kuvat) are taken there.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+#include <fstream>
+#include <sstream>
+
+#include "app/Istunto.h"
+#include "app/frmMain.h"
+#include "building/Kuukausitase.h"
+#include "building/clsRakennus.h"
+#include "kernel/Luvut.h"
+#include "tests/app/Koekoti.h"
+#include "ui/KerataanViestit.h"
+#include "ui/Lomake.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/frmLampoYhteenveto.h"
+#include "ui/qt/QtIkkuna.h"
+
+namespace {
+
+constexpr double kVakioOsuus = 96;  // MWh/a, in the guide entered as other heat too
+
+std::string OppaanSivu(const char* sivu) {
+  std::ifstream virta(std::string(LUMIVIRTA_LAHDE "/docs/opas/") + sivu);
+  std::ostringstream teksti;
+  teksti << virta.rdbuf();
+  EXPECT_FALSE(teksti.str().empty()) << sivu;
+  return teksti.str();
+}
+
+void TallennaKuva(QWidget& ikkuna, const std::string& nimi) {
+  const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
+  if (kansio.isEmpty()) return;
+  QDir().mkpath(kansio);
+  EXPECT_TRUE(ikkuna.grab().save(kansio + '/' + QString::fromStdString(nimi) + ".png"));
+}
+
+void TallennaKuva(const Lomake& lomake) {
+  TallennaKuva(*static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri(), lomake.Nimi());
+}
+
+/// Takes the picture of the modal form that opens next, lets `katso` use it and presses its button.
+void KunAuki(const char* nappi, const std::function<void(Lomake&)>& katso = {}) {
+  QTimer::singleShot(0, [=] {
+    Lomake& lomake = *AvoimetLomakkeet().back();
+    TallennaKuva(lomake);
+    if (katso) katso(lomake);
+    lomake.Etsi(nappi).KayttajaPainaa();
+  });
+}
+
+/// The sample school of the guide, opened from a copy.
+class OppaanEsimerkki : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    AsetaViestit(&viestit_);
+    ikkuna_ = std::make_unique<frmMain>(istunto_);
+    ikkuna_->resize(900, 640);
+    ikkuna_->AsetaPaneeli(Teksti(1092));
+    ikkuna_->show();
+    const std::string koulu = koti_.Tiedosto("Koulu.lvt");
+    std::filesystem::copy_file(AppPath() + "Malliauditoinnit/K01 Koulu 1965.lvt", koulu);
+    ASSERT_TRUE(istunto_.Avaa(koulu));
+    rakennus().MuuLampo = kVakioOsuus;
+    rakennus().Perustiedot.LammKulVakioOsuus.kkOsuus = kVakioOsuus / 12;
+    rakennus().Perustiedot.LammKulVakioOsuus.VuosiOsuus = kVakioOsuus;
+  }
+  void TearDown() override {
+    istunto_.SuljeKohde();
+    ikkuna_.reset();
+    AsetaViestit(nullptr);
+  }
+  clsRakennus& rakennus() { return *istunto_.Rakennus(); }
+  clsTila& tila() { return *rakennus().Tilat.begin(); }
+
+  Koekoti koti_;
+  KerataanViestit viestit_;
+  Istunto istunto_;
+  std::unique_ptr<frmMain> ikkuna_;
+};
+
+TEST_F(OppaanEsimerkki, PerustiedotJaVakioOsuus) {
+  KunAuki("cmdPeruuta", [](Lomake& perustiedot) {
+    EXPECT_NE(OppaanSivu("tyonkulku.md").find(perustiedot.Etsi("txtLampo1").Teksti()), std::string::npos);
+    KunAuki("cmdPeruuta");
+    perustiedot.Etsi("cmdVakioOsuus").KayttajaPainaa();
+  });
+  EXPECT_TRUE(rakennus().Perustiedot.NaytaKayttoliityma());
+}
+
+TEST_F(OppaanEsimerkki, LampoyhteenvedonLuvutOvatOppaanLukuja) {
+  rakennus().NaytaLampoYhteenvetoDlg();
+  ikkuna_->PaivitaValikot();
+  QApplication::processEvents();
+  TallennaKuva(*ikkuna_, "paaikkuna");
+  const Lomake& yhteenveto = *AvoinLomake("frmLampoYhteenveto");
+  TallennaKuva(yhteenveto);
+  const std::string opas = OppaanSivu("lampoyhteenveto.md");
+  for (const char* kentta : {"txtTilojenLammitys", "txtIlmanvaihtokoneet", "txtYhteensa", "txtToteutunutKulutus",
+                             "txtHaviot", "txtHaviotYhteensa"})
+    EXPECT_NE(opas.find(yhteenveto.Etsi(kentta).Teksti()), std::string::npos)
+        << kentta << ": " << yhteenveto.Etsi(kentta).Teksti();
+  for (const char* nappi : {"Command4", "cmdNaytaGraafi"}) {
+    KunAuki("cmdSulje");
+    yhteenveto.Etsi(nappi).KayttajaPainaa();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+  }
+}
+
+TEST_F(OppaanEsimerkki, KuukausitaseenLuvutOvatOppaanLukuja) {
+  KunAuki("cmdSulje");
+  NaytaKuukausitase(rakennus());
+  const Kuukausitase tase = LaskeKuukausitase(rakennus());
+  const std::string opas = OppaanSivu("lampotase.md");
+  constexpr std::size_t kTammi = 0, kHeina = 6;
+  for (const double luku :
+       {tase[Tasetermi::Vuotoilma][kTammi], tase[Tasetermi::Ilmanvaihtokoneet][kTammi], tase[Tasetermi::Haviot][kTammi],
+        tase[Tasetermi::Kuormat][kTammi], tase[Tasetermi::Tarve][kTammi], tase[Tasetermi::Haviot][kHeina],
+        tase[Tasetermi::Kuormat][kHeina]})
+    EXPECT_NE(opas.find(Muotoile(luku, "### ##0")), std::string::npos) << Muotoile(luku, "### ##0");
+  for (const double luku : {tase.NormitettuTarve(), tase.Vuosi(Tasetermi::Tarve) / 1000,
+                            tase.Vuosi(Tasetermi::HyodynnetytKuormat) / 1000, tila().VuotuisetSaatohaviot()})
+    EXPECT_NE(opas.find(Muotoile(luku, "0.0")), std::string::npos) << Muotoile(luku, "0.0");
+  EXPECT_NE(OppaanSivu("johtuminen.md").find(Muotoile((*tila().Rakenteet.begin()).LampoHaviot(21, 0), "### ##0")),
+            std::string::npos);
+}
+
+}  // namespace
