@@ -62,7 +62,7 @@ struct Tila {
 
 template <class F>
 double Toista(double& summa, F&& kierros) {
-  return Kesto([&] {
+  return Suoritinaika([&] {
     summa = 0;
     for (int i = 0; i < kKierroksia; ++i) summa += kierros();
     Kayta(summa);

@@ -37,17 +37,17 @@ Vertailupari Kopiointipari(clsRakennus& rakennus) {
   auto tila = std::make_shared<Tila>(rakennus);
   return {[tila] {
             std::unique_ptr<clsRakennus> kopio;
-            double kesto = Kesto([&] { kopio = tila->rakennus.Kopioi(); });
+            double kesto = Suoritinaika([&] { kopio = tila->rakennus.Kopioi(); });
             tila->tiloja = kopio->Tilat.Count();
             tila->ala = kopio->Tilat.BruttoAlaYht();
-            kesto += Kesto([&] {
+            kesto += Suoritinaika([&] {
               kopio->Delete();
               kopio.reset();
             });
             return kesto;
           },
           [tila] {
-            return Kesto([&] {
+            return Suoritinaika([&] {
               std::memcpy(tila->kohde.data(), tila->lahde.data(), tila->lahde.size());
               Kayta(tila->kohde[tila->kohde.size() / 2]);
             });

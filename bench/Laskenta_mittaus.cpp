@@ -42,9 +42,9 @@ Vertailupari Laskentapari(clsRakennus& rakennus) {
     Vertailulaskenta::Tulos oma, toinen;
   };
   auto tila = std::make_shared<Tila>(rakennus);
-  return {[tila] { return Kesto([&] { tila->oma = Laske(tila->rakennus); }); },
+  return {[tila] { return Suoritinaika([&] { tila->oma = Laske(tila->rakennus); }); },
           [tila] {
-            return Kesto([&] {
+            return Suoritinaika([&] {
               tila->toinen = tila->vertailu.Laske();
               Kayta(tila->toinen);
             });

@@ -40,9 +40,11 @@ class Taulukko : public benchmark::BenchmarkReporter {
       return it == ajo.counters.end() ? 0.0 : static_cast<double>(it->second);
     };
     const double suhde = luku("suhde"), tavoite = luku("tavoite");
-    const bool kaltevuus = luku("kaltevuus") != 0;
-    const std::string oma = kaltevuus ? Luku(luku("meidan_s")) : Aika(luku("meidan_s"));
-    const std::string toinen = kaltevuus ? Luku(luku("vertailu_s")) : Aika(luku("vertailu_s"));
+    const bool kaltevuus = luku("kaltevuus") != 0, megatavuja = luku("megatavuja") != 0;
+    const auto nayta = [&](double arvo) {
+      return kaltevuus ? Luku(arvo) : megatavuja ? Luku(arvo) + " MB" : Aika(arvo);
+    };
+    const std::string oma = nayta(luku("meidan_s")), toinen = nayta(luku("vertailu_s"));
     std::printf("| %s | %s | %s | %s | %s | %s | %s | %s |\n", mika.c_str(), vertailu.c_str(), oma.c_str(),
                 toinen.c_str(), Luku(suhde).c_str(), kaltevuus ? "" : Luku(luku("kohina")).c_str(),
                 Luku(tavoite).c_str(), suhde <= tavoite ? "met" : "MISSED");

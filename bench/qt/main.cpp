@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// lumivirta-bench-qt: start to the first frame and memory with an open project, beside a bare window. See
+// docs/performance.md.
+#include <QApplication>
+#include <QTemporaryDir>
+#include <cstdlib>
+#include <iostream>
+
+#include "bench/Parit.h"
+#include "bench/Taulukko.h"
+#include "bench/qt/Ikkunat.h"
+#include "ui/KerataanViestit.h"
+
+namespace mittaus {
+
+namespace {
+
+constexpr double kAloitustavoite = 1.25, kMuistitavoite = 1.4;
+
+void Aloitus(benchmark::State& state) {
+  QSize oma, toinen;
+  MittaaParit(
+      state, kAloitustavoite,
+      [&] {
+        std::unique_ptr<Ohjelmaikkuna> ohjelma;
+        const double kesto = Kesto([&] {
+          ohjelma = std::make_unique<Ohjelmaikkuna>();
+          Nayta(*ohjelma->ikkuna);
+        });
+        oma = ohjelma->ikkuna->size();
+        return kesto;
+      },
+      [&] {
+        std::unique_ptr<QMainWindow> ikkuna;
+        const double kesto = Kesto([&] {
+          ikkuna = TeePaljasIkkuna();
+          Nayta(*ikkuna);
+        });
+        toinen = ikkuna->size();
+        return kesto;
+      },
+      [&] {
+        if (oma.isEmpty() || toinen.isEmpty()) throw std::runtime_error("a window has no size");
+      });
+}
+
+/// From the start of the process, the loading of the program and its libraries included.
+void Prosessi(benchmark::State& state) {
+  MittaaParit(
+      state, kAloitustavoite, [] { return Rooliajo(kOhjelma).kesto; }, [] { return Rooliajo(kPaljas).kesto; }, [] {});
+}
+
+/// Megabytes stand where other benchmarks have seconds.
+void Muisti(benchmark::State& state) {
+  MittaaParit(
+      state, kMuistitavoite, [] { return Rooliajo(kAvattu).muisti; }, [] { return Rooliajo(kPaljas).muisti; }, [] {});
+  state.counters["megatavuja"] = 1;
+}
+
+}  // namespace
+
+}  // namespace mittaus
+
+int main(int argc, char** argv) try {
+  const QTemporaryDir asetukset;
+  for (const char* muuttuja : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+    setenv(muuttuja, asetukset.path().toUtf8().constData(), 1);
+  QApplication sovellus(argc, argv);
+  KerataanViestit viestit;
+  AsetaViestit(&viestit);
+  if (argc == 2 && std::string_view(argv[1]).starts_with("--rooli")) return mittaus::AjaRooli(argv[1]);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+  mittaus::IlmoitaParit("start to the first frame; QMainWindow with a QMdiArea", mittaus::Aloitus);
+  mittaus::IlmoitaParit("start of the process to the first frame; process of the same bare window", mittaus::Prosessi);
+  mittaus::IlmoitaParit("memory with a project open; the same bare window", mittaus::Muisti);
+  mittaus::Taulukko taulukko;
+  benchmark::RunSpecifiedBenchmarks(&taulukko);
+  return taulukko.Epaonnistui() ? 1 : 0;
+} catch (const std::exception& virhe) {
+  std::cerr << "lumivirta-bench-qt: " << virhe.what() << '\n';
+  return 1;
+}
