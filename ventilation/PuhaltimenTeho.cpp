@@ -11,12 +11,21 @@
 
 namespace {
 
+constexpr double kTaysi = 100;                                // %
 constexpr double kPieninOsavirta = 33, kSuurinOsavirta = 66;  // %
 constexpr double kMoottorinYlimitoitus = 1.3;
 constexpr double kOsanopeudenLisa = 1.2;
 constexpr int kOsavirtavirhe = 1014;
 
 }  // namespace
+
+double PuhaltimenTeho::Teho(double x) {
+  for (const Virranteho& kysytty : muisti_)
+    if (kysytty.x == x) return kysytty.teho;
+  const double teho = jarjestelma_ == Kaksinopeus && x >= kTaysi ? Taysteho() : Osateho(x);
+  muisti_[seuraava_++ % muisti_.size()] = {x, teho};
+  return teho;
+}
 
 double PuhaltimenTeho::Osateho(double x) {
   switch (jarjestelma_) {

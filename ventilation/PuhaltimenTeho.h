@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <array>
+#include <limits>
 #include <optional>
 
 #include "ventilation/clsMivSaato.h"
 
-/// Electric power of one fan at any flow. The operating point at full flow is found once, when it is first needed.
+/// Electric power of one fan at any flow. The operating point at full flow is found once, when it is first needed; the
+/// powers of the flows asked last are kept, since a schedule runs the fan at few flows, over and over.
 class PuhaltimenTeho {
  public:
   enum Jarjestelma : std::int32_t { Vakioilmavirta = 0, Kaksinopeus = 1, MuuttuvaIlmavirta = 2 };
@@ -16,7 +19,7 @@ class PuhaltimenTeho {
   double Taysteho() const noexcept { return saato_.P1; }  ///< kW
   /// Power in a running period of x % flow, kW. A constant-flow fan has its full power at any flow, a two-speed one
   /// from 100 % on.
-  double Teho(double x) { return jarjestelma_ == Kaksinopeus && x >= kTaysi ? Taysteho() : Osateho(x); }
+  double Teho(double x);
   /// Power at a part flow of x %, kW; that of a constant-flow fan is its full power.
   double Osateho(double x);
 
@@ -27,11 +30,15 @@ class PuhaltimenTeho {
   double MivPuhaltimenOsateho(double x);
 
  private:
-  static constexpr double kTaysi = 100;  // %
+  struct Virranteho {
+    double x = std::numeric_limits<double>::quiet_NaN(), teho = 0;  // %, kW
+  };
 
   clsMivSaato::Toimintapiste KaksinopeuksinenPiste() const;
 
   std::int32_t jarjestelma_;
   clsMivSaato saato_;
   std::optional<clsMivSaato::Toimintapiste> piste_;
+  std::array<Virranteho, 8> muisti_;
+  std::size_t seuraava_ = 0;
 };

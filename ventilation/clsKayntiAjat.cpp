@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 
+#include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
 
 namespace {
@@ -48,10 +49,11 @@ void clsKayntiAjat::LuoJaksot(double Tsp, double dTPuhallin) try {
 /// Sum over the periods that count in the month.
 template <class F>
 double clsKayntiAjat::Summa(int kuukausi, std::int32_t syottotapa, F&& arvo) const {
+  TarkistaKuukausi(kuukausi);
+  const int vuosijakso = syottotapa == 0 ? clsKayntiAika::KokoVuosi : MuunnaKuukausiJaksoksi(kuukausi);
   double summa = 0;
   for (const clsKayntiAika& jakso : *this)
-    if ((jakso.Jakso == clsKayntiAika::KokoVuosi) == (syottotapa == 0) && jakso.KuuluuKuukauteen(kuukausi))
-      summa += arvo(jakso);
+    if (jakso.Jakso == vuosijakso) summa += arvo(jakso);
   return summa;
 }
 
