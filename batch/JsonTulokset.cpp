@@ -17,10 +17,14 @@ struct Kuukausitulos {
   double (*arvo)(C&, int);
 };
 
-#define VUOSI(C, nimi) \
-  { #nimi, [](C& o) { return o.nimi(); } }
-#define KUUKAUSI(C, nimi) \
-  { #nimi, [](C& o, int m) { return o.nimi(m); } }
+#define VUOSI(C, nimi)                    \
+  {                                       \
+#nimi, [](C & o) { return o.nimi(); } \
+  }
+#define KUUKAUSI(C, nimi)                         \
+  {                                               \
+#nimi, [](C & o, int m) { return o.nimi(m); } \
+  }
 
 constexpr Vuositulos<clsRakennus> kRakennuksenVuosi[] = {
     VUOSI(clsRakennus, VuotuinenIVjalkilammitysLampo),
@@ -43,25 +47,34 @@ constexpr Vuositulos<clsRakennus> kRakennuksenVuosi[] = {
 };
 
 constexpr Kuukausitulos<clsRakennus> kRakennuksenKuukaudet[] = {
-    KUUKAUSI(clsRakennus, LampoHaviotTilatKk), KUUKAUSI(clsRakennus, LampoEnergianTarveTilatKk),
-    KUUKAUSI(clsRakennus, AurinkoKuorma),      KUUKAUSI(clsRakennus, LampoHaviotIVKk),
-    KUUKAUSI(clsRakennus, HyodynnetytLampoKuormatKk), KUUKAUSI(clsRakennus, LammonTuotonHaviotKk),
-    KUUKAUSI(clsRakennus, LKVHaviotKk),        KUUKAUSI(clsRakennus, ProsessiVesiHaviotKk),
+    KUUKAUSI(clsRakennus, LampoHaviotTilatKk),
+    KUUKAUSI(clsRakennus, LampoEnergianTarveTilatKk),
+    KUUKAUSI(clsRakennus, AurinkoKuorma),
+    KUUKAUSI(clsRakennus, LampoHaviotIVKk),
+    KUUKAUSI(clsRakennus, HyodynnetytLampoKuormatKk),
+    KUUKAUSI(clsRakennus, LammonTuotonHaviotKk),
+    KUUKAUSI(clsRakennus, LKVHaviotKk),
+    KUUKAUSI(clsRakennus, ProsessiVesiHaviotKk),
 };
 
 constexpr Kuukausitulos<clsTila> kTilanKuukaudet[] = {
-    KUUKAUSI(clsTila, JohtumisHaviot),    KUUKAUSI(clsTila, IVHaviotTilassa),
-    KUUKAUSI(clsTila, LampoHaviot),       KUUKAUSI(clsTila, SahkoKuorma),
-    KUUKAUSI(clsTila, HenkiloKuorma),     KUUKAUSI(clsTila, AurinkoKuorma),
-    KUUKAUSI(clsTila, IVKoneLampoKuorma), KUUKAUSI(clsTila, IdeaalinenHyvaksiKayttoAste),
-    KUUKAUSI(clsTila, HyodynnetytLampoKuormat), KUUKAUSI(clsTila, LampoEnergianTarve),
+    KUUKAUSI(clsTila, JohtumisHaviot),
+    KUUKAUSI(clsTila, IVHaviotTilassa),
+    KUUKAUSI(clsTila, LampoHaviot),
+    KUUKAUSI(clsTila, SahkoKuorma),
+    KUUKAUSI(clsTila, HenkiloKuorma),
+    KUUKAUSI(clsTila, AurinkoKuorma),
+    KUUKAUSI(clsTila, IVKoneLampoKuorma),
+    KUUKAUSI(clsTila, IdeaalinenHyvaksiKayttoAste),
+    KUUKAUSI(clsTila, HyodynnetytLampoKuormat),
+    KUUKAUSI(clsTila, LampoEnergianTarve),
 };
 
 constexpr Vuositulos<clsTila> kTilanVuosi[] = {
-    VUOSI(clsTila, VuotuisetJohtumisHaviot),  VUOSI(clsTila, VuotuisetIVHaviotTilassa),
-    VUOSI(clsTila, VuotuisetLampoHaviot),     VUOSI(clsTila, VuotuinenSahkoKuorma),
-    VUOSI(clsTila, VuotuinenHenkiloKuorma),   VUOSI(clsTila, VuotuinenAurinkoKuorma),
-    VUOSI(clsTila, VuotuinenIVKoneLampoKuorma), VUOSI(clsTila, VuotuisetHyodynnetytLampoKuormat),
+    VUOSI(clsTila, VuotuisetJohtumisHaviot),     VUOSI(clsTila, VuotuisetIVHaviotTilassa),
+    VUOSI(clsTila, VuotuisetLampoHaviot),        VUOSI(clsTila, VuotuinenSahkoKuorma),
+    VUOSI(clsTila, VuotuinenHenkiloKuorma),      VUOSI(clsTila, VuotuinenAurinkoKuorma),
+    VUOSI(clsTila, VuotuinenIVKoneLampoKuorma),  VUOSI(clsTila, VuotuisetHyodynnetytLampoKuormat),
     VUOSI(clsTila, VuotuinenLampoEnergianTarve), VUOSI(clsTila, VuotuisetSaatohaviot),
 };
 
@@ -73,10 +86,8 @@ constexpr Vuositulos<clsIVKoneet> kKoneidenVuosi[] = {
 };
 
 constexpr Kuukausitulos<clsIVKone> kKoneenKuukaudet[] = {
-    KUUKAUSI(clsIVKone, IV_LammEnergia),
-    KUUKAUSI(clsIVKone, LtoEnergia),
-    KUUKAUSI(clsIVKone, SahkoPatterinEnergia),
-    KUUKAUSI(clsIVKone, VesikiertoisenLampoPatterinEnergia),
+    KUUKAUSI(clsIVKone, IV_LammEnergia),       KUUKAUSI(clsIVKone, LtoEnergia),
+    KUUKAUSI(clsIVKone, SahkoPatterinEnergia), KUUKAUSI(clsIVKone, VesikiertoisenLampoPatterinEnergia),
     KUUKAUSI(clsIVKone, PuhallinSahko),
 };
 

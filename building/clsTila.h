@@ -21,24 +21,24 @@ class clsTila : public Malli<clsTila, Alkio> {
   using Koneet = std::vector<clsIVKone*>;
 
   std::string TilanNimi;
-  double Kokonaistilavuus = 0;             ///< m³
-  double BruttoAla = 1.0;                  ///< gross floor area, m²
-  double TilanHenkilomaara = 0;            ///< persons present during the hours of use
-  std::int32_t TilanKayttoaikaID = 0;      ///< index of the choice of hours of use
-  std::string TilanKayttoaikaStr;          ///< text of that choice
-  double TilanKayttoaikaHpA = 2200.0;      ///< hours of use, h/a
-  double Sisalampotila = 21.0;             ///< indoor set-point, °C
-  bool Sahkolammitys = false;              ///< heated electrically
-  std::string Kuvausteksti;                ///< free description
-  bool LammitettyTila = true;              ///< heated
-  double PainovoimainenIVMaara = 0.45;     ///< natural ventilation, 1/h
-  double Vuotoilmanvaihto = 0.1;           ///< leakage, 1/h
-  bool PainovoimainenIlmanvaihto = false;  ///< natural ventilation in place of machines
-  std::int32_t SaatotapaID = 1;            ///< control method of the heat distribution
-  std::string SaatotapaStr;                ///< text of that choice
-  double Saatohyotysuhde = 80.0;           ///< control efficiency, %; not limited
+  double Kokonaistilavuus = 0;               ///< m³
+  double BruttoAla = 1.0;                    ///< gross floor area, m²
+  double TilanHenkilomaara = 0;              ///< persons present during the hours of use
+  std::int32_t TilanKayttoaikaID = 0;        ///< index of the choice of hours of use
+  std::string TilanKayttoaikaStr;            ///< text of that choice
+  double TilanKayttoaikaHpA = 2200.0;        ///< hours of use, h/a
+  double Sisalampotila = 21.0;               ///< indoor set-point, °C
+  bool Sahkolammitys = false;                ///< heated electrically
+  std::string Kuvausteksti;                  ///< free description
+  bool LammitettyTila = true;                ///< heated
+  double PainovoimainenIVMaara = 0.45;       ///< natural ventilation, 1/h
+  double Vuotoilmanvaihto = 0.1;             ///< leakage, 1/h
+  bool PainovoimainenIlmanvaihto = false;    ///< natural ventilation in place of machines
+  std::int32_t SaatotapaID = 1;              ///< control method of the heat distribution
+  std::string SaatotapaStr;                  ///< text of that choice
+  double Saatohyotysuhde = 80.0;             ///< control efficiency, %; not limited
   std::int32_t RakenteidenDynamiikkaID = 0;  ///< massiveness: for show
-  std::string RakenteidenDynamiikkaStr;    ///< text of that choice
+  std::string RakenteidenDynamiikkaStr;      ///< text of that choice
   clsRakenteet Rakenteet;
 
   /// At the OK of the space's dialog.
@@ -83,8 +83,8 @@ class clsTila : public Malli<clsTila, Alkio> {
   double VuotuinenAurinkoKuorma();
   double VuotuinenIVKoneLampoKuorma();
   double VuotuisetHyodynnetytLampoKuormat();
-  /// Heat demand of the year, MWh, scaled by the locality's degree days / the zone's. 0 with error 1044 when the weather
-  /// has none.
+  /// Heat demand of the year, MWh, scaled by the locality's degree days / the zone's. 0 with error 1044 when the
+  /// weather has none.
   double VuotuinenLampoEnergianTarve();
   /// Utilised gains that the control of heat distribution fails to save, MWh.  Source: building code D5.
   double VuotuisetSaatohaviot();

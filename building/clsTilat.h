@@ -32,7 +32,8 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   /// Fills the solar, ventilation and conduction caches of every space.
   void PaivitaTilojenLampotaseenLahtotiedot();
 
-  /// Opens the list of spaces, or brings it to front: not modal, one at a time. What is done there takes effect at once.
+  /// Opens the list of spaces, or brings it to front: not modal, one at a time. What is done there takes effect at
+  /// once.
   void NaytaKayttoliittyma();
   void LueDataluokka();
   void KirjoitaDataluokka();
