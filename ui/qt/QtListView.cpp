@@ -25,6 +25,8 @@ bool OnOmaNappain(const QKeyEvent& tapahtuma) {
 
 QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista)
     : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
+  for (int s = 0; s < lista.columnCount(); ++s)
+    tasaukset_.push_back(Qt::Alignment(lista.headerItem()->textAlignment(s)));
   lista.setRootIsDecorated(false);
   lista.setUniformRowHeights(true);
   lista.setAllColumnsShowFocus(true);
@@ -97,6 +99,7 @@ void QtListView::NaytaRivit() {
   const auto rivia = static_cast<int>(Jarjestys().size()) + (Summarivi().empty() ? 0 : 1);
   while (lista_.topLevelItemCount() > rivia) delete lista_.takeTopLevelItem(rivia);
   while (lista_.topLevelItemCount() < rivia) lista_.addTopLevelItem(new QTreeWidgetItem);
+  for (int s = 0; s < lista_.columnCount(); ++s) lista_.headerItem()->setTextAlignment(s, Tasaus(s));
   int paikka = 0;
   for (const int rivi : Jarjestys()) {
     lista_.topLevelItem(paikka)->setData(0, kRivinumero, rivi);
@@ -134,9 +137,8 @@ void QtListView::MuotoileSummarivi(QTreeWidgetItem& rivi) const {
 }
 
 Qt::Alignment QtListView::Tasaus(int sarake) const {
-  const bool luku = OnLukusarake(Rivit(), static_cast<std::size_t>(sarake));
-  const auto tasaus = luku ? Qt::AlignRight : Qt::Alignment(lista_.headerItem()->textAlignment(sarake));
-  return tasaus | Qt::AlignVCenter;
+  const auto s = static_cast<std::size_t>(sarake);
+  return (OnLukusarake(Rivit(), s) ? Qt::AlignRight : tasaukset_[s]) | Qt::AlignVCenter;
 }
 
 void QtListView::NaytaIndeksi() {

@@ -30,5 +30,6 @@ class QtListView : public QtOhjain {
   Qt::Alignment Tasaus(int sarake) const;
 
   QTreeWidget& lista_;
-  bool mitoitettu_ = false;  // later the widths are the person's
+  std::vector<Qt::Alignment> tasaukset_;  // of the columns of texts, as the form file has them
+  bool mitoitettu_ = false;               // later the widths are the person's
 };

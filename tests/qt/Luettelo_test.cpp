@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Lists under the person's hands: sorting, choosing, copying, pasting; the dialogs of spaces and structures filled.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "ui/frmRakennekerroksenMuokkaaminen.h"
+#include "ui/frmRakenteet.h"
+#include "ui/frmTila.h"
+#include "ui/frmTilaYhteenveto.h"
+#include "ui/qt/QtIkkuna.h"
+#include "ui/qt/QtViestit.h"
+
+namespace {
+
+class Luettelo : public ::testing::Test {
+ protected:
+  void SetUp() override { AsetaQtLomakkeet(nullptr); }
+  void TearDown() override { AsetaLomakesovitin(nullptr); }
+
+  static QWidget& Juuri(const Lomake& lomake) { return *static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri(); }
+  template <class W>
+  static W& Etsi(const Lomake& lomake, const char* nimi) {
+    return *Juuri(lomake).findChild<W*>(nimi);
+  }
+  static void Nayta(Lomake& lomake) {
+    lomake.Nayta();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Juuri(lomake).window()));
+  }
+  static void Napsauta(QTreeWidget& lista, int rivi, Qt::KeyboardModifiers muunnin = {}) {
+    QTest::mouseClick(lista.viewport(), Qt::LeftButton, muunnin,
+                      lista.visualItemRect(lista.topLevelItem(rivi)).center());
+    QCoreApplication::processEvents();
+  }
+  static void NapsautaOtsikkoa(QTreeWidget& lista, int sarake) {
+    QHeaderView& otsikot = *lista.header();
+    QTest::mouseClick(otsikot.viewport(), Qt::LeftButton, {},
+                      QPoint(otsikot.sectionViewportPosition(sarake) + 10, otsikot.height() / 2));
+  }
+  static QStringList Sarake(const QTreeWidget& lista, int sarake) {
+    QStringList solut;
+    for (int i = 0; i < lista.topLevelItemCount(); ++i) solut << lista.topLevelItem(i)->text(sarake);
+    return solut;
+  }
+  static QString Leikepoyta() { return QGuiApplication::clipboard()->text(); }
+
+  QtViestit viestit_;
+};
+
+class Tilaluettelo : public Luettelo {
+ protected:
+  Tilaluettelo() {
+    AsetaQtLomakkeet(nullptr);
+    lomake_ = std::make_unique<frmTilaYhteenveto>();
+    lomake_->lvwTilat.Rivit({{"Öljyvarasto", "90"}, {"Sali", "1 000"}, {"Aula", "200"}});
+    lomake_->lvwTilat.Summarivi({"Yhteensä", "1 290"});
+    lomake_->lvwTilat.Indeksi(0);
+    lomake_->txtTotSahkoKuormaPros.Teksti("0");
+    lomake_->PaivitaNapit(false);
+    Nayta(*lomake_);
+  }
+  QTreeWidget& Lista() { return Etsi<QTreeWidget>(*lomake_, "lvwTilat"); }
+
+  std::unique_ptr<frmTilaYhteenveto> lomake_;
+};
+
+TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
+  NapsautaOtsikkoa(Lista(), 0);
+  EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Aula", "Sali", "Öljyvarasto", "Yhteensä"}));
+  EXPECT_EQ(lomake_->lvwTilat.Indeksi(), 0);
+  EXPECT_EQ(Lista().currentItem()->text(0), "Öljyvarasto") << "the chosen row moves with its number";
+  NapsautaOtsikkoa(Lista(), 1);
+  NapsautaOtsikkoa(Lista(), 1);
+  EXPECT_EQ(Sarake(Lista(), 1), QStringList({"1 000", "200", "90", "1 290"}));
+  Napsauta(Lista(), 0);
+  EXPECT_EQ(lomake_->lvwTilat.Indeksi(), 1);
+  Napsauta(Lista(), 3);
+  EXPECT_NE(lomake_->lvwTilat.Indeksi(), 3) << "the sums can't be chosen";
+  QTest::keyClick(&Lista(), Qt::Key_End);
+  EXPECT_EQ(Lista().currentItem()->text(0), "Öljyvarasto");
+}
+
+TEST_F(Tilaluettelo, ValitutRivitTaiKaikkiLeikepoydalle) {
+  Napsauta(Lista(), 0);
+  Napsauta(Lista(), 1, Qt::ShiftModifier);
+  QTest::keyClick(&Lista(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(Leikepoyta().startsWith("Tila\tTilavuus (m³)\t")) << Leikepoyta().toStdString();
+  EXPECT_TRUE(Leikepoyta().endsWith("\nÖljyvarasto\t90\nSali\t1000\n")) << Leikepoyta().toStdString();
+  Lista().clearSelection();
+  QTest::keyClick(&Lista(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(Leikepoyta().endsWith("Aula\t200\nYhteensä\t1290\n")) << Leikepoyta().toStdString();
+}
+
+TEST_F(Tilaluettelo, EnterJaKaksoisnapsautusMuokkaavatEivatkaSulje) {
+  int muokattu = 0;
+  lomake_->MuokkaaKlikattu = [&] { ++muokattu; };
+  Napsauta(Lista(), 1);
+  QTest::keyClick(&Lista(), Qt::Key_Return);
+  EXPECT_EQ(muokattu, 1);
+  EXPECT_TRUE(lomake_->Auki());
+  Napsauta(Lista(), 2);
+  QTest::mouseDClick(Lista().viewport(), Qt::LeftButton, {}, Lista().visualItemRect(Lista().topLevelItem(2)).center());
+  EXPECT_EQ(muokattu, 2);
+  EXPECT_EQ(lomake_->lvwTilat.Indeksi(), 2);
+}
+
+class Rakenneluettelo : public Luettelo {
+ protected:
+  Rakenneluettelo() {
+    AsetaQtLomakkeet(nullptr);
+    lomake_ = std::make_unique<frmRakenteet>();
+    lomake_->lvwRakenteet.Rivit({{"Seinä", "Ulkoseinä", "12"}, {"Ovi", "Ovi", "2"}});
+    lomake_->ValitseRakenne(0);
+    for (const auto& ohjain : lomake_->Ohjaimet())
+      if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("1");
+    lomake_->PaivitaKentat({.valittu = true});
+  }
+  QTreeWidget& Lista() { return Etsi<QTreeWidget>(*lomake_, "lvwRakenteet"); }
+
+  std::unique_ptr<frmRakenteet> lomake_;
+};
+
+TEST_F(Rakenneluettelo, VirheellinenKenttaPalauttaaValinnan) {
+  Nayta(*lomake_);
+  int valintoja = 0;
+  lomake_->RakenneValittu = [&] { ++valintoja; };
+  Napsauta(Lista(), 1);
+  EXPECT_EQ(valintoja, 1);
+  auto& ala = Etsi<QLineEdit>(*lomake_, "txtRakenneala");
+  ala.setFocus();
+  QTest::keyClicks(&ala, "x");
+  QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+  Napsauta(Lista(), 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(valintoja, 1);
+  EXPECT_EQ(Lista().currentItem()->text(0), "Ovi");
+  EXPECT_EQ(Lista().selectedItems().size(), 1);
+  EXPECT_TRUE(Lista().topLevelItem(1)->isSelected()) << "what is shown as chosen is what the fields tell of";
+}
+
+TEST_F(Rakenneluettelo, LiitetytRivitTulevatLomakkeelle) {
+  Nayta(*lomake_);
+  Taulukko rivit;
+  lomake_->RivitLiitetty = [&](const Taulukko& liitetyt) { rivit = liitetyt; };
+  QGuiApplication::clipboard()->setText("Nimi\tPinta-ala\r\nSeinä\t1 200,5\r\n");
+  QTest::keyClick(&Lista(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(rivit, (Taulukko{{"Nimi", "Pinta-ala"}, {"Seinä", "1 200,5"}}));
+}
+
+TEST_F(Rakenneluettelo, SuljettuSivuEiAukeaJaAuetessaanSailyttaaSivun) {
+  Nayta(*lomake_);
+  auto& sivut = Etsi<QTabWidget>(*lomake_, "tabRakenne");
+  EXPECT_FALSE(sivut.isTabEnabled(2));
+  lomake_->PaivitaKentat({.valittu = true, .ikkuna = true});
+  EXPECT_TRUE(sivut.isTabEnabled(2));
+  EXPECT_TRUE(Etsi<QWidget>(*lomake_, "cmbSuuntaus").isVisible());
+  lomake_->tabRakenne.Indeksi(2);
+  EXPECT_EQ(sivut.currentIndex(), 2);
+  lomake_->PaivitaKentat({.valittu = true});
+  EXPECT_EQ(sivut.currentIndex(), 0) << "no one is left on a closed page";
+}
+
+}  // namespace
