@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The library's real windows with shipped entries. With LUMIVIRTA_KUVAT=<folder> their pictures are left there.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+
+#include "library/server/Materiaaliselain.h"
+#include "library/server/Rakenneselain.h"
+#include "tests/palvelin/Koekirjasto.h"
+#include "ui/KerataanViestit.h"
+#include "ui/qt/QtIkkuna.h"
+
+namespace {
+
+class Kirjastoikkunat : public testing::Test {
+ protected:
+  Kirjastoikkunat() {
+    AsetaViestit(&viestit_);
+    AsetaQtLomakkeet(nullptr);
+  }
+  ~Kirjastoikkunat() override {
+    AsetaLomakesovitin(nullptr);
+    AsetaViestit(nullptr);
+  }
+
+  static Lomake& Auki(const char* nimi) { return *AvoinLomake(nimi); }
+  /// The window fits a small screen also when it is full.
+  static void Katso(const char* nimi) {
+    QApplication::processEvents();
+    const QWidget* juuri = static_cast<QtIkkuna&>(Auki(nimi).Ikkuna()).Juuri();
+    EXPECT_LE(juuri->width(), 1000) << nimi;
+    EXPECT_LE(juuri->height(), 700) << nimi;
+    const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
+    if (kansio.isEmpty()) return;
+    QDir().mkpath(kansio);
+    EXPECT_TRUE(juuri->window()->grab().save(kansio + '/' + nimi + ".png"));
+  }
+
+  Koekirjasto koe_;
+  KerataanViestit viestit_;
+};
+
+TEST_F(Kirjastoikkunat, FitASmallScreenWhenFull) {
+  const auto avaus = [this](std::string alku) {
+    return Selaimenavaus{{koe_.Oma(), koe_.Vakio()}, true, std::move(alku), {}};
+  };
+  Rakenneselain rakenteet(avaus("Ulkoseinä"), {});
+  rakenteet.Nayta();
+  Lomake& lista = Auki("frmRakennekirjasto");
+  lista.Etsi("txtHaku").KayttajaKirjoittaa("puurunko");
+  Katso("frmRakennekirjasto");
+  lista.Etsi("cmdKopioi").KayttajaPainaa();
+  lista.Etsi("cmdMuokkaa").KayttajaPainaa();
+  Katso("frmKirjastorakenne");
+  Auki("frmKirjastorakenne").Etsi("tabRakenne").KayttajaValitsee(1);
+  Auki("frmKirjastorakenne").Etsi("tabRakenne").Indeksi(1);
+  Auki("frmKirjastorakenne").Etsi("lvwKerrokset").KayttajaValitsee(1);
+  Katso("frmKirjastorakenne");
+
+  Materiaaliselain materiaalit(avaus("Puu, havupuu 500"), {});
+  materiaalit.Nayta();
+  Katso("frmMateriaalikirjasto");
+  Auki("frmMateriaalikirjasto").Etsi("cmdKopioi").KayttajaPainaa();
+  Auki("frmMateriaalikirjasto").Etsi("cmdMuokkaa").KayttajaPainaa();
+  Katso("frmKirjastomateriaali");
+  EXPECT_TRUE(viestit_.Naytetyt().empty());
+}
+
+/// Another program's window mustn't take this one along when it goes.
+TEST_F(Kirjastoikkunat, WindowsOfTwoProgramsLiveApart) {
+  auto ensin = std::make_unique<Rakenneselain>(Selaimenavaus{{koe_.Oma(), koe_.Vakio()}}, nullptr);
+  ensin->Nayta();
+  QApplication::processEvents();
+  Materiaaliselain sitten(Selaimenavaus{{koe_.Oma(), koe_.Vakio()}}, nullptr);
+  sitten.Nayta();
+  QApplication::processEvents();
+  ensin.reset();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+  const QWidget* juuri = static_cast<QtIkkuna&>(Auki("frmMateriaalikirjasto").Ikkuna()).Juuri();
+  ASSERT_NE(juuri, nullptr);
+  EXPECT_TRUE(juuri->isVisible());
+}
+
+}  // namespace
