@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int kOtsikko = 2920, kTase = 2923, kYksikko = 2924, kVuosi = 2925, kKokoRakennus = 2937, kNormitettu = 2938,
-              kEiNormitettavissa = 2939, kTammi = 2940, kEnsimmainenTermi = 2960, kkWh = 2972, kProsentti = 2022;
+constexpr int kOtsikko = 2920, kTase = 2923, kVuosi = 2925, kKokoRakennus = 2937, kNormitettu = 2938,
+              kEiNormitettavissa = 2939, kTammi = 2940, kEnsimmainenTermi = 2960, kkWh = 2972;
 
 /// How a term is drawn: losses and gains in columns of their own, the demand as a line. Sums and shares aren't drawn.
 struct Sarja {
@@ -41,10 +41,10 @@ std::vector<std::string> KuukausienNimet() {
   return nimet;
 }
 
-/// Name, unit, months and the year of a term; `Solu` makes a cell of a number.
+/// Name, months and the year of a term; `Solu` makes a cell of a number.
 template <class Solu>
 auto TerminRivi(const Kuukausitase& tase, Tasetermi termi, Solu&& solu) {
-  std::vector<decltype(solu(0.0))> rivi = {TerminNimi(termi), Teksti(OnSuhde(termi) ? kProsentti : kkWh)};
+  std::vector<decltype(solu(0.0))> rivi = {TerminNimi(termi)};
   for (const double arvo : tase[termi]) rivi.push_back(solu(Naytettava(termi, arvo)));
   rivi.push_back(solu(Naytettava(termi, tase.Vuosi(termi))));
   return rivi;
@@ -65,7 +65,7 @@ Kaaviotiedot Kaavio(const Kuukausitase& tase, const std::string& nimi) {
 }
 
 Laskentataulukko Taulukoksi(const Kuukausitase& tase, const std::string& otsikko) {
-  Laskentataulukko taulukko{otsikko, {Teksti(kTase), Teksti(kYksikko)}, {}};
+  Laskentataulukko taulukko{otsikko, {Teksti(kTase)}, {}};
   for (std::string& nimi : KuukausienNimet()) taulukko.sarakkeet.push_back(std::move(nimi));
   taulukko.sarakkeet.push_back(Teksti(kVuosi));
   for (std::size_t i = 0; i < kTasetermeja; ++i)
@@ -79,9 +79,10 @@ void TaytaTaulukko(const frmKuukausitase& lomake, const Kuukausitase& tase) {
   const auto teksti = [](double arvo) { return Muotoile(arvo, "### ##0"); };
   std::vector<std::vector<std::string>> rivit;
   for (std::size_t i = 0; i < kTasetermeja; ++i) rivit.push_back(TerminRivi(tase, Termi(i), teksti));
-  lomake.lvwTase.Summarivi(rivit.back());  // the demand
+  const std::vector<std::string> tarve = std::move(rivit.back());
   rivit.pop_back();
   lomake.lvwTase.Rivit(std::move(rivit));
+  lomake.lvwTase.Summarivi(tarve);
 }
 
 void Nayta(const Kuukausitase& tase, const std::string& nimi) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The heat summary, and the first model of a new building.
+#include "building/Kuukausitase.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsRakennus.h"
 #include "building/modAlkuarvojaRakennukseen.h"
@@ -78,6 +79,7 @@ void clsRakennus::NaytaLampoYhteenvetoDlg() try {
       MuuLampo = arvo;
       Tallennettu = false;
     };
+    lampoYhteenveto_->KuukausitaseKlikattu = [this] { NaytaKuukausitase(*this); };
     lampoYhteenveto_->OkKlikattu = [this] { lampoYhteenveto_->Sulje(); };
   }
   Odotus odotus;

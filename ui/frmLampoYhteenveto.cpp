@@ -45,6 +45,7 @@ frmLampoYhteenveto::frmLampoYhteenveto() : Lomake("frmLampoYhteenveto") {
   cmdNaytaGraafi.KunKlikataan([this] { NaytaGraafi(); });
   Command4.KunKlikataan([this] { NaytaHaviot(); });
   cmdTulosta.Nostaa(TulostaKlikattu);
+  cmdKuukausitase.Nostaa(KuukausitaseKlikattu);
   cmdOk.KunKlikataan([this] {
     if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
   });
