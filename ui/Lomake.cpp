@@ -57,8 +57,8 @@ Lomake* AvoinLomake(std::string_view nimi) {
 }
 
 Lomake* AktiivinenLomake() {
-  const auto it = std::ranges::find_if(Avoimet(), [](const Lomake* l) { return l->Aktiivinen(); });
-  return it == Avoimet().end() ? nullptr : *it;
+  const auto it = std::find_if(Avoimet().rbegin(), Avoimet().rend(), [](const Lomake* l) { return l->Aktiivinen(); });
+  return it == Avoimet().rend() ? nullptr : *it;  // a modal form lies over those shown before it
 }
 
 void SuljeLomakkeet() {

@@ -71,10 +71,17 @@ void QtIkkuna::Aloita() {
     if (OnTaytettava(*ohjain)) return static_cast<QtOhjain&>(*ohjain).Widget()->setFocus(Qt::TabFocusReason);
 }
 
+/// The window that a dialog lies over: the modal one that is shown, else the main window. Not merely the active one: a
+/// dialog that has just been closed may still be that, and would take its children along when it goes.
+QWidget* QtIkkuna::Vanhempi() const {
+  if (QWidget* modaalinen = QApplication::activeModalWidget()) return modaalinen;
+  return alue_ ? alue_->window() : nullptr;
+}
+
 Dialogikehys* QtIkkuna::TeeDialogi() {
   Irrota();
   Viimeistele();
-  dialogi_ = new Dialogikehys(*this, juuri_, QApplication::activeWindow());
+  dialogi_ = new Dialogikehys(*this, juuri_, Vanhempi());
   Aloita();
   return dialogi_;
 }

@@ -29,6 +29,7 @@ class QtIkkuna : public Lomakeikkuna {
   void Viimeistele();
   void Aloita();
   void Irrota();
+  QWidget* Vanhempi() const;
   Dialogikehys* TeeDialogi();
   Alikehys* TeeAlikehys();
 
