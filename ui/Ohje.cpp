@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Ohje.h"
 
-#include <ranges>
-
 #include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
 Ohjenaytto* g_naytto = nullptr;
-
-/// The form shown last is looked at first: a modal form lies over those of the main window.
-const Lomake* PaallimmainenLomake() {
-  for (const Lomake* lomake : AvoimetLomakkeet() | std::views::reverse)
-    if (lomake->Aktiivinen()) return lomake;
-  return nullptr;
-}
 
 }  // namespace
 
@@ -30,7 +21,7 @@ void AvaaOhjeenHaku() {
 }
 
 void AvaaLomakkeenOhje() {
-  const Lomake* lomake = PaallimmainenLomake();
+  const Lomake* lomake = AktiivinenLomake();
   const int aihe = lomake ? Ohjeaihe(lomake->Nimi(), 0) : 0;
   AvaaOhje(aihe > 0 ? aihe : kOhjeSisallys);
 }

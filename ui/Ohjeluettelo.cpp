@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <ranges>
 #include <sstream>
 
 namespace {
@@ -12,7 +11,10 @@ constexpr std::size_t kKenttia = 4;
 
 std::vector<std::string> Kentat(const std::string& rivi) {
   std::vector<std::string> kentat;
-  for (const auto kentta : rivi | std::views::split('\t')) kentat.emplace_back(kentta.begin(), kentta.end());
+  std::string_view loput = rivi;
+  for (std::size_t sarkain; (sarkain = loput.find('\t')) != std::string_view::npos; loput.remove_prefix(sarkain + 1))
+    kentat.emplace_back(loput.substr(0, sarkain));
+  kentat.emplace_back(loput);
   return kentat;
 }
 
