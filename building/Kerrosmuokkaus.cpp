@@ -87,5 +87,5 @@ bool MuokkaaKerrosta(clsRakennekerros& kerros) try {
   if (hyvaksytty) kerros = muokattu;
   return hyvaksytty;
 } catch (...) {
-  NostaVirhe("clsRakenteet:RakenneKayttoliittyma Method");
+  NostaVirhe("Kerrosmuokkaus:MuokkaaKerrosta Method");
 }

@@ -450,7 +450,7 @@ void Rakennemuokkaus::KayttoLiittyma_OkKlikattu() try {
   KayttoLiittyma.Sulje();
 } catch (...) {
   varalla_->Kopioi(rakenteet_);
-  NostaVirhe("clsRakenteet:KayttoLiittyma_OkKlikattu Method");
+  NostaVirhe("Rakennemuokkaus:KayttoLiittyma_OkKlikattu Method");
 }
 
 void Rakennemuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
@@ -459,5 +459,5 @@ void Rakennemuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
   VaadiRakennus().PaivitaInstanssiIdLista();
   KayttoLiittyma.Sulje();
 } catch (...) {
-  NostaVirhe("clsRakenteet:KayttoLiittyma_PeruutaKlikattu Method");
+  NostaVirhe("Rakennemuokkaus:KayttoLiittyma_PeruutaKlikattu Method");
 }

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kRivinumero = Qt::UserRole;  // of a display row: the number of the row, -1 for the sums
 constexpr int kLeveinSarake = 40;          // at first, in letters
+constexpr int kKapeinNimi = 16;            // of the first column, when the others need the room
 
 QString Q(std::string_view teksti) { return QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())); }
 
@@ -149,11 +150,14 @@ void QtListView::NaytaIndeksi() {
 
 void QtListView::MitoitaSarakkeet() {
   mitoitettu_ = true;
-  const int levein = kLeveinSarake * lista_.fontMetrics().averageCharWidth();
+  const int merkki = lista_.fontMetrics().averageCharWidth();
   for (int s = 0; s < lista_.columnCount(); ++s) {
     lista_.resizeColumnToContents(s);
-    lista_.setColumnWidth(s, std::min(lista_.columnWidth(s), levein));
+    lista_.setColumnWidth(s, std::min(lista_.columnWidth(s), kLeveinSarake * merkki));
   }
+  const int tilaa = std::max(lista_.viewport()->width(), lista_.minimumWidth()) - 2 * lista_.frameWidth();
+  if (const int ylitys = lista_.header()->length() - tilaa; ylitys > 0)
+    lista_.setColumnWidth(0, std::max(lista_.columnWidth(0) - ylitys, kKapeinNimi * merkki));
 }
 
 QTreeWidgetItem* QtListView::RivinPaikka(int indeksi) const {
