@@ -24,8 +24,8 @@ std::string Uteksti(const Rakenneratkaisu& ratkaisu) {
 std::vector<std::string> Rivi(const Kirjastorakenne& rakenne, const std::vector<std::string>& tyypit) {
   const auto tyyppi = RakennetyyppiSanasta(rakenne.Ratkaisu.Rakennetyyppi);
   const std::size_t i = static_cast<std::size_t>(tyyppi.value_or(-1) + 1);  // row 0 is all kinds
-  return {rakenne.Ratkaisu.Nimi, tyyppi && i < tyypit.size() ? tyypit[i] : rakenne.Ratkaisu.Rakennetyyppi,
-          rakenne.Aikakausi, Uteksti(rakenne.Ratkaisu), KirjastonNimi(rakenne.Kanta)};
+  return {rakenne.Ratkaisu.Nimi, Uteksti(rakenne.Ratkaisu), rakenne.Aikakausi,
+          tyyppi && i < tyypit.size() ? tyypit[i] : rakenne.Ratkaisu.Rakennetyyppi, KirjastonNimi(rakenne.Kanta)};
 }
 
 }  // namespace

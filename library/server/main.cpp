@@ -3,11 +3,28 @@
 //   RakKirjSrv --koti <data directory>
 #include <QApplication>
 #include <QCommandLineParser>
+#include <iostream>
 
+#include "kernel/Virhe.h"
 #include "library/server/Palvelin.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/qt/QtIkkuna.h"
 #include "ui/qt/QtViestit.h"
+
+namespace {
+
+/// Ends at once when another server serves the directory. Raises error 9999 when there is no place for the socket.
+int Aja() {
+  Palvelin palvelin(PalvelimenPaikka(AppPath()));
+  if (!palvelin.Kuuntele()) return 0;
+  AsennaSuomennos();
+  AlustaTekstit();
+  const QtViestit viestit;
+  AsetaQtLomakkeet(nullptr);
+  return QApplication::exec();
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication sovellus(argc, argv);
@@ -18,12 +35,10 @@ int main(int argc, char** argv) {
   komentorivi.addOption(koti);
   komentorivi.process(sovellus);
   if (komentorivi.isSet(koti)) AsetaAppPath(komentorivi.value(koti).toStdString());
-
-  Palvelin palvelin(PalvelimenPaikka(AppPath()));
-  if (!palvelin.Kuuntele()) return 0;
-  AsennaSuomennos();
-  AlustaTekstit();
-  const QtViestit viestit;
-  AsetaQtLomakkeet(nullptr);
-  return QApplication::exec();
+  try {
+    return Aja();
+  } catch (const std::exception& virhe) {
+    std::cerr << SyynKuvaus(virhe) << '\n';
+    return 1;
+  }
 }

@@ -11,7 +11,6 @@
 namespace {
 
 constexpr double kKapein = 0.04;  // of the picture's width: also a foil is to be seen
-constexpr double kIlmaa = 0.14;   // of the width, on both sides for the room and the outdoors
 constexpr double kViivanLeveys = 2.5;
 
 QString Asteina(double lampotila) { return QString::fromStdString(Muotoile(lampotila, "0.0")) + QStringLiteral(" °C"); }
@@ -63,15 +62,19 @@ QRectF Lampotilakuva::Kuvaala() const {
   return QRectF(rect()).adjusted(rivi, 5 * rivi / 2.0, -SelitteenLeveys(), -rivi);
 }
 
+double Lampotilakuva::Ilmaa() const {
+  return fontMetrics().horizontalAdvance(Asteina(-88.8)) + fontMetrics().height() / 2.0;
+}
+
 std::vector<double> Lampotilakuva::Rajat() const {
   const QRectF ala = Kuvaala();
   const double kapein = kKapein * ala.width();
-  const double leveys = ala.width() * (1 - 2 * kIlmaa);
+  const double leveys = ala.width() - 2 * Ilmaa();
   const auto& paksuudet = Sarja(kPaksuudet);
   const double jaettavaa = std::max(0.0, leveys - kapein * static_cast<double>(paksuudet.size()));
   double yhteensa = 0;
   for (const double paksuus : paksuudet) yhteensa += std::max(paksuus, 0.0);
-  std::vector<double> rajat{ala.left() + kIlmaa * ala.width()};
+  std::vector<double> rajat{ala.left() + Ilmaa()};
   for (const double paksuus : paksuudet)
     rajat.push_back(rajat.back() + kapein + (yhteensa > 0 ? jaettavaa * std::max(paksuus, 0.0) / yhteensa : 0));
   return rajat;
@@ -88,7 +91,7 @@ std::vector<QPointF> Lampotilakuva::Viiva() const {
   const auto& lampotilat = Sarja(kLampotilat);
   if (lampotilat.empty()) return {};
   std::vector<double> kohdat = Rajat();
-  const double ilma = kIlmaa * Kuvaala().width() / 2;
+  const double ilma = Ilmaa() / 3;
   kohdat.insert(kohdat.begin(), kohdat.front() - ilma);
   kohdat.push_back(kohdat.back() + ilma);
   std::vector<QPointF> pisteet{{Kuvaala().left(), Y(lampotilat.front())}};

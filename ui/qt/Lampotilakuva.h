@@ -21,6 +21,8 @@ class Lampotilakuva : public Kaaviokuva {
   const std::vector<double>& Sarja(std::size_t i) const;
   bool Vastustaa(std::size_t kerros) const { return Sarja(1)[kerros] > 0; }
   QRectF Kuvaala() const;
+  /// Width left on both sides for the room and the outdoors.
+  double Ilmaa() const;
   /// Where the layers begin, and the end of the last one.
   std::vector<double> Rajat() const;
   std::vector<QPointF> Viiva() const;
