@@ -146,7 +146,7 @@ class Sailio : public KokoelmaPohja {
   void KopioiAvaimittain(const Sailio& toinen) {
     std::unordered_map<Tunniste, std::unique_ptr<T>> vanhat;
     for (auto& alkio : alkiot_) vanhat.emplace(alkio->sKey, std::move(alkio));
-    Tyhjenna();
+    Sailio::Tyhjenna();  // the items alone: an heir may empty more
     alkiot_.reserve(toinen.alkiot_.size());
     for (const auto& lahde : toinen.alkiot_) {
       const auto it = lahde->sKey.Tyhja() ? vanhat.end() : vanhat.find(lahde->sKey);
