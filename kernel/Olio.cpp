@@ -14,6 +14,19 @@ std::vector<const Luokka*>& Luokat() {
   return luokat;
 }
 
+std::uint64_t Tavut(const char* kohta) noexcept {
+  std::uint64_t tavut = 0;
+  std::memcpy(&tavut, kohta, 8);
+  return tavut;
+}
+
+/// Two names of one length and with the same ends are the same.
+bool SamaKeskelta(std::string_view x, std::string_view y) noexcept {
+  for (std::size_t i = 8; i + 8 < x.size(); i += 8)
+    if (Tavut(x.data() + i) != Tavut(y.data() + i)) return false;
+  return true;
+}
+
 Variantti LuvuksiLajin(Laji laji, const ArvoNakyma& n) {
   switch (laji) {
     case Laji::Lyhyt:
@@ -67,8 +80,8 @@ const Jasen& VaadiJasen(const Olio& olio, std::string_view nimi) {
 
 Luokka::Nimenpaat::Nimenpaat(std::string_view nimi) noexcept : pituus(nimi.size()) {
   if (nimi.size() >= 8) {
-    std::memcpy(&alku, nimi.data(), 8);
-    std::memcpy(&loppu, nimi.data() + nimi.size() - 8, 8);
+    alku = Tavut(nimi.data());
+    loppu = Tavut(nimi.data() + nimi.size() - 8);
   } else {
     std::memcpy(&alku, nimi.data(), nimi.size());
   }
@@ -103,8 +116,7 @@ const Jasen* Luokka::Etsi(std::string_view nimi) const noexcept {
   for (std::size_t kohta = paat.Tiiviste() & peite; hakemisto_[kohta].jasen; kohta = (kohta + 1) & peite) {
     const Paikka& paikka = hakemisto_[kohta];
     const std::string_view oma = paikka.jasen->nimi;
-    if (paikka.paat == paat && (paat.OnKokoNimi() || std::memcmp(oma.data(), nimi.data(), nimi.size()) == 0))
-      return paikka.jasen;
+    if (paikka.paat == paat && SamaKeskelta(oma, nimi)) return paikka.jasen;
     if (SamaNimi(oma, nimi)) return paikka.jasen;
   }
   return nullptr;

@@ -40,13 +40,11 @@ class Luokka {
   static const Luokka* Nimella(std::string_view nimi) noexcept;
 
  private:
-  /// The first and the last eight bytes of a name, and its length: they tell the members of any one class apart, and up
-  /// to sixteen bytes they are the whole name.
+  /// The first and the last eight bytes of a name, and its length: they tell the members of any one class apart.
   struct Nimenpaat {
     Nimenpaat() = default;
     explicit Nimenpaat(std::string_view nimi) noexcept;
     std::size_t Tiiviste() const noexcept;
-    bool OnKokoNimi() const noexcept { return pituus <= 16; }
     friend bool operator==(const Nimenpaat&, const Nimenpaat&) = default;
 
     std::uint64_t alku = 0, loppu = 0;
