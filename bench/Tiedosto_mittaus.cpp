@@ -59,7 +59,7 @@ Vertailupari Avauspari(clsRakennus& rakennus) {
   clsRakennus* globaali = &rakennus;
   return {[tila, globaali] {
             tila->avattu.reset();
-            const double kesto = Kesto([&] {
+            const double kesto = Suoritinaika([&] {
               tila->avattu = std::make_unique<clsRakennus>();
               AsetaGlobaaliRakennus(tila->avattu.get());
               tila->avattu->Hae(tila->tiedosto);
@@ -69,7 +69,7 @@ Vertailupari Avauspari(clsRakennus& rakennus) {
           },
           [tila] {
             tila->selattu.reset();
-            return Kesto([&] { tila->selattu = std::make_unique<Selaus>(tila->tiedosto); });
+            return Suoritinaika([&] { tila->selattu = std::make_unique<Selaus>(tila->tiedosto); });
           },
           [tila] {
             if (Olioita(*tila->avattu) != tila->olioita || tila->selattu->Riveja() != tila->riveja)

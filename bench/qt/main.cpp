@@ -61,14 +61,14 @@ void Muisti(benchmark::State& state) {
 
 }  // namespace mittaus
 
-int main(int argc, char** argv) try {
+namespace {
+
+/// Runs the benchmarks; the processes that they start inherit the folder of settings made here.
+int AjaMittaukset(int argc, char** argv) {
   const QTemporaryDir asetukset;
   for (const char* muuttuja : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
     setenv(muuttuja, asetukset.path().toUtf8().constData(), 1);
   QApplication sovellus(argc, argv);
-  KerataanViestit viestit;
-  AsetaViestit(&viestit);
-  if (argc == 2 && std::string_view(argv[1]).starts_with("--rooli")) return mittaus::AjaRooli(argv[1]);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   mittaus::IlmoitaParit("start to the first frame; QMainWindow with a QMdiArea", mittaus::Aloitus);
@@ -77,6 +77,16 @@ int main(int argc, char** argv) try {
   mittaus::Taulukko taulukko;
   benchmark::RunSpecifiedBenchmarks(&taulukko);
   return taulukko.Epaonnistui() ? 1 : 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  KerataanViestit viestit;
+  AsetaViestit(&viestit);
+  if (argc != 2 || !std::string_view(argv[1]).starts_with("--rooli")) return AjaMittaukset(argc, argv);
+  QApplication sovellus(argc, argv);
+  return mittaus::AjaRooli(argv[1]);
 } catch (const std::exception& virhe) {
   std::cerr << "lumivirta-bench-qt: " << virhe.what() << '\n';
   return 1;
