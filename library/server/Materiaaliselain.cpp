@@ -116,8 +116,9 @@ void Materiaaliselain::NaytaMateriaali() {
 }
 
 void Materiaaliselain::KayttoLiittyma_Valitse() {
+  if (!SuljeMuokkain()) return;  // may store, which reads the entries anew
   const Kirjastomateriaali* materiaali = Valittu();
-  if (!materiaali || !SuljeMuokkain()) return;
+  if (!materiaali) return;
   Nosta(valittu_, materiaali->Aine);
   KayttoLiittyma_Sulje();
 }

@@ -136,8 +136,9 @@ void Rakenneselain::NaytaRakenne() {
 }
 
 void Rakenneselain::KayttoLiittyma_Valitse() {
+  if (!SuljeMuokkain()) return;  // may store, which reads the entries anew
   const Kirjastorakenne* rakenne = Valittu();
-  if (!rakenne || !SuljeMuokkain()) return;
+  if (!rakenne) return;
   Nosta(valittu_, rakenne->Ratkaisu);
   KayttoLiittyma_Sulje();
 }
