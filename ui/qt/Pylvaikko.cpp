@@ -31,9 +31,10 @@ struct Korkeus {
 
 Pylvaikko::Pylvaikko(QWidget* vanhempi) : Kaaviokuva(vanhempi) { setMouseTracking(true); }
 
-/// A scale of round steps (1, 2 or 5 times a power of ten) that holds zero and both ends.
+/// A scale of round steps (1, 2 or 5 times a power of ten) that holds zero and both ends; 0 to 1 when all is zero.
 Pylvaikko::Asteikko Pylvaikko::Sovita(double pienin, double suurin) {
-  const double vali = std::max(suurin - pienin, 1e-9) / 5;
+  if (pienin == suurin) suurin = 1;
+  const double vali = (suurin - pienin) / 5;
   const double kymmen = std::pow(10, std::floor(std::log10(vali)));
   const std::array kertoimet = {1.0, 2.0, 5.0, 10.0};
   const double askel =

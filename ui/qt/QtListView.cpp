@@ -110,7 +110,7 @@ void QtListView::NaytaRivit() {
   if (!Summarivi().empty()) MuotoileSummarivi(*lista_.topLevelItem(paikka));
   lista_.header()->setSortIndicatorShown(Lajiteltu().sarake >= 0);
   lista_.header()->setSortIndicator(Lajiteltu().sarake, Lajiteltu().laskeva ? Qt::DescendingOrder : Qt::AscendingOrder);
-  if (!mitoitettu_ && rivia > 0) MitoitaSarakkeet();
+  if (rivia > 0) MitoitaSarakkeet();
 }
 
 void QtListView::NaytaRivi(int paikka, const std::vector<std::string>& solut) {
@@ -148,8 +148,12 @@ void QtListView::NaytaIndeksi() {
     lista_.setCurrentItem(rivi, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+/// Once for the first rows, and once more for the first sums, which are longer and bold; then the widths are the
+/// person's.
 void QtListView::MitoitaSarakkeet() {
+  if (mitoitettu_ && (summatMitoitettu_ || Summarivi().empty())) return;
   mitoitettu_ = true;
+  summatMitoitettu_ = !Summarivi().empty();
   const int merkki = lista_.fontMetrics().averageCharWidth();
   for (int s = 0; s < lista_.columnCount(); ++s) {
     lista_.resizeColumnToContents(s);

@@ -32,4 +32,5 @@ class QtListView : public QtOhjain {
   QTreeWidget& lista_;
   std::vector<Qt::Alignment> tasaukset_;  // of the columns of texts, as the form file has them
   bool mitoitettu_ = false;               // later the widths are the person's
+  bool summatMitoitettu_ = false;
 };
