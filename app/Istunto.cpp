@@ -93,6 +93,7 @@ void Istunto::mnuFileNew_Click() {
   Vaihda(std::move(uusi));
   AlustaPerustiedot(rakennus_->Perustiedot);
   AlustaToteutuneetKulutukset(rakennus_->Perustiedot.ToteutuneetKulutukset);
+  rakennus_->KatselmoijienTiedot.HaeOletukset();
   PaaikkunaNyt().AsetaOtsikko(Teksti(1001));
   rakennus_->Tallennettu = true;
   NaytaPerustiedot();
@@ -156,6 +157,7 @@ void Istunto::Vaihda(std::unique_ptr<clsRakennus> rakennus) {
   SuljeKohde();
   rakennus_ = std::move(rakennus);
   AsetaGlobaaliRakennus(rakennus_.get());
+  talteenOtettu_ = {};
 }
 
 /// An object that could be read only in part stays, as one without a file: saving it can't replace what is good in the
@@ -170,6 +172,8 @@ bool Istunto::Lataa(const std::string& tiedosto) {
     rakennus_->Tallennettu = false;
   }
   Merkitse(tiedosto);
+  kumous_.Aloita(rakennus_.get());
+  talteenOtettu_ = Tila();
   if (rakennus_->Perustiedot.ToteutuneetKulutukset.Count() > 0) return true;
   Ilmoita(Teksti(9500), Teksti(9100), Vakavuus::Virhe);
   SuljeKohde();
@@ -181,6 +185,8 @@ void Istunto::SuljeKohde() {
   if (!rakennus_) return;
   SuljeLomakkeet();
   AsetaTiedosto({});
+  kumous_.Aloita(nullptr);
+  PoistaTalteenotettu();
   rakennus_->Delete();
   rakennus_.reset();
 }
@@ -218,6 +224,7 @@ bool Istunto::Tallenna(const std::string& tiedosto) {
   PoistaMerkki();
   const bool onnistui = rakennus_->Tallenna(tiedosto);
   Merkitse(tiedosto);
+  if (onnistui) PoistaTalteenotettu();
   return onnistui;
 }
 
@@ -276,6 +283,18 @@ void Istunto::LataaTalteenotettu(const std::string& tiedosto) {
   AsetaTiedosto({});
   rakennus_->Tallennettu = false;
   NaytaPerustiedot();
+}
+
+void Istunto::mnuEditUndo_Click() {
+  if (!VoiKumota() || EstaaVaraus()) return;
+  SuljeLomakkeet();
+  kumous_.Kumoa();
+}
+
+void Istunto::HiljainenHetki() {
+  if (!KohdeValmis() || MalliVarattu() || Tila() == talteenOtettu_) return;
+  talteenOtettu_ = Tila();
+  OtaTalteen();
 }
 
 void Istunto::OtaTalteen() try {

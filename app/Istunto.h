@@ -2,7 +2,9 @@
 #pragma once
 #include <memory>
 #include <string>
+#include <utility>
 
+#include "app/Kumous.h"
 #include "building/clsRakennus.h"
 #include "ui/Viestit.h"
 
@@ -46,6 +48,14 @@ class Istunto {
   void OtaTalteen();
   void PoistaTalteenotettu();
 
+  /// To be called after each command: keeps what an undo would bring back.
+  void SeuraaMuutoksia() { kumous_.Seuraa(KohdeValmis() ? rakennus_.get() : nullptr); }
+  bool VoiKumota() const { return kumous_.Voi(); }
+  /// Brings back the model as it was before the last committed dialog; open forms are closed.
+  void mnuEditUndo_Click();
+  /// A quiet moment: an unsaved object that has changed since the last time is written aside for recovery.
+  void HiljainenHetki();
+
   /// Drops the object, if any, with its forms and the mark of its file.
   void SuljeKohde();
 
@@ -67,6 +77,10 @@ class Istunto {
   void PoistaMerkki();
 
   std::unique_ptr<clsRakennus> rakennus_;
+  Kumous kumous_;
+  /// What tells whether the object has changed since it was last written aside.
+  std::pair<int, double> Tila() const { return {rakennus_->Muutoksia(), rakennus_->MuuLampo}; }
+  std::pair<int, double> talteenOtettu_;
   std::string merkitty_;  // the file that bears our mark
 };
 

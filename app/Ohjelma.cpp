@@ -10,6 +10,7 @@
 
 #include "kernel/Hakemistot.h"
 #include "kernel/Versio.h"
+#include "settings/Asetusavaimet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Komento.h"
@@ -21,6 +22,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds kUusiYritys{100};
+constexpr std::chrono::seconds kTalteenottovali{15};
 
 std::string Versioteksti() {
   return std::to_string(kVersioMajor) + "." + std::to_string(kVersioMinor) + "." + std::to_string(kVersioRevision) +
@@ -39,6 +41,20 @@ void LueAsetukset() {
   PaivitaKaynnistyksessa();
   Asetukset().HaeRekisteristä();
   AsetaRahayksikko(Asetukset().strDefaultCurrencyUnit);
+}
+
+Kirjastoyhteystiedot KirjastojenPaikat() {
+  return {.koti = AppPath(),
+          .ohjelma = QCoreApplication::applicationDirPath().toStdString() + "/RakKirjSrv",
+          .kayttajanKanta = [] { return Asetukset().strKayttajanTietokanta; },
+          .vakiokanta = [] { return Asetukset().strVakioTietokanta; }};
+}
+
+/// The welcome page of the guide, once per user.
+void Tervehdi() {
+  if (HaeAsetus(Avain::NäytaTervehdys) != "1") return;
+  TallennaAsetus(Avain::NäytaTervehdys, "0");
+  AvaaOhje(kOhjeTervetuloa);
 }
 
 std::unique_ptr<frmSplash> TeeAlkuikkuna() {
@@ -72,6 +88,11 @@ void Ohjelma::Lataa() {
   paaikkuna_ = std::make_unique<frmMain>(istunto_);
   viestit_.AsetaPaneelinNaytto([this](const std::string& teksti) { paaikkuna_->AsetaPaneeli(teksti); });
   SuoritaKomento(LueAsetukset);
+  kirjastot_ = std::make_unique<Kirjastoyhteys>(KirjastojenPaikat());
+  QObject::connect(&hiljainenHetki_, &QTimer::timeout, paaikkuna_.get(), [this] {
+    if (!KomentoKaynnissa()) SuoritaKomento([this] { istunto_.HiljainenHetki(); });
+  });
+  hiljainenHetki_.start(kTalteenottovali);
 }
 
 Ohjelma::~Ohjelma() { istunto_.SuljeKohde(); }
@@ -84,6 +105,7 @@ void Ohjelma::Nayta() {
   SuoritaKomento([&] { avattu = istunto_.TarjoaJaaneet(); });
   if (!avattu) NaytaAlkuikkuna();
   frmSplash_.reset();
+  SuoritaKomento(Tervehdi);
   paaikkuna_->PaivitaValikot();
 }
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <QTimer>
 #include <memory>
 
 #include "app/Istunto.h"
 #include "app/Lopetussignaali.h"
 #include "app/frmMain.h"
 #include "ui/frmSplash.h"
+#include "ui/qt/Kirjastoyhteys.h"
+#include "ui/qt/QtOhje.h"
 #include "ui/qt/QtViestit.h"
 
 /// One run of the window program: what is read and shown at its start, and its ends. Needs a QApplication.
@@ -31,6 +34,9 @@ class Ohjelma {
   void ValitseAlku(bool uusi);
 
   QtViestit viestit_;
+  QtOhje ohje_;
+  std::unique_ptr<Kirjastoyhteys> kirjastot_;
+  QTimer hiljainenHetki_;
   std::unique_ptr<frmSplash> frmSplash_;
   Istunto istunto_;
   std::unique_ptr<frmMain> paaikkuna_;

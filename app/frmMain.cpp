@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/frmMain.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
@@ -22,6 +25,9 @@ QString Valikkoteksti(int tunnus) {
   const QString teksti = Q(Teksti(tunnus));
   return teksti.contains('&') ? teksti : '&' + teksti;
 }
+
+/// The text field that has the focus, or nothing.
+QLineEdit* Kentta() { return qobject_cast<QLineEdit*>(QApplication::focusWidget()); }
 
 }  // namespace
 
@@ -91,6 +97,7 @@ void frmMain::LuoToiminto(const Valikkorivi& rivi, QMenu& valikko) {
 }
 
 void frmMain::PaivitaValikot() {
+  SuoritaKomento([this] { istunto_.SeuraaMuutoksia(); });
   for (const Toiminto& t : toiminnot_) t.toiminto.setEnabled(!t.rivi.kaytossa || t.rivi.kaytossa(*this));
 }
 
@@ -98,6 +105,36 @@ void frmMain::Suorita(const Valikkorivi& rivi) {
   SuoritaKomento([&] { rivi.toiminto(*this); });
   PaivitaValikot();
 }
+
+bool frmMain::VoiLeikata() {
+  const auto* kentta = Kentta();
+  return kentta && !kentta->isReadOnly() && kentta->hasSelectedText();
+}
+
+bool frmMain::VoiKopioida() { return Kentta() && Kentta()->hasSelectedText(); }
+
+bool frmMain::VoiLiittaa() {
+  return Kentta() && !Kentta()->isReadOnly() && !QGuiApplication::clipboard()->text().isEmpty();
+}
+
+void frmMain::mnuEditCut_Click() {
+  if (VoiLeikata()) Kentta()->cut();
+}
+
+void frmMain::mnuEditCopy_Click() {
+  if (VoiKopioida()) Kentta()->copy();
+}
+
+void frmMain::mnuEditPaste_Click() {
+  if (VoiLiittaa()) Kentta()->paste();
+}
+
+void frmMain::mnuViewToolbar_Click() { tyokalut_->setVisible(!tyokalut_->isVisible()); }
+void frmMain::mnuViewStatusBar_Click() { statusBar()->setVisible(!statusBar()->isVisible()); }
+
+bool frmMain::IkkunoitaAuki() const { return !alue_.subWindowList().isEmpty(); }
+void frmMain::mnuWindowCascade_Click() { alue_.cascadeSubWindows(); }
+void frmMain::mnuWindowTile_Click() { alue_.tileSubWindows(); }
 
 void frmMain::mnuFileExit_Click() { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); }
 

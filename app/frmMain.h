@@ -27,6 +27,19 @@ class frmMain : public QMainWindow, public Paaikkuna {
   /// Enables the entries by the present object and forms: when a menu opens and after each command.
   void PaivitaValikot();
 
+  // The clipboard, on the field that has the focus.
+  static bool VoiLeikata();
+  static bool VoiKopioida();
+  static bool VoiLiittaa();
+  static void mnuEditCut_Click();
+  static void mnuEditCopy_Click();
+  static void mnuEditPaste_Click();
+  void mnuViewToolbar_Click();
+  void mnuViewStatusBar_Click();
+  bool IkkunoitaAuki() const;
+  void mnuWindowCascade_Click();
+  void mnuWindowTile_Click();
+
   /// Closes the window once the command has come to its end.
   void mnuFileExit_Click();
   /// The person's session at the desktop ends. True when the program may end; its place is then stored.

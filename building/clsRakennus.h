@@ -126,6 +126,8 @@ class clsRakennus : public Malli<clsRakennus> {
   /// To be called when a dialog has committed a change of the model: measures and caches no longer hold, and the object
   /// differs from its file.
   void PerusmalliMuuttui();
+  /// How many times that has been called: tells whether the model has changed since one looked last.
+  int Muutoksia() const noexcept { return muutoksia_; }
 
   /// Opens the heat summary after its warnings; re-bases all measures on the present model.
   void NaytaLampoYhteenvetoDlg();
@@ -139,6 +141,7 @@ class clsRakennus : public Malli<clsRakennus> {
   void TaytaLampoYhteenveto();
   void PaivitaToimenpiteidenPerusta();
 
+  int muutoksia_ = 0;
   bool vaurioitunut_ = false;  // the file had values that could not be read: the next save keeps it aside
   std::unique_ptr<frmLampoYhteenveto> lampoYhteenveto_;
 };

@@ -35,10 +35,12 @@ class Vaiheet {
 }  // namespace
 
 void clsRakennus::PerusmalliMuuttui() {
+  ++muutoksia_;
   for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) toimenpide.EnnenTiedotUpToDate = false;
   Tilat.VuotuinenLampoEnergianTarveUpToDate(false);
   IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = false;
   Tallennettu = false;
+  Tilat.ListaaTilat();
 }
 
 void clsRakennus::LuoOletusmalli() try {
