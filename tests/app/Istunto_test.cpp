@@ -302,7 +302,9 @@ TEST_F(IstuntoTesti, WhatATerminatedRunLeftIsOfferedAndKept) {
   istunto.Rakennus()->Tallennettu = false;
   istunto.OtaTalteen();
   ASSERT_TRUE(fs::exists(palautus));
+  fs::rename(palautus, palautus + ".koe");  // a killed run wouldn't remove it
   istunto.SuljeKohde();
+  fs::rename(palautus + ".koe", palautus);
 
   viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
   EXPECT_TRUE(istunto.TarjoaJaaneet());
@@ -311,6 +313,50 @@ TEST_F(IstuntoTesti, WhatATerminatedRunLeftIsOfferedAndKept) {
   EXPECT_FALSE(istunto.Rakennus()->Tallennettu);
   EXPECT_FALSE(fs::exists(palautus)) << "offered once";
   EXPECT_FALSE(istunto.TarjoaJaaneet());
+}
+
+TEST_F(IstuntoTesti, QuietMomentsKeepARecoveryCopyUntilACleanEnd) {
+  const std::string palautus = AppPath() + "~palautus.lvt";
+  TallennettuKohde("Koulu");
+  istunto.HiljainenHetki();
+  EXPECT_FALSE(fs::exists(palautus)) << "nothing has changed";
+  istunto.Rakennus()->PerusmalliMuuttui();
+  istunto.HiljainenHetki();
+  ASSERT_TRUE(fs::exists(palautus));
+  const auto aika = fs::last_write_time(palautus);
+  istunto.HiljainenHetki();
+  EXPECT_EQ(fs::last_write_time(palautus), aika) << "written once for a change";
+  istunto.mnuFileSave_Click();
+  EXPECT_FALSE(fs::exists(palautus)) << "a saved object needs none";
+  istunto.Rakennus()->MuuLampo = 5;
+  istunto.Rakennus()->Tallennettu = false;
+  istunto.HiljainenHetki();
+  EXPECT_TRUE(fs::exists(palautus));
+  istunto.SuljeKohde();
+  EXPECT_FALSE(fs::exists(palautus));
+}
+
+TEST_F(IstuntoTesti, UndoBringsBackTheModelBeforeTheLastCommittedDialog) {
+  TallennettuKohde("Koulu");
+  istunto.SeuraaMuutoksia();
+  EXPECT_FALSE(istunto.VoiKumota());
+  clsTila& tila = istunto.Rakennus()->Tilat.Item(1);
+  const double ala = tila.BruttoAla;
+  const double lampo = istunto.Rakennus()->VuotuinenBruttoLampoEnergia();
+  tila.BruttoAla = ala + 100;
+  istunto.Rakennus()->Perustiedot.LammTarveLukuPaikkakuntaID(12);
+  istunto.Rakennus()->Saa.AsetaSaaPaikkakunta(12);
+  istunto.Rakennus()->Tilat.Add("uusi tila");
+  istunto.Rakennus()->PerusmalliMuuttui();
+  istunto.SeuraaMuutoksia();
+  ASSERT_TRUE(istunto.VoiKumota());
+  istunto.mnuEditUndo_Click();
+  EXPECT_EQ(istunto.Rakennus()->Tilat.Count(), 1);
+  EXPECT_EQ(istunto.Rakennus()->Tilat.Item(1).BruttoAla, ala);
+  EXPECT_EQ(istunto.Rakennus()->VuotuinenBruttoLampoEnergia(), lampo) << "the weather came back too";
+  EXPECT_FALSE(istunto.Rakennus()->Tallennettu);
+  istunto.mnuEditUndo_Click();
+  EXPECT_EQ(istunto.Rakennus()->Tilat.Count(), 2) << "undoing again brings the change back";
 }
 
 TEST_F(IstuntoTesti, ALeftOverBackupIsOfferedAtStartAndBeforeASave) {
