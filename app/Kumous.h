@@ -4,8 +4,9 @@
 
 class clsRakennus;
 
-/// Brings back the model as it was before the last committed dialog. Keeps two copies: the model as it is since the last
-/// change, and as it was before it. Measures, water tariffs and the tariff comparison aren't part of a copy and stay.
+/// Brings back the model as it was before the last committed dialog. Keeps two copies: the model as it is since the
+/// last change, and as it was before it. Measures, water tariffs and the tariff comparison aren't part of a copy and
+/// stay.
 class Kumous {
  public:
   /// Another object, or nothing: forgets what there was.

@@ -24,9 +24,9 @@ bool VoiKopioida(const frmMain&) { return frmMain::VoiKopioida(); }
 bool VoiLiittaa(const frmMain&) { return frmMain::VoiLiittaa(); }
 bool IkkunoitaAuki(const frmMain& ikkuna) { return ikkuna.IkkunoitaAuki(); }
 
-constexpr Paavalikko kPaavalikot[] = {{"mnuFile", 1000},       {"mnuEdit", 1013},  {"mnuView", 1019},
-                                      {"mnuRakennus", 1084},   {"mnuKirjastot", 1088}, {"mnuTools", 1031},
-                                      {"mnuWindow", 1025},     {"mnuHelp", 1033}};
+constexpr Paavalikko kPaavalikot[] = {{"mnuFile", 1000},     {"mnuEdit", 1013},      {"mnuView", 1019},
+                                      {"mnuRakennus", 1084}, {"mnuKirjastot", 1088}, {"mnuTools", 1031},
+                                      {"mnuWindow", 1025},   {"mnuHelp", 1033}};
 
 constexpr Valikkorivi kRivit[] = {
     {"mnuFile", "mnuFileNew", 1001, "Ctrl+N", nullptr, [](frmMain& i) { i.Kohteet().mnuFileNew_Click(); }, "New", 1040,

@@ -43,6 +43,6 @@ class JsonKirjoitin {
 
   std::ostream& tulos_;
   int syvyys_ = 0;
-  bool ensimmainen_ = true;   // of the open object or array
+  bool ensimmainen_ = true;  // of the open object or array
   bool avainKirjoitettu_ = false;
 };

@@ -56,7 +56,8 @@ void KirjoitaYhteenveto(std::ostream& tulos, const std::string& tiedosto, clsRak
   const clsPerustiedot& tiedot = rakennus.Perustiedot;
   tulos << tiedot.KohteenNimi << "  (" << tiedosto << ")\n"
         << "  " << tiedot.Kayttotarkoitus << ", " << tiedot.LammTarveLukuPaikkakunta << ", "
-        << Muotoile(tiedot.BruttoAla, "### ##0") << " m², " << Muotoile(tiedot.Kokonaistilavuus, "### ##0") << " m³\n\n";
+        << Muotoile(tiedot.BruttoAla, "### ##0") << " m², " << Muotoile(tiedot.Kokonaistilavuus, "### ##0")
+        << " m³\n\n";
 
   const double tilat = rakennus.VuotuinenLampoEnergianTarveTilat();
   const double koneet = rakennus.VuotuinenIVjalkilammitysLampo();

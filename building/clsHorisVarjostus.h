@@ -7,7 +7,7 @@ class clsHorisVarjostus : public Malli<clsHorisVarjostus> {
  public:
   static const Luokka kLuokka;
 
-  std::int32_t TyyppiID = 0;    ///< index of the type of shading
-  std::string TyyppiStr;        ///< its text
-  double Varjostuskulma = 15.0; ///< shading angle above the horizon, degrees
+  std::int32_t TyyppiID = 0;     ///< index of the type of shading
+  std::string TyyppiStr;         ///< its text
+  double Varjostuskulma = 15.0;  ///< shading angle above the horizon, degrees
 };

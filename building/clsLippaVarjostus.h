@@ -7,7 +7,7 @@ class clsLippaVarjostus : public Malli<clsLippaVarjostus> {
  public:
   static const Luokka kLuokka;
 
-  std::int32_t TyyppiID = 0;    ///< index of the type of shading
-  std::string TyyppiStr;        ///< its text
-  double Varjostuskulma = 0;   ///< shading angle, degrees
+  std::int32_t TyyppiID = 0;  ///< index of the type of shading
+  std::string TyyppiStr;      ///< its text
+  double Varjostuskulma = 0;  ///< shading angle, degrees
 };

@@ -21,7 +21,8 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsPerustiedot::KohteenHenkiloMaara>("KohteenHenkiloMaara", "hlö"),
     Arvo<&clsPerustiedot::LammTarveLukuPaikkakunta>("LammTarveLukuPaikkakunta"),
     Ominaisuus<clsPerustiedot, [](const clsPerustiedot& p) { return p.LammTarveLukuPaikkakuntaID(); },
-               [](clsPerustiedot& p, std::int32_t v) { p.LammTarveLukuPaikkakuntaID(v); }>("LammTarveLukuPaikkakuntaID"),
+               [](clsPerustiedot& p, std::int32_t v) { p.LammTarveLukuPaikkakuntaID(v); }>(
+        "LammTarveLukuPaikkakuntaID"),
     Arvo<&clsPerustiedot::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", "K·d"),
     Lapsi<&clsPerustiedot::ToteutuneetKulutukset>("ToteutuneetKulutukset"),
     Lapsi<&clsPerustiedot::LammKulVakioOsuus>("LammKulVakioOsuus"),

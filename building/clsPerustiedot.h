@@ -22,24 +22,24 @@ class clsPerustiedot : public Malli<clsPerustiedot> {
   clsPerustiedot& operator=(const clsPerustiedot& toinen);
 
   std::string KohteenNimi;
-  std::string Pvm;                          ///< date of the audit, "d.M.yyyy"; today for a new object
-  std::string Kayttotarkoitus;              ///< use type, as shown
-  std::int16_t KayttoTarkoitusID = 0;       ///< index of the use type, 0 to 40
-  std::int32_t ValmistumisVuosi = 0;        ///< year of completion
-  double Kokonaistilavuus = 0;              ///< m³
-  double KylmanTilavuudenOsuus = 0;         ///< unheated share of the volume, %
-  double BruttoAla = 0;                     ///< gross floor area, m²
-  double KylmanAlanOsuus = 0;               ///< unheated share of the area, %
-  double KerrostenLukumaara = 1;            ///< storeys
-  double KohteenHenkiloMaara = 4;           ///< people
-  std::string LammTarveLukuPaikkakunta;     ///< locality of the degree days, as shown
-  double NormVuodenLammTarveLuku = 0;       ///< degree days of the locality's normal year, K·d
+  std::string Pvm;                       ///< date of the audit, "d.M.yyyy"; today for a new object
+  std::string Kayttotarkoitus;           ///< use type, as shown
+  std::int16_t KayttoTarkoitusID = 0;    ///< index of the use type, 0 to 40
+  std::int32_t ValmistumisVuosi = 0;     ///< year of completion
+  double Kokonaistilavuus = 0;           ///< m³
+  double KylmanTilavuudenOsuus = 0;      ///< unheated share of the volume, %
+  double BruttoAla = 0;                  ///< gross floor area, m²
+  double KylmanAlanOsuus = 0;            ///< unheated share of the area, %
+  double KerrostenLukumaara = 1;         ///< storeys
+  double KohteenHenkiloMaara = 4;        ///< people
+  std::string LammTarveLukuPaikkakunta;  ///< locality of the degree days, as shown
+  double NormVuodenLammTarveLuku = 0;    ///< degree days of the locality's normal year, K·d
   clsToteutuneetKulutukset ToteutuneetKulutukset;
   clsLammKulutuksenVakioOsuus LammKulVakioOsuus;
   clsEnergianHankinta LammonHankinta;
   clsEnergianHankinta SahkonHankinta;
   clsEnergianHankinta VedenHankinta;
-  bool OletusarvotLaskettu = false;         ///< the first model has been generated
+  bool OletusarvotLaskettu = false;  ///< the first model has been generated
 
   /// Locality number, 0 (Hanko) to 15 (Vaasa).
   std::int32_t LammTarveLukuPaikkakuntaID() const noexcept { return paikkakunta_; }
@@ -56,8 +56,8 @@ class clsPerustiedot : public Malli<clsPerustiedot> {
   bool NaytaKayttoliityma();
   void LueDataluokka();
   void KirjoitaDataluokka();
-  /// What an OK does once the values are written: tells the weather when the locality differs from `entinenPaikkakunta`,
-  /// has the first model of a new object generated, and marks the building as changed.
+  /// What an OK does once the values are written: tells the weather when the locality differs from
+  /// `entinenPaikkakunta`, has the first model of a new object generated, and marks the building as changed.
   void OtaKayttoon(std::int32_t entinenPaikkakunta);
 
  private:

@@ -244,8 +244,8 @@ double clsRakennus::VuotuisetSaatohaviot() try {
 
 double clsRakennus::VuotuisetLammonKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Konversiohaviot(Perustiedot.LammonHankinta, VuotuinenIVjalkilammitysLampo() +
-                                                                 VuotuinenLampoEnergianTarveTilat());
+  return Konversiohaviot(Perustiedot.LammonHankinta,
+                         VuotuinenIVjalkilammitysLampo() + VuotuinenLampoEnergianTarveTilat());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }

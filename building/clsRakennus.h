@@ -24,15 +24,15 @@ class frmLampoYhteenveto;
 /// A building: the root of the model. Owns every part, answers for the building's heat and electricity totals, and is
 /// what saving measures copy and patch. Holds no physics: a figure is pulled from the parts at the moment it is asked.
 ///
-/// Months are 0 to 11; monthly figures kWh, yearly ones MWh. Results are taken inside a Tasehaarukka, their own when the
-/// caller has none, so that they are the same alone and together. Errors: 9999 with the method's literal.
+/// Months are 0 to 11; monthly figures kWh, yearly ones MWh. Results are taken inside a Tasehaarukka, their own when
+/// the caller has none, so that they are the same alone and together. Errors: 9999 with the method's literal.
 class clsRakennus : public Malli<clsRakennus> {
  public:
   static const Luokka kLuokka;
   /// Use-type code of each index of `clsPerustiedot.KayttoTarkoitusID`.
-  static constexpr std::array<int, 41> KayttoTarkoitusKoodit{
-      1,  2,  3,  4,  11, 12, 13, 14, 21, 22, 23, 24, 31, 32, 41, 42, 43, 44, 45, 49, 51,
-      52, 53, 60, 61, 62, 63, 64, 65, 66, 69, 71, 72, 79, 81, 89, 91, 92, 93, 94, 99};
+  static constexpr std::array<int, 41> KayttoTarkoitusKoodit{1,  2,  3,  4,  11, 12, 13, 14, 21, 22, 23, 24, 31, 32,
+                                                             41, 42, 43, 44, 45, 49, 51, 52, 53, 60, 61, 62, 63, 64,
+                                                             65, 66, 69, 71, 72, 79, 81, 89, 91, 92, 93, 94, 99};
 
   clsRakennus();
   ~clsRakennus() override;
@@ -71,11 +71,11 @@ class clsRakennus : public Malli<clsRakennus> {
   /// Writes a measure's new values into this building; an entry whose object is gone is passed over.
   void LiitaSaastoToimenpide(const clsMuuttuneetAttribuutit& muuttuneet);
 
-  /// Saves to a project file (kernel/Projektitiedosto.h). Never raises: error 1039 is shown, the former file is whole and
-  /// `Tallennettu` stays False. True when saved.
+  /// Saves to a project file (kernel/Projektitiedosto.h). Never raises: error 1039 is shown, the former file is whole
+  /// and `Tallennettu` stays False. True when saved.
   bool Tallenna(const std::string& tiedosto);
-  /// Loads from a project file and makes this building's weather the locality's. Raises Virhe; damaged values keep their
-  /// defaults and are told of.
+  /// Loads from a project file and makes this building's weather the locality's. Raises Virhe; damaged values keep
+  /// their defaults and are told of.
   void Hae(const std::string& tiedosto);
 
   /// Some structure was made with an older version of the standard structure database than the one in use.

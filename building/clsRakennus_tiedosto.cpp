@@ -133,7 +133,7 @@ void clsRakennus::PaivitaMateriaalitVakiokannasta(const std::string& tiedosto) t
 
 void clsRakennus::TarjoaMateriaalienPaivitysta() {
   if (!RakVakioKantaUudempiKuinMinunRakenteet()) return;
-  const Vastaus vastaus = ViestitNyt().Nayta(
-      {Teksti(9227) + " " + Teksti(9228), {}, Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei});
+  const Vastaus vastaus =
+      ViestitNyt().Nayta({Teksti(9227) + " " + Teksti(9228), {}, Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei});
   if (vastaus == Vastaus::Kylla) PaivitaMateriaalitVakiokannasta(Asetukset().strVakioTietokanta);
 }

@@ -15,10 +15,10 @@ class clsRakenteet : public Malli<clsRakenteet, Kokoelma<clsRakenne>> {
   /// The same for all twelve months.
   Kuukausitaulu LampoHaviot(double Tsisa) const;
 
-  double UlkoSeinienAla() const { return Ala(Rakennelaji::Ulkoseina); }   ///< m²
-  double YlaPohjienAla() const { return Ala(Rakennelaji::Ylapohja); }     ///< m²
-  double AlapohjienAla() const { return Ala(Rakennelaji::Alapohja); }     ///< m²
-  double IkkunoidenAla() const { return Ala(Rakennelaji::Ikkuna); }       ///< m²
+  double UlkoSeinienAla() const { return Ala(Rakennelaji::Ulkoseina); }  ///< m²
+  double YlaPohjienAla() const { return Ala(Rakennelaji::Ylapohja); }    ///< m²
+  double AlapohjienAla() const { return Ala(Rakennelaji::Alapohja); }    ///< m²
+  double IkkunoidenAla() const { return Ala(Rakennelaji::Ikkuna); }      ///< m²
 
   /// Opens the dialog of the structures, modal, with all kinds shown. Edits them live; Cancel restores them. True after
   /// OK; the caller tells the building of the change.  `tilanNimi`: for the caption.

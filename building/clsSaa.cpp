@@ -103,7 +103,8 @@ void clsSaa::LueSaaTiedosto(const std::string& tiedosto) try {
     if (!(kuukausi >= 1 && kuukausi <= kKuukausia)) lukija.Hylkaa(kEkaKuukausirivi + i, "kuukausi ei ole väliltä 1-12");
     const auto k = static_cast<std::size_t>(kuukausi) - 1;
     taulut_.arvo.lampotila[k] = luvut[1];
-    for (std::size_t s = 0; s < kSuuntia; ++s) taulut_.arvo.sateily[k][kSarakkeidenSuunnat[s]] = luvut[s + 2] / kMJperkWh;
+    for (std::size_t s = 0; s < kSuuntia; ++s)
+      taulut_.arvo.sateily[k][kSarakkeidenSuunnat[s]] = luvut[s + 2] / kMJperkWh;
   }
   Nimi = lukija.Rivi(kNimirivi);
   LammMitoitusUlkolampotila = AlkuLuku(lukija.Rivi(kMitoitusrivi));

@@ -16,7 +16,9 @@ class clsSaa : public Malli<clsSaa> {
   static const Luokka kLuokka;
 
   /// Mean outdoor temperature of month 0 to 11, °C. Raises std::out_of_range.
-  double Keskilampotila(int kuukausi) const { return taulut_.arvo.lampotila[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))]; }
+  double Keskilampotila(int kuukausi) const {
+    return taulut_.arvo.lampotila[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+  }
   /// All twelve, for the loops of the balance.
   const Kuukausitaulu& Keskilampotilat() const noexcept { return taulut_.arvo.lampotila; }
   /// Solar radiation on a surface of that direction (`Suunta`), kWh/m² in month 0 to 11. Raises std::out_of_range.

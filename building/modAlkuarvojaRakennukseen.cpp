@@ -24,10 +24,10 @@ namespace {
 
 constexpr double kProsentti = 100;
 constexpr double kLammitystarvelukuAluksi = 4444;
-constexpr double kIkkunoidenOsuus = 0.12, kOvienOsuus = 0.01;   // of the floor area
-constexpr int kSuorakaide = 1;                                  // plan shape of a new building, sides 1 to 2
+constexpr double kIkkunoidenOsuus = 0.12, kOvienOsuus = 0.01;  // of the floor area
+constexpr int kSuorakaide = 1;                                 // plan shape of a new building, sides 1 to 2
 constexpr double kSuorakaiteenSuhde = 0.5;
-constexpr double kPohjanAlaIlmanKerroksia = 500;                // m²
+constexpr double kPohjanAlaIlmanKerroksia = 500;                                  // m²
 constexpr double kKylmaVesi = 5, kKuumaKayttovesi = 55, kKuumaProsessivesi = 70;  // °C
 constexpr double kTuntiaVuodessa = 8760;
 
@@ -197,8 +197,9 @@ void LuoTilanRakenteet(clsTila& tila, const TilanLahtotiedot& tiedot) try {
   Odotus odotus;
   for (const Oletusrakenne& malli : kOletusrakenteet) {
     odotus.Teksti(Teksti(malli.paneeliteksti));
-    const double pintaAla =
-        malli.osuus * (malli.pinta == Pinta::Ulkoseina ? ulkoseina : malli.pinta == Pinta::Ikkuna ? ikkunat : pohja);
+    const double pintaAla = malli.osuus * (malli.pinta == Pinta::Ulkoseina ? ulkoseina
+                                           : malli.pinta == Pinta::Ikkuna  ? ikkunat
+                                                                           : pohja);
     const std::string kirjastoId = oletukset ? oletukset->at(malli.kirjastosarake) : std::string();
     LuoRakenne(tila.Rakenteet.Add(Tunniste::Uusi(clsRakenne::kLuokka.NimiSana())),
                {malli.nimi, malli.rakennetyyppi, malli.suuntaus, pintaAla, malli.u_arvo, kirjastoId}, kirjasto.get());

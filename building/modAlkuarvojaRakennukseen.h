@@ -29,13 +29,13 @@ void AlustaToteutuneetKulutukset(clsToteutuneetKulutukset& kulutukset);
 
 /// What the space is made from.
 struct TilanLahtotiedot {
-  double tilavuus = 0;              ///< m³, heated or not
-  double ala = 0;                   ///< m²
-  int kayttotarkoituskoodi = 0;     ///< code of the use type
-  double kylmanTilavuudenOsuus = 0; ///< %
-  double kylmanAlanOsuus = 0;       ///< %
+  double tilavuus = 0;               ///< m³, heated or not
+  double ala = 0;                    ///< m²
+  int kayttotarkoituskoodi = 0;      ///< code of the use type
+  double kylmanTilavuudenOsuus = 0;  ///< %
+  double kylmanAlanOsuus = 0;        ///< %
   double kerroksia = 1;
-  int vuosi = 0;                    ///< of completion
+  int vuosi = 0;  ///< of completion
   double henkiloita = 0;
 };
 
@@ -45,12 +45,12 @@ void LuoTilanRakenteet(clsTila& tila, const TilanLahtotiedot& tiedot);
 
 /// One structure of the space.
 struct RakenteenLahtotiedot {
-  std::string nimi;           ///< given to a structure without a solution of its own name
-  std::int32_t rakennetyyppi; ///< kind, 0 to 7
-  std::int32_t suuntaus;      ///< direction, 0 to 4
-  double ala;                 ///< m²
-  double u_arvo;              ///< W/m²K, if the library gives none
-  std::string kirjastoId;     ///< identifier in the structure library; empty: no solution
+  std::string nimi;            ///< given to a structure without a solution of its own name
+  std::int32_t rakennetyyppi;  ///< kind, 0 to 7
+  std::int32_t suuntaus;       ///< direction, 0 to 4
+  double ala;                  ///< m²
+  double u_arvo;               ///< W/m²K, if the library gives none
+  std::string kirjastoId;      ///< identifier in the structure library; empty: no solution
 };
 /// Fills a structure; `kirjasto` may be nothing when the library can't be opened.
 void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakennekirjasto* kirjasto);

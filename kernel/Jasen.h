@@ -95,7 +95,10 @@ constexpr Jasen Lapsi(std::string_view nimi) {
   using C = typename Osat<decltype(Kentta)>::Luokka;
   using T = typename Osat<decltype(Kentta)>::Tyyppi;
   Jasen j{nimi, Laji::Olio, {}};
-  if constexpr (requires(T& t) { t.Luo(); t.get(); }) {
+  if constexpr (requires(T & t) {
+                  t.Luo();
+                  t.get();
+                }) {
     j.olio = [](Olio& o) -> Olio* { return (static_cast<C&>(o).*Kentta).get(); };
     j.luo = [](Olio& o) -> Olio& { return (static_cast<C&>(o).*Kentta).Luo(); };
   } else {

@@ -14,7 +14,8 @@ std::tm PaikallinenAika() {
 
 std::string TamaPaiva() {
   const std::tm aika = PaikallinenAika();
-  return std::to_string(aika.tm_mday) + "." + std::to_string(aika.tm_mon + 1) + "." + std::to_string(aika.tm_year + 1900);
+  return std::to_string(aika.tm_mday) + "." + std::to_string(aika.tm_mon + 1) + "." +
+         std::to_string(aika.tm_year + 1900);
 }
 
 int TamaVuosi() { return PaikallinenAika().tm_year + 1900; }

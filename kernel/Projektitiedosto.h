@@ -70,7 +70,8 @@ struct Tiedostoversio {
 /// Reads the version without loading. Raises Projektivirhe when the file is no project.
 Tiedostoversio HaeTiedostonVersio(const std::string& tiedosto);
 
-/// A backup that a save left behind when it failed or was cut off, or "". The next save puts it aside with SailytaAjalla.
+/// A backup that a save left behind when it failed or was cut off, or "". The next save puts it aside with
+/// SailytaAjalla.
 std::string JaanytVarakopio();
 /// Renames a file so that it bears its date and time; the last five of that name are kept. Its new name, "" when there
 /// is no such file. Raises std::system_error.

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-/// A word of the program that is kept once for the whole run: a class name, a fixed key. `taitettu` is the word in which
-/// all spellings that differ by letter case only meet.
+/// A word of the program that is kept once for the whole run: a class name, a fixed key. `taitettu` is the word in
+/// which all spellings that differ by letter case only meet.
 struct Sana {
   std::string teksti;
   const Sana* taitettu = nullptr;
@@ -18,7 +18,8 @@ struct Sana {
 const Sana& Sanaksi(std::string_view teksti);
 
 /// Key or identity of an object: either "class name" + blank + 32 hexadecimal digits, or any fixed text ("sKeyVesi").
-/// Trivially copyable, so that the copy of a tree costs no allocation for its identities. Compares without regard to case.
+/// Trivially copyable, so that the copy of a tree costs no allocation for its identities. Compares without regard to
+/// case.
 class Tunniste {
  public:
   static constexpr std::size_t kPisinTeksti = 96;  ///< room that `Kirjoita` needs at most

@@ -70,7 +70,8 @@ bool Muunna(const ArvoNakyma& lahde, float& kohde) {
 }
 
 bool Muunna(const ArvoNakyma& lahde, bool& kohde) {
-  if (lahde.OmaMuoto() == ArvoNakyma::Muoto::Teksti && (SamaNimi(lahde.Teksti(), "True") || SamaNimi(lahde.Teksti(), "Tosi"))) {
+  if (lahde.OmaMuoto() == ArvoNakyma::Muoto::Teksti &&
+      (SamaNimi(lahde.Teksti(), "True") || SamaNimi(lahde.Teksti(), "Tosi"))) {
     kohde = true;
     return true;
   }

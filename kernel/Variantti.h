@@ -76,8 +76,8 @@ class ArvoNakyma {
 };
 
 /// The one place where values are converted to a member's type. Each tells whether the value could be read; if not, the
-/// target keeps what it had. Texts may hold a number in point or comma form, times "hh:mm", Booleans any non-zero number,
-/// "True" or "Tosi".
+/// target keeps what it had. Texts may hold a number in point or comma form, times "hh:mm", Booleans any non-zero
+/// number, "True" or "Tosi".
 bool Muunna(const ArvoNakyma& lahde, std::int16_t& kohde);
 bool Muunna(const ArvoNakyma& lahde, std::int32_t& kohde);
 bool Muunna(const ArvoNakyma& lahde, float& kohde);

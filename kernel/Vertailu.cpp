@@ -6,7 +6,8 @@
 namespace {
 
 bool OnReaalinen(Laji laji) {
-  return laji == Laji::Yksinkertainen || laji == Laji::Kaksinkertainen || laji == Laji::Paivays || laji == Laji::Desimaali;
+  return laji == Laji::Yksinkertainen || laji == Laji::Kaksinkertainen || laji == Laji::Paivays ||
+         laji == Laji::Desimaali;
 }
 
 bool Muuttunut(Laji laji, const ArvoNakyma& arvo, const ArvoNakyma& toinen) {

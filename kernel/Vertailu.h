@@ -7,10 +7,10 @@ struct Muutos {
   std::string_view attribuutinNimi;
   std::string_view clsTypeName;
   Laji tietoTyyppi;
-  Tunniste instanssiId;       ///< of the object that the comparison was called on
-  double arvoEnnen = 0;       ///< every kind but text
+  Tunniste instanssiId;  ///< of the object that the comparison was called on
+  double arvoEnnen = 0;  ///< every kind but text
   double arvoJalkeen = 0;
-  std::string arvoEnnenStr;   ///< text
+  std::string arvoEnnenStr;  ///< text
   std::string arvoJalkeenStr;
 };
 

@@ -6,7 +6,8 @@
 #include <string_view>
 
 /// The one error that travels up a call chain. Every method of the model that can fail is a function-try-block whose
-/// handler raises the error anew under the method's own literal, so that `Lahde` names the outermost method that failed.
+/// handler raises the error anew under the method's own literal, so that `Lahde` names the outermost method that
+/// failed.
 class Virhe : public std::runtime_error {
  public:
   /// Numero is 9999 for a raised error; `syy` is the cause, kept for diagnosis only.

@@ -15,8 +15,7 @@ Sarakkeet TaulunSarakkeet(SQLite::Database& kanta, const std::string& taulu) {
   Sarakkeet sarakkeet;
   SQLite::Statement kysely(kanta, "SELECT name, type FROM pragma_table_info(?)");
   kysely.bind(1, taulu);
-  while (kysely.executeStep())
-    sarakkeet.emplace_back(kysely.getColumn(0).getString(), kysely.getColumn(1).getString());
+  while (kysely.executeStep()) sarakkeet.emplace_back(kysely.getColumn(0).getString(), kysely.getColumn(1).getString());
   return sarakkeet;
 }
 
@@ -48,7 +47,8 @@ TEST(Mallipohja, TablesAreTheClassesAndColumnsTheirMembersInOrder) {
     const std::string nimi(luokka->Nimi());
     SCOPED_TRACE(nimi);
     EXPECT_EQ(taulut.erase(nimi), 1u) << "the template has no such class";
-    Sarakkeet odotetut{{"ObjID", "TEXT"}, {"ParentID", "TEXT"}, {"MyRealNameInParentObj", "TEXT"}, {"OrderID", "INTEGER"}};
+    Sarakkeet odotetut{
+        {"ObjID", "TEXT"}, {"ParentID", "TEXT"}, {"MyRealNameInParentObj", "TEXT"}, {"OrderID", "INTEGER"}};
     for (const Jasen& jasen : luokka->Jasenet()) odotetut.emplace_back(jasen.nimi, SarakkeenTyyppi(jasen.laji));
     EXPECT_EQ(TaulunSarakkeet(kanta, nimi), odotetut);
   }
