@@ -2,6 +2,7 @@
 // The list of spaces.
 #include <algorithm>
 
+#include "building/Kuukausitase.h"
 #include "building/LisaaKopio.h"
 #include "building/Tasehaarukka.h"
 #include "building/Toimenpideviittaukset.h"
@@ -86,6 +87,7 @@ void clsTilat::LiitaTapahtumat() {
   lomake.MuokkaaKlikattu = [this] { KayttoLiittyma_MuokkaaKlikattu(); };
   lomake.KopioiKlikattu = [this] { KayttoLiittyma_KopioiKlikattu(); };
   lomake.PoistaKlikattu = [this] { KayttoLiittyma_PoistaKlikattu(); };
+  lomake.KuukausitaseKlikattu = [this] { NaytaKuukausitase(VaadiRakennus(), ValittuTila()); };
   lomake.SahkokuormatMuuttuivat = [this] { KayttoLiittyma_SahkokuormatMuuttuivat(); };
 }
 

@@ -11,6 +11,7 @@ frmTilaYhteenveto::frmTilaYhteenveto() : Lomake("frmTilaYhteenveto") {
   cmdMuokkaaTila.Nostaa(MuokkaaKlikattu);
   cmdKopioiTila.Nostaa(KopioiKlikattu);
   cmdPoistaTila.Nostaa(PoistaKlikattu);
+  cmdKuukausitase.Nostaa(KuukausitaseKlikattu);
   chkKaytaTotSahkoKuormia.KunKlikataan([this] {
     PaivitaNapit(lukittu_);
     Nosta(SahkokuormatMuuttuivat);
@@ -31,7 +32,8 @@ void frmTilaYhteenveto::PaivitaNapit(bool lukittu) {
   lukittu_ = lukittu;
   const bool valittu = lvwTilat.Indeksi() >= 0;
   cmdLisaaTila.Kaytossa(true);
-  for (const CommandButton& nappi : {cmdMuokkaaTila, cmdKopioiTila, cmdPoistaTila}) nappi.Kaytossa(valittu);
+  for (const CommandButton& nappi : {cmdMuokkaaTila, cmdKopioiTila, cmdPoistaTila, cmdKuukausitase})
+    nappi.Kaytossa(valittu);
   txtTotSahkoKuormaPros.Kaytossa(chkKaytaTotSahkoKuormia.Valittu());
   LukitseMuokkausnapit(*this, lukittu_);
 }

@@ -8,10 +8,11 @@ class frmTilaYhteenveto : public Lomake {
   frmTilaYhteenveto();
 
   std::function<void()> LisaaKlikattu;
-  // These three with a space chosen in the list.
+  // These four with a space chosen in the list.
   std::function<void()> MuokkaaKlikattu;
   std::function<void()> KopioiKlikattu;
   std::function<void()> PoistaKlikattu;
+  std::function<void()> KuukausitaseKlikattu;
   /// The check box was clicked, or a valid share was written.
   std::function<void()> SahkokuormatMuuttuivat;
 
@@ -23,6 +24,7 @@ class frmTilaYhteenveto : public Lomake {
   CommandButton cmdMuokkaaTila{*this, "cmdMuokkaaTila"};
   CommandButton cmdKopioiTila{*this, "cmdKopioiTila"};
   CommandButton cmdPoistaTila{*this, "cmdPoistaTila"};
+  CommandButton cmdKuukausitase{*this, "cmdKuukausitase"};
   CheckBox chkKaytaTotSahkoKuormia{*this, "chkKaytaTotSahkoKuormia"};
   TextBox txtTotSahkoKuormaPros{*this, "txtTotSahkoKuormaPros"};  // %
   CommandButton cmdSulje{*this, "cmdSulje"};

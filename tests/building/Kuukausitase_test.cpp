@@ -83,15 +83,18 @@ TEST_F(KuukausitaseTesti, TheDialogShowsTheFiguresAndHowTheYearIsScaled) {
   NaytaKuukausitase(*rakennus);
 }
 
-TEST_F(KuukausitaseTesti, TheHeatSummaryLeadsToTheBalance) {
-  bool naytetty = false;
+TEST_F(KuukausitaseTesti, HeatSummaryAndListOfSpacesLeadToTheBalance) {
+  std::vector<std::string> otsikot;
   ikkunat.KunNaytetaan("frmKuukausitase", [&](Ikkunaton& lomake) {
-    naytetty = true;
+    otsikot.push_back(lomake.Otsikko());
     lomake.KayttajaPainaa("cmdSulje");
   });
+  rakennus->Tilat.Item(1).TilanNimi = "Luokat";
   rakennus->NaytaLampoYhteenvetoDlg();
   ikkunat.Ikkuna("frmLampoYhteenveto").KayttajaPainaa("cmdKuukausitase");
-  EXPECT_TRUE(naytetty);
+  rakennus->Tilat.NaytaKayttoliittyma();
+  ikkunat.Ikkuna("frmTilaYhteenveto").KayttajaPainaa("cmdKuukausitase");
+  EXPECT_EQ(otsikot, (std::vector<std::string>{"Kuukausitase: Koulu, koko rakennus", "Kuukausitase: Koulu, Luokat"}));
 }
 
 TEST_F(KuukausitaseTesti, TheTableIsSavedAsASheetAndAFileIsReplacedOnlyByPermission) {
