@@ -39,7 +39,6 @@ bool Palvelin::Kuuntele() {
 
 void Palvelin::OtaAsiakkaat() {
   while (QLocalSocket* pistoke = kuuntelija_.nextPendingConnection()) {
-    siivous_.stop();
     asiakkaat_.push_back(std::make_unique<Asiakas>(pistoke));
     connect(
         pistoke, &QLocalSocket::disconnected, this, [this, asiakas = asiakkaat_.back().get()] { Poistui(*asiakas); },
@@ -53,7 +52,7 @@ void Palvelin::Poistui(Asiakas& asiakas) {
   poistuneet_.push_back(std::move(*it));
   asiakkaat_.erase(it);
   yrityksia_ = kTallennusyrityksia;
-  siivous_.start(0);
+  siivous_.start(kSiivousvali);  // a program that is just connecting gets in
 }
 
 void Palvelin::Siivoa() {
