@@ -45,7 +45,7 @@ void LueAsetukset() {
 
 Kirjastoyhteystiedot KirjastojenPaikat() {
   return {.koti = AppPath(),
-          .ohjelma = QCoreApplication::applicationDirPath().toStdString() + "/RakKirjSrv",
+          .ohjelma = Kirjastopalvelinohjelma(),
           .kayttajanKanta = [] { return Asetukset().strKayttajanTietokanta; },
           .vakiokanta = [] { return Asetukset().strVakioTietokanta; }};
 }

@@ -94,11 +94,20 @@ Alikehys* QtIkkuna::TeeAlikehys() {
   return alikehys_;
 }
 
+/// A new window no larger than the area, and wholly inside it.
+void QtIkkuna::Mahduta() {
+  const QRect alue = alue_->viewport()->rect();
+  alikehys_->resize(alikehys_->size().boundedTo(alue.size()));
+  if (!alue.contains(alikehys_->geometry())) alikehys_->move(alue.topLeft());
+}
+
 void QtIkkuna::Nayta() {
   if (alue_ && !dialogi_) {
-    if (!alikehys_) TeeAlikehys();
+    const bool uusi = !alikehys_;
+    if (uusi) TeeAlikehys();
     alikehys_->show();
     juuri_->show();
+    if (uusi) Mahduta();
     return alue_->setActiveSubWindow(alikehys_);
   }
   if (!dialogi_) TeeDialogi();

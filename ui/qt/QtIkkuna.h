@@ -30,6 +30,7 @@ class QtIkkuna : public Lomakeikkuna {
   void Aloita();
   void Irrota();
   QWidget* Vanhempi() const;
+  void Mahduta();
   Dialogikehys* TeeDialogi();
   Alikehys* TeeAlikehys();
 
