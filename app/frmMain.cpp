@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
@@ -12,6 +13,7 @@
 #include "app/Ikkunapaikka.h"
 #include "app/Istunto.h"
 #include "ui/Komento.h"
+#include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ui/qt/QtIkkuna.h"
@@ -134,7 +136,41 @@ void frmMain::mnuViewStatusBar_Click() { statusBar()->setVisible(!statusBar()->i
 
 bool frmMain::IkkunoitaAuki() const { return !alue_.subWindowList().isEmpty(); }
 void frmMain::mnuWindowCascade_Click() { alue_.cascadeSubWindows(); }
-void frmMain::mnuWindowTile_Click() { alue_.tileSubWindows(); }
+void frmMain::JaaIkkunat(Qt::Orientation suunta) {
+  const auto ikkunat = alue_.subWindowList();
+  const QSize tila = alue_.viewport()->size();
+  const int n = static_cast<int>(ikkunat.size());
+  const bool vierekkain = suunta == Qt::Horizontal;
+  for (int i = 0; i < n; ++i) {
+    ikkunat[i]->showNormal();
+    ikkunat[i]->setGeometry(vierekkain ? tila.width() * i / n : 0, vierekkain ? 0 : tila.height() * i / n,
+                            vierekkain ? tila.width() / n : tila.width(),
+                            vierekkain ? tila.height() : tila.height() / n);
+  }
+}
+
+/// Minimised windows in a row along the lower edge.
+void frmMain::mnuWindowArrangeIcons_Click() {
+  int x = 0;
+  for (QMdiSubWindow* ikkuna : alue_.subWindowList()) {
+    if (!ikkuna->isMinimized()) continue;
+    ikkuna->move(x, alue_.viewport()->height() - ikkuna->height());
+    x += ikkuna->width();
+  }
+}
+
+Ohjain* frmMain::Tulostusnappi() {
+  const Lomake* lomake = AktiivinenLomake();
+  if (!lomake) return nullptr;
+  for (const auto& ohjain : lomake->Ohjaimet())
+    if (ohjain->Nimi() == "cmdTulosta" && ohjain->Kaytossa() && ohjain->Nakyva()) return ohjain.get();
+  return nullptr;
+}
+
+void frmMain::mnuFilePrint_Click() {
+  const Ohjain* nappi = Tulostusnappi();
+  if (nappi && nappi->Klikattu) nappi->Klikattu();
+}
 
 void frmMain::mnuFileExit_Click() { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); }
 

@@ -10,6 +10,7 @@
 #include "ui/Paaikkuna.h"
 
 class Istunto;
+class Ohjain;
 
 /// The main window: what the auditor can open, by menus and tool bar, and the area of the forms. Its commands are the
 /// rows of Valikkotaulu.h. Makes the forms real windows in its area and is the main window of the model for its life.
@@ -38,7 +39,12 @@ class frmMain : public QMainWindow, public Paaikkuna {
   void mnuViewStatusBar_Click();
   bool IkkunoitaAuki() const;
   void mnuWindowCascade_Click();
-  void mnuWindowTile_Click();
+  /// The open windows side by side, each as high (Horizontal) or as wide (Vertical) as the area.
+  void JaaIkkunat(Qt::Orientation suunta);
+  void mnuWindowArrangeIcons_Click();
+  /// The print button of the form that has the person's attention, if it has one that can be pressed.
+  static Ohjain* Tulostusnappi();
+  static void mnuFilePrint_Click();
 
   /// Closes the window once the command has come to its end.
   void mnuFileExit_Click();

@@ -119,7 +119,7 @@ TEST_F(PaaikkunaTesti, TheModelDisablesTheFirstButtons) {
   ASSERT_TRUE(istunto.Avaa(kohde));
   ikkuna->PaivitaValikot();
   const auto napit = ikkuna->findChild<QToolBar*>("tbToolBar")->actions();
-  ASSERT_EQ(napit.size(), 3);
+  ASSERT_EQ(napit.size(), 4);
   ikkuna->TyokalutKaytossa(2, false);
   EXPECT_FALSE(napit[0]->isEnabled() || napit[1]->isEnabled());
   EXPECT_TRUE(napit[2]->isEnabled());
