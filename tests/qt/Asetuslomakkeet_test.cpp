@@ -211,7 +211,7 @@ TEST_F(Asetuslomakkeet, KaavioNayttaaNollatJaTyhjanIlmanVirhetta) {
   Juuri(lomake)->grab();
   lomake.chtTase.Kaavio({.otsikko = "Nollat", .nimet = {"a", "b"}, .sarjat = {{"x", {0, 0}, 0}}, .yksikko = "kWh"});
   Juuri(lomake)->grab();
-  EXPECT_EQ(Juuri(lomake)->findChild<Pylvaikko*>()->Seloste(QPointF(100, 100)), "");
+  EXPECT_EQ(Juuri(lomake)->findChild<Pylvaikko*>("chtTase")->Seloste(QPointF(100, 100)), "");
 }
 
 }  // namespace
