@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "app/Viimeisimmat.h"
 #include "building/Mallivaraus.h"
 #include "building/Yhteiset.h"
 #include "building/modAlkuarvojaRakennukseen.h"
@@ -107,6 +108,12 @@ void Istunto::mnuFileOpen_Click() {
   if (tiedosto && Avaa(*tiedosto)) NaytaPerustiedot();
 }
 
+void Istunto::AvaaViimeisin(const std::string& tiedosto) {
+  if (EstaaVaraus()) return;
+  Odotus odotus;
+  if (VoiVaihtaa() && Avaa(tiedosto)) NaytaPerustiedot();
+}
+
 /// An object that doesn't take shape, for the person cancels its first dialog or an error comes, is dropped.
 void Istunto::NaytaPerustiedot() try {
   if (!rakennus_->Perustiedot.NaytaKayttoliityma()) SuljeKohde();
@@ -133,7 +140,11 @@ bool Istunto::VoiLuopua(const Viesti& kysymys) {
   return rakennus_ && rakennus_->Tallennettu;
 }
 
-bool Istunto::Avaa(const std::string& tiedosto) { return VoiAvata(tiedosto) && Lataa(tiedosto); }
+bool Istunto::Avaa(const std::string& tiedosto) {
+  if (!VoiAvata(tiedosto) || !Lataa(tiedosto)) return false;
+  LisaaViimeisimpiin(tiedosto);
+  return true;
+}
 
 bool Istunto::VoiAvata(const std::string& tiedosto) const {
   if (!OnKohdetiedostonNimi(tiedosto)) {
@@ -224,7 +235,10 @@ bool Istunto::Tallenna(const std::string& tiedosto) {
   PoistaMerkki();
   const bool onnistui = rakennus_->Tallenna(tiedosto);
   Merkitse(tiedosto);
-  if (onnistui) PoistaTalteenotettu();
+  if (onnistui) {
+    PoistaTalteenotettu();
+    LisaaViimeisimpiin(tiedosto);
+  }
   return onnistui;
 }
 

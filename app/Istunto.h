@@ -32,6 +32,9 @@ class Istunto {
   void mnuFileSave_Click();
   void mnuFileSaveAs_Click();
 
+  /// As Open, for a file chosen from the list of the latest ones.
+  void AvaaViimeisin(const std::string& tiedosto);
+
   /// Opens the file in place of the present object. False, with a message, when the file isn't opened; the present
   /// object stays unless the file turned out to be bad only while it was being read.
   bool Avaa(const std::string& tiedosto);

@@ -9,9 +9,12 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
+#include <utility>
 
 #include "app/Ikkunapaikka.h"
 #include "app/Istunto.h"
+#include "app/Viimeisimmat.h"
+#include "kernel/Hakemistot.h"
 #include "ui/Komento.h"
 #include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
@@ -19,6 +22,8 @@
 #include "ui/qt/QtIkkuna.h"
 
 namespace {
+
+constexpr std::size_t kPolkuValikossa = 60;
 
 QString Q(const std::string& teksti) { return QString::fromStdString(teksti); }
 
@@ -41,6 +46,7 @@ frmMain::frmMain(Istunto& istunto) : istunto_(istunto), alue_(this), paneeli_(th
   statusBar()->setObjectName("sbStatusBar");
   statusBar()->addWidget(&paneeli_, 1);
   LuoValikot();
+  connect(menuBar()->findChild<QMenu*>("mnuFile"), &QMenu::aboutToShow, this, &frmMain::PaivitaViimeisimmat);
   connect(&alue_, &QMdiArea::subWindowActivated, this, &frmMain::PaivitaValikot);
   PalautaPaikka(*this);
   AsetaQtLomakkeet(&alue_);
@@ -96,6 +102,24 @@ void frmMain::LuoToiminto(const Valikkorivi& rivi, QMenu& valikko) {
   const QString nappaimet = toiminto.shortcut().toString(QKeySequence::NativeText);
   toiminto.setToolTip(Q(Teksti(rivi.tyokaluvihje)) + " (" + nappaimet + ')');
   tyokalut_->addAction(&toiminto);
+}
+
+void frmMain::PaivitaViimeisimmat() {
+  auto& valikko = *menuBar()->findChild<QMenu*>("mnuFile");
+  auto* lopeta = findChild<QAction*>("mnuFileExit");
+  for (QAction* vanha : std::exchange(viimeisimmat_, {})) delete vanha;
+  for (const std::string& tiedosto : ViimeisimmatTiedostot()) {
+    const QString numero = QString::number(viimeisimmat_.size() + 1);
+    auto* toiminto =
+        new QAction('&' + numero + "  " + Q(LyhennaPolku(tiedosto, kPolkuValikossa)).replace('&', "&&"), this);
+    connect(toiminto, &QAction::triggered, this, [this, tiedosto] {
+      SuoritaKomento([&] { istunto_.AvaaViimeisin(tiedosto); });
+      PaivitaValikot();
+    });
+    valikko.insertAction(lopeta, toiminto);
+    viimeisimmat_.push_back(toiminto);
+  }
+  if (!viimeisimmat_.empty()) viimeisimmat_.push_back(valikko.insertSeparator(lopeta));
 }
 
 void frmMain::PaivitaValikot() {

@@ -57,6 +57,8 @@ class frmMain : public QMainWindow, public Paaikkuna {
  private:
   void LuoValikot();
   QMenu& LuoValikko(const Paavalikko& valikko);
+  /// The latest files at the end of the File menu, before Exit.
+  void PaivitaViimeisimmat();
   void LuoToiminto(const Valikkorivi& rivi, QMenu& valikko);
   void Suorita(const Valikkorivi& rivi);
   bool QueryUnload(bool istuntoPaattyy);
@@ -71,4 +73,5 @@ class frmMain : public QMainWindow, public Paaikkuna {
     QAction& toiminto;
   };
   std::vector<Toiminto> toiminnot_;
+  std::vector<QAction*> viimeisimmat_;
 };

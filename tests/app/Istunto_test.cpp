@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The session as the auditor goes through it, without windows: answers and dialogs are scripted.
 #include "app/Istunto.h"
+#include "app/Viimeisimmat.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -334,6 +335,17 @@ TEST_F(IstuntoTesti, QuietMomentsKeepARecoveryCopyUntilACleanEnd) {
   EXPECT_TRUE(fs::exists(palautus));
   istunto.SuljeKohde();
   EXPECT_FALSE(fs::exists(palautus));
+}
+
+TEST_F(IstuntoTesti, TheLatestFilesStandFirstInTheList) {
+  const std::string eka = TallennettuKohde("Eka");
+  const std::string toka = TallennettuKohde("Toka");
+  ASSERT_GE(ViimeisimmatTiedostot().size(), 2u);
+  EXPECT_EQ(ViimeisimmatTiedostot()[0], toka);
+  istunto.AvaaViimeisin(eka);
+  EXPECT_EQ(ViimeisimmatTiedostot()[0], eka);
+  EXPECT_EQ(std::ranges::count(ViimeisimmatTiedostot(), eka), 1);
+  EXPECT_EQ(Tiedosto(), eka);
 }
 
 TEST_F(IstuntoTesti, UndoBringsBackTheModelBeforeTheLastCommittedDialog) {
