@@ -49,6 +49,18 @@ function(lumi_ohjelma nimi)
   endif()
 endfunction()
 
+# Environment of all tests, set by CTest itself when it reads them: settings of their own, no screen, the built data.
+function(lumi_testiymparisto)
+  set(rivit
+      "set(ENV{LUMIVIRTA_KOTI} [==[${LUMIVIRTA_KOTI}]==])"
+      "set(ENV{XDG_CONFIG_HOME} [==[${CMAKE_BINARY_DIR}/asetukset]==])"
+      "set(ENV{QT_QPA_PLATFORM} offscreen)"
+      "set(ENV{LSAN_OPTIONS} [==[suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0]==])")
+  list(JOIN rivit "\n" rivit)
+  file(WRITE "${CMAKE_BINARY_DIR}/testiymparisto.cmake" "${rivit}\n")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${CMAKE_BINARY_DIR}/testiymparisto.cmake")
+endfunction()
+
 # lumi_testi(<name> [QT] KANSIOT <folders under tests/> LINKIT <targets>): a GoogleTest program.
 # tests/<folder>/main.cpp, if any, takes the place of gtest_main.
 # A test finds the built data in $LUMIVIRTA_KOTI and files of the tree under the macro LUMIVIRTA_LAHDE.
@@ -77,13 +89,8 @@ function(lumi_testi nimi)
   else()
     lumi_esikaannos(${nimi} esi_testi)
   endif()
-  set(ymparisto "LUMIVIRTA_KOTI=${LUMIVIRTA_KOTI}" "XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/asetukset"
-      "QT_QPA_PLATFORM=offscreen")
-  if(LUMIVIRTA_SAN)
-    list(APPEND ymparisto "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0")
-  endif()
   gtest_discover_tests(${nimi} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-                       TEST_PREFIX "${nimi}." PROPERTIES TIMEOUT 300 ENVIRONMENT "${ymparisto}")
+                       TEST_PREFIX "${nimi}." PROPERTIES TIMEOUT 300)
 endfunction()
 
 # lumi_fuzz_kohteet(<folder>): one libFuzzer program per source file, under build/fuzz/fuzz/.
