@@ -37,7 +37,7 @@ fs::path Kotihakemisto() {
   return tiedot && tiedot->pw_dir ? tiedot->pw_dir : "/tmp";
 }
 
-/// A directory of the XDG base directory specification: a relative path in the variable counts as none.
+/// A directory of the XDG base directories: a relative path in the variable counts as none.
 fs::path XdgHakemisto(const char* muuttuja, const char* oletus) {
   const char* arvo = std::getenv(muuttuja);
   const fs::path hakemisto = arvo ? arvo : "";
