@@ -18,7 +18,7 @@ Vertailulaskenta::Tulos Laske(clsRakennus& rakennus) {
   tulos.haviot = rakennus.VuotuisetLampoHaviot();
   tulos.saatohaviot = rakennus.VuotuisetSaatohaviot();
   tulos.konversiohaviot = rakennus.VuotuisetLammonKonversiohaviot();
-  Kayta(rakennus.VuotuinenIVjalkilammitysLampo());
+  tulos.jalkilammitys = rakennus.VuotuinenIVjalkilammitysLampo();
   Kayta(rakennus.VuotuisetLKVHaviot());
   Kayta(rakennus.VuotuisetProsessiVesiHaviot());
   Kayta(rakennus.ToteutunutNormitettuLampo());
@@ -30,22 +30,40 @@ void VaadiSamat(const Vertailulaskenta::Tulos& oma, const Vertailulaskenta::Tulo
   VaadiSama(oma.haviot, vertailu.haviot, kTarkkuus, "losses");
   VaadiSama(oma.saatohaviot, vertailu.saatohaviot, kTarkkuus, "control losses");
   VaadiSama(oma.konversiohaviot, vertailu.konversiohaviot, kTarkkuus, "conversion losses");
+  VaadiSama(oma.jalkilammitys, vertailu.jalkilammitys, kTarkkuus, "after-heating");
 }
+
+struct Laskettavat {
+  explicit Laskettavat(clsRakennus& r) : rakennus(r), vertailu(r) {}
+  clsRakennus& rakennus;
+  Vertailulaskenta vertailu;
+  Vertailulaskenta::Tulos oma, toinen;
+};
 
 }  // namespace
 
 Vertailupari Laskentapari(clsRakennus& rakennus) {
-  struct Tila {
-    explicit Tila(clsRakennus& r) : rakennus(r), vertailu(r) {}
-    clsRakennus& rakennus;
-    Vertailulaskenta vertailu;
-    Vertailulaskenta::Tulos oma, toinen;
-  };
-  auto tila = std::make_shared<Tila>(rakennus);
+  auto tila = std::make_shared<Laskettavat>(rakennus);
   return {[tila] { return Suoritinaika([&] { tila->oma = Laske(tila->rakennus); }); },
           [tila] {
             return Suoritinaika([&] {
               tila->toinen = tila->vertailu.Laske();
+              Kayta(tila->toinen);
+            });
+          },
+          [tila] { VaadiSamat(tila->oma, tila->toinen); }};
+}
+
+Vertailupari Ilmanvaihtopari(clsRakennus& rakennus) {
+  auto tila = std::make_shared<Laskettavat>(rakennus);
+  return {[tila] {
+            clsIVKoneet& koneet = tila->rakennus.IVKoneet;
+            koneet.VuotuinenIVjalkilammitysLampoUpToDate = false;
+            return Suoritinaika([&] { tila->oma.jalkilammitys = koneet.VuotuinenIVjalkilammitysLampo(); });
+          },
+          [tila] {
+            return Suoritinaika([&] {
+              tila->toinen.jalkilammitys = tila->vertailu.Jalkilammitys();
               Kayta(tila->toinen);
             });
           },

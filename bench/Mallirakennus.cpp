@@ -99,6 +99,20 @@ void LisaaSahkoryhmat(clsSahkonKulutusryhmat& ryhmat, const clsTilat& tilat) {
   }
 }
 
+/// Seven lines of a season: two shifts, mornings and a night over midnight, at flows and supply temperatures that
+/// differ.
+void TaytaJaksot(clsKayntiAjat& ajat, int kone) {
+  int rivi = 0;
+  for (clsKayntiAika& jakso : ajat) {
+    jakso.KayntiJaksojenLkm = 5 + rivi % 3;
+    jakso.Alkaa.minuutit = (rivi * 195 + kone * 7) % 1440;
+    jakso.Paattyy.minuutit = (jakso.Alkaa.minuutit + 90 + rivi % 7 * 65) % 1440;
+    jakso.TuloIlmavirtaProsentti = 40 + rivi % 7 * 10;
+    jakso.Tsp = 17 + rivi % 7 * 0.5;
+    ++rivi;
+  }
+}
+
 struct Kansio {
   Kansio() : polku(AppPath() + "mittaus-" + std::to_string(getpid()) + "/") { fs::create_directories(polku); }
   ~Kansio() {
@@ -122,6 +136,21 @@ std::unique_ptr<clsRakennus> TeeMallirakennus(int tiloja, int rakenteita) {
   LisaaSahkoryhmat(rakennus->SahkonKulutusryhmat, rakennus->Tilat);
   rakennus->PaivitaInstanssiIdLista();
   return rakennus;
+}
+
+void LisaaKoneet(clsRakennus& rakennus, int koneita) {
+  for (int i = 0; i < koneita; ++i) {
+    clsIVKone& kone = rakennus.IVKoneet.Add(Tunniste::Uusi(clsIVKone::kLuokka.NimiSana()));
+    kone.IVPeriaateID = i % 4;
+    kone.TuloIlmavirta11Teho = kone.OnTulopuhallin() ? 1 + 0.1 * (i % 10) : 0;
+    kone.PoistoIlmavirta11Teho = 1.1 + 0.1 * (i % 7);
+    kone.LtoHyotysuhde = kone.OnTulopuhallin() ? 55 : 0;
+    kone.LiittyyTilaansKey = rakennus.Tilat.Item(2 + i * kTilojaKoneella % (rakennus.Tilat.Count() - 1)).sKey;
+    kone.KayntiAikaYleistiedot.KayntiaikojenSyottotapaID = i % 2;
+    kone.KayntiAikaYleistiedot.LuoJaksot(kone.SisaanpuhallusLampotila(), kone.IlmanLampeneminenPuhaltimessa);
+    TaytaJaksot(kone.KayntiAikaYleistiedot, i);
+  }
+  rakennus.PaivitaInstanssiIdLista();
 }
 
 const std::string& Mittauskansio() {

@@ -16,6 +16,8 @@ Vertailupari Tallennuspari(clsRakennus& rakennus);
 Vertailupari Avauspari(clsRakennus& rakennus);
 Vertailupari Kopiointipari(clsRakennus& rakennus);
 Vertailupari Laskentapari(clsRakennus& rakennus);
+/// The after-heating of the machines.
+Vertailupari Ilmanvaihtopari(clsRakennus& rakennus);
 
 /// Access to attributes by name: declares its benchmarks.
 void IlmoitaJasenmittaukset();

@@ -6,6 +6,8 @@
 
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
+#include "ventilation/LammitysTaulukko.h"
+#include "ventilation/Ulkolampotilat.h"
 
 namespace mittaus {
 
@@ -142,6 +144,91 @@ Vertailulaskenta::Vertailulaskenta(clsRakennus& rakennus) {
     tila.rakenteidenLoppu = rakenteet_.size();
     tilat_.push_back(tila);
   }
+  PoimiKoneet(rakennus);
+}
+
+void Vertailulaskenta::PoimiKoneet(clsRakennus& rakennus) {
+  constexpr double kTaulukonTarveluku = 4444;
+  tarveluku_ = rakennus.Perustiedot.NormVuodenLammTarveLuku;
+  for (int kk = 0; kk < 12; ++kk)
+    for (int tunti = 0; tunti < 24; ++tunti) {
+      lammitys15_[kk][tunti] = LammitysKerroin(kk + 1, tunti + 1, 15, 1, kTaulukonTarveluku);
+      lammitys30_[kk][tunti] = LammitysKerroin(kk + 1, tunti + 1, 30, 1, kTaulukonTarveluku);
+    }
+  for (const int vuosijakso : {0, 1, 3}) {
+    const Pysyvyys pysyvyys = Ulkolampotilat(vuosijakso);
+    alimmat_[static_cast<std::size_t>(vuosijakso)] = pysyvyys.alin;
+    pysyvyydet_[static_cast<std::size_t>(vuosijakso)].assign(pysyvyys.tunnit.begin(), pysyvyys.tunnit.end());
+  }
+  std::unordered_map<Tunniste, std::size_t> paikat;
+  for (const clsTila& tila : rakennus.Tilat) paikat.emplace(tila.sKey, paikat.size());
+  tilojenKoneet_.resize(tilat_.size());
+  for (const clsIVKone& k : rakennus.IVKoneet) {
+    const std::size_t tila = paikat.at(k.LiittyyTilaansKey);
+    Kone kone{k.IVPeriaateID != 2,        k.IVPeriaateID != 0,     k.KayntiAikaYleistiedot.Vuosittainen(),
+              k.TuloIlmavirta11Teho,      k.PoistoIlmavirta11Teho, k.LtoHyotysuhde,
+              tilat_[tila].sisalampotila, jaksot_.size(),          0};
+    for (const clsKayntiAika& j : k.KayntiAikaYleistiedot)
+      jaksot_.push_back({j.Jakso, j.KayntiJaksojenLkm, j.Alkaa.minuutit, j.Paattyy.minuutit, j.TuloIlmavirtaProsentti,
+                         j.Tsp, j.dTPuhallin});
+    kone.jaksojenLoppu = jaksot_.size();
+    if (!rakennus.Tilat.Item(static_cast<int>(tila) + 1).PainovoimainenIlmanvaihto)
+      tilojenKoneet_[tila].push_back(koneet_.size());
+    koneet_.push_back(kone);
+  }
+}
+
+/// Energy of an hour (1 to 24) of every day of the month, kWh.
+double Vertailulaskenta::Kerroin(int kk, int tunti, double T, double q) const {
+  const double A = lammitys15_[kk][tunti - 1], B = lammitys30_[kk][tunti - 1];
+  return ((B - A) / 15 * (T - 15) + A) * q * tarveluku_ / 4444;
+}
+
+/// Hour by hour: the part hours at both ends and the whole ones between them.
+double Vertailulaskenta::JaksonLampo(const Kayntijakso& j, double q, int kk, double Tsp) const {
+  const double T = Tsp - j.dT, Q = j.prosentti * q / 100, viikosta = j.lkm / 7.0;
+  const int hA = j.alkaa / 60 + 1, mA = j.alkaa % 60, hL = j.paattyy / 60 + 1, mL = j.paattyy % 60;
+  if (hA == hL && mL > mA) return Kerroin(kk, hA, T, Q) * (mL - mA) / 60 * viikosta;
+  double summa = Kerroin(kk, hA, T, Q) * (60 - mA) / 60;
+  if (hA < hL) {
+    for (int h = hA + 1; h <= hL - 1; ++h) summa += Kerroin(kk, h, T, Q);
+  } else {
+    for (int h = hA + 1; h <= 24; ++h) summa += Kerroin(kk, h, T, Q);
+    for (int h = 1; h <= hL - 1; ++h) summa += Kerroin(kk, h, T, Q);
+  }
+  return (summa + Kerroin(kk, hL, T, Q) * mL / 60) * viikosta;
+}
+
+double Vertailulaskenta::Hyotysuhde(double Tsp, double lto, double Tp, int vuosijakso) const {
+  if (vuosijakso == 2) return lto > 5 ? 100 : 0;
+  double tarve = 0, talteen = 0;
+  double T = alimmat_[static_cast<std::size_t>(vuosijakso)];
+  for (const double tunnit : pysyvyydet_[static_cast<std::size_t>(vuosijakso)]) {
+    const double d = std::max(0.0, (Tsp - T) * tunnit), Ta = T + (Tp - T) * lto / 100;
+    tarve += d;
+    talteen += std::min((Ta - T) * tunnit, d);
+    T += 1;
+  }
+  return talteen / tarve * 100;
+}
+
+template <class F>
+void Vertailulaskenta::Jaksoittain(const Kone& kone, int kk, F&& laske) const {
+  const int vuosijakso = kk < 2 || kk > 10 ? 0 : (kk - 2) / 3 + 1;
+  for (std::size_t i = kone.jaksojenAlku; i < kone.jaksojenLoppu; ++i)
+    if (jaksot_[i].vuosijakso == (kone.vuosittainen ? 4 : vuosijakso)) laske(jaksot_[i], vuosijakso);
+}
+
+double Vertailulaskenta::Jalkilammitys() const {
+  double summa = 0;
+  for (const Kone& kone : koneet_)
+    for (int kk = 0; kk < 12; ++kk)
+      Jaksoittain(kone, kk, [&](const Kayntijakso& j, int vuosijakso) {
+        const double lampo = JaksonLampo(j, kone.tulovirta, kk, j.Tsp);
+        const double talteen = kone.lto > 0.001 ? Hyotysuhde(j.Tsp, kone.lto, kone.Tp, vuosijakso) / 100 : 0;
+        summa += lampo - lampo * talteen;
+      });
+  return summa / 1000;
 }
 
 /// EN ISO 6946, combined method: the mean of the limits, the upper one over every combination of the materials of the
@@ -196,6 +283,7 @@ Vertailulaskenta::Tulos Vertailulaskenta::Laske() const {
                                   {1.4, 1.8, 2.2, 2.2, 2.2, 1.8, 1.4, 0.8, 0.3, 0.3, 0.8, 1.4},
                                   {0.8, 1.1, 1.3, 1.3, 1.3, 1.1, 0.8, 0.3, 0, 0, 0.3, 0.5}};
   Tulos tulos;
+  tulos.jalkilammitys = Jalkilammitys();
   for (const Tila& tila : tilat_) {
     double johtuminen[12] = {}, aurinko[12] = {};
     for (std::size_t i = tila.rakenteidenAlku; i < tila.rakenteidenLoppu; ++i) {
@@ -219,11 +307,24 @@ Vertailulaskenta::Tulos Vertailulaskenta::Laske() const {
     const double virta = tila.tilavuus * tila.ilmanvaihto / 3600;
     const double sahko = tila.ala * (tila.ryhmienKulutus / 12 / tila.ala + yleiskulutus_ / 12 / bruttoala_);
     const double henkilot = tila.henkiloita * 95.3454545454548 * tila.kayttoaika / 1000 / 12;
+    double koneidenHaviot[12] = {}, koneidenKuormat[12] = {};
+    for (const std::size_t k : tilojenKoneet_[static_cast<std::size_t>(&tila - tilat_.data())]) {
+      const Kone& kone = koneet_[k];
+      for (int m = 0; m < 12; ++m) {
+        double havio = 0;
+        Jaksoittain(kone, m, [&](const Kayntijakso& j, int) {
+          havio += JaksonLampo(j, kone.poisto ? kone.poistovirta : kone.tulovirta, m, tila.sisalampotila);
+          if (kone.tulo) havio -= JaksonLampo(j, kone.tulovirta, m, j.Tsp);
+        });
+        (havio > 0 ? koneidenHaviot : koneidenKuormat)[m] += std::abs(havio);
+      }
+    }
     double tarve = 0, haviot = 0, hyodynnetyt = 0;
     for (int m = 0; m < 12; ++m) {
       const double ulko = ulkolampotila_[static_cast<std::size_t>(m)];
-      const double L = johtuminen[m] + virta * 1.2 * 1.006 * (tila.sisalampotila - ulko) * kPaivat[m] * 24;
-      const double G = sahko + aurinko[m] + henkilot;
+      const double L =
+          johtuminen[m] + virta * 1.2 * 1.006 * (tila.sisalampotila - ulko) * kPaivat[m] * 24 + koneidenHaviot[m];
+      const double G = sahko + aurinko[m] + henkilot + koneidenKuormat[m];
       const double aste = G <= 0 ? 0 : L / G > 1 ? 1 : L / G;
       tarve += L - G * aste;
       haviot += L;
@@ -235,7 +336,8 @@ Vertailulaskenta::Tulos Vertailulaskenta::Laske() const {
     tulos.saatohaviot += (100 - tila.saatohyotysuhde) * (hyodynnetyt / 1000) / 100;
   }
   for (const auto& [osuus, hyotysuhde] : energiamuodot_)
-    if (hyotysuhde != 0) tulos.konversiohaviot += (1 / hyotysuhde - 1) * (tulos.lampoenergianTarve * osuus);
+    if (hyotysuhde != 0)
+      tulos.konversiohaviot += (1 / hyotysuhde - 1) * ((tulos.jalkilammitys + tulos.lampoenergianTarve) * osuus);
   return tulos;
 }
 

@@ -20,9 +20,13 @@ struct Vertailulaskenta {
     double haviot = 0;
     double saatohaviot = 0;
     double konversiohaviot = 0;
+    double jalkilammitys = 0;
     double aurinko = 0;  ///< solar gains, for comparison only
   };
   Tulos Laske() const;
+  /// After-heating of all machines, MWh/a: the demand of each running period hour by hour from the heating tables, less
+  /// recovery by the outdoor temperatures of the season.
+  double Jalkilammitys() const;
 
   struct Tila {
     double tilavuus, ala, henkiloita, kayttoaika, sisalampotila, ilmanvaihto, saatohyotysuhde, ryhmienKulutus;
@@ -38,6 +42,15 @@ struct Vertailulaskenta {
     double paksuus, lambda, lambda2, osuus2, vastus;
     bool jaettu;
   };
+  struct Kayntijakso {
+    int vuosijakso, lkm, alkaa, paattyy;  // minutes from midnight
+    double prosentti, Tsp, dT;
+  };
+  struct Kone {
+    bool tulo, poisto, vuosittainen;
+    double tulovirta, poistovirta, lto, Tp;
+    std::size_t jaksojenAlku, jaksojenLoppu;
+  };
   struct Varjostus {
     std::vector<double> leveysasteet, kulmat;
     std::vector<std::array<double, 3>> kertoimet;  // by latitude, then angle: south, east and west, north
@@ -47,10 +60,23 @@ struct Vertailulaskenta {
  private:
   double U(const Rakenne& r) const;
   std::array<double, 12> Aurinko(const Rakenne& r) const;
+  void PoimiKoneet(clsRakennus& rakennus);
+  double Kerroin(int kk, int tunti, double T, double q) const;
+  double JaksonLampo(const Kayntijakso& j, double q, int kk, double Tsp) const;
+  double Hyotysuhde(double Tsp, double lto, double Tp, int vuosijakso) const;
+  template <class F>
+  void Jaksoittain(const Kone& kone, int kk, F&& laske) const;
 
   std::vector<Tila> tilat_;
   std::vector<Rakenne> rakenteet_;
   std::vector<Kerros> kerrokset_;
+  std::vector<Kone> koneet_;
+  std::vector<Kayntijakso> jaksot_;
+  std::vector<std::vector<std::size_t>> tilojenKoneet_;
+  double lammitys15_[12][24] = {}, lammitys30_[12][24] = {};  // kWh for 1 m³/s, by month and hour
+  std::array<std::vector<double>, 4> pysyvyydet_;             // hours, by season
+  std::array<int, 4> alimmat_{};                              // °C of the first
+  double tarveluku_ = 0;                                      // degree days of the locality
   std::array<double, 12> ulkolampotila_{};
   std::array<std::array<double, 12>, 5> sateily_{};  // by orientation, MJ/m²
   Varjostus fh_, fo_, ff_;

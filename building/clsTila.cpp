@@ -81,20 +81,20 @@ clsTila::Koneet clsTila::LiittyvatKoneet() const {
   return VaadiRakennus().IVKoneet.ListaaTilaanLiittyvatIVKoneet(sKey);
 }
 
-/// Adds what the machine takes from the space or gives it in the month; nothing with natural ventilation.
-void clsTila::LisaaKone(const clsIVKone& kone, int kuukausi, double& haviot, double& kuormat) const {
+/// Adds by month what the machine takes from the space or gives it; nothing with natural ventilation.
+void clsTila::LisaaKone(const clsIVKone& kone, Kuukausitaulu& haviot, Kuukausitaulu& kuormat) const {
   if (PainovoimainenIlmanvaihto) return;
-  const double h = kone.HaviotTilaan(Sisalampotila, kuukausi);
-  (h > 0 ? haviot : kuormat) += std::abs(h);
+  const Kuukausitaulu vaikutus = kone.HaviotTilaan(Sisalampotila);
+  for (std::size_t m = 0; m < kKuukausia; ++m) (vaikutus[m] > 0 ? haviot : kuormat)[m] += std::abs(vaikutus[m]);
 }
 
 double clsTila::IVHaviotTilassa(int kuukausi) try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   if (ivHaviotUpToDate_) return ivHaviot_.arvo[m];
-  double haviot = 0, kuormat = 0;
-  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, kuukausi, haviot, kuormat);
-  ivKuormat_.arvo[m] = kuormat;
-  return haviot + Vuotoilma(kuukausi);
+  Kuukausitaulu haviot{}, kuormat{};
+  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, haviot, kuormat);
+  ivKuormat_.arvo[m] = kuormat[m];
+  return haviot[m] + Vuotoilma(kuukausi);
 } catch (...) {
   NostaVirhe("clsTila:IVHaviotTilassa Method");
 }
@@ -102,9 +102,9 @@ double clsTila::IVHaviotTilassa(int kuukausi) try {
 double clsTila::IVKoneLampoKuorma(int kuukausi) try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   if (ivKuormatUpToDate_) return ivKuormat_.arvo[m];
-  double haviot = 0, kuormat = 0;
-  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, kuukausi, haviot, kuormat);
-  return ivKuormat_.arvo[m] = kuormat;
+  Kuukausitaulu haviot{}, kuormat{};
+  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, haviot, kuormat);
+  return ivKuormat_.arvo[m] = kuormat[m];
 } catch (...) {
   NostaVirhe("clsTila:IVKoneLampoKuorma Method");
 }
@@ -289,15 +289,12 @@ void clsTila::PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistymi
 
 void clsTila::LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen) {
   Kuukausitaulu haviot{}, kuormat{};
-  const auto kuukausittain = [](auto&& laske) {
-    for (int m = 0; m < kKuukausia; ++m)
-      if (OnLammityskautta(m)) laske(m, static_cast<std::size_t>(m));
-  };
   for (const clsIVKone* kone : koneet) {
     edistyminen.Nayta("Lasketaan ilmanvaihtokonetta: ", kone->KoneenTunnus);
-    kuukausittain([&](int m, std::size_t i) { LisaaKone(*kone, m, haviot[i], kuormat[i]); });
+    LisaaKone(*kone, haviot, kuormat);
   }
-  kuukausittain([&](int m, std::size_t i) { haviot[i] += Vuotoilma(m); });
+  for (int m = 0; m < kKuukausia; ++m)
+    if (OnLammityskautta(m)) haviot[static_cast<std::size_t>(m)] += Vuotoilma(m);
   ivHaviot_.arvo = haviot;
   ivKuormat_.arvo = kuormat;
 }

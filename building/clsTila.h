@@ -115,7 +115,7 @@ class clsTila : public Malli<clsTila, Alkio> {
   Tase KuukaudenTase(int kuukausi);
   double KuukaudenTarve(int kuukausi);
   Koneet LiittyvatKoneet() const;
-  void LisaaKone(const clsIVKone& kone, int kuukausi, double& haviot, double& kuormat) const;
+  void LisaaKone(const clsIVKone& kone, Kuukausitaulu& haviot, Kuukausitaulu& kuormat) const;
   void LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen);
   template <class F>
   static double Vuosisumma(F&& kuukausiarvo);

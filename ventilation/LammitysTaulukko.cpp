@@ -68,38 +68,47 @@ constexpr Taulukko kLammitysTaulukko30{{
      1232, 1225, 1237, 1249, 1258, 1261, 1265, 1269, 1270, 1272, 1272, 1272},
 }};
 
-/// A table with its sums from midnight to each full hour, so that a running time costs two look-ups.
+using Kuukausiluvut = std::array<std::int32_t, kKuukausia>;
+
+/// A table with its sums from midnight to each full hour, so that a running time costs two look-ups. The months of an
+/// hour stand side by side: they are always computed together.
 class Kertymataulukko {
  public:
-  constexpr explicit Kertymataulukko(const Taulukko& taulukko) : tunnit_(taulukko) {
-    for (std::size_t k = 0; k < kKuukausia; ++k)
-      for (std::size_t h = 0; h < kTunteja; ++h) kertymat_[k][h + 1] = kertymat_[k][h] + tunnit_[k][h];
+  constexpr explicit Kertymataulukko(const Taulukko& taulukko) {
+    for (std::size_t h = 0; h < kTunteja; ++h)
+      for (std::size_t k = 0; k < kKuukausia; ++k) {
+        tunnit_[h][k] = taulukko[k][h];
+        kertymat_[h + 1][k] = kertymat_[h][k] + taulukko[k][h];
+      }
   }
-  constexpr std::int32_t Tunti(std::size_t kuukausi, std::size_t tunti) const { return tunnit_[kuukausi][tunti]; }
+  constexpr std::int32_t Tunti(std::size_t kuukausi, std::size_t tunti) const { return tunnit_[tunti][kuukausi]; }
   /// Sixtieths of the table's unit from one time of day to the other, over midnight when it isn't later: exact.
-  constexpr std::int32_t Vali(std::size_t kuukausi, Kellonaika alkaa, Kellonaika paattyy) const {
-    const std::int32_t yonYli =
-        paattyy.minuutit > alkaa.minuutit ? 0 : kMinuuttejaTunnissa * kertymat_[kuukausi].back();
-    return Keskiyosta(kuukausi, paattyy) - Keskiyosta(kuukausi, alkaa) + yonYli;
+  Kuukausiluvut Vali(Kellonaika alkaa, Kellonaika paattyy) const {
+    const auto yonYli = paattyy.minuutit > alkaa.minuutit ? 0 : kMinuuttejaTunnissa;
+    const auto [a, aMin] = Tunti(alkaa);
+    const auto [p, pMin] = Tunti(paattyy);
+    Kuukausiluvut vali;
+    for (std::size_t k = 0; k < kKuukausia; ++k)
+      vali[k] = kMinuuttejaTunnissa * (kertymat_[p][k] - kertymat_[a][k]) + pMin * tunnit_[p][k] -
+                aMin * tunnit_[a][k] + yonYli * kertymat_.back()[k];
+    return vali;
   }
 
  private:
-  constexpr std::int32_t Keskiyosta(std::size_t kuukausi, Kellonaika aika) const {
-    const auto h = static_cast<std::size_t>(aika.minuutit / kMinuuttejaTunnissa);
-    return kMinuuttejaTunnissa * kertymat_[kuukausi][h] + tunnit_[kuukausi][h] * (aika.minuutit % kMinuuttejaTunnissa);
+  static constexpr std::pair<std::size_t, std::int32_t> Tunti(Kellonaika aika) {
+    return {static_cast<std::size_t>(aika.minuutit / kMinuuttejaTunnissa), aika.minuutit % kMinuuttejaTunnissa};
   }
 
-  Taulukko tunnit_;
-  std::array<std::array<std::int32_t, kTunteja + 1>, kKuukausia> kertymat_{};
+  std::array<Kuukausiluvut, kTunteja> tunnit_{};
+  std::array<Kuukausiluvut, kTunteja + 1> kertymat_{};
 };
 
 constexpr Kertymataulukko k15{kLammitysTaulukko15};
 constexpr Kertymataulukko k30{kLammitysTaulukko30};
 
-/// The table value at T, linear between the two set-points, for the locality's degree days S.
-double Lampotilassa(double arvo15, double arvo30, double T, double S) {
-  const double arvo = (arvo30 - arvo15) / (kYlinLampotila - kAlinLampotila) * (T - kAlinLampotila) + arvo15;
-  return arvo * S / kVertailunLammitystarveluku;
+/// The table value at T, linear between the two set-points.
+double Lampotilassa(double arvo15, double arvo30, double T) {
+  return (arvo30 - arvo15) * ((T - kAlinLampotila) / (kYlinLampotila - kAlinLampotila)) + arvo15;
 }
 
 /// Shows the error of the first condition that fails.
@@ -121,11 +130,14 @@ bool OnLammitystaulukonLampotila(double T) { return T >= kAlinLampotila && T <= 
 double LammitysKerroin(int kk, int h, double T, double q, double S) {
   if (!Kelpaa(kk >= 1 && kk <= kKuukausia, h >= 1 && h <= static_cast<int>(kTunteja), T)) return 0;
   const auto k = static_cast<std::size_t>(kk - 1), tunti = static_cast<std::size_t>(h - 1);
-  return Lampotilassa(k15.Tunti(k, tunti), k30.Tunti(k, tunti), T, S) * q;
+  return Lampotilassa(k15.Tunti(k, tunti), k30.Tunti(k, tunti), T) * q * S / kVertailunLammitystarveluku;
 }
 
-double LammitysKerroin(int kk, Kellonaika alkaa, Kellonaika paattyy, double T, double q, double S) {
-  if (!Kelpaa(kk >= 1 && kk <= kKuukausia, OnVuorokaudessa(alkaa) && OnVuorokaudessa(paattyy), T)) return 0;
-  const auto k = static_cast<std::size_t>(kk - 1);
-  return Lampotilassa(k15.Vali(k, alkaa, paattyy), k30.Vali(k, alkaa, paattyy), T, S) * q / kMinuuttejaTunnissa;
+Kuukausitaulu LammitysKertoimet(Kellonaika alkaa, Kellonaika paattyy, double T, double q, double S) {
+  Kuukausitaulu kertoimet{};
+  if (!Kelpaa(true, OnVuorokaudessa(alkaa) && OnVuorokaudessa(paattyy), T)) return kertoimet;
+  const Kuukausiluvut A = k15.Vali(alkaa, paattyy), B = k30.Vali(alkaa, paattyy);
+  const double virta = q * S / kVertailunLammitystarveluku / kMinuuttejaTunnissa;
+  for (std::size_t k = 0; k < kKuukausia; ++k) kertoimet[k] = Lampotilassa(A[k], B[k], T) * virta;
+  return kertoimet;
 }

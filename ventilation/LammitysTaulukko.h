@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include "kernel/Laskenta.h"
 #include "kernel/Variantti.h"
 
 /// The set-point lies within the table, 15 to 30 °C.
@@ -10,6 +11,6 @@ bool OnLammitystaulukonLampotila(double T);
 /// Linear in T between the tables of 15 °C and 30 °C. Outside the ranges error 1015 (T), 1016 (h) or 1017 (kk), and 0.
 /// Source: the program's heating table, energy by month and hour of the day for a climate of 4444 degree days.
 double LammitysKerroin(int kk, int h, double T, double q, double S);
-/// The same for a running time of every day, the sum of its hours and part hours. One that ends when it begins or
-/// before that goes on over midnight: equal times are a whole day. Exact sums of the table, in constant time.
-double LammitysKerroin(int kk, Kellonaika alkaa, Kellonaika paattyy, double T, double q, double S);
+/// By month the same for a running time of every day, the sum of its hours and part hours. One that ends when it begins
+/// or before that goes on over midnight: equal times are a whole day. Exact sums of the table, whatever the times.
+Kuukausitaulu LammitysKertoimet(Kellonaika alkaa, Kellonaika paattyy, double T, double q, double S);

@@ -50,6 +50,11 @@ double Vuosisumma(F&& kuukausiarvo) {
   return Aarellinen(summa / kkWhperMWh);
 }
 
+Kuukausitaulu Erotus(Kuukausitaulu a, const Kuukausitaulu& b) {
+  for (std::size_t m = 0; m < kKuukausia; ++m) a[m] -= b[m];
+  return a;
+}
+
 }  // namespace
 
 const Luokka clsIVKone::kLuokka{"clsIVKone", kJasenet};
@@ -80,17 +85,29 @@ void clsIVKone::PaivitaPuhaltimienTiedot() {
   puhaltimet.KoneenTunnus = KoneenTunnus;
 }
 
-double clsIVKone::HaviotTilaan(double Tsisa, int kuukausi) const try {
+Kuukausitaulu clsIVKone::HaviotTilaan(double Tsisa) const try {
   const double poistuva = OnPoistopuhallin() ? PoistoIlmavirta11Teho : TuloIlmavirta11Teho;
-  const double poistoilma = KayntiAikaYleistiedot.LammonTarvePerKuukausi(poistuva, kuukausi, Tsisa);
-  if (!OnTulopuhallin()) return poistoilma;
-  return poistoilma - KayntiAikaYleistiedot.LammonTarvePerKuukausi(TuloIlmavirta11Teho, kuukausi);
+  const Kuukausitaulu poistoilma = KayntiAikaYleistiedot.LammonTarve(poistuva, Tsisa);
+  return OnTulopuhallin() ? Erotus(poistoilma, KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho)) : poistoilma;
 } catch (...) {
   NostaVirhe("clsIVKone:HaviotTilaan Method");
 }
 
+double clsIVKone::HaviotTilaan(double Tsisa, int kuukausi) const try {
+  return HaviotTilaan(Tsisa)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+} catch (...) {
+  NostaVirhe("clsIVKone:HaviotTilaan Method");
+}
+
+Kuukausitaulu clsIVKone::IV_LammEnergia() const try {
+  const Kuukausitaulu lto = KayntiAikaYleistiedot.LtoEnergia(TuloIlmavirta11Teho, Poistoilma(), LtoHyotysuhde);
+  return Erotus(KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho), lto);
+} catch (...) {
+  NostaVirhe("clsIVKone:IV_LammEnergia Method");
+}
+
 double clsIVKone::IV_LammEnergia(int kuukausi) const try {
-  return KayntiAikaYleistiedot.LammonTarvePerKuukausi(TuloIlmavirta11Teho, kuukausi) - LtoEnergia(kuukausi);
+  return IV_LammEnergia()[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 } catch (...) {
   NostaVirhe("clsIVKone:IV_LammEnergia Method");
 }
@@ -120,7 +137,8 @@ double clsIVKone::VesikiertoisenLampoPatterinEnergia(int kuukausi) const try {
 }
 
 double clsIVKone::VuotuinenIVjalkilammitysLampo() const try {
-  return Vuosisumma([this](int m) { return IV_LammEnergia(m); });
+  const Kuukausitaulu lampo = IV_LammEnergia();
+  return Vuosisumma([&lampo](int m) { return lampo[static_cast<std::size_t>(m)]; });
 } catch (...) {
   NostaVirhe("clsIVKone:VuotuinenIVjalkilammitysLampo Method");
 }

@@ -54,8 +54,10 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   /// What the machine takes from the heat of a space at Tsisa °C: warming the exhaust flow (the supply flow of a supply
   /// machine) from outdoors to Tsisa, less warming the supply flow to the set-points. Negative: a gain of the space.
   double HaviotTilaan(double Tsisa, int kuukausi) const;
+  Kuukausitaulu HaviotTilaan(double Tsisa) const;
   /// After-heating of the supply air: warming it to the set-points less recovery.
   double IV_LammEnergia(int kuukausi) const;
+  Kuukausitaulu IV_LammEnergia() const;
   /// Heat recovered, from air at the temperature of the space served or at `PoistoLampotila`.
   double LtoEnergia(int kuukausi) const;
   /// The after-heating that an electric coil gives, and that a water coil gives: one of them is 0.

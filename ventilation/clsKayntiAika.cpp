@@ -56,15 +56,18 @@ double clsKayntiAika::KuukaudenKayntiTunnit(int kuukausi) const try {
   NostaVirhe("clsKayntiAika:KuukaudenKayntiTunnit Method");
 }
 
-double clsKayntiAika::KayntiJaksonLampo(double q, int kuukausi, double lampotila) const try {
-  if (TuloIlmavirtaProsentti <= 0 || KayntiJaksojenLkm == 0) return 0;
+Kuukausitaulu clsKayntiAika::KayntiJaksonLampo(double q, double lampotila) const try {
+  if (TuloIlmavirtaProsentti <= 0 || KayntiJaksojenLkm == 0) return {};
   const double S = VaadiRakennus().Perustiedot.NormVuodenLammTarveLuku;
   const double virta = TuloIlmavirtaProsentti * q / 100;
-  return LammitysKerroin(kuukausi + 1, Alkaa, Paattyy, lampotila - dTPuhallin, virta, S) * KayntiJaksojenLkm /
-         kPaiviaViikossa;
+  return LammitysKertoimet(Alkaa, Paattyy, lampotila - dTPuhallin, virta * KayntiJaksojenLkm / kPaiviaViikossa, S);
 } catch (...) {
   Ilmoita("Yksittäisen käyntiajan. Lämpönergialaskennassa tuli virhe!", {}, Vakavuus::Virhe);
-  return 0;
+  return {};
+}
+
+double clsKayntiAika::KayntiJaksonLampo(double q, int kuukausi) const {
+  return KayntiJaksonLampo(q, Tsp)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 }
 
 double clsKayntiAika::LtoEnergiaHyotySuhde(double Tsp, double LtoHyoty, double Tp, int jakso) try {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include "kernel/Laskenta.h"
 #include "kernel/Olio.h"
 
 class PuhaltimenTeho;
@@ -26,12 +27,12 @@ class clsKayntiAika : public Malli<clsKayntiAika, Alkio> {
   /// Running hours of the month. Errors: 9999.
   double KuukaudenKayntiTunnit(int kuukausi) const;
 
-  /// Energy that warms q m³/s of supply air at full power from outdoors to `Tsp` − `dTPuhallin`, kWh in a month; each
-  /// run counts for a seventh of the days. 0 without flow or runs. Error 1015 and 0 for a temperature outside 15 to
-  /// 30 °C. A failure shows a message and gives 0.
-  double KayntiJaksonLampo(double q, int kuukausi) const { return KayntiJaksonLampo(q, kuukausi, Tsp); }
-  /// The same to another set-point than `Tsp`.
-  double KayntiJaksonLampo(double q, int kuukausi, double lampotila) const;
+  /// By month, kWh: energy that warms q m³/s of supply air at full power from outdoors to `lampotila` − `dTPuhallin`,
+  /// whatever the season; each run counts for a seventh of the days. 0 without flow or runs. Error 1015 and 0 for a
+  /// temperature outside 15 to 30 °C. A failure shows a message and gives 0.
+  Kuukausitaulu KayntiJaksonLampo(double q, double lampotila) const;
+  /// The same of one month to the period's own set-point.
+  double KayntiJaksonLampo(double q, int kuukausi) const;
 
   /// Energy efficiency of heat recovery over a season, %, by the season's outdoor temperatures: set-point `Tsp` °C,
   /// temperature efficiency `LtoHyoty` %, exhaust air `Tp` °C. In summer 100 as soon as the efficiency exceeds 5.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/clsKayntiAjat.h"
 
+#include <algorithm>
 #include <array>
-#include <limits>
+#include <optional>
 
-#include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
 
 namespace {
@@ -20,14 +20,28 @@ constexpr std::array<const char*, 5> kVuosijaksot{"EkaNeljannes", "TokaNeljannes
                                                   "KokoVuosi"};
 constexpr double kPieninLto = 0.001;  // %
 
+bool OnKuukausi(const clsKayntiAika& jakso, std::size_t m) {
+  return jakso.Jakso == clsKayntiAika::KokoVuosi ||
+         jakso.Jakso == clsKayntiAjat::MuunnaKuukausiJaksoksi(static_cast<int>(m));
+}
+
+/// The period's heat times the efficiency of recovery, which is that of the season in which the heat is needed.
+Kuukausitaulu JaksonLto(const clsKayntiAika& jakso, double q, double Tp, double LtoHyoty) {
+  Kuukausitaulu lampo = jakso.KayntiJaksonLampo(q, jakso.Tsp);
+  std::array<std::optional<double>, clsKayntiAika::KokoVuosi> hyotysuhteet;
+  for (std::size_t m = 0; m < kKuukausia; ++m) {
+    if (lampo[m] == 0 || !OnKuukausi(jakso, m)) continue;
+    const int vuosijakso = clsKayntiAjat::MuunnaKuukausiJaksoksi(static_cast<int>(m));
+    auto& hyotysuhde = hyotysuhteet[static_cast<std::size_t>(vuosijakso)];
+    if (!hyotysuhde) hyotysuhde = clsKayntiAika::LtoEnergiaHyotySuhde(jakso.Tsp, LtoHyoty, Tp, vuosijakso);
+    lampo[m] = lampo[m] * *hyotysuhde / 100;
+  }
+  return lampo;
+}
+
 }  // namespace
 
 const Luokka clsKayntiAjat::kLuokka{"clsKayntiAjat", kJasenet};
-
-int clsKayntiAjat::MuunnaKuukausiJaksoksi(int kuukausi) noexcept {
-  constexpr int kMaaliskuu = 2, kMarraskuu = 10, kKuukausiaJaksossa = 3;
-  return kuukausi < kMaaliskuu || kuukausi > kMarraskuu ? 0 : (kuukausi - kMaaliskuu) / kKuukausiaJaksossa + 1;
-}
 
 Tunniste clsKayntiAjat::JaksonAvain(int rivi, int vuosijakso) {
   return std::to_string(rivi) + kVuosijaksot.at(static_cast<std::size_t>(vuosijakso));
@@ -57,37 +71,46 @@ double clsKayntiAjat::Summa(int kuukausi, std::int32_t syottotapa, F&& arvo) con
   return summa;
 }
 
-double clsKayntiAjat::LammonTarvePerKuukausi(double q, int kuukausi) const try {
-  return Summa(kuukausi, KayntiaikojenSyottotapaID,
-               [=](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, kuukausi); });
+/// Sums by month over the periods that count, each in the months of its season. `arvot` gives a period's months.
+template <class F>
+Kuukausitaulu clsKayntiAjat::Kuukausisummat(F&& arvot) const {
+  Kuukausitaulu summat{};
+  for (const clsKayntiAika& jakso : *this) {
+    if ((jakso.Jakso == clsKayntiAika::KokoVuosi) != Vuosittainen()) continue;
+    const Kuukausitaulu jaksonArvot = arvot(jakso);
+    for (std::size_t m = 0; m < kKuukausia; ++m)
+      if (OnKuukausi(jakso, m)) summat[m] += jaksonArvot[m];
+  }
+  return summat;
+}
+
+Kuukausitaulu clsKayntiAjat::LammonTarve(double q) const try {
+  return Kuukausisummat([q](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, jakso.Tsp); });
 } catch (...) {
   NostaVirhe("clsKayntiAjat:LammonTarvePerKuukausi Method");
 }
 
-double clsKayntiAjat::LammonTarvePerKuukausi(double q, int kuukausi, double lampotila) const try {
-  return Summa(kuukausi, KayntiaikojenSyottotapaID,
-               [=](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, kuukausi, lampotila); });
+Kuukausitaulu clsKayntiAjat::LammonTarve(double q, double lampotila) const try {
+  return Kuukausisummat([=](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, lampotila); });
 } catch (...) {
   NostaVirhe("clsKayntiAjat:LammonTarvePerKuukausi Method");
 }
 
-double clsKayntiAjat::LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const try {
-  if (LtoHyoty <= kPieninLto) return 0;
-  const int vuosijakso = MuunnaKuukausiJaksoksi(kuukausi);
-  // The periods of a machine mostly have one set-point: the efficiency is computed anew only where it changes.
-  double Tsp = std::numeric_limits<double>::quiet_NaN(), hyotysuhde = 0;
-  const double summa = Summa(kuukausi, KayntiaikojenSyottotapaID, [&](const clsKayntiAika& jakso) {
-    const double lampo = jakso.KayntiJaksonLampo(q, kuukausi);
-    if (lampo == 0) return 0.0;
-    if (jakso.Tsp != Tsp) {
-      Tsp = jakso.Tsp;
-      hyotysuhde = clsKayntiAika::LtoEnergiaHyotySuhde(Tsp, LtoHyoty, Tp, vuosijakso);
-    }
-    return lampo * hyotysuhde / 100;
-  });
-  return summa > 0 ? summa : 0;
+double clsKayntiAjat::LammonTarvePerKuukausi(double q, int kuukausi) const {
+  return LammonTarve(q)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+}
+
+Kuukausitaulu clsKayntiAjat::LtoEnergia(double q, double Tp, double LtoHyoty) const try {
+  if (LtoHyoty <= kPieninLto) return {};
+  Kuukausitaulu summat = Kuukausisummat([=](const clsKayntiAika& jakso) { return JaksonLto(jakso, q, Tp, LtoHyoty); });
+  for (double& summa : summat) summa = std::max(summa, 0.0);
+  return summat;
 } catch (...) {
   NostaVirhe("clsKayntiAjat:LtoEnergiaPerKuukausi Method");
+}
+
+double clsKayntiAjat::LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const {
+  return LtoEnergia(q, Tp, LtoHyoty)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 }
 
 double clsKayntiAjat::PuhallinSahkoPerKuukausi(PuhaltimenTeho& puhallin, int kuukausi) const try {

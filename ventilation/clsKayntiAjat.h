@@ -16,18 +16,23 @@ class clsKayntiAjat : public Malli<clsKayntiAjat, Kokoelma<clsKayntiAika>> {
 
   bool Vuosittainen() const noexcept { return KayntiaikojenSyottotapaID == 0; }
   /// Season of a month: 1 for March to May, 2 for June to August, 3 for September to November, else 0.
-  static int MuunnaKuukausiJaksoksi(int kuukausi) noexcept;
+  static constexpr int MuunnaKuukausiJaksoksi(int kuukausi) noexcept {
+    constexpr int kMaaliskuu = 2, kMarraskuu = 10, kKuukausiaJaksossa = 3;
+    return kuukausi < kMaaliskuu || kuukausi > kMarraskuu ? 0 : (kuukausi - kMaaliskuu) / kKuukausiaJaksossa + 1;
+  }
   /// Key of a line (1 to 7) of a season (clsKayntiAika::Vuosijakso): "1EkaNeljannes" to "7KokoVuosi".
   static Tunniste JaksonAvain(int rivi, int vuosijakso);
   /// Replaces the schedule by seven empty periods for each of the five seasons.
   void LuoJaksot(double Tsp, double dTPuhallin);
 
-  /// Heat that warms the supply air, q m³/s at full power, from outdoors to each period's set-point.
-  double LammonTarvePerKuukausi(double q, int kuukausi) const;
+  /// By month: heat that warms the supply air, q m³/s at full power, from outdoors to each period's set-point.
+  Kuukausitaulu LammonTarve(double q) const;
   /// The same to one temperature, °C, in all periods.
-  double LammonTarvePerKuukausi(double q, int kuukausi, double lampotila) const;
-  /// Heat recovered from exhaust air of Tp °C at a temperature efficiency of LtoHyoty %; 0 up to 0.001 % and when the
-  /// sum isn't positive.
+  Kuukausitaulu LammonTarve(double q, double lampotila) const;
+  double LammonTarvePerKuukausi(double q, int kuukausi) const;
+  /// By month: heat recovered from exhaust air of Tp °C at a temperature efficiency of LtoHyoty %; 0 up to 0.001 % and
+  /// where the sum isn't positive.
+  Kuukausitaulu LtoEnergia(double q, double Tp, double LtoHyoty) const;
   double LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const;
   /// Electricity of one fan.
   double PuhallinSahkoPerKuukausi(PuhaltimenTeho& puhallin, int kuukausi) const;
@@ -37,4 +42,6 @@ class clsKayntiAjat : public Malli<clsKayntiAjat, Kokoelma<clsKayntiAika>> {
  private:
   template <class F>
   double Summa(int kuukausi, std::int32_t syottotapa, F&& arvo) const;
+  template <class F>
+  Kuukausitaulu Kuukausisummat(F&& arvot) const;
 };

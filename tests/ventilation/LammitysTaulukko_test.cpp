@@ -11,7 +11,7 @@ constexpr double kS = 4444;  // the table's own degree days
 class LammitysTaulukko : public RakennusTesti {
  protected:
   static double Valilla(int kk, int alkaa, int paattyy, double T = 15) {
-    return LammitysKerroin(kk, Kellonaika{alkaa}, Kellonaika{paattyy}, T, 1, kS);
+    return LammitysKertoimet(Kellonaika{alkaa}, Kellonaika{paattyy}, T, 1, kS)[static_cast<std::size_t>(kk - 1)];
   }
 };
 
