@@ -87,17 +87,19 @@ Kuukausitaulu clsKayntiAjat::Kuukausisummat(F&& arvot) const {
 Kuukausitaulu clsKayntiAjat::LammonTarve(double q) const try {
   return Kuukausisummat([q](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, jakso.Tsp); });
 } catch (...) {
-  NostaVirhe("clsKayntiAjat:LammonTarvePerKuukausi Method");
+  NostaVirhe("clsKayntiAjat:LammonTarve Method");
 }
 
 Kuukausitaulu clsKayntiAjat::LammonTarve(double q, double lampotila) const try {
   return Kuukausisummat([=](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, lampotila); });
 } catch (...) {
-  NostaVirhe("clsKayntiAjat:LammonTarvePerKuukausi Method");
+  NostaVirhe("clsKayntiAjat:LammonTarve Method");
 }
 
-double clsKayntiAjat::LammonTarvePerKuukausi(double q, int kuukausi) const {
+double clsKayntiAjat::LammonTarvePerKuukausi(double q, int kuukausi) const try {
   return LammonTarve(q)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+} catch (...) {
+  NostaVirhe("clsKayntiAjat:LammonTarvePerKuukausi Method");
 }
 
 Kuukausitaulu clsKayntiAjat::LtoEnergia(double q, double Tp, double LtoHyoty) const try {
@@ -106,11 +108,13 @@ Kuukausitaulu clsKayntiAjat::LtoEnergia(double q, double Tp, double LtoHyoty) co
   for (double& summa : summat) summa = std::max(summa, 0.0);
   return summat;
 } catch (...) {
-  NostaVirhe("clsKayntiAjat:LtoEnergiaPerKuukausi Method");
+  NostaVirhe("clsKayntiAjat:LtoEnergia Method");
 }
 
-double clsKayntiAjat::LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const {
+double clsKayntiAjat::LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const try {
   return LtoEnergia(q, Tp, LtoHyoty)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+} catch (...) {
+  NostaVirhe("clsKayntiAjat:LtoEnergiaPerKuukausi Method");
 }
 
 double clsKayntiAjat::PuhallinSahkoPerKuukausi(PuhaltimenTeho& puhallin, int kuukausi) const try {
