@@ -11,7 +11,6 @@
 #include "ventilation/LammitysTaulukko.h"
 #include "ventilation/PuhaltimenTeho.h"
 #include "ventilation/Ulkolampotilat.h"
-#include "ventilation/clsKayntiAjat.h"
 
 namespace {
 
@@ -35,11 +34,6 @@ constexpr int kLampotilavirhe = 1015, kJaksovirhe = 1018;
 }  // namespace
 
 const Luokka clsKayntiAika::kLuokka{"clsKayntiAika", kJasenet};
-
-bool clsKayntiAika::KuuluuKuukauteen(int kuukausi) const noexcept {
-  if (kuukausi < 0 || kuukausi >= kKuukausia) return false;
-  return Jakso == KokoVuosi || Jakso == clsKayntiAjat::MuunnaKuukausiJaksoksi(kuukausi);
-}
 
 double clsKayntiAika::KayntiTunnit() const {
   int minuutit = Paattyy.minuutit - Alkaa.minuutit;

@@ -21,7 +21,15 @@ class clsKayntiAika : public Malli<clsKayntiAika, Alkio> {
   double dTPuhallin = 1.0;             ///< warming of the air in the fan, K
 
   /// The period's season takes in the month; never for an unknown season.
-  bool KuuluuKuukauteen(int kuukausi) const noexcept;
+  bool KuuluuKuukauteen(int kuukausi) const noexcept {
+    if (kuukausi < 0 || kuukausi >= kKuukausia) return false;
+    return Jakso == KokoVuosi || Jakso == MuunnaKuukausiJaksoksi(kuukausi);
+  }
+  /// Season of a month: 1 for March to May, 2 for June to August, 3 for September to November, else 0.
+  static constexpr int MuunnaKuukausiJaksoksi(int kuukausi) noexcept {
+    constexpr int kMaaliskuu = 2, kMarraskuu = 10, kKuukausiaJaksossa = 3;
+    return kuukausi < kMaaliskuu || kuukausi > kMarraskuu ? 0 : (kuukausi - kMaaliskuu) / kKuukausiaJaksossa + 1;
+  }
   /// Hours of one run, 0 to 24. Times that aren't times of day: a message, and 0.
   double KayntiTunnit() const;
   /// Running hours of the month. Errors: 9999.

@@ -20,18 +20,14 @@ constexpr std::array<const char*, 5> kVuosijaksot{"EkaNeljannes", "TokaNeljannes
                                                   "KokoVuosi"};
 constexpr double kPieninLto = 0.001;  // %
 
-bool OnKuukausi(const clsKayntiAika& jakso, std::size_t m) {
-  return jakso.Jakso == clsKayntiAika::KokoVuosi ||
-         jakso.Jakso == clsKayntiAjat::MuunnaKuukausiJaksoksi(static_cast<int>(m));
-}
-
 /// The period's heat times the efficiency of recovery, which is that of the season in which the heat is needed.
 Kuukausitaulu JaksonLto(const clsKayntiAika& jakso, double q, double Tp, double LtoHyoty) {
   Kuukausitaulu lampo = jakso.KayntiJaksonLampo(q, jakso.Tsp);
   std::array<std::optional<double>, clsKayntiAika::KokoVuosi> hyotysuhteet;
-  for (std::size_t m = 0; m < kKuukausia; ++m) {
-    if (lampo[m] == 0 || !OnKuukausi(jakso, m)) continue;
-    const int vuosijakso = clsKayntiAjat::MuunnaKuukausiJaksoksi(static_cast<int>(m));
+  for (int kuukausi = 0; kuukausi < kKuukausia; ++kuukausi) {
+    const auto m = static_cast<std::size_t>(kuukausi);
+    if (lampo[m] == 0 || !jakso.KuuluuKuukauteen(kuukausi)) continue;
+    const int vuosijakso = clsKayntiAjat::MuunnaKuukausiJaksoksi(kuukausi);
     auto& hyotysuhde = hyotysuhteet[static_cast<std::size_t>(vuosijakso)];
     if (!hyotysuhde) hyotysuhde = clsKayntiAika::LtoEnergiaHyotySuhde(jakso.Tsp, LtoHyoty, Tp, vuosijakso);
     lampo[m] = lampo[m] * *hyotysuhde / 100;
@@ -78,8 +74,8 @@ Kuukausitaulu clsKayntiAjat::Kuukausisummat(F&& arvot) const {
   for (const clsKayntiAika& jakso : *this) {
     if ((jakso.Jakso == clsKayntiAika::KokoVuosi) != Vuosittainen()) continue;
     const Kuukausitaulu jaksonArvot = arvot(jakso);
-    for (std::size_t m = 0; m < kKuukausia; ++m)
-      if (OnKuukausi(jakso, m)) summat[m] += jaksonArvot[m];
+    for (int m = 0; m < kKuukausia; ++m)
+      if (jakso.KuuluuKuukauteen(m)) summat[static_cast<std::size_t>(m)] += jaksonArvot[static_cast<std::size_t>(m)];
   }
   return summat;
 }

@@ -15,10 +15,9 @@ class clsKayntiAjat : public Malli<clsKayntiAjat, Kokoelma<clsKayntiAika>> {
   std::string IvKoneenNimi;
 
   bool Vuosittainen() const noexcept { return KayntiaikojenSyottotapaID == 0; }
-  /// Season of a month: 1 for March to May, 2 for June to August, 3 for September to November, else 0.
+  /// Season of a month, 0 to 3 (clsKayntiAika::MuunnaKuukausiJaksoksi).
   static constexpr int MuunnaKuukausiJaksoksi(int kuukausi) noexcept {
-    constexpr int kMaaliskuu = 2, kMarraskuu = 10, kKuukausiaJaksossa = 3;
-    return kuukausi < kMaaliskuu || kuukausi > kMarraskuu ? 0 : (kuukausi - kMaaliskuu) / kKuukausiaJaksossa + 1;
+    return clsKayntiAika::MuunnaKuukausiJaksoksi(kuukausi);
   }
   /// Key of a line (1 to 7) of a season (clsKayntiAika::Vuosijakso): "1EkaNeljannes" to "7KokoVuosi".
   static Tunniste JaksonAvain(int rivi, int vuosijakso);
