@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSet>
+#include <QTabWidget>
+#include <functional>
 #include <memory>
 
 #include "ui/Lomake.h"
@@ -54,6 +56,19 @@ class Lomakkeet : public ::testing::TestWithParam<std::string> {
     return kentat;
   }
 
+  /// Looks at every page of the tab controls, those on a page of another one too.
+  void KullakinSivulla(const std::function<void()>& katso, const QSet<QTabWidget*>& kaydyt = {}) {
+    for (QTabWidget* sivut : Lapset<QTabWidget>()) {
+      if (kaydyt.contains(sivut)) continue;
+      for (int i = 0; i < sivut->count(); ++i) {
+        sivut->setCurrentIndex(i);
+        KullakinSivulla(katso, kaydyt + QSet{sivut});
+      }
+      return;
+    }
+    katso();
+  }
+
   std::unique_ptr<Lomake> lomake_;
   QWidget* juuri_ = nullptr;
 };
@@ -81,6 +96,11 @@ QString Pikakirjain(const QString& otsikko) {
   return paikka < 0 ? QString() : ilman.mid(paikka + 1, 1).toLower();
 }
 
+/// Has Enter or Escape instead of a letter.
+bool OnVastausnappi(const QWidget* nappi) {
+  return QStringList{"cmdOk", "cmdPeruuta", "cmdSulje", "cmdJatka"}.contains(nappi->objectName());
+}
+
 TEST_P(Lomakkeet, KaikillaTeksteillaOnRiviTekstivarastossa) {
   EXPECT_FALSE(lomake_->Otsikko().empty());
   EXPECT_EQ(lomake_->Otsikko().find("[String"), std::string::npos);
@@ -103,16 +123,27 @@ TEST_P(Lomakkeet, JokaisellaKentallaOnNimiJaOtsikollaKentta) {
   }
 }
 
-TEST_P(Lomakkeet, PikakirjaimetOvatEriKirjaimia) {
-  QStringList otsikot;
-  for (const QLabel* otsikko : Lapset<QLabel>()) otsikot << otsikko->text();
-  for (const QAbstractButton* nappi : Lapset<QAbstractButton>()) otsikot << nappi->text();
-  QSet<QString> varatut;
-  for (const QString& otsikko : otsikot) {
-    const QString kirjain = Pikakirjain(otsikko);
-    EXPECT_FALSE(!kirjain.isEmpty() && varatut.contains(kirjain)) << otsikko.toStdString();
-    varatut << kirjain;
-  }
+TEST_P(Lomakkeet, KullakinNakyvallaOnOmaPikakirjain) {
+  KullakinSivulla([this] {
+    QStringList otsikot;
+    for (const QLabel* otsikko : Lapset<QLabel>())
+      if (otsikko->buddy() && !otsikko->buddy()->property("readOnly").toBool()) otsikot << otsikko->text();
+    for (const QAbstractButton* nappi : Lapset<QAbstractButton>())
+      if (!OnVastausnappi(nappi) && !nappi->text().isEmpty()) otsikot << nappi->text();
+    QSet<QString> varatut, kaikki;
+    QStringList ilman;
+    for (const QString& otsikko : otsikot) {
+      const QString kirjain = Pikakirjain(otsikko);
+      EXPECT_FALSE(varatut.contains(kirjain)) << otsikko.toStdString();
+      if (kirjain.isEmpty())
+        ilman << otsikko;
+      else
+        varatut << kirjain;
+      for (const QChar merkki : otsikko)
+        if (merkki.isLetter()) kaikki << merkki.toLower();
+    }
+    EXPECT_TRUE(ilman.isEmpty() || varatut == kaikki) << "kirjaimia olisi: " << ilman.join(", ").toStdString();
+  });
 }
 
 TEST_P(Lomakkeet, SarkainKulkeeLukujarjestyksessa) {

@@ -4,7 +4,10 @@
 #include <QLabel>
 #include <QSet>
 #include <QStringList>
+#include <QTabWidget>
 #include <QWidget>
+#include <algorithm>
+#include <vector>
 
 #include "kernel/Kirjainkoko.h"
 #include "ui/qt/QtOhjain.h"
@@ -38,15 +41,65 @@ bool SaaKirjaimen(const QtOhjain& ohjain) {
   return OnNappi(ohjain) || (kentta && !kentta->property("readOnly").toBool());
 }
 
-/// The first letter of the caption that nobody has, word beginnings first; null when all are taken.
-QChar VapaaKirjain(const QString& otsikko, const QSet<QChar>& varatut) {
-  for (const bool sananAlku : {true, false})
-    for (qsizetype i = 0; i < otsikko.size(); ++i) {
-      const bool alussa = i == 0 || !otsikko[i - 1].isLetter();
-      const QChar kirjain = otsikko[i].toLower();
-      if (kirjain.isLetter() && (alussa || !sananAlku) && !varatut.contains(kirjain)) return kirjain;
-    }
-  return {};
+/// The pages of tab controls that the control lies on.
+QWidgetList Sivut(const QtOhjain& ohjain) {
+  QWidgetList sivut;
+  for (QWidget* w = ohjain.Widget(); w->parentWidget(); w = w->parentWidget())
+    if (qobject_cast<QTabWidget*>(w->parentWidget()->parentWidget())) sivut << w;
+  return sivut;
+}
+
+/// The letters of the caption, the beginnings of words first.
+QList<QChar> Kirjaimet(const QString& otsikko) {
+  QList<QChar> alut, muut;
+  for (qsizetype i = 0; i < otsikko.size(); ++i) {
+    const bool alussa = i == 0 || !otsikko[i - 1].isLetter();
+    if (otsikko[i].isLetter()) (alussa ? alut : muut) << otsikko[i].toLower();
+  }
+  return alut + muut;
+}
+
+/// A control that gets a letter.
+struct Saaja {
+  explicit Saaja(QtOhjain& o) : ohjain(&o), sivut(Sivut(o)), kirjaimet(Kirjaimet(QString::fromStdString(o.Teksti()))) {}
+  QtOhjain* ohjain;
+  QWidgetList sivut;
+  QList<QChar> kirjaimet;
+  QChar kirjain{};
+};
+
+/// False when the two lie on different pages of one tab control.
+bool NakyvatYhdessa(const Saaja& x, const Saaja& y) {
+  return std::ranges::none_of(x.sivut, [&](const QWidget* a) {
+    return std::ranges::any_of(y.sivut,
+                               [a](const QWidget* b) { return a != b && a->parentWidget() == b->parentWidget(); });
+  });
+}
+
+/// Those that have the letter and can be seen beside the receiver.
+std::vector<Saaja*> Haltijat(std::vector<Saaja>& saajat, const Saaja& saaja, QChar kirjain) {
+  std::vector<Saaja*> haltijat;
+  for (Saaja& s : saajat)
+    if (&s != &saaja && s.kirjain == kirjain && NakyvatYhdessa(s, saaja)) haltijat.push_back(&s);
+  return haltijat;
+}
+
+/// Gives the first free letter. When none is free, takes one whose only holder gets another one in the same way.
+bool AnnaKirjain(std::vector<Saaja>& saajat, Saaja& saaja, QSet<QChar>& koetut) {
+  const auto vapaa = std::ranges::find_if(saaja.kirjaimet, [&](QChar k) { return Haltijat(saajat, saaja, k).empty(); });
+  if (vapaa != saaja.kirjaimet.end()) {
+    saaja.kirjain = *vapaa;
+    return true;
+  }
+  return std::ranges::any_of(saaja.kirjaimet, [&, entinen = saaja.kirjain](QChar k) {
+    const auto haltijat = Haltijat(saajat, saaja, k);
+    if (haltijat.size() != 1 || koetut.contains(k)) return false;
+    koetut << k;
+    saaja.kirjain = k;
+    if (AnnaKirjain(saajat, *haltijat.front(), koetut)) return true;
+    saaja.kirjain = entinen;
+    return false;
+  });
 }
 
 QString NimionTeksti(const Lomakeikkuna& ikkuna, const QString& nimio) {
@@ -57,15 +110,17 @@ QString NimionTeksti(const Lomakeikkuna& ikkuna, const QString& nimio) {
 
 }  // namespace
 
+/// What lies on fewer pages comes first: more of the others can be seen beside it.
 void JaaPikakirjaimet(const Lomakeikkuna& ikkuna) {
-  QSet<QChar> varatut;
-  for (const auto& pohja : ikkuna.Ohjaimet()) {
-    QtOhjain& ohjain = Qt_(pohja);
-    if (!SaaKirjaimen(ohjain)) continue;
-    const QChar kirjain = VapaaKirjain(QString::fromStdString(ohjain.Teksti()), varatut);
-    if (!kirjain.isNull()) varatut.insert(kirjain);
-    ohjain.AsetaPikakirjain(kirjain);
+  std::vector<Saaja> saajat;
+  for (const auto& ohjain : ikkuna.Ohjaimet())
+    if (SaaKirjaimen(Qt_(ohjain))) saajat.emplace_back(Qt_(ohjain));
+  std::ranges::stable_sort(saajat, {}, [](const Saaja& s) { return s.sivut.size(); });
+  for (Saaja& saaja : saajat) {
+    QSet<QChar> koetut;
+    AnnaKirjain(saajat, saaja, koetut);
   }
+  for (const Saaja& saaja : saajat) saaja.ohjain->AsetaPikakirjain(saaja.kirjain);
 }
 
 void NimeaKentat(const Lomakeikkuna& ikkuna) {

@@ -2,9 +2,10 @@
 #pragma once
 #include "ui/Lomakeikkuna.h"
 
-/// Gives the captions of a form's buttons and of the labels of its editable fields a letter each for Alt, the first
-/// free one of the caption in the order of the form; none is given twice. The answering and closing buttons have Enter
-/// and Escape instead.
+/// Gives the captions of a form's buttons and of the labels of its editable fields a letter each for Alt: the first
+/// free one of the caption, in the order of the form, unless another one has to be left to a shorter caption. None is
+/// given twice among what can be seen at one time: pages of a tab control share letters with each other, but not with
+/// what stands outside them. The answering and closing buttons have Enter and Escape instead.
 void JaaPikakirjaimet(const Lomakeikkuna& ikkuna);
 
 /// Gives each field a name for assistive technology: the captions of the labels listed in its design-time property
