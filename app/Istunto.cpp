@@ -12,6 +12,7 @@
 #include "kernel/Hakemistot.h"
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Kirjoitussuoja.h"
+#include "kernel/Paivamaara.h"
 #include "kernel/Projektitiedosto.h"
 #include "kernel/Versio.h"
 #include "kernel/Virhe.h"
@@ -38,6 +39,14 @@ std::string Tekstit(std::initializer_list<int> tunnukset) {
 
 Vastaus Kysy(std::string teksti, int otsikko, Napit napit, Vastaus oletus, Vakavuus vakavuus = Vakavuus::Kysymys) {
   return ViestitNyt().Nayta({std::move(teksti), otsikko ? Teksti(otsikko) : std::string(), vakavuus, napit, oletus});
+}
+
+/// What tells one file that was left from another: the object's name, if it can be read, and when it was written.
+std::string Tuntomerkit(const std::string& tiedosto) {
+  const std::string nimi = HaeTiedostonTeksti(tiedosto, "clsPerustiedot", "KohteenNimi");
+  const auto [paiva, kello] = Kirjoitusaika(tiedosto);
+  return (nimi.empty() ? nimi : Teksti(9533) + " " + nimi + "\n") + Teksti(9534) + " " + paiva + " " + Teksti(9535) +
+         " " + kello;
 }
 
 /// Refuses a command while the model is reserved.
@@ -279,7 +288,7 @@ bool Istunto::TarjoaVarakopio() {
 /// Whatever the answer, the file is kept under a name of its own, where no later save replaces it. Until there is an
 /// answer it stays where it was, to be offered anew.
 bool Istunto::Tarjoa(const std::string& tiedosto, int kysymys) {
-  const Vastaus vastaus = Kysy(Teksti(kysymys), 9101, Napit::KyllaEi, Vastaus::Kylla);
+  const Vastaus vastaus = Kysy(Teksti(kysymys) + "\n\n" + Tuntomerkit(tiedosto), 9101, Napit::KyllaEi, Vastaus::Kylla);
   const std::string talteen = SailytaAjalla(tiedosto);
   if (vastaus == Vastaus::Ei) {
     Ilmoita(Teksti(9503) + " " + talteen, Teksti(9101));

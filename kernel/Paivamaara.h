@@ -6,3 +6,11 @@
 std::string TamaPaiva();
 /// The local calendar year.
 int TamaVuosi();
+
+/// A local moment as it is written in Finnish: "7.3.2026" and "9.05".
+struct Ajankohta {
+  std::string paiva;
+  std::string kello;
+};
+/// When the file was last written; that of a missing file is the beginning of 1970.
+Ajankohta Kirjoitusaika(const std::string& tiedosto);

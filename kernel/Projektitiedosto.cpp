@@ -90,3 +90,12 @@ Tiedostoversio HaeTiedostonVersio(const std::string& tiedosto) try {
 } catch (const Tietokantavirhe& virhe) {
   NostaLukuvirhe(virhe);
 }
+
+std::string HaeTiedostonTeksti(const std::string& tiedosto, const std::string& luokka, const std::string& jasen) try {
+  Tietokanta kanta = AvaaLuettavaksi(tiedosto);
+  Kysely rivi(kanta, "SELECT t." + Lainaa(jasen) + " FROM " + Lainaa(luokka) + " t ORDER BY rowid LIMIT 1");
+  const bool onTeksti = rivi.Seuraava() && rivi.Teksti(0) != merkit::kTyhja;
+  return std::string(onTeksti ? rivi.Teksti(0) : std::string_view());
+} catch (const std::runtime_error&) {
+  return {};
+}

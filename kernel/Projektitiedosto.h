@@ -69,6 +69,9 @@ struct Tiedostoversio {
 
 /// Reads the version without loading. Raises Projektivirhe when the file is no project.
 Tiedostoversio HaeTiedostonVersio(const std::string& tiedosto);
+/// Reads one text of a project file without loading: the member of the first object of the class. "" when the file
+/// can't be read, has no such object or member, or the text is empty.
+std::string HaeTiedostonTeksti(const std::string& tiedosto, const std::string& luokka, const std::string& jasen);
 
 /// A backup that a save left behind when it failed or was cut off, or "". The next save puts it aside with
 /// SailytaAjalla.

@@ -4,7 +4,9 @@
 #include "app/Viimeisimmat.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <utime.h>
 
+#include <ctime>
 #include <fstream>
 
 #include "building/Mallivaraus.h"
@@ -29,6 +31,14 @@ class Otsikot : public Paaikkuna {
 };
 
 void Kirjoita(const std::string& tiedosto, const std::string& sisalto) { std::ofstream(tiedosto) << sisalto; }
+
+/// Local time.
+void AsetaKirjoitusaika(const std::string& tiedosto, std::tm aika) {
+  aika.tm_isdst = -1;
+  const std::time_t hetki = std::mktime(&aika);
+  const utimbuf ajat{hetki, hetki};
+  ASSERT_EQ(utime(tiedosto.c_str(), &ajat), 0);
+}
 
 class IstuntoTesti : public testing::Test {
  protected:
@@ -307,8 +317,10 @@ TEST_F(IstuntoTesti, WhatATerminatedRunLeftIsOfferedAndKept) {
   istunto.SuljeKohde();
   fs::rename(palautus + ".koe", palautus);
 
+  AsetaKirjoitusaika(palautus, {.tm_min = 5, .tm_hour = 14, .tm_mday = 21, .tm_mon = 10, .tm_year = 126});
   viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
   EXPECT_TRUE(istunto.TarjoaJaaneet());
+  EXPECT_EQ(ViimeTeksti(), Teksti(9518) + "\n\nKohde: Kesken jäänyt\nOtettu talteen: 21.11.2026 klo 14.05");
   EXPECT_EQ(KohteenNimi(), "Kesken jäänyt");
   EXPECT_EQ(Tiedosto(), "") << "saving asks a name";
   EXPECT_FALSE(istunto.Rakennus()->Tallennettu);
@@ -380,6 +392,11 @@ TEST_F(IstuntoTesti, ALeftOverBackupIsOfferedAtStartAndBeforeASave) {
   ASSERT_EQ(ViimeTeksti().find(Teksti(9503)), 0u);
   EXPECT_TRUE(fs::exists(ViimeTeksti().substr(Teksti(9503).size() + 1))) << "where the message says";
   EXPECT_FALSE(fs::exists(varakopio));
+
+  Kirjoita(varakopio, "rikki");
+  viestit.AsetaSeuraavaVastaus(Vastaus::Ei);
+  EXPECT_FALSE(istunto.TarjoaJaaneet());
+  EXPECT_EQ(viestit.Esiintymia(Teksti(9502) + "\n\n" + Teksti(9534)), 1) << "the name can't be read";
 
   fs::copy_file(oma, varakopio);
   istunto.Rakennus()->MuuLampo = 5;
