@@ -34,6 +34,8 @@ QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& l
   lista.setSelectionMode(QAbstractItemView::ExtendedSelection);
   const bool lajiteltava = lista.property("Lajiteltava") != QVariant(false);
   lista.header()->setSectionsClickable(lajiteltava);
+  lista.header()->setSortIndicator(-1, Qt::AscendingOrder);
+  lista.header()->setSortIndicatorShown(lajiteltava);  // also when nothing is sorted: the columns have room for it
   connect(&lista, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rivi) { RiviValittu(rivi); });
   connect(&lista, &QTreeWidget::itemDoubleClicked, this, [this] {
     if (Indeksi() >= 0) KayttajaPainaa();
@@ -46,6 +48,10 @@ bool QtListView::KopioiLeikepoydalle() {
   QGuiApplication::clipboard()->setText(Q(RivitTekstina({})));
   return true;
 }
+
+void QtListView::KopioiValitut() const { QGuiApplication::clipboard()->setText(Q(RivitTekstina(ValitutRivit()))); }
+
+void QtListView::Liita() { KayttajaLiittaa(QGuiApplication::clipboard()->text().toStdString()); }
 
 /// The main window's menu has the same keys: the list asks for them first.
 bool QtListView::eventFilter(QObject* kohde, QEvent* tapahtuma) {
@@ -62,9 +68,9 @@ bool QtListView::Nappain(const QKeyEvent& tapahtuma) {
   if (enter && Indeksi() >= 0)
     KayttajaPainaa();
   else if (tapahtuma.matches(QKeySequence::Copy))
-    QGuiApplication::clipboard()->setText(Q(RivitTekstina(ValitutRivit())));
+    KopioiValitut();
   else if (tapahtuma.matches(QKeySequence::Paste))
-    KayttajaLiittaa(QGuiApplication::clipboard()->text().toStdString());
+    Liita();
   else
     return false;
   return true;
@@ -108,7 +114,6 @@ void QtListView::NaytaRivit() {
   }
   if (!Summarivi().empty()) NaytaRivi(paikka, Summarivi());
   if (!Summarivi().empty()) MuotoileSummarivi(*lista_.topLevelItem(paikka));
-  lista_.header()->setSortIndicatorShown(Lajiteltu().sarake >= 0);
   lista_.header()->setSortIndicator(Lajiteltu().sarake, Lajiteltu().laskeva ? Qt::DescendingOrder : Qt::AscendingOrder);
   if (rivia > 0) MitoitaSarakkeet();
 }

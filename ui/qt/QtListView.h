@@ -11,6 +11,10 @@ class QtListView : public QtOhjain {
   QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista);
 
   bool KopioiLeikepoydalle() override;
+  /// Puts the selected rows on the clipboard; all rows and the sums when none is selected.
+  void KopioiValitut() const;
+  /// Gives the rows that are on the clipboard to the form.
+  void Liita();
   bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
 
  protected:
