@@ -20,9 +20,9 @@ bool LampoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !Av
 bool TilatAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmTilaYhteenveto"); }
 
 bool VoiKumota(const frmMain& ikkuna) { return ikkuna.Kohteet().VoiKumota(); }
-bool VoiLeikata(const frmMain&) { return frmMain::VoiLeikata(); }
-bool VoiKopioida(const frmMain&) { return frmMain::VoiKopioida(); }
-bool VoiLiittaa(const frmMain&) { return frmMain::VoiLiittaa(); }
+bool VoiLeikata(const frmMain& ikkuna) { return ikkuna.Leike().VoiLeikata(); }
+bool VoiKopioida(const frmMain& ikkuna) { return ikkuna.Leike().VoiKopioida(); }
+bool VoiLiittaa(const frmMain& ikkuna) { return ikkuna.Leike().VoiLiittaa(); }
 bool IkkunoitaAuki(const frmMain& ikkuna) { return ikkuna.IkkunoitaAuki(); }
 bool VoiTulostaa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && frmMain::Tulostusnappi(); }
 
@@ -35,14 +35,13 @@ constexpr Paavalikko kPaavalikot[] = {{"mnuFile", 1000},      {"mnuEdit", 1013},
                                       {"mnuHelp", 1033}};
 
 constexpr Valikkorivi kRivit[] = {
-    {"mnuFile", "mnuFileNew", 1001, "Ctrl+N", nullptr, [](frmMain& i) { i.Kohteet().mnuFileNew_Click(); }, "New", 1040,
-     QStyle::SP_FileIcon},
+    {"mnuFile", "mnuFileNew", 1001, "Ctrl+N", nullptr, [](frmMain& i) { i.Kohteet().mnuFileNew_Click(); }, "New", 1040},
     {"mnuFile", "mnuFileOpen", 1002, "Ctrl+O", nullptr, [](frmMain& i) { i.Kohteet().mnuFileOpen_Click(); }, "Open",
-     1041, QStyle::SP_DialogOpenButton},
+     1041},
     {"mnuFile", "mnuFileClose", 1003, "", nullptr, [](frmMain&) { Ilmoita("Add 'mnuFileClose_Click' code."); }},
     {"mnuFile", ""},
     {"mnuFile", "mnuFileSave", 1004, "Ctrl+S", KohdeValmis, [](frmMain& i) { i.Kohteet().mnuFileSave_Click(); }, "Save",
-     1042, QStyle::SP_DialogSaveButton},
+     1042},
     {"mnuFile", "mnuFileSaveAs", 1005, "Ctrl+Shift+S", KohdeValmis,
      [](frmMain& i) { i.Kohteet().mnuFileSaveAs_Click(); }},
     {"mnuFile", "mnuFileSaveAll", 1006, "", nullptr, [](frmMain&) { Ilmoita("Add 'mnuFileSaveAll_Click' code."); }},
@@ -50,21 +49,21 @@ constexpr Valikkorivi kRivit[] = {
     {"mnuFile", "mnuFileProperties", 1007, "", KohdeValmis,
      [](frmMain& i) { i.Kohteet().Rakennus()->KatselmoijienTiedot.NaytaKayttoliittyma(); }},
     {"mnuFile", ""},
-    {"mnuFile", "mnuFilePageSetup", 1008, "", kTulossa},
+    {"mnuFile", "mnuFilePageSetup", 1008, "", nullptr, [](frmMain& i) { i.mnuFilePageSetup_Click(); }},
     {"mnuFile", "mnuFilePrintPreview", 1009, "", nullptr,
      [](frmMain&) { Ilmoita("Add 'mnuFilePrintPreview_Click' code."); }},
     {"mnuFile", "mnuFilePrint", 1010, "Ctrl+P", VoiTulostaa, [](frmMain&) { frmMain::mnuFilePrint_Click(); }, "Print",
-     1043, QStyle::SP_FileDialogDetailedView},
+     1043},
     {"mnuFile", "mnuFileSend", 1011, "", nullptr, [](frmMain&) { Ilmoita("Add 'mnuFileSend_Click' code."); }},
     {"mnuFile", ""},
     {"mnuFile", "mnuFileExit", 1012, "Ctrl+Q", nullptr, [](frmMain& i) { i.mnuFileExit_Click(); }},
 
     {"mnuEdit", "mnuEditUndo", 1014, "Ctrl+Z", VoiKumota, [](frmMain& i) { i.Kohteet().mnuEditUndo_Click(); }},
     {"mnuEdit", ""},
-    // The fields have the usual keys of the clipboard of their own.
-    {"mnuEdit", "mnuEditCut", 1015, "", VoiLeikata, [](frmMain&) { frmMain::mnuEditCut_Click(); }},
-    {"mnuEdit", "mnuEditCopy", 1016, "", VoiKopioida, [](frmMain&) { frmMain::mnuEditCopy_Click(); }},
-    {"mnuEdit", "mnuEditPaste", 1017, "", VoiLiittaa, [](frmMain&) { frmMain::mnuEditPaste_Click(); }},
+    // A field or a list takes these keys before the menu does.
+    {"mnuEdit", "mnuEditCut", 1015, "Ctrl+X", VoiLeikata, [](frmMain& i) { i.Leike().Leikkaa(); }, "Cut", 1044},
+    {"mnuEdit", "mnuEditCopy", 1016, "Ctrl+C", VoiKopioida, [](frmMain& i) { i.Leike().Kopioi(); }, "Copy", 1045},
+    {"mnuEdit", "mnuEditPaste", 1017, "Ctrl+V", VoiLiittaa, [](frmMain& i) { i.Leike().Liita(); }, "Paste", 1046},
     {"mnuEdit", "mnuEditPasteSpecial", 1018, "", nullptr,
      [](frmMain&) { Ilmoita("Add 'mnuEditPasteSpecial_Click' code."); }},
 
@@ -118,7 +117,7 @@ constexpr Valikkorivi kRivit[] = {
      [](frmMain& i) { i.mnuWindowArrangeIcons_Click(); }},
 
     // F1 itself opens the topic of the active form, whatever window has the focus.
-    {"mnuHelp", "mnuHelpContents", 1034, "", nullptr, [](frmMain&) { AvaaOhje(kOhjeSisallys); }},
+    {"mnuHelp", "mnuHelpContents", 1034, "", nullptr, [](frmMain&) { AvaaOhje(kOhjeSisallys); }, "Help", 1047},
     {"mnuHelp", "mnuHelpSearchForHelpOn", 1035, "", nullptr, [](frmMain&) { AvaaOhjeenHaku(); }},
     {"mnuHelp", ""},
     {"mnuHelp", "mnuHelpAbout", 1036, "", nullptr, [](frmMain&) { NaytaTietoja(); }},

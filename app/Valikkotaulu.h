@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include <QStyle>
 #include <span>
 
 class frmMain;
@@ -13,9 +12,8 @@ struct Valikkorivi {
   const char* nappaimet = "";                  ///< keys, as "Ctrl+S"
   bool (*kaytossa)(const frmMain&) = nullptr;  ///< null: always enabled
   void (*toiminto)(frmMain&) = nullptr;
-  const char* tyokalu = "";  ///< key of the tool bar's button; "" none
+  const char* tyokalu = "";  ///< key of the tool bar's button and name of its picture in ui/kuvat; "" none
   int tyokaluvihje = 0;      ///< id of the button's tool tip
-  QStyle::StandardPixmap kuvake = QStyle::SP_CustomBase;
 };
 
 /// A top menu.

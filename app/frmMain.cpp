@@ -2,9 +2,7 @@
 #include "app/frmMain.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -13,6 +11,7 @@
 
 #include "app/Ikkunapaikka.h"
 #include "app/Istunto.h"
+#include "app/Sivunasetus.h"
 #include "app/Viimeisimmat.h"
 #include "kernel/Hakemistot.h"
 #include "ui/Komento.h"
@@ -20,6 +19,7 @@
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ui/qt/QtIkkuna.h"
+#include "ui/qt/Vektorikuva.h"
 
 namespace {
 
@@ -33,12 +33,12 @@ QString Valikkoteksti(int tunnus) {
   return teksti.contains('&') ? teksti : '&' + teksti;
 }
 
-/// The text field that has the focus, or nothing.
-QLineEdit* Kentta() { return qobject_cast<QLineEdit*>(QApplication::focusWidget()); }
-
 }  // namespace
 
-frmMain::frmMain(Istunto& istunto) : istunto_(istunto), alue_(this), paneeli_(this) {
+frmMain::frmMain(Istunto& istunto)
+    : istunto_(istunto), alue_(this), paneeli_(this), sivu_(Oletussivu()), leike_([this] {
+        PaivitaKaytossa("mnuEdit");
+      }) {
   setObjectName("frmMain");
   setCentralWidget(&alue_);
   alue_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -46,6 +46,7 @@ frmMain::frmMain(Istunto& istunto) : istunto_(istunto), alue_(this), paneeli_(th
   statusBar()->setObjectName("sbStatusBar");
   statusBar()->addWidget(&paneeli_, 1);
   LuoValikot();
+  LuoTyokalut();
   connect(menuBar()->findChild<QMenu*>("mnuFile"), &QMenu::aboutToShow, this, &frmMain::PaivitaViimeisimmat);
   connect(&alue_, &QMdiArea::subWindowActivated, this, &frmMain::PaivitaValikot);
   PalautaPaikka(*this);
@@ -67,15 +68,10 @@ void frmMain::AsetaPaneeli(const std::string& teksti) { paneeli_.setText(Q(tekst
 
 void frmMain::TyokalutKaytossa(int maara, bool kaytossa) {
   for (QAction* nappi : tyokalut_->actions())
-    if (maara-- > 0) nappi->setEnabled(kaytossa);
+    if (!nappi->isSeparator() && maara-- > 0) nappi->setEnabled(kaytossa);
 }
 
 void frmMain::LuoValikot() {
-  tyokalut_ = addToolBar(Q(Teksti(1081)));
-  tyokalut_->setObjectName("tbToolBar");
-  tyokalut_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  tyokalut_->setMovable(false);
-  tyokalut_->setContextMenuPolicy(Qt::PreventContextMenu);
   for (const Paavalikko& paavalikko : Paavalikot()) {
     QMenu& valikko = LuoValikko(paavalikko);
     for (const Valikkorivi& rivi : Valikkorivit()) {
@@ -97,11 +93,35 @@ void frmMain::LuoToiminto(const Valikkorivi& rivi, QMenu& valikko) {
   toiminto.setObjectName(rivi.ohjain);
   toiminto.setShortcut(QKeySequence(rivi.nappaimet));
   toiminnot_.push_back({rivi, toiminto});
-  if (!*rivi.tyokalu) return;
-  toiminto.setIcon(style()->standardIcon(rivi.kuvake));
-  const QString nappaimet = toiminto.shortcut().toString(QKeySequence::NativeText);
-  toiminto.setToolTip(Q(Teksti(rivi.tyokaluvihje)) + " (" + nappaimet + ')');
-  tyokalut_->addAction(&toiminto);
+}
+
+/// The buttons of each menu are a group.
+void frmMain::LuoTyokalut() {
+  tyokalut_ = addToolBar(Q(Teksti(1081)));
+  tyokalut_->setObjectName("tbToolBar");
+  tyokalut_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  tyokalut_->setMovable(false);
+  tyokalut_->setContextMenuPolicy(Qt::PreventContextMenu);
+  std::string_view ryhma;
+  for (const auto& [rivi, toiminto] : toiminnot_) {
+    if (!*rivi.tyokalu) continue;
+    if (!ryhma.empty() && ryhma != rivi.valikko) tyokalut_->addSeparator();
+    ryhma = rivi.valikko;
+    const QString nappaimet = toiminto.shortcut().toString(QKeySequence::NativeText);
+    toiminto.setToolTip(Q(Teksti(rivi.tyokaluvihje)) + (nappaimet.isEmpty() ? nappaimet : " (" + nappaimet + ')'));
+    tyokalut_->addAction(&toiminto);
+  }
+  PiirraKuvakkeet();
+}
+
+void frmMain::PiirraKuvakkeet() {
+  for (const Toiminto& t : toiminnot_)
+    if (*t.rivi.tyokalu) t.toiminto.setIcon(Vektorikuvake(t.rivi.tyokalu, palette()));
+}
+
+void frmMain::changeEvent(QEvent* tapahtuma) {
+  if (tapahtuma->type() == QEvent::PaletteChange) PiirraKuvakkeet();
+  QMainWindow::changeEvent(tapahtuma);
 }
 
 void frmMain::PaivitaViimeisimmat() {
@@ -124,7 +144,12 @@ void frmMain::PaivitaViimeisimmat() {
 
 void frmMain::PaivitaValikot() {
   SuoritaKomento([this] { istunto_.SeuraaMuutoksia(); });
-  for (const Toiminto& t : toiminnot_) t.toiminto.setEnabled(!t.rivi.kaytossa || t.rivi.kaytossa(*this));
+  PaivitaKaytossa({});
+}
+
+void frmMain::PaivitaKaytossa(std::string_view valikko) {
+  for (const Toiminto& t : toiminnot_)
+    if (valikko.empty() || valikko == t.rivi.valikko) t.toiminto.setEnabled(!t.rivi.kaytossa || t.rivi.kaytossa(*this));
 }
 
 void frmMain::Suorita(const Valikkorivi& rivi) {
@@ -132,28 +157,7 @@ void frmMain::Suorita(const Valikkorivi& rivi) {
   PaivitaValikot();
 }
 
-bool frmMain::VoiLeikata() {
-  const auto* kentta = Kentta();
-  return kentta && !kentta->isReadOnly() && kentta->hasSelectedText();
-}
-
-bool frmMain::VoiKopioida() { return Kentta() && Kentta()->hasSelectedText(); }
-
-bool frmMain::VoiLiittaa() {
-  return Kentta() && !Kentta()->isReadOnly() && !QGuiApplication::clipboard()->text().isEmpty();
-}
-
-void frmMain::mnuEditCut_Click() {
-  if (VoiLeikata()) Kentta()->cut();
-}
-
-void frmMain::mnuEditCopy_Click() {
-  if (VoiKopioida()) Kentta()->copy();
-}
-
-void frmMain::mnuEditPaste_Click() {
-  if (VoiLiittaa()) Kentta()->paste();
-}
+void frmMain::mnuFilePageSetup_Click() { KysySivunAsetukset(*this, sivu_); }
 
 void frmMain::mnuViewToolbar_Click() { tyokalut_->setVisible(!tyokalut_->isVisible()); }
 void frmMain::mnuViewStatusBar_Click() { statusBar()->setVisible(!statusBar()->isVisible()); }

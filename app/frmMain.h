@@ -4,8 +4,10 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QPageLayout>
 #include <vector>
 
+#include "app/Leikepoyta.h"
 #include "app/Valikkotaulu.h"
 #include "ui/Paaikkuna.h"
 
@@ -28,13 +30,11 @@ class frmMain : public QMainWindow, public Paaikkuna {
   /// Enables the entries by the present object and forms: when a menu opens and after each command.
   void PaivitaValikot();
 
-  // The clipboard, on the field that has the focus.
-  static bool VoiLeikata();
-  static bool VoiKopioida();
-  static bool VoiLiittaa();
-  static void mnuEditCut_Click();
-  static void mnuEditCopy_Click();
-  static void mnuEditPaste_Click();
+  /// The clipboard, on the control that has the focus.
+  const Leikepoyta& Leike() const { return leike_; }
+  /// Asks for the page of prints, for this run of the program.
+  void mnuFilePageSetup_Click();
+  const QPageLayout& Sivu() const { return sivu_; }
   void mnuViewToolbar_Click();
   void mnuViewStatusBar_Click();
   bool IkkunoitaAuki() const;
@@ -52,6 +52,7 @@ class frmMain : public QMainWindow, public Paaikkuna {
   bool IstuntoPaattyy();
 
  protected:
+  void changeEvent(QEvent* tapahtuma) override;
   void closeEvent(QCloseEvent* tapahtuma) override;
 
  private:
@@ -60,6 +61,11 @@ class frmMain : public QMainWindow, public Paaikkuna {
   /// The latest files at the end of the File menu, before Exit.
   void PaivitaViimeisimmat();
   void LuoToiminto(const Valikkorivi& rivi, QMenu& valikko);
+  void LuoTyokalut();
+  /// In the colours of the present theme.
+  void PiirraKuvakkeet();
+  /// Enables the entries of the top menu; of all when it is "".
+  void PaivitaKaytossa(std::string_view valikko);
   void Suorita(const Valikkorivi& rivi);
   bool QueryUnload(bool istuntoPaattyy);
   void MDIForm_Unload();
@@ -68,10 +74,12 @@ class frmMain : public QMainWindow, public Paaikkuna {
   QMdiArea alue_;
   QLabel paneeli_;
   QToolBar* tyokalut_ = nullptr;
+  QPageLayout sivu_;
   struct Toiminto {
     const Valikkorivi& rivi;
     QAction& toiminto;
   };
   std::vector<Toiminto> toiminnot_;
   std::vector<QAction*> viimeisimmat_;
+  Leikepoyta leike_;
 };

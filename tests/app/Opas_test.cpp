@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "app/Istunto.h"
+#include "app/Valikkotaulu.h"
 #include "app/frmMain.h"
 #include "building/Kuukausitase.h"
 #include "building/clsRakennus.h"
@@ -31,6 +32,25 @@ std::string OppaanSivu(const char* sivu) {
   teksti << virta.rdbuf();
   EXPECT_FALSE(teksti.str().empty()) << sivu;
   return teksti.str();
+}
+
+/// The table of keys as the page must have it.
+std::string PikanappaintenTaulu() {
+  std::string taulu = "| Näppäin | Valikko | Toiminto |\n|---|---|---|\n";
+  const auto pelkka = [](int tunnus) {
+    return QString::fromStdString(Teksti(tunnus)).remove('&').remove("...").toStdString();
+  };
+  for (const Paavalikko& valikko : Paavalikot())
+    for (const Valikkorivi& rivi : Valikkorivit())
+      if (std::string_view(rivi.valikko) == valikko.ohjain && *rivi.nappaimet)
+        taulu +=
+            std::string("| ") + rivi.nappaimet + " | " + pelkka(valikko.teksti) + " | " + pelkka(rivi.teksti) + " |\n";
+  return taulu + "\n";
+}
+
+TEST(Opas, PikanappaimetOvatValikonNappaimia) {
+  const Koekoti koti;
+  EXPECT_NE(OppaanSivu("nappaimet.md").find(PikanappaintenTaulu()), std::string::npos) << PikanappaintenTaulu();
 }
 
 void TallennaKuva(QWidget& ikkuna, const std::string& nimi) {

@@ -3,14 +3,19 @@
 #include "app/frmMain.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QDialogButtonBox>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
+#include <QTreeWidget>
 #include <csignal>
 #include <filesystem>
 #include <functional>
@@ -118,11 +123,98 @@ TEST_F(PaaikkunaTesti, EveryEntryHasAFinnishTextALetterAndKeysOfItsOwn) {
 TEST_F(PaaikkunaTesti, TheModelDisablesTheFirstButtons) {
   ASSERT_TRUE(istunto.Avaa(kohde));
   ikkuna->PaivitaValikot();
-  const auto napit = ikkuna->findChild<QToolBar*>("tbToolBar")->actions();
-  ASSERT_EQ(napit.size(), 4);
   ikkuna->TyokalutKaytossa(2, false);
-  EXPECT_FALSE(napit[0]->isEnabled() || napit[1]->isEnabled());
-  EXPECT_TRUE(napit[2]->isEnabled());
+  EXPECT_FALSE(Kaytossa("mnuFileNew") || Kaytossa("mnuFileOpen"));
+  EXPECT_TRUE(Kaytossa("mnuFileSave"));
+  ikkuna->TyokalutKaytossa(8, false);
+  EXPECT_FALSE(Kaytossa("mnuHelpContents")) << "separators don't count";
+}
+
+QImage Kuva(const QAction& toiminto) { return toiminto.icon().pixmap(24).toImage(); }
+
+TEST_F(PaaikkunaTesti, TheToolBarHasItsKeysInOrderAndFollowsTheTheme) {
+  const auto& rivi = *ikkuna->findChild<QToolBar*>("tbToolBar");
+  QStringList napit;
+  for (const QAction* nappi : rivi.actions()) napit << (nappi->isSeparator() ? "|" : nappi->objectName().remove("mnu"));
+  EXPECT_EQ(napit.join(' '), "FileNew FileOpen FileSave FilePrint | EditCut EditCopy EditPaste | HelpContents");
+  QList<QImage> kuvat;
+  for (const QAction* nappi : rivi.actions())
+    if (!nappi->isSeparator()) kuvat << Kuva(*nappi);
+  for (const QImage& kuva : kuvat) EXPECT_EQ(kuvat.count(kuva), 1) << "a picture of its own";
+  QPalette tumma = ikkuna->palette();
+  tumma.setColor(QPalette::ButtonText, Qt::white);
+  ikkuna->setPalette(tumma);
+  EXPECT_NE(Kuva(Toiminto(*ikkuna, "mnuFileNew")), kuvat.front());
+}
+
+/// The forms inside the main window, as the person uses the clipboard in them.
+class Leikepoytatesti : public PaaikkunaTesti {
+ protected:
+  void SetUp() override {
+    ikkuna->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(ikkuna.get()));
+    ASSERT_TRUE(istunto.Avaa(kohde));
+    ikkuna->PaivitaValikot();
+    QGuiApplication::clipboard()->clear();
+  }
+  template <class W>
+  W& Ohjain(const char* valikko, const char* nimi) const {
+    Toiminto(*ikkuna, valikko).trigger();
+    W& ohjain = *ikkuna->findChild<W*>(nimi);
+    ohjain.setFocus();
+    return ohjain;
+  }
+  void PainaTyokalua(const char* nimi) const {
+    const auto& rivi = *ikkuna->findChild<QToolBar*>("tbToolBar");
+    QTest::mouseClick(rivi.widgetForAction(&Toiminto(*ikkuna, nimi)), Qt::LeftButton);
+  }
+  /// "LKP": which of cut, copy and paste can be done.
+  std::string Voi() const {
+    return std::string(Kaytossa("mnuEditCut") ? "L" : "") + (Kaytossa("mnuEditCopy") ? "K" : "") +
+           (Kaytossa("mnuEditPaste") ? "P" : "");
+  }
+  static std::string Leikepoyta() { return QGuiApplication::clipboard()->text().toStdString(); }
+};
+
+TEST_F(Leikepoytatesti, ToolsAndMenusWorkOnTheFieldAndLeaveItTheFocus) {
+  auto& kentta = Ohjain<QLineEdit>("mnuLampo", "txtMuuLampo");
+  auto poistuttu = std::make_shared<int>(0);
+  AvoinLomake("frmLampoYhteenveto")->Etsi("txtMuuLampo").Poistuttu = [poistuttu] { ++*poistuttu; };
+  kentta.setText("12,5");
+  EXPECT_EQ(Voi(), "");
+  kentta.selectAll();
+  EXPECT_EQ(Voi(), "LK");
+  PainaTyokalua("mnuEditCopy");
+  EXPECT_EQ(Leikepoyta(), "12,5");
+  EXPECT_EQ(Voi(), "LKP");
+
+  QTest::mouseClick(ikkuna->menuBar(), Qt::LeftButton, {},
+                    ikkuna->menuBar()->actionGeometry(ikkuna->findChild<QMenu*>("mnuEdit")->menuAction()).center());
+  ASSERT_TRUE(QApplication::activePopupWidget());
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_L);
+  EXPECT_EQ(kentta.text(), "");
+
+  ikkuna->menuBar()->setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(Voi(), "P");
+  Toiminto(*ikkuna, "mnuEditPaste").trigger();
+  kentta.setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(kentta.text(), "12,5");
+  EXPECT_EQ(*poistuttu, 0) << "the field is still being edited";
+}
+
+TEST_F(Leikepoytatesti, FieldsThatCannotBeWrittenInAndListsAreCopiedOnly) {
+  QGuiApplication::clipboard()->setText("1");
+  auto& summa = Ohjain<QLineEdit>("mnuLampo", "txtYhteensa");
+  summa.selectAll();
+  EXPECT_EQ(Voi(), "K");
+  Ohjain<QTreeWidget>("mnuRakennuksen_tilat", "lvwTilat");
+  EXPECT_EQ(Voi(), "K");
+  PainaTyokalua("mnuEditCopy");
+  EXPECT_EQ(Leikepoyta().substr(0, 5), "Tila\t");
+  AvoinLomake("frmTilaYhteenveto")->Sulje();
+  AvoinLomake("frmLampoYhteenveto")->Sulje();
+  ikkuna->PaivitaValikot();
+  EXPECT_EQ(Voi(), "") << "what was active is gone";
 }
 
 TEST_F(PaaikkunaTesti, ClosingAsksAndObeys) {
@@ -165,6 +257,20 @@ void KunAukeaa(std::function<bool(QWidget&)> tee) {
 bool Paina(QPushButton* nappi) {
   if (nappi) QTest::mouseClick(nappi, Qt::LeftButton);
   return nappi != nullptr;
+}
+
+TEST_F(PaaikkunaTesti, TheChosenPageStaysForTheRunUnlessCancelled) {
+  for (const bool hyvaksytaan : {false, true}) {
+    KunAukeaa([&](QWidget& dialogi) {
+      EXPECT_EQ(dialogi.windowTitle(), "Page Setup");
+      dialogi.findChild<QRadioButton*>("landscape")->click();
+      const auto nappi = hyvaksytaan ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
+      return Paina(dialogi.findChild<QDialogButtonBox*>()->button(nappi));
+    });
+    Toiminto(*ikkuna, "mnuFilePageSetup").trigger();
+    EXPECT_EQ(ikkuna->Sivu().orientation(), hyvaksytaan ? QPageLayout::Landscape : QPageLayout::Portrait);
+  }
+  EXPECT_EQ(ikkuna->Sivu().pageSize().id(), QPageSize::A4);
 }
 
 TEST(Ohjelma, TheStartWindowLeadsToTheBasicDataOfANewObject) {

@@ -126,9 +126,9 @@ class QtTextBox : public QtOhjain {
   }
 
  private:
-  /// A message box or the field's own menu doesn't end the editing.
+  /// A message box or a menu doesn't end the editing.
   static bool PoistuttuKentasta(Qt::FocusReason syy) {
-    return syy != Qt::ActiveWindowFocusReason && syy != Qt::PopupFocusReason;
+    return syy != Qt::ActiveWindowFocusReason && syy != Qt::PopupFocusReason && syy != Qt::MenuBarFocusReason;
   }
 
   void Ulkoasu() {
