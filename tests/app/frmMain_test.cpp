@@ -27,6 +27,8 @@
 #include "tests/app/Koekoti.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Lomake.h"
+#include "ui/Ohje.h"
+#include "ui/qt/QtOhje.h"
 
 namespace fs = std::filesystem;
 
@@ -290,6 +292,18 @@ TEST(Ohjelma, TheStartWindowLeadsToTheBasicDataOfANewObject) {
   EXPECT_EQ(ohjelma.Paaikkuna().windowTitle(), "Lumivirta");
   EXPECT_EQ(ViestitNyt().Paneeli(), "Valmis!");
   EXPECT_EQ(HaeAsetus(Avain::Kotihakemisto), AppPath());
+}
+
+TEST_F(PaaikkunaTesti, AnOpenGuideDoesNotKeepTheProgramRunning) {
+  QtOhje ohje;
+  AvaaOhje(kOhjeSisallys);
+  QApplication::setQuitOnLastWindowClosed(true);
+  QTimer::singleShot(0, ikkuna.get(), &QWidget::close);
+  QTimer vartija;
+  vartija.callOnTimeout([] { QApplication::exit(1); });
+  vartija.start(kEnintaan);
+  EXPECT_EQ(QApplication::exec(), 0);
+  QApplication::setQuitOnLastWindowClosed(false);
 }
 
 TEST(Ohjelma, TerminationRescuesTheObjectBeforeItAsks) {

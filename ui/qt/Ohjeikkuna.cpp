@@ -49,6 +49,7 @@ Ohjeikkuna::Ohjeikkuna(const QString& kansio)
     : sivukansio_(kansio + "Ohje/"), luettelo_(LueKaikki(kansio + "Lumivirta 2.hlp")) {
   setObjectName("frmOhje");
   setWindowTitle(Q(6101));
+  setAttribute(Qt::WA_QuitOnClose, false);
   resize(kIkkunanLeveys, kIkkunanKorkeus);
   LuoPuu();
   LuoHaku();

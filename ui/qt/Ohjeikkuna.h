@@ -10,6 +10,7 @@
 #include "ui/Ohjeluettelo.h"
 
 /// The window of the user's guide: contents tree or search results on the left, the page on the right.
+/// The program ends when its other windows are closed, whether this one is open or not.
 /// Keys: Alt+Left and Alt+Right for the pages read, Alt+Home contents, Ctrl+F search, Ctrl+plus and Ctrl+minus the size
 /// of text, Escape leaves the search and then closes.
 class Ohjeikkuna : public QMainWindow {
