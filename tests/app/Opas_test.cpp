@@ -80,7 +80,7 @@ class OppaanEsimerkki : public ::testing::Test {
   void SetUp() override {
     AsetaViestit(&viestit_);
     ikkuna_ = std::make_unique<frmMain>(istunto_);
-    ikkuna_->resize(900, 640);
+    ikkuna_->resize(700, 500);
     ikkuna_->AsetaPaneeli(Teksti(1092));
     ikkuna_->show();
     const std::string koulu = koti_.Tiedosto("Koulu.lvt");

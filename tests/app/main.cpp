@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "app/Kuvake.h"
 #include "ui/qt/QtViestit.h"
 
 /// Tests that need real widgets: the platform is "offscreen" unless the caller sets another.
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication sovellus(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(Ohjelmakuvake());
   AsennaSuomennos();
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

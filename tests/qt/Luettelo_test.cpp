@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -83,6 +84,23 @@ TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
   EXPECT_NE(lomake_->lvwTilat.Indeksi(), 3) << "the sums can't be chosen";
   QTest::keyClick(&Lista(), Qt::Key_End);
   EXPECT_EQ(Lista().currentItem()->text(0), "Öljyvarasto");
+}
+
+TEST_F(Tilaluettelo, LajiteltuOtsikkoMahtuuNuolineenJaMuutSaavatTilansaTakaisin) {
+  const auto leveydet = [this] {
+    QList<int> kaikki;
+    for (int s = 0; s < Lista().columnCount(); ++s) kaikki << Lista().columnWidth(s);
+    return kaikki;
+  };
+  NapsautaOtsikkoa(Lista(), 0);
+  const QList<int> alussa = leveydet();
+  for (int s = 1; s < Lista().columnCount(); ++s) {
+    NapsautaOtsikkoa(Lista(), s);
+    EXPECT_GE(Lista().columnWidth(s), Lista().header()->sectionSizeHint(s)) << s;
+  }
+  EXPECT_FALSE(Lista().horizontalScrollBar()->isVisible());
+  NapsautaOtsikkoa(Lista(), 0);
+  EXPECT_EQ(leveydet(), alussa);
 }
 
 TEST_F(Tilaluettelo, ValitutRivitTaiKaikkiLeikepoydalle) {

@@ -34,8 +34,6 @@ QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& l
   lista.setSelectionMode(QAbstractItemView::ExtendedSelection);
   const bool lajiteltava = lista.property("Lajiteltava") != QVariant(false);
   lista.header()->setSectionsClickable(lajiteltava);
-  lista.header()->setSortIndicator(-1, Qt::AscendingOrder);
-  lista.header()->setSortIndicatorShown(lajiteltava);  // also when nothing is sorted: the columns have room for it
   connect(&lista, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rivi) { RiviValittu(rivi); });
   connect(&lista, &QTreeWidget::itemDoubleClicked, this, [this] {
     if (Indeksi() >= 0) KayttajaPainaa();
@@ -114,8 +112,10 @@ void QtListView::NaytaRivit() {
   }
   if (!Summarivi().empty()) NaytaRivi(paikka, Summarivi());
   if (!Summarivi().empty()) MuotoileSummarivi(*lista_.topLevelItem(paikka));
+  lista_.header()->setSortIndicatorShown(Lajiteltu().sarake >= 0);
   lista_.header()->setSortIndicator(Lajiteltu().sarake, Lajiteltu().laskeva ? Qt::DescendingOrder : Qt::AscendingOrder);
   if (rivia > 0) MitoitaSarakkeet();
+  if (Lajiteltu().sarake >= 0) SovitaNuoli(Lajiteltu().sarake);
 }
 
 void QtListView::NaytaRivi(int paikka, const std::vector<std::string>& solut) {
@@ -164,9 +164,27 @@ void QtListView::MitoitaSarakkeet() {
     lista_.resizeColumnToContents(s);
     lista_.setColumnWidth(s, std::min(lista_.columnWidth(s), kLeveinSarake * merkki));
   }
-  const int tilaa = std::max(lista_.viewport()->width(), lista_.minimumWidth()) - 2 * lista_.frameWidth();
+  KavennaNimi();
+}
+
+/// Room for the heading with the arrow; the column that had it before gives its room back.
+void QtListView::SovitaNuoli(int sarake) {
+  if (nuoli_.sarake >= 0) lista_.setColumnWidth(nuoli_.sarake, lista_.columnWidth(nuoli_.sarake) - nuoli_.lisa);
+  lista_.setColumnWidth(0, lista_.columnWidth(0) + nuoli_.nimesta);
+  const int lisa = std::max(lista_.header()->sectionSizeHint(sarake) - lista_.columnWidth(sarake), 0);
+  const int nimi = lista_.columnWidth(0);
+  lista_.setColumnWidth(sarake, lista_.columnWidth(sarake) + lisa);
+  if (sarake > 0) KavennaNimi();
+  nuoli_ = {sarake, lisa, sarake > 0 ? nimi - lista_.columnWidth(0) : 0};
+}
+
+/// The first column gives room to the others, as far as it can.
+void QtListView::KavennaNimi() {
+  const int merkki = lista_.fontMetrics().averageCharWidth();
+  const int tilaa = std::max(lista_.viewport()->width(), lista_.minimumWidth() - 2 * lista_.frameWidth());
+  const int kapein = std::min(lista_.columnWidth(0), kKapeinNimi * merkki);
   if (const int ylitys = lista_.header()->length() - tilaa; ylitys > 0)
-    lista_.setColumnWidth(0, std::max(lista_.columnWidth(0) - ylitys, kKapeinNimi * merkki));
+    lista_.setColumnWidth(0, std::max(lista_.columnWidth(0) - ylitys, kapein));
 }
 
 QTreeWidgetItem* QtListView::RivinPaikka(int indeksi) const {

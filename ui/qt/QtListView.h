@@ -27,6 +27,8 @@ class QtListView : public QtOhjain {
   void NaytaIndeksi();
   void MuotoileSummarivi(QTreeWidgetItem& rivi) const;
   void MitoitaSarakkeet();
+  void SovitaNuoli(int sarake);
+  void KavennaNimi();
   void RiviValittu(const QTreeWidgetItem* rivi);
   bool Nappain(const QKeyEvent& tapahtuma);
   QTreeWidgetItem* RivinPaikka(int indeksi) const;
@@ -37,4 +39,9 @@ class QtListView : public QtOhjain {
   std::vector<Qt::Alignment> tasaukset_;  // of the columns of texts, as the form file has them
   bool mitoitettu_ = false;               // later the widths are the person's
   bool summatMitoitettu_ = false;
+  struct {
+    int sarake = -1;
+    int lisa = 0;     // what the sort arrow has widened the column by
+    int nimesta = 0;  // and what of it came from the first column
+  } nuoli_;
 };
