@@ -5,6 +5,7 @@
 
 #include "building/Kerrosmuokkaus.h"
 #include "building/LisaaKopio.h"
+#include "building/Rakenneleikkaus.h"
 #include "building/Rakenneliitos.h"
 #include "building/Toimenpideviittaukset.h"
 #include "building/Yhteiset.h"
@@ -12,12 +13,14 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "library/Lampotilajakauma.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
-constexpr int kKopio = 1998, kUusiRakenne = 2771, kKylla = 2772, kEi = 2773, kRakenneKaytossa = 2774, kLukittu = 2775;
+constexpr int kKopio = 1998, kUusiRakenne = 2771, kKylla = 2772, kEi = 2773, kRakenneKaytossa = 2774, kLukittu = 2775,
+              kHaetaan = 5202;
 constexpr int kVirheenOtsikko = 9100;
 
 constexpr const char* kUarvo = "0.00#";
@@ -106,19 +109,22 @@ Rakenneratkaisu UusiRatkaisu(const std::string& nimi, std::int32_t rakennetyyppi
 
 std::string KyllaTaiEi(bool kylla) { return Teksti(kylla ? kKylla : kEi); }
 
-std::vector<std::string> Kerrosrivi(const clsRakennekerros& kerros, int indeksi) {
+/// `vastus`: m²K/W.
+std::vector<std::string> Kerrosrivi(const clsRakennekerros& kerros, std::size_t indeksi, double vastus) {
   const std::string numero = std::to_string(indeksi);
   return {kerros.Nimi.empty() ? numero : kerros.Nimi,
           kerros.Materiaali.Nimi,
           Muotoile(kerros.Paksuus, "### ##0.##"),
           KyllaTaiEi(kerros.UArvoon),
           numero,
-          KyllaTaiEi(kerros.Yhtenainen)};
+          KyllaTaiEi(kerros.Yhtenainen),
+          vastus > 0 ? Muotoile(vastus, "0.00#") : kEiArvoa};
 }
 
 }  // namespace
 
-Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet) : rakenteet_(rakenteet), varalla_(rakenteet.Kopioi()) {
+Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet, double Tsisa)
+    : rakenteet_(rakenteet), varalla_(rakenteet.Kopioi()), Tsisa_(Tsisa) {
   LiitaTapahtumat();
   LiitaKerrostapahtumat();
 }
@@ -139,7 +145,9 @@ void Rakennemuokkaus::LiitaTapahtumat() {
   lomake.KopioiKlikattu = [this] { KayttoLiittyma_KopioiKlikattu(); };
   lomake.PoistaKlikattu = [this] { KayttoLiittyma_PoistaKlikattu(); };
   lomake.RivitLiitetty = [this](const Taulukko& rivit) { KayttoLiittyma_RivitLiitetty(rivit); };
+  lomake.HaeKirjastostaKlikattu = [this] { KayttoLiittyma_HaeKirjastosta(); };
   lomake.UarvonLahdeKlikattu = [this] { KayttoLiittyma_UarvonLahdeKlikattu(); };
+  lomake.RajoittuminenValittu = [this] { KayttoLiittyma_RajoittuminenValittu(); };
   lomake.PintavastusMuuttui = [this] { KayttoLiittyma_PintavastusMuuttui(); };
   lomake.VarjostusValittu = [this](frmRakenteet::Varjostus v) { KayttoLiittyma_VarjostusValittu(v); };
   lomake.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
@@ -177,6 +185,7 @@ void Rakennemuokkaus::TyhjennaKentat() {
   KayttoLiittyma.chkLaskeUarvoMateriaaleista.Valittu(false);
   KayttoLiittyma.lblRakennetyypinNimi.Otsikko("");
   KayttoLiittyma.lvwKerrokset.Rivit({});
+  KayttoLiittyma.chtLampotilat.Kaavio({});
 }
 
 void Rakennemuokkaus::LueRatkaisu(const Rakenneratkaisu& ratkaisu) {
@@ -243,13 +252,17 @@ std::vector<std::string> Rakennemuokkaus::Rivi(const clsRakenne& rakenne) const 
           OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : ""};
 }
 
-/// Fills the list and shows the structure of that key, or the first one when it isn't in the list.
-void Rakennemuokkaus::NaytaLuettelo(const Tunniste& valittava) {
+bool Rakennemuokkaus::Naytetaan(const clsRakenne& rakenne) const {
   const std::int32_t naytettavat = KayttoLiittyma.Naytettavat();
+  return naytettavat == frmRakenteet::kKaikki || naytettavat == rakenne.Rakennetyyppi;
+}
+
+/// Fills the list and shows the structure of that key, whatever its kind; the first one when there is none.
+void Rakennemuokkaus::NaytaLuettelo(const Tunniste& valittava) {
   Taulukko rivit;
   rivit_.clear();
   for (const clsRakenne& rakenne : rakenteet_) {
-    if (naytettavat != frmRakenteet::kKaikki && naytettavat != rakenne.Rakennetyyppi) continue;
+    if (!Naytetaan(rakenne) && rakenne.sKey != valittava) continue;
     rivit_.push_back(rakenne.sKey);
     rivit.push_back(Rivi(rakenne));
   }
@@ -262,20 +275,30 @@ void Rakennemuokkaus::NaytaLuettelo(const Tunniste& valittava) {
   PaivitaKentat();
 }
 
-/// The U-value of the layers, and with it the structure's own when that is the source.
+/// The list isn't filled anew: what the person has selected there stays.
+void Rakennemuokkaus::PaivitaRivi(const clsRakenne& rakenne) {
+  const auto paikka = std::ranges::find(rivit_, rakenne.sKey);
+  if (paikka != rivit_.end())
+    KayttoLiittyma.lvwRakenteet.Rivi(static_cast<int>(paikka - rivit_.begin()), Rivi(rakenne));
+}
+
+/// The picture, the U-value of the layers, and with it the structure's own when that is the source.
 void Rakennemuokkaus::NaytaUarvo() {
   const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
   const auto kerroksista = rakenne.RakenneRatkaisu ? rakenne.RakenneRatkaisu->LaskeU_arvo() : std::optional<double>();
   KayttoLiittyma.txtKerrostenUarvo.Teksti(kerroksista ? Muotoile(*kerroksista, kUarvo) : kEiArvoa);
   if (rakenne.LaskeU_arvoMateriaaleista) KayttoLiittyma.txtUarvo.Luku(rakenne.U_arvo(), kUarvo);
+  KayttoLiittyma.chtLampotilat.Kaavio(Rakenneleikkaus(rakenne, Tsisa_));
 }
 
 void Rakennemuokkaus::NaytaKerrokset(int valittava) {
   const clsRakenne* rakenne = Muokattava();
   Taulukko rivit;
-  if (rakenne && rakenne->RakenneRatkaisu)
+  if (rakenne && rakenne->RakenneRatkaisu) {
+    const auto vastukset = LaskeLampotilajakauma(*rakenne->RakenneRatkaisu, 0, 0).kerrosvastukset;
     for (const clsRakennekerros& kerros : rakenne->RakenneRatkaisu->Kerrokset)
-      rivit.push_back(Kerrosrivi(kerros, static_cast<int>(rivit.size()) + 1));
+      rivit.push_back(Kerrosrivi(kerros, rivit.size() + 1, vastukset[rivit.size()]));
+  }
   KayttoLiittyma.lvwKerrokset.Rivit(std::move(rivit));
   KayttoLiittyma.lvwKerrokset.Indeksi(valittava);
 }
@@ -291,13 +314,10 @@ void Rakennemuokkaus::PaivitaKentat() {
                                 .kerroksia = !KayttoLiittyma.lvwKerrokset.Rivit().empty()});
 }
 
-/// The list isn't filled anew: what the person has selected there stays.
 void Rakennemuokkaus::KayttoLiittyma_RakenneValittu() {
   KirjoitaDataluokka();
-  const frmRakenteet& l = KayttoLiittyma;
-  if (const clsRakenne* entinen = Muokattava())
-    l.lvwRakenteet.Rivi(static_cast<int>(std::ranges::find(rivit_, muokattava_) - rivit_.begin()), Rivi(*entinen));
-  const int rivi = l.lvwRakenteet.Indeksi();
+  if (const clsRakenne* entinen = Muokattava()) PaivitaRivi(*entinen);
+  const int rivi = KayttoLiittyma.lvwRakenteet.Indeksi();
   muokattava_ = rivi < 0 ? Tunniste() : rivit_[static_cast<std::size_t>(rivi)];
   LueDataluokka();
   PaivitaKentat();
@@ -305,7 +325,8 @@ void Rakennemuokkaus::KayttoLiittyma_RakenneValittu() {
 
 void Rakennemuokkaus::KayttoLiittyma_NaytettavatValittu() {
   KirjoitaDataluokka();
-  NaytaLuettelo(muokattava_);
+  const clsRakenne* valittu = Muokattava();
+  NaytaLuettelo(valittu && Naytetaan(*valittu) ? muokattava_ : Tunniste());
 }
 
 clsRakenne& Rakennemuokkaus::LisaaRakenne(std::int32_t rakennetyyppi, const std::string& nimi) {
@@ -338,6 +359,7 @@ void Rakennemuokkaus::KayttoLiittyma_PoistaKlikattu() {
   if (const std::string nimet = ViittaavatToimenpiteet(rakenteet_.Item(muokattava_)); !nimet.empty())
     return Ilmoita(Teksti(kRakenneKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
   if (!KysyPoisto()) return;
+  if (haettava_ == muokattava_) RakKirjasto_KantaDlgSuljettu();
   rakenteet_.Remove(muokattava_);
   RakenteetMuuttuivat({});
 }
@@ -363,6 +385,36 @@ void Rakennemuokkaus::KayttoLiittyma_RivitLiitetty(const Taulukko& rivit) {
   RakenteetMuuttuivat(viimeinen);
 }
 
+/// Whatever is chosen meanwhile, the pick goes to this structure. Opening for another one ends the former.
+void Rakennemuokkaus::KayttoLiittyma_HaeKirjastosta() {
+  RakKirjasto_KantaDlgSuljettu();
+  const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
+  haettava_ = muokattava_;
+  KayttoLiittyma.lblHaku.Otsikko(Teksti(kHaetaan) + " " + RakenteenNimi(rakenne));
+  haku_ = RakennekirjastolinkkiNyt().ValitseRakenne(
+      std::string(RakennetyypinSana(rakenne.Rakennetyyppi)),
+      {.RakKirjasto_RakenneValittu = [this](const Rakenneratkaisu& r) { RakKirjasto_RakenneValittu(r); },
+       .RakKirjasto_KantaDlgSuljettu = [this] { RakKirjasto_KantaDlgSuljettu(); }});
+}
+
+void Rakennemuokkaus::RakKirjasto_RakenneValittu(const Rakenneratkaisu& ratkaisu) {
+  clsRakenne* rakenne = rakenteet_.Etsi(haettava_);
+  if (!rakenne) return;
+  const bool naytetaan = haettava_ == muokattava_;
+  if (naytetaan) KirjoitaDataluokka();
+  rakenne->OtaRatkaisu(ratkaisu);
+  PaivitaRivi(*rakenne);
+  if (!naytetaan) return;
+  LueDataluokka();
+  PaivitaKentat();
+}
+
+void Rakennemuokkaus::RakKirjasto_KantaDlgSuljettu() {
+  haku_.reset();
+  haettava_ = {};
+  KayttoLiittyma.lblHaku.Otsikko("");
+}
+
 /// Unticked, what the field shows becomes the structure's value; ticked, only what was written there is kept.
 void Rakennemuokkaus::KayttoLiittyma_UarvonLahdeKlikattu() {
   clsRakenne& rakenne = rakenteet_.Item(muokattava_);
@@ -371,6 +423,11 @@ void Rakennemuokkaus::KayttoLiittyma_UarvonLahdeKlikattu() {
   const auto u = LueLuku(kentta.Teksti());
   if (u && (!kerroksista || kentta.Muuttunut())) rakenne.U_arvo(*u);
   rakenne.LaskeU_arvoMateriaaleista = kerroksista;
+  NaytaUarvo();
+}
+
+void Rakennemuokkaus::KayttoLiittyma_RajoittuminenValittu() {
+  KirjoitaValinnat(rakenteet_.Item(muokattava_));
   NaytaUarvo();
 }
 
@@ -394,10 +451,6 @@ void Rakennemuokkaus::KayttoLiittyma_VarjostusValittu(frmRakenteet::Varjostus va
   }
 }
 
-clsRakennekerros& Rakennemuokkaus::ValittuKerros() {
-  return Ratkaisu().Kerrokset.Item(KayttoLiittyma.lvwKerrokset.Indeksi() + 1);
-}
-
 /// The sums and the U-value follow the layers.
 void Rakennemuokkaus::KerroksetMuuttuivat(int valittava) {
   Ratkaisu().PaivitaKerrossummat();
@@ -407,31 +460,36 @@ void Rakennemuokkaus::KerroksetMuuttuivat(int valittava) {
   PaivitaKentat();
 }
 
-void Rakennemuokkaus::KayttoLiittyma_RakKerLisaa() {
+/// A pick of the whole structure ends: it would replace the layer under the person's hands.
+void Rakennemuokkaus::AvaaKerros(int rivi) {
   KirjoitaDataluokka();
-  clsRakennekerros kerros;
-  if (!MuokkaaKerrosta(kerros)) return;
-  clsRakennekerros& uusi = Ratkaisu().Kerrokset.LisaaKerros();
-  kerros.sKey = uusi.sKey;
-  uusi = kerros;
-  KerroksetMuuttuivat(Ratkaisu().Kerrokset.Count() - 1);
+  RakKirjasto_KantaDlgSuljettu();
+  const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
+  Kerrosmuokkaus muokkaus(rakenne.RakenneRatkaisu ? *rakenne.RakenneRatkaisu : UusiRatkaisu({}, rakenne.Rakennetyyppi),
+                          rivi + 1);
+  if (!muokkaus.Nayta()) return;
+  Ratkaisu() = muokkaus.Ratkaisu();
+  KerroksetMuuttuivat(rivi);
 }
 
-void Rakennemuokkaus::KayttoLiittyma_RakKerMuokkaa() {
-  KirjoitaDataluokka();
-  if (MuokkaaKerrosta(ValittuKerros())) KerroksetMuuttuivat(KayttoLiittyma.lvwKerrokset.Indeksi());
+void Rakennemuokkaus::KayttoLiittyma_RakKerLisaa() {
+  AvaaKerros(static_cast<int>(KayttoLiittyma.lvwKerrokset.Rivit().size()));
 }
+
+void Rakennemuokkaus::KayttoLiittyma_RakKerMuokkaa() { AvaaKerros(KayttoLiittyma.lvwKerrokset.Indeksi()); }
 
 void Rakennemuokkaus::KayttoLiittyma_RakKerKopioi() {
   KirjoitaDataluokka();
-  LisaaKopio(Ratkaisu().Kerrokset, ValittuKerros());
-  KerroksetMuuttuivat(KayttoLiittyma.lvwKerrokset.Indeksi() + 1);
+  const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
+  LisaaKopio(Ratkaisu().Kerrokset, Ratkaisu().Kerrokset.Item(rivi + 1));
+  KerroksetMuuttuivat(rivi + 1);
 }
 
 void Rakennemuokkaus::KayttoLiittyma_RakKerPoista() {
   if (!KysyPoisto()) return;
-  KirjoitaDataluokka();
   const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
+  if (rivi < 0) return;  // a pick has brought other layers while we asked
+  KirjoitaDataluokka();
   Ratkaisu().Kerrokset.Remove(rivi + 1);
   KerroksetMuuttuivat(std::min(rivi, Ratkaisu().Kerrokset.Count() - 1));
 }

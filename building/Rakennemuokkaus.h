@@ -5,13 +5,15 @@
 #include <vector>
 
 #include "building/clsRakenteet.h"
+#include "ui/Rakennekirjastolinkki.h"
 #include "ui/frmRakenteet.h"
 
 /// The dialog of a space's structures while it is open. The structures are edited live: what is written of the chosen
 /// one reaches it when another is chosen, or at OK; choices and layers at once. Cancel copies back what was.
 class Rakennemuokkaus {
  public:
-  explicit Rakennemuokkaus(clsRakenteet& rakenteet);
+  /// `Tsisa`: the space's temperature in the pictures, °C.
+  Rakennemuokkaus(clsRakenteet& rakenteet, double Tsisa);
 
   /// Shows the dialog with structures of one kind, or frmRakenteet::kKaikki. True after OK.
   bool Nayta(std::int32_t rakennetyyppi, const std::string& tilanNimi);
@@ -30,7 +32,9 @@ class Rakennemuokkaus {
   void KirjoitaValinnat(clsRakenne& rakenne) const;
   bool RatkaisuaMuokattu() const;
 
+  bool Naytetaan(const clsRakenne& rakenne) const;
   void NaytaLuettelo(const Tunniste& valittava);
+  void PaivitaRivi(const clsRakenne& rakenne);
   void NaytaUarvo();
   void NaytaKerrokset(int valittava);
   void PaivitaKentat();
@@ -44,7 +48,8 @@ class Rakennemuokkaus {
   clsRakenne& LisaaRakenne(std::int32_t rakennetyyppi, const std::string& nimi);
   void RakenteetMuuttuivat(const Tunniste& valittava);
   void KerroksetMuuttuivat(int valittava);
-  clsRakennekerros& ValittuKerros();
+  /// Opens the dialog of the layer at that place, from 0; at the end of the layers of a new one.
+  void AvaaKerros(int rivi);
 
   void KayttoLiittyma_RakenneValittu();
   void KayttoLiittyma_NaytettavatValittu();
@@ -52,7 +57,12 @@ class Rakennemuokkaus {
   void KayttoLiittyma_KopioiKlikattu();
   void KayttoLiittyma_PoistaKlikattu();
   void KayttoLiittyma_RivitLiitetty(const Taulukko& rivit);
+  void KayttoLiittyma_HaeKirjastosta();
+  void RakKirjasto_RakenneValittu(const Rakenneratkaisu& ratkaisu);
+  /// Ends the pick that is going on, if any, and closes the library.
+  void RakKirjasto_KantaDlgSuljettu();
   void KayttoLiittyma_UarvonLahdeKlikattu();
+  void KayttoLiittyma_RajoittuminenValittu();
   void KayttoLiittyma_PintavastusMuuttui();
   void KayttoLiittyma_VarjostusValittu(frmRakenteet::Varjostus varjostus);
   void KayttoLiittyma_RakKerLisaa();
@@ -68,5 +78,8 @@ class Rakennemuokkaus {
   frmRakenteet KayttoLiittyma;
   std::vector<Tunniste> rivit_;  // keys of the structures in the list
   Tunniste muokattava_;          // key of the chosen one
+  Tunniste haettava_;            // key of the one for which the library is open
+  std::unique_ptr<Rakennekirjastopyynto> haku_;
+  double Tsisa_;  // °C
   bool hyvaksytty_ = false;
 };

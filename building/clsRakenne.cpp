@@ -149,6 +149,14 @@ double clsRakenne::U_arvo() const {
   return RakenneRatkaisu->LaskeU_arvo().value_or(u_arvo_);
 }
 
+void clsRakenne::OtaRatkaisu(const Rakenneratkaisu& ratkaisu) {
+  RakenneRatkaisu.Luo() = ratkaisu;
+  Rakennetyyppi = RakennetyyppiSanasta(ratkaisu.Rakennetyyppi).value_or(Rakennetyyppi);
+  LaskeU_arvoMateriaaleista = !ratkaisu.U_arvoAnnettu;
+  if (ratkaisu.U_arvoAnnettu && ratkaisu.U_arvo > 0) U_arvo(ratkaisu.U_arvo);
+  RakennekannanVersio = Asetukset().TietokannanVersio();
+}
+
 double clsRakenne::LampoHaviot(double Tsisa, int kuukausi) const try {
   const Johtuminen johtuminen = MuodostaJohtuminen(*this);
   if (johtuminen.tapa == Johtumistapa::Maahan) return HavioMaahan(PintaAla, Tsisa, TarkistaKuukausi(kuukausi));

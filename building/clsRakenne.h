@@ -41,6 +41,10 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   /// Stores a value.
   void U_arvo(double arvo) { u_arvo_ = arvo; }
 
+  /// Takes over a copy of a solution that was picked from a library: its kind, when the library's word is known,
+  /// whether the U-value comes from its layers, and its U-value when that is given and known.
+  void OtaRatkaisu(const Rakenneratkaisu& ratkaisu);
+
   /// Conduction loss of month 0 to 11, kWh, room at Tsisa °C. Not cut at zero: a month warmer than the room gives a
   /// negative loss. Towards ground: area times a table by room temperature; below 5 °C text 9212 is shown and the loss
   /// is 0.  Source: degree-hour balance of building code D5.

@@ -4,6 +4,7 @@
 
 #include "building/clsRakenne.h"
 #include "kernel/Kokoelma.h"
+#include "library/Lampotilajakauma.h"
 
 /// The structures of a space.
 class clsRakenteet : public Malli<clsRakenteet, Kokoelma<clsRakenne>> {
@@ -21,10 +22,12 @@ class clsRakenteet : public Malli<clsRakenteet, Kokoelma<clsRakenne>> {
   double IkkunoidenAla() const { return Ala(Rakennelaji::Ikkuna); }      ///< m²
 
   /// Opens the dialog of the structures, modal, with all kinds shown. Edits them live; Cancel restores them. True after
-  /// OK; the caller tells the building of the change.  `tilanNimi`: for the caption.
-  bool NaytaKayttoliityma(const std::string& tilanNimi = {});
+  /// OK; the caller tells the building of the change.  `tilanNimi`: for the caption; `Tsisa`: the space's temperature
+  /// in the pictures, °C.
+  bool NaytaKayttoliityma(const std::string& tilanNimi = {}, double Tsisa = kNayttoTsisa);
   /// The same with the structures of one kind shown, 0 to 7.
-  bool NaytaRakenteetKayttoliittyma(std::int32_t rakennetyyppi, const std::string& tilanNimi = {});
+  bool NaytaRakenteetKayttoliittyma(std::int32_t rakennetyyppi, const std::string& tilanNimi = {},
+                                    double Tsisa = kNayttoTsisa);
 
  private:
   double Ala(std::int32_t tyyppi) const;

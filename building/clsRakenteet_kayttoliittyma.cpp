@@ -5,14 +5,15 @@
 #include "kernel/Virhe.h"
 #include "ui/frmRakenteet.h"
 
-bool clsRakenteet::NaytaKayttoliityma(const std::string& tilanNimi) try {
-  return Rakennemuokkaus(*this).Nayta(frmRakenteet::kKaikki, tilanNimi);
+bool clsRakenteet::NaytaKayttoliityma(const std::string& tilanNimi, double Tsisa) try {
+  return Rakennemuokkaus(*this, Tsisa).Nayta(frmRakenteet::kKaikki, tilanNimi);
 } catch (...) {
   NostaVirhe("clsRakenteet:NaytaKayttoliityma Method");
 }
 
-bool clsRakenteet::NaytaRakenteetKayttoliittyma(std::int32_t rakennetyyppi, const std::string& tilanNimi) try {
-  return Rakennemuokkaus(*this).Nayta(rakennetyyppi, tilanNimi);
+bool clsRakenteet::NaytaRakenteetKayttoliittyma(std::int32_t rakennetyyppi, const std::string& tilanNimi,
+                                                double Tsisa) try {
+  return Rakennemuokkaus(*this, Tsisa).Nayta(rakennetyyppi, tilanNimi);
 } catch (...) {
   NostaVirhe("clsRakenteet:NaytaRakenteetKayttoliittyma Method");
 }

@@ -2,6 +2,7 @@
 // The dialog of a space.
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
@@ -93,7 +94,10 @@ void clsTila::KirjoitaDataluokka() try {
 }
 
 void clsTila::EditoiRakenteita() try {
-  Rakenteet.NaytaKayttoliityma(kayttoLiittyma_.arvo ? kayttoLiittyma_.arvo->txtTilanNimi.Teksti() : TilanNimi);
+  if (!kayttoLiittyma_.arvo) return void(Rakenteet.NaytaKayttoliityma(TilanNimi, Sisalampotila));
+  const frmTila& lomake = *kayttoLiittyma_.arvo;
+  Rakenteet.NaytaKayttoliityma(lomake.txtTilanNimi.Teksti(),
+                               LueLuku(lomake.txtSisalampotila.Teksti()).value_or(Sisalampotila));
 } catch (...) {
   NostaVirhe("clsTila:EditoiRakenteita Method");
 }

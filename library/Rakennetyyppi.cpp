@@ -38,3 +38,9 @@ Pintavastukset Oletuspintavastukset(std::string_view sana) {
   const auto tyyppi = RakennetyyppiSanasta(sana).value_or(Rakennelaji::Ulkoseina);
   return kRivit[static_cast<std::size_t>(tyyppi)].pinnat;
 }
+
+Lampovirta LampovirranSuunta(std::string_view sana) {
+  const auto tyyppi = RakennetyyppiSanasta(sana);
+  if (tyyppi == Rakennelaji::Ylapohja) return Lampovirta::Ylos;
+  return tyyppi == Rakennelaji::Alapohja ? Lampovirta::Alas : Lampovirta::Vaakaan;
+}

@@ -15,6 +15,9 @@ struct Pintavastukset {
   float ulko;
 };
 
+/// Where heat flows through a structure in winter.
+enum class Lampovirta { Vaakaan, Ylos, Alas };
+
 /// Kind of the structure library's word ("Ulkoseinä", "Yläpohja", ...), compared as exact text; nothing for other
 /// words.
 std::optional<std::int32_t> RakennetyyppiSanasta(std::string_view sana);
@@ -23,3 +26,5 @@ std::string_view RakennetyypinSana(std::int32_t tyyppi);
 /// Design values of EN ISO 6946 by the direction of the heat flow; indoor air on both sides of partitions and
 /// intermediate floors. An unknown word gives those of an outer wall.
 Pintavastukset Oletuspintavastukset(std::string_view sana);
+/// Up through a roof, down through a floor, else level.
+Lampovirta LampovirranSuunta(std::string_view sana);

@@ -11,21 +11,12 @@ constexpr int kLampotilaOtsikko = 5012;
 
 }  // namespace
 
-Kaaviotiedot Lampotilakuvaus(std::string otsikko, const std::vector<Leikkauskerros>& kerrokset,
-                             const std::vector<double>& lampotilat, double Tsisa, double Tulko) {
-  Kaaviotiedot kuva;
-  kuva.otsikko = std::move(otsikko);
-  kuva.yksikko = "°C";
-  kuva.sarjat = {{Teksti(kPaksuusOtsikko), {}}, {Teksti(kVastusOtsikko), {}}, {Teksti(kLampotilaOtsikko), {}}};
-  for (const Leikkauskerros& kerros : kerrokset) {
-    kuva.nimet.push_back(kerros.nimi);
-    kuva.sarjat[kPaksuudet].arvot.push_back(kerros.paksuus_mm);
-    kuva.sarjat[kVastukset].arvot.push_back(kerros.vastus);
-  }
-  if (lampotilat.empty()) return kuva;
-  auto& T = kuva.sarjat[kLampotilat].arvot;
-  T = lampotilat;
-  T.insert(T.begin(), Tsisa);
-  T.push_back(Tulko);
-  return kuva;
+Kaaviotiedot Lampotilakuvaus(std::string otsikko, std::vector<std::string> nimet, std::vector<double> paksuudet,
+                             std::vector<double> vastukset, std::vector<double> lampotilat) {
+  return {.otsikko = std::move(otsikko),
+          .nimet = std::move(nimet),
+          .sarjat = {{Teksti(kPaksuusOtsikko), std::move(paksuudet)},
+                     {Teksti(kVastusOtsikko), std::move(vastukset)},
+                     {Teksti(kLampotilaOtsikko), std::move(lampotilat)}},
+          .yksikko = "°C"};
 }

@@ -12,6 +12,8 @@ frmRakennekerroksenMuokkaaminen::frmRakennekerroksenMuokkaaminen() : Lomake("frm
     PaivitaKentat();
     Nosta(DataMuuttui);
   });
+  cmdHaePaamateriaali.Nostaa(PaamateriaaliHakuun);
+  cmdHaeLisamateriaali.Nostaa(LisamateriaaliHakuun);
   cmdOk.KunKlikataan([this] {
     if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
   });
@@ -22,4 +24,5 @@ void frmRakennekerroksenMuokkaaminen::PaivitaKentat() {
   for (const TextBox& kentta : {lisamateriaali.nimi, lisamateriaali.lambda, lisamateriaali.tiheys,
                                 lisamateriaali.ominaislampo, txtLisamateriaalinOsuus})
     kentta.Kaytossa(!chkHomogeeninen.Valittu());
+  cmdHaeLisamateriaali.Kaytossa(!chkHomogeeninen.Valittu());
 }

@@ -22,6 +22,9 @@ class frmRakennekerroksenMuokkaaminen : public Lomake {
 
   std::function<void()> OkKlikattu;
   std::function<void()> PeruutaKlikattu;
+  /// A material from the library is wanted.
+  std::function<void()> PaamateriaaliHakuun;
+  std::function<void()> LisamateriaaliHakuun;
   /// Any field was edited or a box was clicked: the resistance of the layer may differ.
   std::function<void()> DataMuuttui;
 
@@ -33,10 +36,13 @@ class frmRakennekerroksenMuokkaaminen : public Lomake {
   CheckBox chkUArvoon{*this, "chkUArvoon"};
   CheckBox chkHomogeeninen{*this, "chkHomogeeninen"};
   Aine paamateriaali{*this, "txtPaamateriaalin"};
+  CommandButton cmdHaePaamateriaali{*this, "cmdHaePaamateriaali"};
   Aine lisamateriaali{*this, "txtLisamateriaalin"};
+  CommandButton cmdHaeLisamateriaali{*this, "cmdHaeLisamateriaali"};
   TextBox txtLisamateriaalinOsuus{*this, "txtLisamateriaalinOsuus"};  // %
   TextBox txtLammonvastus{*this, "txtLammonvastus"};                  // m²K/W
   TextBox txtKerroksenVastus{*this, "txtKerroksenVastus"};            // m²K/W, read only
+  TextBox txtRakenteenUarvo{*this, "txtRakenteenUarvo"};              // W/m²K, read only
   CommandButton cmdOk{*this, "cmdOk"};
   CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 };

@@ -50,6 +50,7 @@ void frmRakenteet::KuunteleLuetteloa() {
   cmdLisaaRakenne.KunKlikataan([this] { NostaKunKelpaa(LisaaKlikattu); });
   cmdKopioiRakenne.KunKlikataan([this] { NostaKunKelpaa(KopioiKlikattu); });
   cmdPoistaRakenne.Nostaa(PoistaKlikattu);
+  cmdHaeKirjastosta.Nostaa(HaeKirjastostaKlikattu);
 }
 
 void frmRakenteet::KuunteleRakennetta() {
@@ -57,6 +58,7 @@ void frmRakenteet::KuunteleRakennetta() {
     txtUarvo.Kaytossa(!chkLaskeUarvoMateriaaleista.Valittu());
     Nosta(UarvonLahdeKlikattu);
   });
+  cmbTyyppi.KunMuuttuu([this] { Nosta(RajoittuminenValittu); });
   for (const TextBox& kentta : {txtPintavastusSisa, txtPintavastusUlko})
     kentta.KunMuuttuu([this] { Nosta(PintavastusMuuttui); });
   cmbYlalipanTyyppi.KunMuuttuu([this] { Nosta(VarjostusValittu, kYlalippa); });
@@ -90,9 +92,9 @@ void frmRakenteet::PaivitaKentat(const Tilanne& tilanne) {
   tilanne_ = tilanne;
   const bool v = tilanne.valittu, ikkuna = v && tilanne.ikkuna;
   cmdLisaaRakenne.Kaytossa(Naytettavat() != kKaikki);
-  AsetaKaytossa(v, cmdKopioiRakenne, cmdPoistaRakenne, txtNimi, txtKuvaus, txtRakenneala, chkLaskeUarvoMateriaaleista,
-                txtPintavastusSisa, txtPintavastusUlko, txtPistemaiset, txtPistemaisetWpK, txtViivamaiset,
-                txtViivamaisetWpK, txtRw, txtPaloluokka, lvwKerrokset, cmdRakKerLisaa);
+  AsetaKaytossa(v, cmdKopioiRakenne, cmdPoistaRakenne, cmdHaeKirjastosta, txtNimi, txtKuvaus, txtRakenneala,
+                chkLaskeUarvoMateriaaleista, txtPintavastusSisa, txtPintavastusUlko, txtPistemaiset, txtPistemaisetWpK,
+                txtViivamaiset, txtViivamaisetWpK, txtRw, txtPaloluokka, lvwKerrokset, cmdRakKerLisaa);
   AsetaKaytossa(v && !tilanne.kerroksia, txtPaksuus, txtKerrostenMassaYht);
   txtUarvo.Kaytossa(v && !chkLaskeUarvoMateriaaleista.Valittu());
   cmbTyyppi.Kaytossa(v && tilanne.rajoittuu);

@@ -30,7 +30,11 @@ class frmRakenteet : public Lomake {
   std::function<void()> KopioiKlikattu;
   std::function<void()> PoistaKlikattu;
   std::function<void(const Taulukko&)> RivitLiitetty;
+  /// A solution from the library is wanted for the chosen structure.
+  std::function<void()> HaeKirjastostaKlikattu;
   std::function<void()> UarvonLahdeKlikattu;
+  /// What the structure borders on was chosen.
+  std::function<void()> RajoittuminenValittu;
   /// A surface resistance was edited.
   std::function<void()> PintavastusMuuttui;
   /// A type of shading was chosen.
@@ -55,6 +59,8 @@ class frmRakenteet : public Lomake {
   CommandButton cmdLisaaRakenne{*this, "cmdLisaaRakenne"};
   CommandButton cmdKopioiRakenne{*this, "cmdKopioiRakenne"};
   CommandButton cmdPoistaRakenne{*this, "cmdPoistaRakenne"};
+  CommandButton cmdHaeKirjastosta{*this, "cmdHaeKirjastosta"};
+  Label lblHaku{*this, "lblHaku"};  // the structure for which the library is open
   TabStrip tabRakenne{*this, "tabRakenne"};
 
   TextBox txtNimi{*this, "txtNimi"};
@@ -84,6 +90,7 @@ class frmRakenteet : public Lomake {
   CommandButton cmdRakKerPoista{*this, "cmdRakKerPoista"};
   CommandButton cmdRakKerSiirraSisaanPain{*this, "cmdRakKerSiirraSisaanPain"};
   TextBox txtKerrostenUarvo{*this, "txtKerrostenUarvo"};  // W/m²K, read only
+  MSChart chtLampotilat{*this, "chtLampotilat"};
 
   TextBox txtAurinkoenergianlapaisy{*this, "txtAurinkoenergianlapaisy"};      // %
   TextBox txtKarmikerroin{*this, "txtKarmikerroin"};                          // %

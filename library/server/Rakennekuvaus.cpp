@@ -11,8 +11,8 @@ using namespace kirjastotekstit;
 
 namespace {
 
-LammonlapaisyTulos Jakauma(const Rakenneratkaisu& ratkaisu) {
-  return LaskeLampotilajakauma(ratkaisu, kNayttoTsisa, kNayttoTulko);
+Leikkaus Talvipaivana(const Rakenneratkaisu& ratkaisu) {
+  return MuodostaLeikkaus(ratkaisu, kNayttoTsisa, kNayttoTulko);
 }
 
 std::string KyllaTaiEi(bool arvo) { return Teksti(arvo ? kKylla : kEi); }
@@ -34,21 +34,19 @@ std::string UarvonTeksti(const Rakenneratkaisu& ratkaisu) {
 }
 
 Kaaviotiedot Leikkauskuva(const Rakenneratkaisu& ratkaisu) {
-  const LammonlapaisyTulos tulos = Jakauma(ratkaisu);
-  std::vector<Leikkauskerros> kerrokset;
-  for (const clsRakennekerros& kerros : ratkaisu.Kerrokset)
-    kerrokset.push_back({KerroksenNimi(kerros), kerros.Paksuus, tulos.kerrosvastukset[kerrokset.size()]});
-  return Lampotilakuvaus(UarvonTeksti(ratkaisu), kerrokset, tulos.lampotilat, kNayttoTsisa, kNayttoTulko);
+  Leikkaus leikkaus = Talvipaivana(ratkaisu);
+  return Lampotilakuvaus(UarvonTeksti(ratkaisu), std::move(leikkaus.nimet), std::move(leikkaus.paksuudet),
+                         std::move(leikkaus.vastukset), std::move(leikkaus.lampotilat));
 }
 
 Taulukko Kerrosrivit(const Rakenneratkaisu& ratkaisu) {
-  const LammonlapaisyTulos tulos = Jakauma(ratkaisu);
+  const Leikkaus leikkaus = Talvipaivana(ratkaisu);
   Taulukko rivit;
   for (const clsRakennekerros& kerros : ratkaisu.Kerrokset) {
     const std::size_t i = rivit.size();
     rivit.push_back({std::to_string(i + 1), Materiaalit(kerros), Muotoile(kerros.Paksuus, "0.#"),
-                     Muotoile(tulos.kerrosvastukset[i], "0.000"),
-                     tulos.onArvo ? Muotoile(tulos.lampotilat[i + 1], "0.0") : std::string(),
+                     Muotoile(leikkaus.vastukset[i], "0.000"),
+                     leikkaus.lampotilat.empty() ? std::string() : Muotoile(leikkaus.lampotilat[i + 2], "0.0"),
                      KyllaTaiEi(kerros.UArvoon), KyllaTaiEi(kerros.Yhtenainen)});
   }
   return rivit;

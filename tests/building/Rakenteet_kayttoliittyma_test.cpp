@@ -35,7 +35,7 @@ class RakenneDialogi : public RakennusTesti {
 
   bool Muokkaa(const std::function<void(Ikkunaton&)>& kasikirjoitus) {
     ikkunat.KunNaytetaan("frmRakenteet", kasikirjoitus);
-    return tila.Rakenteet.NaytaKayttoliityma("Sali");
+    return tila.Rakenteet.NaytaKayttoliityma("Sali", 18);
   }
   static const Taulukko& Rakenteet(const Ikkunaton& l) { return l.Etsi("lvwRakenteet").Rivit(); }
   static const Taulukko& Kerrokset(const Ikkunaton& l) { return l.Etsi("lvwKerrokset").Rivit(); }
@@ -149,11 +149,12 @@ TEST_F(RakenneDialogi, LayersAreEditedAndTheSumsFollow) {
     k.KayttajaKirjoittaa("txtPaksuus", "25");
     k.KayttajaKirjoittaa("txtPaamateriaalinLambda", "0,05");
     EXPECT_EQ(k.Teksti("txtKerroksenVastus"), "0,50");
+    EXPECT_EQ(k.Teksti("txtRakenteenUarvo"), "0,216") << "of the structure with the new layer";
     k.KayttajaPainaa("cmdOk");
   });
   Muokkaa([](Ikkunaton& l) {
     l.KayttajaPainaa("chkLaskeUarvoMateriaaleista");
-    EXPECT_EQ(Kerrokset(l)[1], (std::vector<std::string>{"2", "Mineraalivilla", "150", "Kyllä", "2", "Kyllä"}));
+    EXPECT_EQ(Kerrokset(l)[1], (std::vector<std::string>{"2", "Mineraalivilla", "150", "Kyllä", "2", "Kyllä", "3,75"}));
     EXPECT_FALSE(l.Etsi("cmdRakKerMuokkaa").Kaytossa()) << "no layer is chosen";
     l.KayttajaPainaa("cmdRakKerLisaa");
     ASSERT_EQ(Kerrokset(l).size(), 3u);
@@ -221,6 +222,26 @@ TEST_F(RakenneDialogi, ALayerOfTwoMaterialsAndAnAirLayer) {
   });
   EXPECT_EQ(Ratkaisu().Kerrokset.Item(2).Lisamateriaali.Nimi, "Runko");
   EXPECT_EQ(Ratkaisu().Kerrokset.Item(1).Lammonvastus, 0);
+}
+
+// Outdoor design temperature of Helsinki -26 °C; R = 4,12, of which inner surface 0,13.
+TEST_F(RakenneDialogi, SectionFollowsLayersSurfacesAndWhatIsBehind) {
+  Muokkaa([](Ikkunaton& l) {
+    const auto T = [&] { return l.Etsi("chtLampotilat").Kaavio().sarjat.at(2).arvot; };
+    ASSERT_EQ(T().size(), 5u);
+    EXPECT_EQ(T().front(), 18) << "of the space";
+    EXPECT_NEAR(T()[1], 18 - 44 * 0.13 / 4.12, 1e-6);
+    EXPECT_EQ(T().back(), -26);
+    EXPECT_EQ(l.Etsi("chtLampotilat").Kaavio().otsikko, "Tilan sisälämpötila 18 °C, mitoittava ulkolämpötila -26 °C");
+    l.KayttajaKirjoittaa("txtPintavastusSisa", "0,5");
+    l.KayttajaKirjoittaa("txtPintavastusUlko", "0,04");
+    EXPECT_NEAR(T()[1], 18 - 44 * 0.5 / 4.49, 1e-6) << "while it is written";
+    l.KayttajaValitsee("cmbTyyppi", "Huonelämpöinen tila");
+    EXPECT_EQ(T().back(), 18);
+    l.KayttajaValitsee("lvwRakenteet", "Ovi");
+    EXPECT_TRUE(T().empty()) << "no layers";
+    Ok(l);
+  });
 }
 
 TEST_F(RakenneDialogi, FilterChoosesTheKindThatIsAdded) {

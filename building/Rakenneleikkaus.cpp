@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/Rakenneleikkaus.h"
+
+#include <utility>
+
+#include "building/Yhteiset.h"
+#include "building/clsRakenne.h"
+#include "building/clsSaa.h"
+#include "kernel/Luvut.h"
+#include "library/Lampotilajakauma.h"
+#include "ui/Lampotilakuvaus.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr int kAsteet = 2552, kSisalampotila = 5207, kUlkolampotila = 5208, kSamaLampotila = 5209;
+
+/// A partition, or a wall, roof or floor towards a space at room temperature.
+bool OnHuoneidenValissa(const clsRakenne& rakenne) {
+  if (rakenne.Rakennetyyppi <= Rakennelaji::Alapohja) return rakenne.TyyppiID == kHuonelampoinenTila;
+  return rakenne.Rakennetyyppi >= Rakennelaji::KantavaValiseina;
+}
+
+std::string Lampotila(int teksti, double asteet) {
+  return Teksti(teksti) + " " + Muotoile(asteet, "0.#") + " " + Teksti(kAsteet);
+}
+
+}  // namespace
+
+Kaaviotiedot Rakenneleikkaus(const clsRakenne& rakenne, double Tsisa) {
+  const bool huoneidenValissa = OnHuoneidenValissa(rakenne);
+  const double Tulko = huoneidenValissa ? Tsisa : VaadiSaa().LammMitoitusUlkolampotila;
+  const std::string takana = huoneidenValissa ? Teksti(kSamaLampotila) : Lampotila(kUlkolampotila, Tulko);
+  Leikkaus leikkaus = rakenne.RakenneRatkaisu ? MuodostaLeikkaus(*rakenne.RakenneRatkaisu, Tsisa, Tulko) : Leikkaus();
+  return Lampotilakuvaus(Lampotila(kSisalampotila, Tsisa) + ", " + takana, std::move(leikkaus.nimet),
+                         std::move(leikkaus.paksuudet), std::move(leikkaus.vastukset), std::move(leikkaus.lampotilat));
+}
