@@ -5,6 +5,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Virhe.h"
+#include "library/Rakennetietokanta.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "solar/AurinkoLaskin.h"
 #include "ui/Tekstivarasto.h"
@@ -155,6 +156,13 @@ void clsRakenne::OtaRatkaisu(const Rakenneratkaisu& ratkaisu) {
   LaskeU_arvoMateriaaleista = !ratkaisu.U_arvoAnnettu;
   if (ratkaisu.U_arvoAnnettu && ratkaisu.U_arvo > 0) U_arvo(ratkaisu.U_arvo);
   RakennekannanVersio = Asetukset().TietokannanVersio();
+}
+
+void clsRakenne::PaivitaMateriaalitVakiokannasta(Rakennetietokanta& kanta) try {
+  if (RakenneRatkaisu) kanta.PaivitaMateriaalit(*RakenneRatkaisu);
+  RakennekannanVersio = Asetukset().TietokannanVersio();
+} catch (...) {
+  NostaVirhe("clsRakenne:PaivitaMateriaalitVakiokannasta Method");
 }
 
 double clsRakenne::LampoHaviot(double Tsisa, int kuukausi) const try {

@@ -6,6 +6,8 @@
 #include "kernel/Olio.h"
 #include "library/Rakenneratkaisu.h"
 
+class Rakennetietokanta;
+
 /// What a wall, roof or floor borders on, `clsRakenne.TyyppiID`.
 enum Rajoittuminen : std::int32_t { kUlkoilma, kPuskuritila, kMaa, kHuonelampoinenTila };
 
@@ -44,6 +46,9 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   /// Takes over a copy of a solution that was picked from a library: its kind, when the library's word is known,
   /// whether the U-value comes from its layers, and its U-value when that is given and known.
   void OtaRatkaisu(const Rakenneratkaisu& ratkaisu);
+
+  /// Gives the materials of the layers the figures of a structure database, and takes its version for this structure's.
+  void PaivitaMateriaalitVakiokannasta(Rakennetietokanta& kanta);
 
   /// Conduction loss of month 0 to 11, kWh, room at Tsisa °C. Not cut at zero: a month warmer than the room gives a
   /// negative loss. Towards ground: area times a table by room temperature; below 5 °C text 9212 is shown and the loss

@@ -135,7 +135,7 @@ class clsRakennus : public Malli<clsRakennus> {
  private:
   void LuoOletusmalli();
   void TyhjennaOsat();
-  void TarjoaMateriaalienPaivitysta();
+  bool TarjoaMateriaalienPaivitysta();
   void VaroitaMaanvaraisista() const;
   void VaroitaIlmavirroista();
   void TaytaLampoYhteenveto();

@@ -2,6 +2,7 @@
 // Saving and loading of the building: the project file itself is kernel/Projektitiedosto.
 #include <filesystem>
 
+#include "building/Materiaalimuutokset.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
@@ -92,7 +93,7 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   Latausraportti raportti;
   raportti.eteneminen = NaytaOsat(odotus, Teksti(9106) + LyhennaPolku(tiedosto, kPolunPituusPaneelissa));
   HaeProjekti(*this, tiedosto, raportti);
-  TarjoaMateriaalienPaivitysta();
+  const bool paivitetty = TarjoaMateriaalienPaivitysta();
   TyyppiTiedot.Nimet.TyhjennaIdListat();
   if (PaivitaIdLista(*this, TyyppiTiedot) > 0 && Saastotoimenpiteet.Count() > 0)
     Ilmoita(Teksti(9513), Teksti(9101), Vakavuus::Varoitus);
@@ -102,7 +103,7 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   PaaikkunaNyt().AsetaOtsikko("");
   for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) toimenpide.EnnenTiedotUpToDate = false;
   vaurioitunut_ = raportti.vaurioita > 0;
-  Tallennettu = !vaurioitunut_;
+  Tallennettu = !vaurioitunut_ && !paivitetty;
   if (vaurioitunut_) KerroVaurioista(raportti);
 } catch (...) {
   NostaVirhe("clsRakennus:Hae Method");
@@ -121,19 +122,27 @@ bool clsRakennus::RakVakioKantaUudempiKuinMinunRakenteet() const try {
 void clsRakennus::PaivitaMateriaalitVakiokannasta(const std::string& tiedosto) try {
   Rakennetietokanta kanta(tiedosto);
   Odotus odotus(Teksti(9229));
-  for (const clsTila& tila : Tilat)
-    for (clsRakenne& rakenne : tila.Rakenteet) {
-      if (rakenne.RakenneRatkaisu) kanta.PaivitaMateriaalit(*rakenne.RakenneRatkaisu);
-      rakenne.RakennekannanVersio = Asetukset().TietokannanVersio();
-      odotus.Teksti(ViestitNyt().Paneeli() + "..");
-    }
+  for (clsTila& tila : Tilat) {
+    tila.Rakenteet.PaivitaRakenteetVakiokannasta(kanta);
+    odotus.Teksti(ViestitNyt().Paneeli() + "..");
+  }
 } catch (...) {
   NostaVirhe("clsRakennus:PaivitaMateriaalitVakiokannasta Method");
 }
 
-void clsRakennus::TarjoaMateriaalienPaivitysta() {
-  if (!RakVakioKantaUudempiKuinMinunRakenteet()) return;
+/// A library that can't be read leaves the materials as they are: the object opens all the same. True when they were
+/// brought up to date.
+bool clsRakennus::TarjoaMateriaalienPaivitysta() try {
+  if (!RakVakioKantaUudempiKuinMinunRakenteet()) return false;
   const Vastaus vastaus =
       ViestitNyt().Nayta({Teksti(9227) + " " + Teksti(9228), {}, Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei});
-  if (vastaus == Vastaus::Kylla) PaivitaMateriaalitVakiokannasta(Asetukset().strVakioTietokanta);
+  if (vastaus != Vastaus::Kylla) return false;
+  const std::string& tiedosto = Asetukset().strVakioTietokanta;
+  Rakennetietokanta kanta(tiedosto);
+  if (!HyvaksyMateriaalimuutokset(Materiaalimuutokset(Tilat, kanta))) return false;
+  PaivitaMateriaalitVakiokannasta(tiedosto);
+  return true;
+} catch (const Virhe& virhe) {
+  Ilmoita(Teksti(9551) + "\n" + virhe.SyynKuvaus(), Teksti(9100), Vakavuus::Varoitus);
+  return false;
 }

@@ -44,6 +44,10 @@ Kuukausitaulu clsRakenteet::LampoHaviot(double Tsisa) const try {
   NostaVirhe("clsRakenteet:LampoHaviot Method");
 }
 
+void clsRakenteet::PaivitaRakenteetVakiokannasta(Rakennetietokanta& kanta) {
+  for (clsRakenne& rakenne : *this) rakenne.PaivitaMateriaalitVakiokannasta(kanta);
+}
+
 double clsRakenteet::Ala(std::int32_t tyyppi) const {
   double ala = 0;
   for (const clsRakenne& rakenne : *this)

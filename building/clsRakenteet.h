@@ -21,6 +21,9 @@ class clsRakenteet : public Malli<clsRakenteet, Kokoelma<clsRakenne>> {
   double AlapohjienAla() const { return Ala(Rakennelaji::Alapohja); }    ///< m²
   double IkkunoidenAla() const { return Ala(Rakennelaji::Ikkuna); }      ///< m²
 
+  /// Brings the materials of every structure up to a structure database.
+  void PaivitaRakenteetVakiokannasta(Rakennetietokanta& kanta);
+
   /// Opens the dialog of the structures, modal, with all kinds shown. Edits them live; Cancel restores them. True after
   /// OK; the caller tells the building of the change.  `tilanNimi`: for the caption; `Tsisa`: the space's temperature
   /// in the pictures, °C.

@@ -133,6 +133,19 @@ TEST_F(OppaanEsimerkki, LampoyhteenvedonLuvutOvatOppaanLukuja) {
   }
 }
 
+TEST_F(OppaanEsimerkki, RakenteetJaKerros) {
+  KunAuki("cmdPeruuta", [](Lomake& rakenteet) {
+    rakenteet.Etsi("tabRakenne").Indeksi(1);
+    QApplication::processEvents();
+    TallennaKuva(rakenteet);
+    EXPECT_NE(OppaanSivu("rakenteet.md").find(rakenteet.Etsi("txtKerrostenUarvo").Teksti()), std::string::npos);
+    KunAuki("cmdPeruuta");
+    rakenteet.Etsi("lvwKerrokset").Indeksi(1);
+    rakenteet.Etsi("lvwKerrokset").KayttajaPainaa();
+  });
+  EXPECT_FALSE(tila().Rakenteet.NaytaKayttoliityma(tila().TilanNimi, tila().Sisalampotila));
+}
+
 TEST_F(OppaanEsimerkki, KuukausitaseenLuvutOvatOppaanLukuja) {
   KunAuki("cmdSulje");
   NaytaKuukausitase(rakennus());

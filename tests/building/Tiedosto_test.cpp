@@ -6,10 +6,12 @@
 #include <set>
 
 #include "kernel/Hakemistot.h"
+#include "kernel/Luvut.h"
 #include "kernel/Vertailu.h"
 #include "kernel/Virhe.h"
 #include "tests/building/Koerakennus.h"
 #include "tests/kernel/Koehakemisto.h"
+#include "ui/Ikkunaton.h"
 
 namespace {
 
@@ -104,20 +106,66 @@ TEST_F(TiedostoTesti, AForeignFileIsNoProject) {
   EXPECT_EQ(LueTiedosto(tiedosto), "Tämä on muistio.");
 }
 
-TEST_F(TiedostoTesti, ANewerStructureDatabaseIsOffered) {
-  rakennus->Tilat.Item(1).Rakenteet.Item(1).RakennekannanVersio = 0;
-  clsRakennekerros& kerros = rakennus->Tilat.Item(1).Rakenteet.Item(1).RakenneRatkaisu->Kerrokset.Item(1);
-  const float lambda = kerros.Materiaali.Lambda;
-  kerros.Materiaali.Lambda = 9;
-  ASSERT_TRUE(rakennus->Tallenna(tiedosto));
+/// A project whose first structure was made with an older structure database and takes its U-value from layers, the
+/// innermost of which has another conductivity than the library.
+class VanhaKanta : public TiedostoTesti {
+ protected:
+  VanhaKanta() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+    clsRakenne& seina = Seina(*rakennus);
+    seina.RakennekannanVersio = 0;
+    seina.LaskeU_arvoMateriaaleista = true;
+    lambda = Aine(*rakennus).Lambda;
+    Aine(*rakennus).Lambda = 9;
+    EXPECT_TRUE(rakennus->Tallenna(tiedosto));
+    AsetaGlobaaliRakennus(&luettu);
+  }
+  static clsRakenne& Seina(clsRakennus& r) { return r.Tilat.Item(1).Rakenteet.Item(1); }
+  static Materiaali& Aine(clsRakennus& r) { return Seina(r).RakenneRatkaisu->Kerrokset.Item(1).Materiaali; }
+  void Avaa(Vastaus vastaus) {
+    viestit.AsetaSeuraavaVastaus(vastaus);
+    luettu.Hae(tiedosto);
+    EXPECT_EQ(viestit.VastauksiaJaljella(), 0u);
+  }
+
+  Ikkunattomat ikkunat;
   clsRakennus luettu;
-  AsetaGlobaaliRakennus(&luettu);
-  viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
-  luettu.Hae(tiedosto);
-  EXPECT_EQ(viestit.VastauksiaJaljella(), 0u);
-  const clsRakenne& seina = luettu.Tilat.Item(1).Rakenteet.Item(1);
-  EXPECT_EQ(seina.RakenneRatkaisu->Kerrokset.Item(1).Materiaali.Lambda, lambda);
-  EXPECT_EQ(seina.RakennekannanVersio, 1);
+  float lambda = 0;
+};
+
+TEST_F(VanhaKanta, ChangesAreListedAndTakenOnlyWhenAccepted) {
+  for (const char* nappi : {"cmdPeruuta", "cmdOk"}) {
+    ikkunat.KunNaytetaan("frmMateriaalimuutokset", [&](Ikkunaton& l) {
+      const Taulukko& rivit = l.Etsi("lvwMuutokset").Rivit();
+      ASSERT_EQ(rivit.size(), 2u);
+      EXPECT_EQ(rivit[0], (std::vector<std::string>{luettu.Tilat.Item(1).TilanNimi, Seina(luettu).RakenneRatkaisu->Nimi,
+                                                    "1", Aine(luettu).Nimi, "Lämmönjohtavuus, W/mK", "9,0",
+                                                    Muotoile(lambda, "0.0####")}));
+      EXPECT_EQ(rivit[1][4], "Laskettu U-arvo, W/m²K");
+      EXPECT_EQ(rivit[1][5], Muotoile(Seina(luettu).U_arvo(), "0.00#"));
+      l.KayttajaPainaa(nappi);
+    });
+    Avaa(Vastaus::Kylla);
+    const bool hyvaksytty = nappi == std::string("cmdOk");
+    EXPECT_EQ(Aine(luettu).Lambda, hyvaksytty ? lambda : 9) << nappi;
+    EXPECT_EQ(Seina(luettu).RakennekannanVersio, hyvaksytty ? 1 : 0);
+    EXPECT_EQ(luettu.Tallennettu, !hyvaksytty) << "what was taken isn't in the file yet";
+  }
+}
+
+TEST_F(VanhaKanta, NoLeavesEverything) {
+  Avaa(Vastaus::Ei);
+  EXPECT_EQ(Aine(luettu).Lambda, 9);
+  EXPECT_EQ(Seina(luettu).RakennekannanVersio, 0) << "asked again at the next opening";
+}
+
+TEST_F(VanhaKanta, UnreadableLibraryIsToldAndTheObjectOpens) {
+  Asetukset().strVakioTietokanta = tiedosto + ".puuttuu";
+  Avaa(Vastaus::Kylla);
+  EXPECT_EQ(viestit.Naytetyt().size(), 2u);
+  EXPECT_EQ(viestit.Esiintymia("materiaaleja ei päivitetty"), 1);
+  EXPECT_EQ(Aine(luettu).Lambda, 9);
+  EXPECT_TRUE(luettu.Tallennettu);
+  Asetukset().HaeRekisteristä();
 }
 
 }  // namespace

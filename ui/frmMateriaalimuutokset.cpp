@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frmMateriaalimuutokset.h"
+
+frmMateriaalimuutokset::frmMateriaalimuutokset() : Lomake("frmMateriaalimuutokset") {
+  cmdOk.KunKlikataan([this] {
+    hyvaksytty_ = true;
+    Sulje();
+  });
+  cmdPeruuta.KunKlikataan([this] { Sulje(); });
+}
+
+bool frmMateriaalimuutokset::Kysy(Taulukko muutokset) {
+  lblMaara.Otsikko(lblMaara.Otsikko() + " " + std::to_string(muutokset.size()));
+  lvwMuutokset.Rivit(std::move(muutokset));
+  NaytaModaalisena();
+  return hyvaksytty_;
+}
