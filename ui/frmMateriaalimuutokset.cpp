@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmMateriaalimuutokset.h"
 
+#include "ui/Tekstivarasto.h"
+
+namespace {
+constexpr int kMuutoksia = 5217;
+}
+
 frmMateriaalimuutokset::frmMateriaalimuutokset() : Lomake("frmMateriaalimuutokset") {
   cmdOk.KunKlikataan([this] {
     hyvaksytty_ = true;
@@ -10,7 +16,7 @@ frmMateriaalimuutokset::frmMateriaalimuutokset() : Lomake("frmMateriaalimuutokse
 }
 
 bool frmMateriaalimuutokset::Kysy(Taulukko muutokset) {
-  lblMaara.Otsikko(lblMaara.Otsikko() + " " + std::to_string(muutokset.size()));
+  lblMaara.Otsikko(Teksti(kMuutoksia) + " " + std::to_string(muutokset.size()));
   lvwMuutokset.Rivit(std::move(muutokset));
   NaytaModaalisena();
   return hyvaksytty_;

@@ -9,6 +9,7 @@
 #include "library/server/Palvelin.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/qt/QtIkkuna.h"
+#include "ui/qt/QtOhje.h"
 #include "ui/qt/QtViestit.h"
 
 namespace {
@@ -20,6 +21,7 @@ int Aja() {
   AsennaSuomennos();
   AlustaTekstit();
   const QtViestit viestit;
+  const QtOhje ohje;  // the guide in a window of this process
   AsetaQtLomakkeet(nullptr);
   return QApplication::exec();
 }

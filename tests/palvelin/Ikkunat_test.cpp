@@ -49,6 +49,8 @@ TEST_F(Kirjastoikkunat, FitASmallScreenWhenFull) {
   rakenteet.Nayta();
   Lomake& lista = Auki("frmRakennekirjasto");
   lista.Etsi("txtHaku").KayttajaKirjoittaa("puurunko");
+  lista.Etsi("txtHaku").KayttajaPoistuu();
+  lista.Etsi("txtHaku").Teksti("puurunko");
   Katso("frmRakennekirjasto");
   lista.Etsi("cmdKopioi").KayttajaPainaa();
   lista.Etsi("cmdMuokkaa").KayttajaPainaa();
