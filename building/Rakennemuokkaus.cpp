@@ -390,7 +390,7 @@ void Rakennemuokkaus::KayttoLiittyma_HaeKirjastosta() {
   RakKirjasto_KantaDlgSuljettu();
   const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
   haettava_ = muokattava_;
-  KayttoLiittyma.lblHaku.Otsikko(Teksti(kHaetaan) + " " + RakenteenNimi(rakenne));
+  NaytaHaku(Teksti(kHaetaan) + " " + RakenteenNimi(rakenne));
   haku_ = RakennekirjastolinkkiNyt().ValitseRakenne(
       std::string(RakennetyypinSana(rakenne.Rakennetyyppi)),
       {.RakKirjasto_RakenneValittu = [this](const Rakenneratkaisu& r) { RakKirjasto_RakenneValittu(r); },
@@ -412,7 +412,13 @@ void Rakennemuokkaus::RakKirjasto_RakenneValittu(const Rakenneratkaisu& ratkaisu
 void Rakennemuokkaus::RakKirjasto_KantaDlgSuljettu() {
   haku_.reset();
   haettava_ = {};
-  KayttoLiittyma.lblHaku.Otsikko("");
+  NaytaHaku({});
+}
+
+/// A long name may not fit beside the buttons; the tip shows it whole.
+void Rakennemuokkaus::NaytaHaku(const std::string& teksti) {
+  KayttoLiittyma.lblHaku.Otsikko(teksti);
+  KayttoLiittyma.lblHaku.Vihje(teksti);
 }
 
 /// Unticked, what the field shows becomes the structure's value; ticked, only what was written there is kept.

@@ -37,6 +37,7 @@ class Rakennemuokkaus {
   void PaivitaRivi(const clsRakenne& rakenne);
   void NaytaUarvo();
   void NaytaKerrokset(int valittava);
+  void NaytaHaku(const std::string& teksti);
   void PaivitaKentat();
   bool Lukittu() const;
   std::string RakenteenNimi(const clsRakenne& rakenne) const;

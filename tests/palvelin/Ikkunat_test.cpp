@@ -4,12 +4,16 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QTest>
+#include <QTextBrowser>
 
 #include "library/server/Materiaaliselain.h"
 #include "library/server/Rakenneselain.h"
 #include "tests/palvelin/Koekirjasto.h"
 #include "ui/KerataanViestit.h"
 #include "ui/qt/QtIkkuna.h"
+#include "ui/qt/QtOhje.h"
 
 namespace {
 
@@ -83,6 +87,25 @@ TEST_F(Kirjastoikkunat, WindowsOfTwoProgramsLiveApart) {
   const QWidget* juuri = static_cast<QtIkkuna&>(Auki("frmMateriaalikirjasto").Ikkuna()).Juuri();
   ASSERT_NE(juuri, nullptr);
   EXPECT_TRUE(juuri->isVisible());
+}
+
+TEST_F(Kirjastoikkunat, F1OpensTheGuideAtTheTopicOfTheWindow) {
+  const QtOhje ohje;
+  const auto sivu = [](const char* lomake) {
+    QWidget* juuri = static_cast<QtIkkuna&>(Auki(lomake).Ikkuna()).Juuri()->window();
+    juuri->activateWindow();
+    QApplication::processEvents();
+    QTest::keyClick(juuri, Qt::Key_F1);
+    for (const QWidget* ikkuna : QApplication::topLevelWidgets())
+      if (const auto* selain = ikkuna->findChild<QTextBrowser*>("sivu"))
+        return QFileInfo(selain->source().toString()).fileName().toStdString();
+    return std::string();
+  };
+  Rakenneselain rakenteet(Selaimenavaus{{koe_.Oma(), koe_.Vakio()}}, {});
+  rakenteet.Nayta();
+  EXPECT_EQ(sivu("frmRakennekirjasto"), "kirjastot.html#rakennekirjasto");
+  Auki("frmRakennekirjasto").Etsi("cmdUusi").KayttajaPainaa();
+  EXPECT_EQ(sivu("frmKirjastorakenne"), "kirjastot.html#oman-rakenteen-muokkaaminen");
 }
 
 }  // namespace

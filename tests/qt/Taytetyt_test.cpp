@@ -8,11 +8,14 @@
 #include <functional>
 
 #include "kernel/Luvut.h"
+#include "ui/Lampotilakuvaus.h"
 #include "ui/frmJakaumaGraafi.h"
 #include "ui/frmLammonTuotonJaJaonHaviot.h"
 #include "ui/frmLampoYhteenveto.h"
+#include "ui/frmMateriaalimuutokset.h"
 #include "ui/frmNormeeraamatonKulutus.h"
 #include "ui/frmPerustiedot.h"
+#include "ui/frmRakenteet.h"
 #include "ui/frmSplash.h"
 #include "ui/qt/QtIkkuna.h"
 
@@ -114,6 +117,46 @@ TEST_F(Taytetyt, PienetLomakkeetMahtuvatKenttiinsa) {
                                   {"Tilojen lämmitys", "Ilmanvaihtokoneiden jälkilämmitys", "Käyttöveden lämmitys",
                                    "Prosessiveden lämmitys", "Muu lämpö"},
                                   {123456.78, 34567.89, 23456.78, 1234.5, 0});
+}
+
+/// As tall as the screen of a small laptop leaves room for.
+constexpr int kKorkeinIkkuna = 800;
+
+TEST_F(Taytetyt, RakenteidenIkkunaMahtuuKunKerroksiaOnMonta) {
+  frmRakenteet lomake;
+  Taulukko rakenteet, kerrokset;
+  std::vector<std::string> nimet;
+  for (int i = 1; i <= 12; ++i) {
+    nimet.push_back("Mineraalivilla puurungon välissä, tuulensuojattu " + std::to_string(i));
+    kerrokset.push_back({std::to_string(i), nimet.back(), "1 234,56", "Kyllä", std::to_string(i), "Kyllä", "12,345"});
+    rakenteet.push_back({nimet.back(), "Kantava väliseinä", "123 456,78", "0,123", "Huonelämpöinen tila", ""});
+  }
+  lomake.lvwRakenteet.Rivit(rakenteet);
+  lomake.lvwKerrokset.Rivit(kerrokset);
+  lomake.tabRakenne.Indeksi(1);
+  lomake.lblHaku.Otsikko("Kirjastosta haetaan rakenteelle: " + nimet.back());
+  std::vector<double> lampotilat(nimet.size() + 3);
+  for (std::size_t i = 0; i < lampotilat.size(); ++i) lampotilat[i] = 21 - 3.1 * static_cast<double>(i);
+  lomake.chtLampotilat.Kaavio(Lampotilakuvaus("Tilan sisälämpötila 21 °C, mitoittava ulkolämpötila -26 °C", nimet,
+                                              std::vector<double>(nimet.size(), 50),
+                                              std::vector<double>(nimet.size(), 1), lampotilat));
+  lomake.Nayta();
+  OdotaMahtuvan(lomake);
+  const QWidget* juuri = static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri();
+  EXPECT_LE(juuri->width(), 1000);
+  EXPECT_LE(juuri->height(), kKorkeinIkkuna);
+}
+
+TEST_F(Taytetyt, MuutostenLuetteloMahtuuIkkunaansa) {
+  KunAuki("cmdOk", OdotaMahtuvan);
+  const std::vector<std::string> rivi{"Työväenopiston juhlasali ja lämpiö",
+                                      "Puurunko 150, tuulensuoja 50",
+                                      "2",
+                                      "Mineraalivilla, tuulensuojattu",
+                                      "Lämmönjohtavuus, W/mK",
+                                      "0,045",
+                                      "0,0375"};
+  EXPECT_TRUE(frmMateriaalimuutokset().Kysy(Taulukko(200, rivi)));
 }
 
 }  // namespace
