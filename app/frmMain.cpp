@@ -152,7 +152,16 @@ void frmMain::PaivitaKaytossa(std::string_view valikko) {
     if (valikko.empty() || valikko == t.rivi.valikko) t.toiminto.setEnabled(!t.rivi.kaytossa || t.rivi.kaytossa(*this));
 }
 
+/// As when the person leaves the field that has the focus: what has been written there is taken into the model.
+void frmMain::PaataMuokkaus() {
+  QWidget* kentta = QApplication::focusWidget();
+  if (!kentta || !isAncestorOf(kentta)) return;
+  kentta->clearFocus();
+  kentta->setFocus();
+}
+
 void frmMain::Suorita(const Valikkorivi& rivi) {
+  if (std::string_view(rivi.valikko) != "mnuEdit") PaataMuokkaus();
   SuoritaKomento([&] { rivi.toiminto(*this); });
   PaivitaValikot();
 }
@@ -203,6 +212,7 @@ void frmMain::mnuFilePrint_Click() {
 void frmMain::mnuFileExit_Click() { QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection); }
 
 bool frmMain::QueryUnload(bool istuntoPaattyy) {
+  PaataMuokkaus();
   bool saa = false;
   SuoritaKomento([&] { saa = istunto_.QueryUnload(istuntoPaattyy); });
   return saa;

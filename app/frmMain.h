@@ -66,6 +66,7 @@ class frmMain : public QMainWindow, public Paaikkuna {
   void PiirraKuvakkeet();
   /// Enables the entries of the top menu; of all when it is "".
   void PaivitaKaytossa(std::string_view valikko);
+  void PaataMuokkaus();
   void Suorita(const Valikkorivi& rivi);
   bool QueryUnload(bool istuntoPaattyy);
   void MDIForm_Unload();

@@ -3,6 +3,7 @@
 #include "app/frmMain.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QImage>
@@ -202,6 +203,30 @@ TEST_F(Leikepoytatesti, ToolsAndMenusWorkOnTheFieldAndLeaveItTheFocus) {
   kentta.setFocus(Qt::MenuBarFocusReason);
   EXPECT_EQ(kentta.text(), "12,5");
   EXPECT_EQ(*poistuttu, 0) << "the field is still being edited";
+}
+
+TEST_F(Leikepoytatesti, SavingAndClosingTakeWhatIsStillBeingWritten) {
+  Ohjain<QCheckBox>("mnuRakennuksen_tilat", "chkKaytaTotSahkoKuormia").click();
+  auto& osuus = *ikkuna->findChild<QLineEdit*>("txtTotSahkoKuormaPros");
+  osuus.setFocus();
+  const auto kirjoita = [&](const char* luku) {
+    osuus.selectAll();
+    QTest::keyClicks(&osuus, luku);
+  };
+  const clsTilat& tilat = istunto.Rakennus()->Tilat;
+  kirjoita("50");
+  PainaTyokalua("mnuFileSave");
+  EXPECT_EQ(tilat.TotSahkoKuormaPros, 50);
+  EXPECT_TRUE(istunto.Rakennus()->Tallennettu);
+  EXPECT_TRUE(osuus.hasFocus());
+  kirjoita("55");
+  QTest::keyClick(&osuus, Qt::Key_T, Qt::AltModifier);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_T);
+  EXPECT_EQ(tilat.TotSahkoKuormaPros, 55);
+  kirjoita("60");
+  viestit.AsetaSeuraavaVastaus(Vastaus::Peruuta);
+  EXPECT_FALSE(ikkuna->close()) << "there is something to be saved";
+  EXPECT_EQ(tilat.TotSahkoKuormaPros, 60);
 }
 
 TEST_F(Leikepoytatesti, FieldsThatCannotBeWrittenInAndListsAreCopiedOnly) {
