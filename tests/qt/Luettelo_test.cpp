@@ -103,6 +103,24 @@ TEST_F(Tilaluettelo, LajiteltuOtsikkoMahtuuNuolineenJaMuutSaavatTilansaTakaisin)
   EXPECT_EQ(leveydet(), alussa);
 }
 
+TEST_F(Tilaluettelo, TeemanVaihtuessaSummaJaLukitutKentatSaavatSenVarit) {
+  const auto vari = [this] { return Lista().topLevelItem(3)->foreground(0).color(); };
+  frmTila tila;
+  Nayta(tila);
+  QLineEdit& lukittu = Etsi<QLineEdit>(tila, "txtAikavakio");
+  ASSERT_TRUE(lukittu.isReadOnly());
+  const QPalette entinen = QApplication::palette();
+  for (const Qt::GlobalColor tausta : {Qt::black, Qt::white}) {
+    const QColor teksti = tausta == Qt::black ? Qt::white : Qt::black;
+    QApplication::setPalette(
+        QPalette(teksti, tausta, Qt::gray, Qt::gray, Qt::gray, teksti, Qt::gray, Qt::gray, tausta));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(vari(), teksti);
+    EXPECT_EQ(lukittu.palette().color(QPalette::Base), QColor(tausta));
+  }
+  QApplication::setPalette(entinen);
+}
+
 TEST_F(Tilaluettelo, ValitutRivitTaiKaikkiLeikepoydalle) {
   Napsauta(Lista(), 0);
   Napsauta(Lista(), 1, Qt::ShiftModifier);

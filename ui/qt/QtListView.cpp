@@ -51,8 +51,9 @@ void QtListView::KopioiValitut() const { QGuiApplication::clipboard()->setText(Q
 
 void QtListView::Liita() { KayttajaLiittaa(QGuiApplication::clipboard()->text().toStdString()); }
 
-/// The main window's menu has the same keys: the list asks for them first.
+/// The main window's menu has the same keys: the list asks for them first. The sums have the colour of the theme.
 bool QtListView::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+  if (tapahtuma->type() == QEvent::PaletteChange) NaytaSummarivi();
   const bool esto = tapahtuma->type() == QEvent::ShortcutOverride;
   if (!esto && tapahtuma->type() != QEvent::KeyPress) return QtOhjain::eventFilter(kohde, tapahtuma);
   const auto& nappain = static_cast<const QKeyEvent&>(*tapahtuma);
@@ -110,8 +111,7 @@ void QtListView::NaytaRivit() {
     lista_.topLevelItem(paikka)->setData(0, kRivinumero, rivi);
     NaytaRivi(paikka++, Rivit()[static_cast<std::size_t>(rivi)]);
   }
-  if (!Summarivi().empty()) NaytaRivi(paikka, Summarivi());
-  if (!Summarivi().empty()) MuotoileSummarivi(*lista_.topLevelItem(paikka));
+  NaytaSummarivi();
   lista_.header()->setSortIndicatorShown(Lajiteltu().sarake >= 0);
   lista_.header()->setSortIndicator(Lajiteltu().sarake, Lajiteltu().laskeva ? Qt::DescendingOrder : Qt::AscendingOrder);
   if (rivia > 0) MitoitaSarakkeet();
@@ -131,14 +131,18 @@ void QtListView::NaytaRivi(int paikka, const std::vector<std::string>& solut) {
   }
 }
 
-void QtListView::MuotoileSummarivi(QTreeWidgetItem& rivi) const {
+void QtListView::NaytaSummarivi() {
+  const int paikka = static_cast<int>(Jarjestys().size());
+  QTreeWidgetItem* rivi = lista_.topLevelItem(paikka);
+  if (Summarivi().empty() || !rivi) return;
+  NaytaRivi(paikka, Summarivi());
   QFont lihava = lista_.font();
   lihava.setBold(true);
-  rivi.setData(0, kRivinumero, -1);
-  rivi.setFlags(Qt::NoItemFlags);
+  rivi->setData(0, kRivinumero, -1);
+  rivi->setFlags(Qt::NoItemFlags);
   for (int s = 0; s < lista_.columnCount(); ++s) {
-    rivi.setFont(s, lihava);
-    rivi.setForeground(s, lista_.palette().brush(QPalette::Active, QPalette::Text));
+    rivi->setFont(s, lihava);
+    rivi->setForeground(s, lista_.palette().brush(QPalette::Active, QPalette::Text));
   }
 }
 

@@ -25,7 +25,7 @@ class QtListView : public QtOhjain {
   void NaytaRivit();
   void NaytaRivi(int paikka, const std::vector<std::string>& solut);
   void NaytaIndeksi();
-  void MuotoileSummarivi(QTreeWidgetItem& rivi) const;
+  void NaytaSummarivi();
   void MitoitaSarakkeet();
   void SovitaNuoli(int sarake);
   void KavennaNimi();

@@ -114,6 +114,7 @@ class QtTextBox : public QtOhjain {
   bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
     if (tapahtuma->type() == QEvent::FocusOut && PoistuttuKentasta(static_cast<QFocusEvent*>(tapahtuma)->reason()))
       KayttajaPoistuu();
+    if (tapahtuma->type() == QEvent::PaletteChange && Lukittu()) VaritaLukituksi();
     return QtOhjain::eventFilter(kohde, tapahtuma);
   }
 
@@ -137,11 +138,16 @@ class QtTextBox : public QtOhjain {
       kentta_.setAlignment(Qt::AlignRight);
       kentta_.setFixedWidth(kLuvunLeveys * QFontMetrics(QApplication::font()).horizontalAdvance('0'));
     }
-    if (Lukittu()) {
-      QPalette varit = kentta_.palette();
-      varit.setColor(QPalette::Base, varit.color(QPalette::Window));
-      kentta_.setPalette(varit);
-    }
+    if (Lukittu()) VaritaLukituksi();
+  }
+
+  /// The ground of the window instead of that of fields, in the colours of the present theme.
+  void VaritaLukituksi() {
+    QPalette varit = kentta_.palette();
+    const QColor pohja = varit.color(QPalette::Window);
+    if (varit.color(QPalette::Base) == pohja) return;
+    varit.setColor(QPalette::Base, pohja);
+    kentta_.setPalette(varit);
   }
 
   QLineEdit& kentta_;
