@@ -24,11 +24,6 @@ constexpr Suure kSuureet[] = {
     {&Materiaali::Ominaislampo, kOminaislampo, "0.0##"},
 };
 
-std::string RakenteenNimi(const clsRakenne& rakenne) {
-  if (!rakenne.RakenneRatkaisu->Nimi.empty()) return rakenne.RakenneRatkaisu->Nimi;
-  return std::string(RakennetyypinSana(rakenne.Rakennetyyppi));
-}
-
 /// Adds the rows of one structure.
 class Vertailu {
  public:
@@ -60,8 +55,8 @@ class Vertailu {
 
   void Lisaa(const std::string& kerros, const std::string& aine, int suure, std::string ennen,
              std::string jalkeen) const {
-    rivit_.push_back(
-        {tila_.TilanNimi, RakenteenNimi(rakenne_), kerros, aine, Teksti(suure), std::move(ennen), std::move(jalkeen)});
+    rivit_.push_back({tila_.TilanNimi, rakenne_.NaytettavaNimi(), kerros, aine, Teksti(suure), std::move(ennen),
+                      std::move(jalkeen)});
   }
 
   Taulukko& rivit_;

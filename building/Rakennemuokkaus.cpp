@@ -237,14 +237,9 @@ Rakenneratkaisu& Rakennemuokkaus::Ratkaisu() {
   return *rakenne.RakenneRatkaisu;
 }
 
-std::string Rakennemuokkaus::RakenteenNimi(const clsRakenne& rakenne) const {
-  if (rakenne.RakenneRatkaisu && !rakenne.RakenneRatkaisu->Nimi.empty()) return rakenne.RakenneRatkaisu->Nimi;
-  return ValinnanRivi(KayttoLiittyma.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1);
-}
-
 std::vector<std::string> Rakennemuokkaus::Rivi(const clsRakenne& rakenne) const {
   const frmRakenteet& l = KayttoLiittyma;
-  return {RakenteenNimi(rakenne),
+  return {rakenne.NaytettavaNimi(),
           ValinnanRivi(l.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1),
           Muotoile(rakenne.PintaAla, kAla),
           Muotoile(rakenne.U_arvo(), kUarvo),
@@ -351,7 +346,7 @@ void Rakennemuokkaus::KayttoLiittyma_KopioiKlikattu() {
   KirjoitaDataluokka();
   const clsRakenne& lahde = rakenteet_.Item(muokattava_);
   clsRakenne& kopio = LisaaKopio(rakenteet_, lahde);
-  if (kopio.RakenneRatkaisu) kopio.RakenneRatkaisu->Nimi = Teksti(kKopio) + RakenteenNimi(lahde);
+  if (kopio.RakenneRatkaisu) kopio.RakenneRatkaisu->Nimi = Teksti(kKopio) + lahde.NaytettavaNimi();
   RakenteetMuuttuivat(kopio.sKey);
 }
 
@@ -390,7 +385,7 @@ void Rakennemuokkaus::KayttoLiittyma_HaeKirjastosta() {
   RakKirjasto_KantaDlgSuljettu();
   const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
   haettava_ = muokattava_;
-  NaytaHaku(Teksti(kHaetaan) + " " + RakenteenNimi(rakenne));
+  NaytaHaku(Teksti(kHaetaan) + " " + rakenne.NaytettavaNimi());
   haku_ = RakennekirjastolinkkiNyt().ValitseRakenne(
       std::string(RakennetyypinSana(rakenne.Rakennetyyppi)),
       {.RakKirjasto_RakenneValittu = [this](const Rakenneratkaisu& r) { RakKirjasto_RakenneValittu(r); },
@@ -491,10 +486,11 @@ void Rakennemuokkaus::KayttoLiittyma_RakKerKopioi() {
   KerroksetMuuttuivat(rivi + 1);
 }
 
+/// None is chosen any more when a pick has brought other layers during the question.
 void Rakennemuokkaus::KayttoLiittyma_RakKerPoista() {
   if (!KysyPoisto()) return;
   const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
-  if (rivi < 0) return;  // a pick has brought other layers while we asked
+  if (rivi < 0) return;
   KirjoitaDataluokka();
   Ratkaisu().Kerrokset.Remove(rivi + 1);
   KerroksetMuuttuivat(std::min(rivi, Ratkaisu().Kerrokset.Count() - 1));

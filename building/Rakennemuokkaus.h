@@ -40,7 +40,6 @@ class Rakennemuokkaus {
   void NaytaHaku(const std::string& teksti);
   void PaivitaKentat();
   bool Lukittu() const;
-  std::string RakenteenNimi(const clsRakenne& rakenne) const;
   std::vector<std::string> Rivi(const clsRakenne& rakenne) const;
 
   clsRakenne* Muokattava() const { return rakenteet_.Etsi(muokattava_); }

@@ -150,6 +150,13 @@ double clsRakenne::U_arvo() const {
   return RakenneRatkaisu->LaskeU_arvo().value_or(u_arvo_);
 }
 
+std::string clsRakenne::NaytettavaNimi() const {
+  if (RakenneRatkaisu && !RakenneRatkaisu->Nimi.empty()) return RakenneRatkaisu->Nimi;
+  const auto lajit = Valintalista("frmRakenteet", "cmbRakennetyyppi");  // after the row of all kinds
+  const auto laji = static_cast<std::size_t>(Rakennetyyppi) + 1;
+  return laji < lajit.size() ? lajit[laji] : std::string();
+}
+
 void clsRakenne::OtaRatkaisu(const Rakenneratkaisu& ratkaisu) {
   RakenneRatkaisu.Luo() = ratkaisu;
   Rakennetyyppi = RakennetyyppiSanasta(ratkaisu.Rakennetyyppi).value_or(Rakennetyyppi);

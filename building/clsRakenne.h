@@ -43,6 +43,8 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   /// Stores a value.
   void U_arvo(double arvo) { u_arvo_ = arvo; }
 
+  /// Name to show: the solution's, or the kind when it has none.
+  std::string NaytettavaNimi() const;
   /// Takes over a copy of a solution that was picked from a library: its kind, when the library's word is known,
   /// whether the U-value comes from its layers, and its U-value when that is given and known.
   void OtaRatkaisu(const Rakenneratkaisu& ratkaisu);

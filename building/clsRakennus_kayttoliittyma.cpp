@@ -15,11 +15,6 @@ namespace {
 constexpr double kSuuriMaanvarainenU = 1.0;  // W/m²K
 constexpr int kSuuriUVaroitus = 1068, kIrrallisetKoneet = 1057, kIrrallinenKone = 1058;
 
-std::string RakenteenNimi(const clsRakenne& rakenne) {
-  if (rakenne.RakenneRatkaisu && !rakenne.RakenneRatkaisu->Nimi.empty()) return rakenne.RakenneRatkaisu->Nimi;
-  return std::string(RakennetyypinSana(rakenne.Rakennetyyppi));
-}
-
 /// "The part, and the rest": how the panel tells that the generation goes on.
 class Vaiheet {
  public:
@@ -101,7 +96,7 @@ void clsRakennus::VaroitaMaanvaraisista() const {
   for (const clsTila& tila : Tilat)
     for (const clsRakenne& rakenne : tila.Rakenteet)
       if (rakenne.TyyppiID == kMaa && rakenne.U_arvo() > kSuuriMaanvarainenU)
-        NaytaVirhe(kSuuriUVaroitus, Teksti(9220) + " " + RakenteenNimi(rakenne) + ", " + tila.TilanNimi);
+        NaytaVirhe(kSuuriUVaroitus, Teksti(9220) + " " + rakenne.NaytettavaNimi() + ", " + tila.TilanNimi);
 }
 
 void clsRakennus::VaroitaIlmavirroista() {
