@@ -152,7 +152,7 @@ double clsRakenne::U_arvo() const {
 
 std::string clsRakenne::NaytettavaNimi() const {
   if (RakenneRatkaisu && !RakenneRatkaisu->Nimi.empty()) return RakenneRatkaisu->Nimi;
-  const auto lajit = Valintalista("frmRakenteet", "cmbRakennetyyppi");  // after the row of all kinds
+  static const auto lajit = Valintalista("frmRakenteet", "cmbRakennetyyppi");  // after the row of all kinds
   const auto laji = static_cast<std::size_t>(Rakennetyyppi) + 1;
   return laji < lajit.size() ? lajit[laji] : std::string();
 }
