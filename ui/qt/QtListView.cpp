@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/QtListView.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QTimer>
 #include <algorithm>
@@ -22,12 +23,34 @@ bool OnOmaNappain(const QKeyEvent& tapahtuma) {
   return tapahtuma.matches(QKeySequence::Copy) || tapahtuma.matches(QKeySequence::Paste);
 }
 
+/// Air around the cells: a column of numbers ends where one of texts begins.
+class Ilmavasti : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  int pixelMetric(PixelMetric mitta, const QStyleOption* option, const QWidget* widget) const override {
+    return mitta == PM_FocusFrameHMargin || mitta == PM_HeaderMargin ? kSivuille
+                                                                     : QProxyStyle::pixelMetric(mitta, option, widget);
+  }
+  QSize sizeFromContents(ContentsType tyyppi, const QStyleOption* option, const QSize& koko,
+                         const QWidget* widget) const override {
+    const QSize sisalto = QProxyStyle::sizeFromContents(tyyppi, option, koko, widget);
+    return tyyppi == CT_ItemViewItem ? sisalto + QSize(0, kKorkeutta) : sisalto;
+  }
+
+ private:
+  static constexpr int kSivuille = 4, kKorkeutta = 2;
+};
+
 }  // namespace
 
 QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista)
     : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
   for (int s = 0; s < lista.columnCount(); ++s)
     tasaukset_.push_back(Qt::Alignment(lista.headerItem()->textAlignment(s)));
+  auto* tyyli = new Ilmavasti(QApplication::style()->name());
+  tyyli->setParent(&lista);
+  for (QWidget* osa : std::initializer_list<QWidget*>{&lista, lista.header()}) osa->setStyle(tyyli);
   lista.setRootIsDecorated(false);
   lista.setUniformRowHeights(true);
   lista.setAllColumnsShowFocus(true);
