@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "kernel/Kellonajat.h"
+#include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
 #include "ui/Tekstivarasto.h"
 
@@ -14,6 +16,7 @@ namespace {
 
 constexpr int kEiLuku = 1008;
 constexpr int kRajojenUlkopuolella = 1009;
+constexpr int kEiKellonaika = 1013;
 constexpr std::uint32_t kViestivaliMs = 1000;
 
 std::uint32_t OikeaKello() {
@@ -70,15 +73,30 @@ bool RajoissaTaiIlmoitus(const Tarkistus& t, double arvo) {
   return false;
 }
 
-bool Kelpaa(Ohjain& kentta) {
-  const Tarkistus t = LueTag(kentta.Tag());
-  if (t.tyyppi != "N" && t.tyyppi != "n") return true;
+/// Takes the person to a field whose text doesn't do.
+bool Hylkaa(Ohjain& kentta, bool valitseTeksti) {
+  kentta.Kohdista();
+  if (valitseTeksti) kentta.ValitseTeksti();
+  return false;
+}
+
+bool KelpaaLukuna(Ohjain& kentta, const Tarkistus& t) {
   const auto arvo = LueLuku(kentta.Teksti());
   if (arvo && RajoissaTaiIlmoitus(t, *arvo)) return true;
   if (!arvo) NaytaHarvakseltaan(kEiLuku, {});
-  kentta.Kohdista();
-  if (!arvo) kentta.ValitseTeksti();
-  return false;
+  return Hylkaa(kentta, !arvo);
+}
+
+bool KelpaaKellonaikana(Ohjain& kentta) {
+  if (LueKellonaika(kentta.Teksti())) return true;
+  NaytaHarvakseltaan(kEiKellonaika, {});
+  return Hylkaa(kentta, true);
+}
+
+bool Kelpaa(Ohjain& kentta) {
+  const Tarkistus t = LueTag(kentta.Tag());
+  if (SamaNimi(t.tyyppi, "N")) return KelpaaLukuna(kentta, t);
+  return !SamaNimi(t.tyyppi, "K") || KelpaaKellonaikana(kentta);
 }
 
 }  // namespace

@@ -28,6 +28,8 @@ constexpr Tyyppirivi kTyypit[] = {
     {"Piirakka", "MSChart", Ohjaintyyppi::MSChart},
     {"Pylvaikko", "MSChart", Ohjaintyyppi::MSChart},
     {"Lampotilakuva", "MSChart", Ohjaintyyppi::MSChart},
+    {"Viikkokuva", "MSChart", Ohjaintyyppi::MSChart},
+    {"Kayrakuva", "MSChart", Ohjaintyyppi::MSChart},
 };
 
 }  // namespace

@@ -41,7 +41,7 @@ struct Kaaviosarja {
 };
 
 /// What a chart shows. A pie has a name and a value for each slice; a column chart a name for each place of its axis,
-/// series and their unit.
+/// series and their unit; curves the name of their axis, its places in `arvot`, series and their unit.
 struct Kaaviotiedot {
   std::string otsikko;
   std::vector<std::string> nimet;

@@ -17,7 +17,20 @@ constexpr double kMoottorinYlimitoitus = 1.3;
 constexpr double kOsanopeudenLisa = 1.2;
 constexpr int kOsavirtavirhe = 1014;
 
+bool OnOsanopeudenVirta(double x) { return x >= kPieninOsavirta && x <= kSuurinOsavirta; }
+
 }  // namespace
+
+bool PuhaltimenTeho::OnVirta(double x) const noexcept {
+  switch (jarjestelma_) {
+    case Kaksinopeus:
+      return OnOsanopeudenVirta(x) || x >= kTaysi;
+    case MuuttuvaIlmavirta:
+      return clsMivSaato::OnVirta(x);
+    default:
+      return true;
+  }
+}
 
 double PuhaltimenTeho::Teho(double x) {
   for (const Virranteho& kysytty : muisti_)
@@ -50,7 +63,7 @@ clsMivSaato::Toimintapiste PuhaltimenTeho::KaksinopeuksinenPiste() const {
 }
 
 double PuhaltimenTeho::KaksiNopPuhaltimenOsateho(double x) {
-  if (!(x >= kPieninOsavirta && x <= kSuurinOsavirta)) return NaytaVirhe(kOsavirtavirhe), 0;
+  if (!OnOsanopeudenVirta(x)) return NaytaVirhe(kOsavirtavirhe), 0;
   if (!(Taysteho() > 0)) return 0;
   if (!piste_) piste_ = KaksinopeuksinenPiste();
   if (piste_->P4 == 0) return 0;

@@ -16,6 +16,9 @@ class PuhaltimenTeho {
   PuhaltimenTeho(std::int32_t jarjestelmaTyyppi, const clsMivSaato& saato)
       : jarjestelma_(jarjestelmaTyyppi), saato_(saato) {}
 
+  /// The fan can run at a flow of x %: one of two speeds at 33 to 66 and from 100 on, one of variable flow at 30 to
+  /// 100, one of constant flow at any.
+  bool OnVirta(double x) const noexcept;
   double Taysteho() const noexcept { return saato_.P1; }  ///< kW
   /// Power in a running period of x % flow, kW. A constant-flow fan has its full power at any flow, a two-speed one
   /// from 100 % on.

@@ -50,6 +50,28 @@ double clsKayntiAika::KuukaudenKayntiTunnit(int kuukausi) const try {
   NostaVirhe("clsKayntiAika:KuukaudenKayntiTunnit Method");
 }
 
+double clsKayntiAika::VuodenKayntiTunnit() const try {
+  double summa = 0;
+  for (int kuukausi = 0; kuukausi < kKuukausia; ++kuukausi)
+    if (KuuluuKuukauteen(kuukausi)) summa += KuukaudenKayntiTunnit(kuukausi);
+  return summa;
+} catch (...) {
+  NostaVirhe("clsKayntiAika:VuodenKayntiTunnit Method");
+}
+
+bool clsKayntiAika::LampotilatTaulukossa() const {
+  return OnLammitystaulukonLampotila(Tsp) && OnLammitystaulukonLampotila(Tsp - dTPuhallin);
+}
+
+void clsKayntiAika::KopioiKaynti(const clsKayntiAika& lahde) {
+  KayntiJaksojenLkm = lahde.KayntiJaksojenLkm;
+  Alkaa = lahde.Alkaa;
+  Paattyy = lahde.Paattyy;
+  TuloIlmavirtaProsentti = lahde.TuloIlmavirtaProsentti;
+  Tsp = lahde.Tsp;
+  dTPuhallin = lahde.dTPuhallin;
+}
+
 Kuukausitaulu clsKayntiAika::KayntiJaksonLampo(double q, double lampotila) const try {
   if (TuloIlmavirtaProsentti <= 0 || KayntiJaksojenLkm == 0) return {};
   const double S = VaadiRakennus().Perustiedot.NormVuodenLammTarveLuku;

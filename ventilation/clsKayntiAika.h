@@ -34,6 +34,15 @@ class clsKayntiAika : public Malli<clsKayntiAika, Alkio> {
   double KayntiTunnit() const;
   /// Running hours of the month. Errors: 9999.
   double KuukaudenKayntiTunnit(int kuukausi) const;
+  /// Running hours of a year, those of the season's months. Errors: 9999.
+  double VuodenKayntiTunnit() const;
+  /// The period is run and moves air; else it counts for nothing.
+  bool Kaytossa() const noexcept { return KayntiJaksojenLkm > 0 && TuloIlmavirtaProsentti > 0; }
+  /// `Tsp` and `Tsp` − `dTPuhallin` lie within the heating table; else no heat is computed for the period.
+  bool LampotilatTaulukossa() const;
+
+  /// Takes runs, times, flow and temperatures of another period; key, season and identity stay.
+  void KopioiKaynti(const clsKayntiAika& lahde);
 
   /// By month, kWh: energy that warms q m³/s of supply air at full power from outdoors to `lampotila` − `dTPuhallin`,
   /// whatever the season; each run counts for a seventh of the days. 0 without flow or runs. Error 1015 and 0 for a

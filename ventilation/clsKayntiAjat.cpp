@@ -43,17 +43,56 @@ Tunniste clsKayntiAjat::JaksonAvain(int rivi, int vuosijakso) {
   return std::to_string(rivi) + kVuosijaksot.at(static_cast<std::size_t>(vuosijakso));
 }
 
+Kayntisumma& Kayntisumma::operator+=(const Kayntisumma& toinen) noexcept {
+  riveja += toinen.riveja;
+  tunnit += toinen.tunnit;
+  virtatunnit += toinen.virtatunnit;
+  return *this;
+}
+
 void clsKayntiAjat::LuoJaksot(double Tsp, double dTPuhallin) try {
   Tyhjenna();
+  TaydennaJaksot(Tsp, dTPuhallin);
+} catch (...) {
+  NostaVirhe("clsKayntiAjat:LuoJaksot Method");
+}
+
+bool clsKayntiAjat::TaydennaJaksot(double Tsp, double dTPuhallin) try {
+  const int ennen = Count();
   for (std::int32_t vuosijakso = 0; vuosijakso <= clsKayntiAika::KokoVuosi; ++vuosijakso)
     for (int rivi = 1; rivi <= kJaksojaVuosijaksossa; ++rivi) {
-      clsKayntiAika& jakso = Add(JaksonAvain(rivi, vuosijakso));
+      const Tunniste avain = JaksonAvain(rivi, vuosijakso);
+      if (Etsi(avain)) continue;
+      clsKayntiAika& jakso = Add(avain);
       jakso.Jakso = vuosijakso;
       jakso.Tsp = Tsp;
       jakso.dTPuhallin = dTPuhallin;
     }
+  return Count() > ennen;
 } catch (...) {
-  NostaVirhe("clsKayntiAjat:LuoJaksot Method");
+  NostaVirhe("clsKayntiAjat:TaydennaJaksot Method");
+}
+
+Kayntisumma clsKayntiAjat::Vuosijaksolta(int vuosijakso) const try {
+  Kayntisumma summa;
+  for (const clsKayntiAika& jakso : *this) {
+    if (jakso.Jakso != vuosijakso || !jakso.Kaytossa()) continue;
+    const double tunnit = jakso.VuodenKayntiTunnit();
+    summa += {1, tunnit, tunnit * jakso.TuloIlmavirtaProsentti};
+  }
+  return summa;
+} catch (...) {
+  NostaVirhe("clsKayntiAjat:Vuosijaksolta Method");
+}
+
+void clsKayntiAjat::KayttoLiittyma_KopioiMuihinKlikattu() try {
+  for (int rivi = 1; rivi <= kJaksojaVuosijaksossa; ++rivi) {
+    const clsKayntiAika* lahde = Etsi(JaksonAvain(rivi, clsKayntiAika::EkaNeljannes));
+    for (int vuosijakso = clsKayntiAika::TokaNeljannes; vuosijakso <= clsKayntiAika::NeljasNeljannes; ++vuosijakso)
+      if (clsKayntiAika* kohde = Etsi(JaksonAvain(rivi, vuosijakso)); lahde && kohde) kohde->KopioiKaynti(*lahde);
+  }
+} catch (...) {
+  NostaVirhe("clsKayntiAjat:KayttoLiittyma_KopioiMuihinKlikattu Method");
 }
 
 /// Sum over the periods that count in the month.

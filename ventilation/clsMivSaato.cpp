@@ -15,7 +15,7 @@ constexpr double kNopeudenVaihto = 70;                   // %
 
 /// The flow lies within the fits; shows the message if not.
 bool TarkistaVirta(double x) {
-  if (x >= kPieninVirta && x <= kSuurinVirta) return true;
+  if (clsMivSaato::OnVirta(x)) return true;
   Ilmoita("MIV-puhaltimen osatehon tulee olla välillä 30 - 100 %. Ole hyvä ja korjaa arvo!");
   return false;
 }
@@ -23,6 +23,8 @@ bool TarkistaVirta(double x) {
 double Kolmanteen(double x) { return x * x * x; }
 
 }  // namespace
+
+bool clsMivSaato::OnVirta(double x) noexcept { return x >= kPieninVirta && x <= kSuurinVirta; }
 
 bool clsMivSaato::KaksiNopeusmoottori() const {
   return IlmavirranSaatotapa == Kuristus2nop || IlmavirranSaatotapa == Johtosiipi2nop;

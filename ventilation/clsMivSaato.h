@@ -26,6 +26,8 @@ class clsMivSaato {
   /// Sets ma2, ma1, ma0; all 0 for an unknown method.
   void AsetaSovitteenKertoimet(double x, std::int32_t tapa, std::int32_t osuus);
   double P4_akseliteho() const { return 0; }
+  /// The fits hold at a flow of x %: 30 to 100.
+  static bool OnVirta(double x) noexcept;
 
   /// What the iteration finds.
   struct Toimintapiste {

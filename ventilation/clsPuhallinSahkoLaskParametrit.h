@@ -17,4 +17,8 @@ class clsPuhallinSahkoLaskParametrit : public Malli<clsPuhallinSahkoLaskParametr
   /// Electric power, kW: flow × pressure rise / 1000 / the product of the four efficiencies as ratios. Raises 9999 when
   /// one of them is 0.
   double Ottoteho() const;
+
+  /// Opens the dialog of the fan of that name, modal. A flow of 0 begins as `koneenVirta`, m³/s. True after OK; nothing
+  /// is changed before.
+  bool NaytaKayttoliittyma(const std::string& puhallin, double koneenVirta);
 };

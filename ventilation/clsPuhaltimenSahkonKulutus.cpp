@@ -3,6 +3,7 @@
 
 #include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
+#include "ventilation/clsIVKone.h"
 
 namespace {
 
@@ -45,6 +46,10 @@ double Ominaisteho(PuhaltimenTeho puhallin, double virta) {
 }  // namespace
 
 const Luokka clsPuhaltimenSahkonKulutus::kLuokka{"clsPuhaltimenSahkonKulutus", kJasenet};
+
+bool clsPuhaltimenSahkonKulutus::OnTulopuhallin() const noexcept { return IVPeriaateID != clsIVKone::Poistoilmakone; }
+
+bool clsPuhaltimenSahkonKulutus::OnPoistopuhallin() const noexcept { return IVPeriaateID != clsIVKone::Tuloilmakone; }
 
 PuhaltimenTeho clsPuhaltimenSahkonKulutus::Puhallin(double taysteho) const {
   clsMivSaato saato;

@@ -45,6 +45,13 @@ class clsPuhaltimenSahkonKulutus : public Malli<clsPuhaltimenSahkonKulutus> {
   PuhaltimenTeho Tulopuhallin() const { return Puhallin(TuloSahkoTeho11); }
   PuhaltimenTeho Poistopuhallin() const { return Puhallin(PoistoSahkoTeho11); }
 
+  bool OnTulopuhallin() const noexcept;
+  bool OnPoistopuhallin() const noexcept;
+
+  /// Opens the dialog of the two fans, modal; the machine's copies must be up to date. OK leaves what was written,
+  /// Cancel restores the object. True after OK.
+  bool NaytaKayttoliittyma();
+
  private:
   PuhaltimenTeho Puhallin(double taysteho) const;
 

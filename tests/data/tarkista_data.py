@@ -29,6 +29,7 @@ LISTOJEN_RIVIT = {
     "frmIlmanvaihtokone.cmbIVPeriaate": 4, "frmIlmanvaihtokone.cmbJarjestelmaTyyppi": 3,
     "frmIlmanvaihtokone.cmbPuhaltimenVoimansiirtoTapa": 3, "frmIlmanvaihtokone.cmbPuhaltimenSaatotapa": 6,
     "frmIlmanvaihtokone.cmbVakioPaineOsuus": 11, "frmIlmanvaihtokoneenKayntiajat.cmbKayntiAikojenSyottoTapa": 2,
+    "frmIVKoneenPuhaltimienSahkonKaytto.cmbTiedonLaatu": 2,
     "frmTarkennettuLaiteLaskenta.cmbLaskentaOminaissuureTeho": 4,
     "frmTarkennettuLaiteLaskenta.cmbLaskentayksikkoTeho": 4,
     "frmTarkennettuLaiteLaskenta.cmbLaskentaOminaissuureEnergia": 7,

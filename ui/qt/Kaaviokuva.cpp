@@ -4,7 +4,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 #include <iterator>
 
@@ -17,6 +19,7 @@ constexpr QRgb kVarit[] = {0xE69F00, 0x56B4E9, 0x009E73, 0xF0E442,
 
 Kaaviokuva::Kaaviokuva(QWidget* vanhempi) : QWidget(vanhempi) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setMouseTracking(true);
 }
 
 QColor Kaaviokuva::Vari(std::size_t i) { return QColor(kVarit[i % std::size(kVarit)]); }
@@ -43,6 +46,17 @@ void Kaaviokuva::KopioiLeikepoydalle() {
 }
 
 bool Kaaviokuva::TallennaKuva(const std::string& tiedosto) { return grab().save(Teksti(tiedosto)); }
+
+void Kaaviokuva::mouseMoveEvent(QMouseEvent* tapahtuma) {
+  osoitin_ = tapahtuma->position();
+  QToolTip::showText(tapahtuma->globalPosition().toPoint(), Seloste(osoitin_), this);
+  update();
+}
+
+void Kaaviokuva::leaveEvent(QEvent*) {
+  osoitin_ = {-1, -1};
+  update();
+}
 
 int Kaaviokuva::SelitteenLeveys() const {
   int leveys = 0;

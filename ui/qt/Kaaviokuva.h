@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <QPointF>
 #include <QStringList>
 #include <QWidget>
 
@@ -17,8 +18,15 @@ class Kaaviokuva : public QWidget {
   /// Writes the picture in the format that the file's extension tells. False when it can't be written.
   bool TallennaKuva(const std::string& tiedosto);
   QSize minimumSizeHint() const override { return sizeHint(); }
+  /// What lies at the point, as the tool tip tells it; "" when nothing does.
+  virtual QString Seloste(const QPointF&) const { return {}; }
 
  protected:
+  void mouseMoveEvent(QMouseEvent* tapahtuma) override;
+  void leaveEvent(QEvent* tapahtuma) override;
+  /// Where the pointer is; outside the widget when it isn't over it.
+  const QPointF& Osoitin() const { return osoitin_; }
+
   const Kaaviotiedot& Tiedot() const { return kaavio_; }
   /// The figures as lines of cells with a tab between, and the names of the legend.
   virtual QStringList Luvut() const = 0;
@@ -39,4 +47,5 @@ class Kaaviokuva : public QWidget {
 
  private:
   Kaaviotiedot kaavio_;
+  QPointF osoitin_{-1, -1};
 };

@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/Pylvaikko.h"
 
-#include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
-#include <QtMath>
 #include <algorithm>
-#include <array>
-#include <cmath>
 
 #include "kernel/Luvut.h"
 
 namespace {
 
-constexpr int kAsteikonVaaleus = 40;  // of 255: lines of the scale behind the columns
-constexpr double kVara = 1.05;        // of the scale beyond the columns
 constexpr double kPalkinOsuus = 0.8;  // of the width of a place
 constexpr double kPisteenKoko = 7;
 constexpr double kOhut = 4;  // of a part that is hard to point at
@@ -28,19 +21,6 @@ struct Korkeus {
 };
 
 }  // namespace
-
-Pylvaikko::Pylvaikko(QWidget* vanhempi) : Kaaviokuva(vanhempi) { setMouseTracking(true); }
-
-/// A scale of round steps (1, 2 or 5 times a power of ten) that holds zero and both ends; 0 to 1 when all is zero.
-Pylvaikko::Asteikko Pylvaikko::Sovita(double pienin, double suurin) {
-  if (pienin == suurin) suurin = 1;
-  const double vali = (suurin - pienin) / 5;
-  const double kymmen = std::pow(10, std::floor(std::log10(vali)));
-  const std::array kertoimet = {1.0, 2.0, 5.0, 10.0};
-  const double askel =
-      kymmen * *std::ranges::find_if(kertoimet, [&](double k) { return k == 10 || k * kymmen >= vali; });
-  return {pienin * kVara, suurin * kVara, askel};
-}
 
 void Pylvaikko::AsetaKaavio(const Kaaviotiedot& kaavio) {
   double pienin = 0, suurin = 0;
@@ -58,7 +38,7 @@ void Pylvaikko::AsetaKaavio(const Kaaviotiedot& kaavio) {
       suurin = std::max(suurin, pino.yla);
     }
   }
-  asteikko_ = Sovita(pienin, suurin);
+  asteikko_ = Asteikko::Sovita(pienin, suurin);
   Kaaviokuva::AsetaKaavio(kaavio);
   Sommittele();
 }
@@ -93,9 +73,8 @@ QSize Pylvaikko::sizeHint() const {
 
 QRectF Pylvaikko::Sovitettu() const {
   const int rivi = fontMetrics().height();
-  const int luvut =
-      fontMetrics().horizontalAdvance(Teksti(Muotoile(-std::max(asteikko_.yla, -asteikko_.ala), "### ##0")));
-  return QRectF(rect()).adjusted(luvut + rivi, 5 * rivi / 2, -SelitteenLeveys(), -2 * rivi);
+  return QRectF(rect()).adjusted(asteikko_.LukujenLeveys(fontMetrics()) + rivi, 5 * rivi / 2, -SelitteenLeveys(),
+                                 -2 * rivi);
 }
 
 /// Lays the parts out for the present figures, size and font.
@@ -109,11 +88,6 @@ void Pylvaikko::resizeEvent(QResizeEvent*) { Sommittele(); }
 void Pylvaikko::changeEvent(QEvent* tapahtuma) {
   Kaaviokuva::changeEvent(tapahtuma);
   if (tapahtuma->type() == QEvent::FontChange) Sommittele();
-}
-
-double Pylvaikko::Y(double arvo) const {
-  const QRectF& ala = kuvaala_;
-  return ala.bottom() - (arvo - asteikko_.ala) / (asteikko_.yla - asteikko_.ala) * ala.height();
 }
 
 QPointF Pylvaikko::Viivalla(const Kaaviosarja& sarja, std::size_t paikka) const {
@@ -162,24 +136,13 @@ const Pylvaikko::Pala* Pylvaikko::Kohdassa(const QPointF& kohta) const {
 
 QString Pylvaikko::Seloste(const Pala& pala) const {
   const Kaaviosarja& sarja = Tiedot().sarjat[pala.sarja];
-  return Teksti(Tiedot().nimet[pala.paikka] + ", " + sarja.nimi + ": " + Muotoile(sarja.arvot[pala.paikka], "### ##0") +
-                " " + Tiedot().yksikko);
+  return Teksti(Tiedot().nimet[pala.paikka] + ", " + sarja.nimi + ": " +
+                Muotoile(sarja.arvot[pala.paikka], asteikko_.Kuvio()) + " " + Tiedot().yksikko);
 }
 
 QString Pylvaikko::Seloste(const QPointF& kohta) const {
   const Pala* pala = Kohdassa(kohta);
   return pala ? Seloste(*pala) : QString();
-}
-
-void Pylvaikko::mouseMoveEvent(QMouseEvent* tapahtuma) {
-  osoitin_ = tapahtuma->position();
-  QToolTip::showText(tapahtuma->globalPosition().toPoint(), Seloste(osoitin_), this);
-  update();
-}
-
-void Pylvaikko::leaveEvent(QEvent*) {
-  osoitin_ = {-1, -1};
-  update();
 }
 
 void Pylvaikko::paintEvent(QPaintEvent*) {
@@ -196,20 +159,7 @@ void Pylvaikko::paintEvent(QPaintEvent*) {
 void Pylvaikko::PiirraAsteikko(QPainter& maalain) const {
   const QRectF& ala = kuvaala_;
   const int rivi = fontMetrics().height();
-  QColor himmea = palette().color(QPalette::Text);
-  himmea.setAlpha(kAsteikonVaaleus);
-  maalain.drawText(QRectF(0, ala.top() - 3 * rivi / 2.0, ala.left() - rivi / 2.0, rivi),
-                   Qt::AlignRight | Qt::AlignVCenter, Teksti(Tiedot().yksikko));
-  const int viimeinen = qFloor(asteikko_.yla / asteikko_.vali);
-  for (int i = qCeil(asteikko_.ala / asteikko_.vali); i <= viimeinen; ++i) {
-    const double arvo = i * asteikko_.vali, y = Y(arvo);
-    maalain.drawText(QRectF(0, y - rivi / 2.0, ala.left() - rivi / 2.0, rivi), Qt::AlignRight | Qt::AlignVCenter,
-                     Teksti(Muotoile(arvo, "### ##0.##")));
-    maalain.save();
-    if (i != 0) maalain.setPen(himmea);
-    maalain.drawLine(QPointF(ala.left(), y), QPointF(ala.right(), y));
-    maalain.restore();
-  }
+  asteikko_.Piirra(maalain, ala, Teksti(Tiedot().yksikko));
   for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
     maalain.drawText(
         QRectF(ala.left() + static_cast<double>(i) * PaikanLeveys(), ala.bottom() + rivi / 4.0, PaikanLeveys(), rivi),
@@ -217,7 +167,7 @@ void Pylvaikko::PiirraAsteikko(QPainter& maalain) const {
 }
 
 void Pylvaikko::PiirraPalat(QPainter& maalain) const {
-  const Pala* osoitettu = Kohdassa(osoitin_);
+  const Pala* osoitettu = Kohdassa(Osoitin());
   const int rivi = fontMetrics().height();
   maalain.save();
   for (const Pala& pala : palat_) {

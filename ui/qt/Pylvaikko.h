@@ -2,24 +2,23 @@
 #pragma once
 #include <vector>
 
+#include "ui/qt/Asteikko.h"
 #include "ui/qt/Kaaviokuva.h"
 
 /// A column chart: at each place of the axis stacked columns side by side, and lines over them. What is below zero is
 /// stacked downward. The part under the pointer is outlined and tells its value.
 class Pylvaikko : public Kaaviokuva {
  public:
-  explicit Pylvaikko(QWidget* vanhempi = nullptr);
+  using Kaaviokuva::Kaaviokuva;
   void AsetaKaavio(const Kaaviotiedot& kaavio) override;
   QSize sizeHint() const override;
   /// "Place, series: value unit" of the part at the point; "" when there is none.
-  QString Seloste(const QPointF& kohta) const;
+  QString Seloste(const QPointF& kohta) const override;
 
  protected:
   void paintEvent(QPaintEvent* tapahtuma) override;
   void resizeEvent(QResizeEvent* tapahtuma) override;
   void changeEvent(QEvent* tapahtuma) override;
-  void mouseMoveEvent(QMouseEvent* tapahtuma) override;
-  void leaveEvent(QEvent* tapahtuma) override;
   QStringList Luvut() const override;
   QStringList Nimet() const override;
   void PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const override;
@@ -30,14 +29,10 @@ class Pylvaikko : public Kaaviokuva {
     QRectF alue;
     std::size_t sarja, paikka;
   };
-  struct Asteikko {
-    double ala, yla, vali;
-  };
 
-  static Asteikko Sovita(double pienin, double suurin);
   QRectF Sovitettu() const;
   void Sommittele();
-  double Y(double arvo) const;
+  double Y(double arvo) const { return asteikko_.Y(arvo, kuvaala_); }
   double PaikanLeveys() const {
     return kuvaala_.width() / static_cast<double>(std::max<std::size_t>(1, Tiedot().nimet.size()));
   }
@@ -50,9 +45,8 @@ class Pylvaikko : public Kaaviokuva {
   void PiirraPalat(QPainter& maalain) const;
   void PiirraViivat(QPainter& maalain) const;
 
-  Asteikko asteikko_{0, 1, 1};
+  Asteikko asteikko_;
   int pinoja_ = 1;
   QRectF kuvaala_;  // between the scale's ends
   std::vector<Pala> palat_;
-  QPointF osoitin_{-1, -1};
 };

@@ -23,6 +23,7 @@
 namespace {
 
 constexpr int kLuvunLeveys = 14;  // of a number field, in digits
+constexpr int kAjanLeveys = 8;    // of a field for a time of day
 
 QString Q(const std::string& teksti) { return QString::fromStdString(teksti); }
 
@@ -133,11 +134,11 @@ class QtTextBox : public QtOhjain {
   }
 
   void Ulkoasu() {
-    const bool luku = Lukittu() || Q(Tag()).section(',', 1, 1).compare(QLatin1String("n"), Qt::CaseInsensitive) == 0;
-    if (luku) {
-      kentta_.setAlignment(Qt::AlignRight);
-      kentta_.setFixedWidth(kLuvunLeveys * QFontMetrics(QApplication::font()).horizontalAdvance('0'));
-    }
+    const QString tyyppi = Q(Tag()).section(',', 1, 1).toLower();
+    if (Lukittu() || tyyppi == QLatin1String("n"))
+      RajaaLeveys(kLuvunLeveys, Qt::AlignRight);
+    else if (tyyppi == QLatin1String("k"))
+      RajaaLeveys(kAjanLeveys, Qt::AlignHCenter);
     if (Lukittu()) VaritaLukituksi();
   }
 
@@ -148,6 +149,11 @@ class QtTextBox : public QtOhjain {
     if (varit.color(QPalette::Base) == pohja) return;
     varit.setColor(QPalette::Base, pohja);
     kentta_.setPalette(varit);
+  }
+
+  void RajaaLeveys(int numeroita, Qt::Alignment tasaus) {
+    kentta_.setAlignment(tasaus);
+    kentta_.setFixedWidth(numeroita * QFontMetrics(QApplication::font()).horizontalAdvance('0'));
   }
 
   QLineEdit& kentta_;

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/Viikkokuva.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "kernel/Kellonajat.h"
+#include "kernel/Luvut.h"
+#include "ui/Viikkokuvaus.h"
+
+namespace {
+
+constexpr int kMinuuttejaVuorokaudessa = 1440, kMinuuttejaTunnissa = 60;
+constexpr int kTuntivali = 3;           // between the lines of the hours
+constexpr double kTaysiVirta = 100;     // %
+constexpr int kViivojenVaaleus = 60;    // of 255
+constexpr double kVaalein = 0.35;       // opacity of the smallest flow
+constexpr double kPaivienVali = 0.15;   // of a day's height, left free above its bars
+constexpr std::size_t kSelitteita = 7;  // rows of the legend that have room
+constexpr std::size_t kPalkinVari = 4;  // of the colours of charts: blue
+
+QString Prosentteina(double virta) { return QString::fromStdString(Muotoile(virta, "0.#") + " %"); }
+
+}  // namespace
+
+void Viikkokuva::AsetaKaavio(const Kaaviotiedot& kaavio) {
+  virrat_ = kaavio.sarjat.size() > kVirrat ? kaavio.sarjat[kVirrat].arvot : std::vector<double>();
+  std::ranges::sort(virrat_, std::greater());
+  virrat_.erase(std::ranges::unique(virrat_).begin(), virrat_.end());
+  suurin_ = virrat_.empty() ? kTaysiVirta : std::max(kTaysiVirta, virrat_.front());
+  if (virrat_.size() > kSelitteita) virrat_.resize(kSelitteita);
+  Kaaviokuva::AsetaKaavio(kaavio);
+}
+
+QStringList Viikkokuva::Nimet() const {
+  QStringList nimet;
+  for (const double virta : virrat_) nimet << Prosentteina(virta);
+  return nimet;
+}
+
+QString Viikkokuva::Aika(std::size_t sarja, std::size_t jakso) const {
+  return Teksti(KellonaikaTekstina({static_cast<std::int32_t>(Arvo(sarja, jakso))}));
+}
+
+QStringList Viikkokuva::Luvut() const {
+  QStringList otsikot;
+  for (const Kaaviosarja& sarja : Tiedot().sarjat) otsikot << Teksti(sarja.nimi);
+  QStringList rivit(otsikot.join('\t'));
+  for (std::size_t i = 0; i < Jaksoja(); ++i)
+    rivit << QStringList{Teksti(Tiedot().nimet[static_cast<std::size_t>(Arvo(kPaivat, i))]), Aika(kAlut, i),
+                         Aika(kLoput, i), Teksti(Muotoile(Arvo(kVirrat, i), "0.0"))}
+                 .join('\t');
+  return rivit;
+}
+
+QSize Viikkokuva::sizeHint() const {
+  const int rivi = fontMetrics().height();
+  return {18 * rivi + SelitteenLeveys(), 12 * rivi};
+}
+
+QRectF Viikkokuva::Kuvaala() const {
+  const int rivi = fontMetrics().height();
+  int nimi = 0;
+  for (const std::string& paiva : Tiedot().nimet) nimi = std::max(nimi, fontMetrics().horizontalAdvance(Teksti(paiva)));
+  return QRectF(rect()).adjusted(nimi + rivi, 2 * rivi, -SelitteenLeveys(), -3 * rivi / 2.0);
+}
+
+double Viikkokuva::PaivanKorkeus() const {
+  return Kuvaala().height() / static_cast<double>(std::max<std::size_t>(1, Tiedot().nimet.size()));
+}
+
+double Viikkokuva::X(double minuutti) const {
+  return Kuvaala().left() + Kuvaala().width() * minuutti / kMinuuttejaVuorokaudessa;
+}
+
+QRectF Viikkokuva::Vyo(std::size_t jakso) const {
+  const double ylareuna = Kuvaala().top() + Arvo(kPaivat, jakso) * PaivanKorkeus();
+  return {QPointF(X(Arvo(kAlut, jakso)), ylareuna), QPointF(X(Arvo(kLoput, jakso)), ylareuna + PaivanKorkeus())};
+}
+
+QRectF Viikkokuva::Palkki(const QRectF& vyo, double virta) const {
+  return vyo.adjusted(0, vyo.height() * (1 - (1 - kPaivienVali) * virta / suurin_), 0, 0);
+}
+
+QColor Viikkokuva::Savy(double virta) const {
+  QColor vari = Vari(kPalkinVari);
+  vari.setAlphaF(static_cast<float>(kVaalein + (1 - kVaalein) * virta / suurin_));
+  return vari;
+}
+
+QString Viikkokuva::Seloste(const QPointF& kohta) const {
+  for (std::size_t i = 0; i < Jaksoja(); ++i)
+    if (Vyo(i).contains(kohta))
+      return QStringLiteral("%1 %2–%3: %4")
+          .arg(Teksti(Tiedot().nimet[static_cast<std::size_t>(Arvo(kPaivat, i))]), Aika(kAlut, i), Aika(kLoput, i),
+               Prosentteina(Arvo(kVirrat, i)));
+  return {};
+}
+
+void Viikkokuva::paintEvent(QPaintEvent*) {
+  QPainter maalain(this);
+  PiirraPohja(maalain);
+  if (Tiedot().nimet.empty()) return;
+  PiirraRuudukko(maalain);
+  maalain.save();
+  for (std::size_t i = 0; i < Jaksoja(); ++i) {
+    maalain.setBrush(Savy(Arvo(kVirrat, i)));
+    maalain.setPen(QPen(palette().color(QPalette::Text), Vyo(i).contains(Osoitin()) ? 2 : 0.5));
+    maalain.drawRect(Palkki(Vyo(i), Arvo(kVirrat, i)));
+  }
+  maalain.restore();
+  const QRect ala = Kuvaala().toRect();
+  PiirraSelite(maalain, QRect(ala.right(), ala.top(), width() - ala.right(), ala.height()));
+}
+
+void Viikkokuva::PiirraRuudukko(QPainter& maalain) const {
+  const QRectF ala = Kuvaala();
+  const int rivi = fontMetrics().height();
+  const QColor vari = palette().color(QPalette::Text);
+  QColor himmea = vari;
+  himmea.setAlpha(kViivojenVaaleus);
+  for (int minuutti = 0; minuutti <= kMinuuttejaVuorokaudessa; minuutti += kTuntivali * kMinuuttejaTunnissa) {
+    const double x = X(minuutti);
+    maalain.setPen(himmea);
+    maalain.drawLine(QPointF(x, ala.top()), QPointF(x, ala.bottom()));
+    maalain.setPen(vari);
+    maalain.drawText(QRectF(x - 2 * rivi, ala.bottom() + rivi / 4.0, 4 * rivi, rivi), Qt::AlignCenter,
+                     QString::number(minuutti / kMinuuttejaTunnissa));
+  }
+  double y = ala.top();
+  for (const std::string& paiva : Tiedot().nimet) {
+    maalain.drawText(QRectF(0, y, ala.left() - rivi / 2.0, PaivanKorkeus()), Qt::AlignRight | Qt::AlignBottom,
+                     Teksti(paiva));
+    y += PaivanKorkeus();
+    maalain.drawLine(QPointF(ala.left(), y), QPointF(ala.right(), y));
+  }
+}
+
+void Viikkokuva::PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const {
+  maalain.save();
+  maalain.setBrush(Savy(virrat_[i]));
+  maalain.drawRect(Palkki(QRectF(merkki), virrat_[i]));
+  maalain.restore();
+}
