@@ -65,17 +65,15 @@ QRectF Viikkokuva::Kuvaala() const {
   return QRectF(rect()).adjusted(nimi + rivi, 2 * rivi, -SelitteenLeveys(), -3 * rivi / 2.0);
 }
 
-double Viikkokuva::PaivanKorkeus() const {
-  return Kuvaala().height() / static_cast<double>(std::max<std::size_t>(1, Tiedot().nimet.size()));
-}
-
-double Viikkokuva::X(double minuutti) const {
-  return Kuvaala().left() + Kuvaala().width() * minuutti / kMinuuttejaVuorokaudessa;
-}
-
-QRectF Viikkokuva::Vyo(std::size_t jakso) const {
-  const double ylareuna = Kuvaala().top() + Arvo(kPaivat, jakso) * PaivanKorkeus();
-  return {QPointF(X(Arvo(kAlut, jakso)), ylareuna), QPointF(X(Arvo(kLoput, jakso)), ylareuna + PaivanKorkeus())};
+std::vector<QRectF> Viikkokuva::Vyot() const {
+  const QRectF ala = Kuvaala();
+  const double minuutti = ala.width() / kMinuuttejaVuorokaudessa;
+  const double paiva = ala.height() / static_cast<double>(std::max<std::size_t>(1, Tiedot().nimet.size()));
+  std::vector<QRectF> vyot;
+  for (std::size_t i = 0; i < Jaksoja(); ++i)
+    vyot.emplace_back(ala.left() + Arvo(kAlut, i) * minuutti, ala.top() + Arvo(kPaivat, i) * paiva,
+                      (Arvo(kLoput, i) - Arvo(kAlut, i)) * minuutti, paiva);
+  return vyot;
 }
 
 QRectF Viikkokuva::Palkki(const QRectF& vyo, double virta) const {
@@ -89,8 +87,9 @@ QColor Viikkokuva::Savy(double virta) const {
 }
 
 QString Viikkokuva::Seloste(const QPointF& kohta) const {
-  for (std::size_t i = 0; i < Jaksoja(); ++i)
-    if (Vyo(i).contains(kohta))
+  const auto vyot = Vyot();
+  for (std::size_t i = 0; i < vyot.size(); ++i)
+    if (vyot[i].contains(kohta))
       return QStringLiteral("%1 %2–%3: %4")
           .arg(Teksti(Tiedot().nimet[static_cast<std::size_t>(Arvo(kPaivat, i))]), Aika(kAlut, i), Aika(kLoput, i),
                Prosentteina(Arvo(kVirrat, i)));
@@ -103,10 +102,11 @@ void Viikkokuva::paintEvent(QPaintEvent*) {
   if (Tiedot().nimet.empty()) return;
   PiirraRuudukko(maalain);
   maalain.save();
-  for (std::size_t i = 0; i < Jaksoja(); ++i) {
+  const auto vyot = Vyot();
+  for (std::size_t i = 0; i < vyot.size(); ++i) {
     maalain.setBrush(Savy(Arvo(kVirrat, i)));
-    maalain.setPen(QPen(palette().color(QPalette::Text), Vyo(i).contains(Osoitin()) ? 2 : 0.5));
-    maalain.drawRect(Palkki(Vyo(i), Arvo(kVirrat, i)));
+    maalain.setPen(QPen(palette().color(QPalette::Text), vyot[i].contains(Osoitin()) ? 2 : 0.5));
+    maalain.drawRect(Palkki(vyot[i], Arvo(kVirrat, i)));
   }
   maalain.restore();
   const QRect ala = Kuvaala().toRect();
@@ -120,18 +120,18 @@ void Viikkokuva::PiirraRuudukko(QPainter& maalain) const {
   QColor himmea = vari;
   himmea.setAlpha(kViivojenVaaleus);
   for (int minuutti = 0; minuutti <= kMinuuttejaVuorokaudessa; minuutti += kTuntivali * kMinuuttejaTunnissa) {
-    const double x = X(minuutti);
+    const double x = ala.left() + ala.width() * minuutti / kMinuuttejaVuorokaudessa;
     maalain.setPen(himmea);
     maalain.drawLine(QPointF(x, ala.top()), QPointF(x, ala.bottom()));
     maalain.setPen(vari);
     maalain.drawText(QRectF(x - 2 * rivi, ala.bottom() + rivi / 4.0, 4 * rivi, rivi), Qt::AlignCenter,
                      QString::number(minuutti / kMinuuttejaTunnissa));
   }
+  const double korkeus = ala.height() / static_cast<double>(Tiedot().nimet.size());
   double y = ala.top();
   for (const std::string& paiva : Tiedot().nimet) {
-    maalain.drawText(QRectF(0, y, ala.left() - rivi / 2.0, PaivanKorkeus()), Qt::AlignRight | Qt::AlignBottom,
-                     Teksti(paiva));
-    y += PaivanKorkeus();
+    maalain.drawText(QRectF(0, y, ala.left() - rivi / 2.0, korkeus), Qt::AlignRight | Qt::AlignBottom, Teksti(paiva));
+    y += korkeus;
     maalain.drawLine(QPointF(ala.left(), y), QPointF(ala.right(), y));
   }
 }

@@ -25,10 +25,8 @@ class Viikkokuva : public Kaaviokuva {
   double Arvo(std::size_t sarja, std::size_t jakso) const { return Tiedot().sarjat[sarja].arvot[jakso]; }
   QString Aika(std::size_t sarja, std::size_t jakso) const;
   QRectF Kuvaala() const;
-  double PaivanKorkeus() const;
-  double X(double minuutti) const;
-  /// The full height of a day between two times, and the bar of a period in it.
-  QRectF Vyo(std::size_t jakso) const;
+  /// For each period the full height of its day between its times, and the bar in it.
+  std::vector<QRectF> Vyot() const;
   QRectF Palkki(const QRectF& vyo, double virta) const;
   QColor Savy(double virta) const;
   void PiirraRuudukko(QPainter& maalain) const;
