@@ -18,6 +18,7 @@ bool KohdeValmis(const frmMain& ikkuna) { return ikkuna.Kohteet().KohdeValmis();
 /// A form that is open isn't opened a second time over the same model.
 bool LampoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmLampoYhteenveto"); }
 bool TilatAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmTilaYhteenveto"); }
+bool KoneetAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmIVKoneYhteenveto"); }
 
 bool VoiKumota(const frmMain& ikkuna) { return ikkuna.Kohteet().VoiKumota(); }
 bool VoiLeikata(const frmMain& ikkuna) { return ikkuna.Leike().VoiLeikata(); }
@@ -76,7 +77,8 @@ constexpr Valikkorivi kRivit[] = {
     {"mnuRakennus", "mnuPerustiedot", 1082, "Ctrl+K", KohdeValmis, [](frmMain& i) { i.Kohteet().NaytaPerustiedot(); }},
     {"mnuRakennus", "mnuRakennuksen_tilat", 1083, "Ctrl+T", TilatAvattavissa,
      [](frmMain& i) { i.Kohteet().Rakennus()->Tilat.NaytaKayttoliittyma(); }},
-    {"mnuRakennus", "mnuIlmanvaihto", 1085, "", kTulossa},
+    {"mnuRakennus", "mnuIlmanvaihto", 1085, "", KoneetAvattavissa,
+     [](frmMain& i) { i.Kohteet().Rakennus()->IVKoneet.NaytaKayttoliittyma(); }},
     {"mnuRakennus", "mnuSahko", 1086, "", kTulossa},
     {"mnuRakennus", "mnuVedenkulutus", 1087, "", kTulossa},
     {"mnuRakennus", ""},

@@ -14,10 +14,14 @@ constexpr int kEiNimea = 9128;
 
 using Tunnisteet = std::unordered_set<Tunniste>;
 
-void Lisaa(Tunnisteet& tunnisteet, const clsRakenne& rakenne) {
-  for (const Olio* olio :
-       std::initializer_list<const Olio*>{&rakenne, &rakenne.HorisVarjostus, &rakenne.SivuLippa, &rakenne.YlaLippa})
-    tunnisteet.insert(olio->InstanssiId);
+/// Identities of the object and of all below it that are in the register.
+void Keraa(Olio& olio, Tunnisteet& tunnisteet) {
+  if (olio.LuokanTiedot().Osallistuminen() != Luokka::Osallistuu::Kaikkeen) return;
+  tunnisteet.insert(olio.InstanssiId);
+  if (KokoelmaPohja* kokoelma = olio.Kokoelmana())
+    for (int i = 1; i <= kokoelma->Count(); ++i) Keraa(kokoelma->Pohja(i), tunnisteet);
+  for (const Jasen& jasen : olio.LuokanTiedot().Jasenet())
+    if (Olio* lapsi = jasen.olio ? jasen.olio(olio) : nullptr) Keraa(*lapsi, tunnisteet);
 }
 
 bool Viittaa(const clsMuuttuneetAttribuutit& muutokset, const Tunnisteet& tunnisteet) {
@@ -26,24 +30,14 @@ bool Viittaa(const clsMuuttuneetAttribuutit& muutokset, const Tunnisteet& tunnis
              muutokset, [&](const clsMuuttunutAttribuutti& muutos) { return tunnisteet.contains(muutos.InstanssiId); });
 }
 
-std::string Viittaavat(const Tunnisteet& tunnisteet) {
+}  // namespace
+
+std::string ViittaavatToimenpiteet(Olio& olio) {
+  Tunnisteet tunnisteet;
+  Keraa(olio, tunnisteet);
   std::string nimet;
   for (const clsSaastotoimenpide& toimenpide : VaadiRakennus().Saastotoimenpiteet)
     if (Viittaa(toimenpide.MuuttuneetAttribuutit, tunnisteet))
       nimet += (nimet.empty() ? "" : ", ") + (toimenpide.Nimi.empty() ? Teksti(kEiNimea) : toimenpide.Nimi);
   return nimet;
-}
-
-}  // namespace
-
-std::string ViittaavatToimenpiteet(const clsTila& tila) {
-  Tunnisteet tunnisteet{tila.InstanssiId, tila.Rakenteet.InstanssiId};
-  for (const clsRakenne& rakenne : tila.Rakenteet) Lisaa(tunnisteet, rakenne);
-  return Viittaavat(tunnisteet);
-}
-
-std::string ViittaavatToimenpiteet(const clsRakenne& rakenne) {
-  Tunnisteet tunnisteet;
-  Lisaa(tunnisteet, rakenne);
-  return Viittaavat(tunnisteet);
 }

@@ -36,6 +36,7 @@ void clsRakennus::PerusmalliMuuttui() {
   IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = false;
   Tallennettu = false;
   Tilat.ListaaTilat();
+  IVKoneet.ListaaKoneet();
 }
 
 void clsRakennus::LuoOletusmalli() try {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "building/clsTila.h"
+#include "ui/Avainluettelo.h"
 
 class frmTilaYhteenveto;
 
@@ -45,7 +44,7 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   void LiitaTapahtumat();
   void TaytaLuettelo();
   clsTila& ValittuTila() const;
-  void Valitse(const Tunniste& avain);
+  void PaivitaNapit();
   void MalliMuuttui(const Tunniste& valittava);
   void KayttoLiittyma_LisaaKlikattu();
   void KayttoLiittyma_MuokkaaKlikattu();
@@ -58,5 +57,5 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   Lippu tarveUpToDate_;
   Oma<double> tarve_;  // MWh/a
   Oma<std::shared_ptr<frmTilaYhteenveto>> kayttoLiittyma_;
-  Oma<std::vector<Tunniste>> rivit_;  // keys of the spaces in the list
+  Oma<Avainluettelo> rivit_;
 };

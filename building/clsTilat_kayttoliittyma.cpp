@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of spaces.
-#include <algorithm>
-
 #include "building/Kuukausitase.h"
 #include "building/LisaaKopio.h"
 #include "building/Tasehaarukka.h"
@@ -116,37 +114,22 @@ void clsTilat::ListaaTilat() try {
 
 void clsTilat::TaytaLuettelo() {
   Odotus odotus;
-  const frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
-  const int valittu = lomake.lvwTilat.Indeksi();
-  const Tunniste avain = valittu < 0 ? Tunniste() : rivit_.arvo[static_cast<std::size_t>(valittu)];
-  Taulukko rivit = LasketutRivit(VaadiRakennus(), *this);
-  rivit_.arvo.clear();
-  for (const clsTila& tila : *this) rivit_.arvo.push_back(tila.sKey);
-  std::vector<std::string> summat = std::move(rivit.back());
-  rivit.pop_back();
-  lomake.lvwTilat.Summarivi({});
-  lomake.lvwTilat.Rivit(std::move(rivit));
-  lomake.lvwTilat.Summarivi(std::move(summat));
-  Valitse(avain);
+  std::vector<Tunniste> avaimet;
+  for (const clsTila& tila : *this) avaimet.push_back(tila.sKey);
+  rivit_.arvo.Tayta(kayttoLiittyma_.arvo->lvwTilat, std::move(avaimet), LasketutRivit(VaadiRakennus(), *this));
+  PaivitaNapit();
 }
 
-/// Chooses the space, or the first one when it is no more.
-void clsTilat::Valitse(const Tunniste& avain) {
-  frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
-  const auto paikka = std::ranges::find(rivit_.arvo, avain);
-  lomake.lvwTilat.Indeksi(paikka == rivit_.arvo.end() ? 0 : static_cast<int>(paikka - rivit_.arvo.begin()));
-  lomake.PaivitaNapit(VaadiRakennus().Saastotoimenpiteet.Count() > 0);
-}
+void clsTilat::PaivitaNapit() { kayttoLiittyma_.arvo->PaivitaNapit(VaadiRakennus().Saastotoimenpiteet.Count() > 0); }
 
-clsTila& clsTilat::ValittuTila() const {
-  return Item(rivit_.arvo.at(static_cast<std::size_t>(kayttoLiittyma_.arvo->lvwTilat.Indeksi())));
-}
+clsTila& clsTilat::ValittuTila() const { return Item(rivit_.arvo.Valittu(kayttoLiittyma_.arvo->lvwTilat)); }
 
 void clsTilat::MalliMuuttui(const Tunniste& valittava) {
   VaadiRakennus().PaivitaInstanssiIdLista();
   VaadiRakennus().PerusmalliMuuttui();
   TaytaLuettelo();
-  Valitse(valittava);
+  rivit_.arvo.Valitse(kayttoLiittyma_.arvo->lvwTilat, valittava);
+  PaivitaNapit();
 }
 
 void clsTilat::KayttoLiittyma_LisaaKlikattu() try {
@@ -177,7 +160,7 @@ void clsTilat::KayttoLiittyma_KopioiKlikattu() try {
 }
 
 void clsTilat::KayttoLiittyma_PoistaKlikattu() try {
-  const clsTila& tila = ValittuTila();
+  clsTila& tila = ValittuTila();
   if (const std::string nimet = ViittaavatToimenpiteet(tila); !nimet.empty())
     return Ilmoita(Teksti(kTilaKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
   if (!KysyPoisto()) return;

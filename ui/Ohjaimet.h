@@ -144,6 +144,15 @@ class MSChart : public TyypitettyKahva<Ohjaintyyppi::MSChart> {
   bool TallennaKuva(const std::string& tiedosto) const { return ohjain_->TallennaKuva(tiedosto); }
 };
 
+/// One of the program's own pictures.
+class Image : public TyypitettyKahva<Ohjaintyyppi::Image> {
+ public:
+  using TyypitettyKahva::TyypitettyKahva;
+  /// File name in ui/kuvat without its extension; "" none.
+  const std::string& Kuva() const { return ohjain_->Kuva(); }
+  void Kuva(std::string nimi) const { ohjain_->Kuva(std::move(nimi)); }
+};
+
 /// Three controls whose names end in 1, 2 and 3.
 template <class Kahva>
 std::array<Kahva, 3> Kolme(const Lomake& lomake, const std::string& nimi) {

@@ -30,6 +30,7 @@ constexpr Tyyppirivi kTyypit[] = {
     {"Lampotilakuva", "MSChart", Ohjaintyyppi::MSChart},
     {"Viikkokuva", "MSChart", Ohjaintyyppi::MSChart},
     {"Kayrakuva", "MSChart", Ohjaintyyppi::MSChart},
+    {"Kuvapinta", "Image", Ohjaintyyppi::Image},
 };
 
 }  // namespace
@@ -138,6 +139,11 @@ void Ohjain::Osat(std::vector<Osa> osat) {
 void Ohjain::Kaavio(Kaaviotiedot kaavio) {
   kaavio_ = std::move(kaavio);
   Paivita(Piirre::Kaavio);
+}
+
+void Ohjain::Kuva(std::string nimi) {
+  kuva_ = std::move(nimi);
+  Paivita(Piirre::Kuva);
 }
 
 void Ohjain::Nosta(const std::function<void()>& tapahtuma) {

@@ -20,7 +20,8 @@ enum class Ohjaintyyppi {
   Frame,
   TabStrip,
   ListView,
-  MSChart
+  MSChart,
+  Image
 };
 
 /// "Label", "TextBox", ...
@@ -30,7 +31,20 @@ std::string_view TyypinNimi(Ohjaintyyppi tyyppi);
 bool TyyppiLuokasta(std::string_view luokka, Ohjaintyyppi& tyyppi);
 
 /// A trait of a control that an adapter shows on the screen.
-enum class Piirre { Teksti, Vihje, Kaytossa, Nakyva, Valittu, Rivit, Indeksi, Osat, Kaavio, Kohdistus, Tekstivalinta };
+enum class Piirre {
+  Teksti,
+  Vihje,
+  Kaytossa,
+  Nakyva,
+  Valittu,
+  Rivit,
+  Indeksi,
+  Osat,
+  Kaavio,
+  Kuva,
+  Kohdistus,
+  Tekstivalinta
+};
 
 /// A series of a column chart: a value for each column.
 struct Kaaviosarja {
@@ -140,6 +154,9 @@ class Ohjain {
 
   const Kaaviotiedot& Kaavio() const { return kaavio_; }
   void Kaavio(Kaaviotiedot kaavio);
+  /// Name of the program's own picture that an image shows; "" none.
+  const std::string& Kuva() const { return kuva_; }
+  void Kuva(std::string nimi);
   /// Puts what the control shows on the clipboard: a chart as a picture and figures, a list as lines with tabs. False
   /// when the adapter has no clipboard.
   virtual bool KopioiLeikepoydalle() { return false; }
@@ -187,4 +204,5 @@ class Ohjain {
   std::vector<int> jarjestys_;
   int indeksi_ = -1;
   Kaaviotiedot kaavio_;
+  std::string kuva_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/clsIVKone.h"
 
+#include <limits>
+
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
@@ -49,6 +51,9 @@ double Vuosisumma(F&& kuukausiarvo) {
   for (int m = 0; m < kKuukausia; ++m) summa += kuukausiarvo(m);
   return Aarellinen(summa / kkWhperMWh);
 }
+double Vuosisumma(const Kuukausitaulu& taulu) {
+  return Vuosisumma([&taulu](int m) { return taulu[static_cast<std::size_t>(m)]; });
+}
 
 Kuukausitaulu Erotus(Kuukausitaulu a, const Kuukausitaulu& b) {
   for (std::size_t m = 0; m < kKuukausia; ++m) a[m] -= b[m];
@@ -85,6 +90,11 @@ void clsIVKone::PaivitaPuhaltimienTiedot() {
   puhaltimet.KoneenTunnus = KoneenTunnus;
 }
 
+void clsIVKone::PaivitaOsienTiedot() {
+  PaivitaPuhaltimienTiedot();
+  KayntiAikaYleistiedot.IvKoneenNimi = KoneenTunnus;
+}
+
 Kuukausitaulu clsIVKone::HaviotTilaan(double Tsisa) const try {
   const double poistuva = OnPoistopuhallin() ? PoistoIlmavirta11Teho : TuloIlmavirta11Teho;
   const Kuukausitaulu poistoilma = KayntiAikaYleistiedot.LammonTarve(poistuva, Tsisa);
@@ -100,8 +110,7 @@ double clsIVKone::HaviotTilaan(double Tsisa, int kuukausi) const try {
 }
 
 Kuukausitaulu clsIVKone::IV_LammEnergia() const try {
-  const Kuukausitaulu lto = KayntiAikaYleistiedot.LtoEnergia(TuloIlmavirta11Teho, Poistoilma(), LtoHyotysuhde);
-  return Erotus(KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho), lto);
+  return Erotus(KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho), LtoEnergia());
 } catch (...) {
   NostaVirhe("clsIVKone:IV_LammEnergia Method");
 }
@@ -116,6 +125,12 @@ double clsIVKone::IV_LammEnergia(int kuukausi) const try {
 double clsIVKone::Poistoilma() const {
   const clsTila* tila = LiittyyTilaansKey.Tyhja() ? nullptr : VaadiRakennus().Tilat.Etsi(LiittyyTilaansKey);
   return tila ? tila->Sisalampotila : PoistoLampotila;
+}
+
+Kuukausitaulu clsIVKone::LtoEnergia() const try {
+  return KayntiAikaYleistiedot.LtoEnergia(TuloIlmavirta11Teho, Poistoilma(), LtoHyotysuhde);
+} catch (...) {
+  NostaVirhe("clsIVKone:LtoEnergia Method");
 }
 
 double clsIVKone::LtoEnergia(int kuukausi) const try {
@@ -137,8 +152,7 @@ double clsIVKone::VesikiertoisenLampoPatterinEnergia(int kuukausi) const try {
 }
 
 double clsIVKone::VuotuinenIVjalkilammitysLampo() const try {
-  const Kuukausitaulu lampo = IV_LammEnergia();
-  return Vuosisumma([&lampo](int m) { return lampo[static_cast<std::size_t>(m)]; });
+  return Vuosisumma(IV_LammEnergia());
 } catch (...) {
   NostaVirhe("clsIVKone:VuotuinenIVjalkilammitysLampo Method");
 }
@@ -174,4 +188,17 @@ double clsIVKone::Sahko() try {
   return Vuosisumma([this](int m) { return SahkoPatterinEnergia(m); }) + VuotuinenPuhallinSahko();
 } catch (...) {
   NostaVirhe("clsIVKone:Sahko Method");
+}
+
+clsIVKone::Vuosiluvut clsIVKone::VuodenLuvut() try {
+  using Raja = std::numeric_limits<double>;
+  const clsKayntiAjat& ajat = KayntiAikaYleistiedot;
+  const double tunteja =
+      kkWhperMWh * Vuosisumma([&ajat](int m) {
+        return ajat.KayntiAikaPerKuukausi(m, ajat.KayntiaikojenSyottotapaID, Raja::min(), Raja::infinity());
+      });
+  return {tunteja, VuotuinenIVjalkilammitysLampo(), Vuosisumma(LtoEnergia()),
+          VuotuinenPuhallinSahko()};
+} catch (...) {
+  NostaVirhe("clsIVKone:VuodenLuvut Method");
 }

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
+#include <memory>
+
 #include "kernel/Laskenta.h"
 #include "ventilation/clsKayntiAjat.h"
 #include "ventilation/clsLammTehot.h"
 #include "ventilation/clsLto.h"
 #include "ventilation/clsPuhaltimenSahkonKulutus.h"
+
+class frmIlmanvaihtokone;
 
 /// A ventilation machine: flows, temperatures, schedule, heat recovery and fans. It gives the space that it serves its
 /// ventilation loss or gain, and the building its after-heating and fan electricity.
@@ -14,6 +19,10 @@
 class clsIVKone : public Malli<clsIVKone, Alkio> {
  public:
   static const Luokka kLuokka;
+  /// Running hours at any flow, h, and energies, MWh, of a year.
+  struct Vuosiluvut {
+    double kayntiaika, jalkilammitys, talteenotto, puhaltimet;
+  };
   enum Periaate : std::int32_t { Tuloilmakone = 0, TuloilmakonePlusLTO = 1, Poistoilmakone = 2, TuloPoisto = 3 };
   clsIVKone();
 
@@ -48,8 +57,12 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
 
   bool OnTulopuhallin() const noexcept { return IVPeriaateID != Poistoilmakone; }
   bool OnPoistopuhallin() const noexcept { return IVPeriaateID != Tuloilmakone; }
+  /// Heat can be recovered: the machine moves both supply and exhaust air.
+  bool OnTalteenotto() const noexcept { return OnTulopuhallin() && OnPoistopuhallin(); }
   /// Gives the fans their copies of the machine's flows, choices and name. Every fan calculation does.
   void PaivitaPuhaltimienTiedot();
+  /// The same, and the name to the schedule.
+  void PaivitaOsienTiedot();
 
   /// What the machine takes from the heat of a space at Tsisa °C: warming the exhaust flow (the supply flow of a supply
   /// machine) from outdoors to Tsisa, less warming the supply flow to the set-points. Negative: a gain of the space.
@@ -60,6 +73,7 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   Kuukausitaulu IV_LammEnergia() const;
   /// Heat recovered, from air at the temperature of the space served or at `PoistoLampotila`.
   double LtoEnergia(int kuukausi) const;
+  Kuukausitaulu LtoEnergia() const;
   /// The after-heating that an electric coil gives, and that a water coil gives: one of them is 0.
   double SahkoPatterinEnergia(int kuukausi) const;
   double VesikiertoisenLampoPatterinEnergia(int kuukausi) const;
@@ -70,11 +84,34 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   /// Electricity of the coil and the fans, MWh/a.
   double Sahko();
   double LammitystehonTarve() const { return 0; }
+  Vuosiluvut VuodenLuvut();
+
+  /// Raised when the dialog's OK has changed what the machine needs of heat and electricity.
+  Oma<std::function<void()>> LampoSahkoKulutusMuuttui;
+
+  /// Opens the dialog of the machine, modal. OK writes the values, removes what the principle doesn't have (a flow,
+  /// heat recovery) and raises the event; Cancel restores the machine with its schedule and fans. True after OK.
+  bool NaytaKayttoliittyma();
+  void LueDataluokka();
+  void KirjoitaDataluokka();
 
  private:
+  void LiitaTapahtumat();
+  void LueLomakkeelta(clsIVKone& kone) const;
+  void AsetaLampeneminen(double lampeneminen);
+  void PoistaPeriaatteeseenKuulumattomat();
+  void NaytaVuosi();
+  void SuljeKayttoliittyma();
+  bool OnElavassaMallissa() const;
+  void KayttoLiittyma_LtoKlikattu();
+  void KayttoLiittyma_OkKlikattu();
+  void KayttoLiittyma_PeruutaKlikattu();
+
   double Poistoilma() const;
   double PuhallinSahko(PuhaltimenTeho& tulo, PuhaltimenTeho& poisto, int kuukausi) const;
 
   double sisaanpuhallusLampotila_ = 16.0;
   std::int32_t vakioPaineOsuusID_ = 1;
+  Oma<std::shared_ptr<frmIlmanvaihtokone>> kayttoLiittyma_;
+  Oma<std::shared_ptr<clsIVKone>> varalla_;  // as it was when the dialog opened
 };

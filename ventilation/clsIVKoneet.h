@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
 #include "kernel/Kokoelma.h"
 #include "kernel/Laskenta.h"
+#include "ui/Avainluettelo.h"
 #include "ventilation/clsIVKone.h"
+
+class frmIVKoneYhteenveto;
 
 /// Machines by the key of the space that they serve, in the collection's order.
 using KoneetTiloittain = std::unordered_map<Tunniste, std::vector<clsIVKone*>>;
@@ -33,6 +37,29 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
   /// The machines that serve no space: they have no key of one, or one that no space of the building has.
   std::vector<clsIVKone*> ListaaTilaanLiittymattomatIVKoneet() const;
 
+  /// Opens the list of machines, or brings it to front: not modal, one at a time. What is done there takes effect at
+  /// once.
+  void NaytaKayttoliittyma();
+  void LueDataluokka();
+  /// Opens the dialog of the machine and takes its change into use. True after OK.
+  bool Muokkaa(clsIVKone& kone);
+  /// Fills the list with the machines and their energy of the year, if it is open. To be called when the model has
+  /// changed.
+  void ListaaKoneet();
+
  private:
+  void LiitaTapahtumat();
+  void PaivitaNapit();
+  clsIVKone& ValittuKone() const;
+  void Valitse(const Tunniste& avain);
+  void MalliMuuttui(const Tunniste& valittava);
+  void IVKone_LampoSahkoKulutusMuuttui();
+  void KayttoLiittyma_LisaaKlikattu();
+  void KayttoLiittyma_MuokkaaKlikattu();
+  void KayttoLiittyma_KopioiKlikattu();
+  void KayttoLiittyma_PoistaKlikattu();
+
   Oma<double> jalkilammitys_;
+  Oma<std::shared_ptr<frmIVKoneYhteenveto>> kayttoLiittyma_;
+  Oma<Avainluettelo> rivit_;
 };

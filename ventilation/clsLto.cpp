@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/clsLto.h"
 
-#include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
 
 namespace {

@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
+#include <memory>
+
+#include "kernel/Laskenta.h"
 #include "kernel/Olio.h"
+
+class frmLTOhyotylaskenta;
 
 /// Calculator of a heat recovery unit's temperature efficiency from three measured temperatures.
 class clsLto : public Malli<clsLto> {
@@ -14,4 +20,20 @@ class clsLto : public Malli<clsLto> {
   /// Keeps the exhaust temperature and gives the efficiency (Tlto − Tu) / (Tp − Tu) as a ratio; not limited. 0 when Tp
   /// equals Tu.
   double LtoHyotysuhde(double Tp);
+
+  /// Raised after the dialog's OK with the efficiency in per cent.
+  Oma<std::function<void(double)>> LtoHyotysuhdeMuuttui;
+
+  /// Opens the calculator over a copy, modal. OK writes the temperatures back and raises the event. True after OK.
+  bool NaytaKayttoliittyma();
+  void LueDataluokka();
+  void KirjoitaDataluokka();
+
+ private:
+  void NaytaHyotysuhde();
+  void KayttoLiittyma_DataMuuttui();
+  void KayttoLiittyma_OkKlikattu();
+
+  Oma<std::shared_ptr<frmLTOhyotylaskenta>> kayttoLiittyma_;
+  Oma<std::shared_ptr<clsLto>> muokattava_;  // the copy in the open dialog
 };

@@ -9,7 +9,11 @@
 
 #include "kernel/Luvut.h"
 #include "ui/Lampotilakuvaus.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/frmIVKoneYhteenveto.h"
+#include "ui/frmIlmanvaihtokone.h"
 #include "ui/frmJakaumaGraafi.h"
+#include "ui/frmLTOhyotylaskenta.h"
 #include "ui/frmLammonTuotonJaJaonHaviot.h"
 #include "ui/frmLampoYhteenveto.h"
 #include "ui/frmMateriaalimuutokset.h"
@@ -21,13 +25,14 @@
 
 namespace {
 
-void TallennaKuva(const Lomake& lomake) {
+void TallennaKuvaksi(const std::string& nimi, const Lomake& lomake) {
   const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
   if (kansio.isEmpty()) return;
   QDir().mkpath(kansio);
   QWidget* ikkuna = static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri()->window();
-  EXPECT_TRUE(ikkuna->grab().save(kansio + '/' + QString::fromStdString(lomake.Nimi()) + ".png"));
+  EXPECT_TRUE(ikkuna->grab().save(kansio + '/' + QString::fromStdString(nimi) + ".png"));
 }
+void TallennaKuva(const Lomake& lomake) { TallennaKuvaksi(lomake.Nimi(), lomake); }
 
 void OdotaMahtuvan(const Lomake& lomake) {
   QCoreApplication::processEvents();
@@ -157,6 +162,93 @@ TEST_F(Taytetyt, MuutostenLuetteloMahtuuIkkunaansa) {
                                       "0,045",
                                       "0,0375"};
   EXPECT_TRUE(frmMateriaalimuutokset().Kysy(Taulukko(200, rivi)));
+}
+
+void TaytaKone(frmIlmanvaihtokone& lomake) {
+  lomake.Tilat({"Työväenopiston luokkahuoneet ja käytävät, itäsiipi", "Kirjasto"}, 1);
+  lomake.txtKoneenTunnus.Teksti("TK01/PK01 luokat ja käytävät, itäsiipi");
+  lomake.txtTuloIlmavirta11Teho.Luku(12.345, "0.00#");
+  lomake.txtPoistoIlmavirta11Teho.Luku(12.5, "0.00#");
+  lomake.txtSisaanpuhallusLampotila.Luku(18, "0.0#");
+  lomake.txtPoistoLampotila.Luku(21.25, "0.0#");
+  lomake.txtIlmanLampeneminenPuhaltimessa.Luku(1, "0.0#");
+  lomake.txtLtoHyotysuhde.Luku(62.5, "0.0#");
+  lomake.cmbJarjestelmaTyyppi.Indeksi(2);
+  lomake.cmbPuhaltimenVoimansiirtoTapa.Indeksi(0);
+  lomake.cmbPuhaltimenSaatotapa.Indeksi(5);
+  lomake.cmbVakioPaineOsuus.Indeksi(3);
+  lomake.txtKayntiaika.Luku(8760, "### ##0");
+  for (const TextBox& kentta : {lomake.txtJalkilammitys, lomake.txtPuhallinSahko, lomake.txtLtoEnergia})
+    kentta.Luku(12345.67, "### ##0.00");
+  lomake.lblHuomautus.Otsikko(Teksti(3037));
+}
+
+TEST_F(Taytetyt, KoneenLomakkeetMahtuvatKenttiinsa) {
+  frmIlmanvaihtokone kone;
+  TaytaKone(kone);
+  kone.Nayta();
+  for (int periaate = 0; periaate < kone.cmbIVPeriaate.Maara(); ++periaate) {
+    kone.cmbIVPeriaate.Indeksi(periaate);
+    kone.PaivitaKentat();
+    OdotaMahtuvan(kone);
+    TallennaKuvaksi(kone.Nimi() + std::to_string(periaate), kone);
+  }
+  const QWidget* huomautus = static_cast<QtIkkuna&>(kone.Ikkuna()).Juuri()->findChild<QWidget*>("lblHuomautus");
+  EXPECT_GE(huomautus->height(), huomautus->heightForWidth(huomautus->width()));
+
+  frmLTOhyotylaskenta lto;
+  for (const TextBox& kentta : {lto.txtTu, lto.txtTp, lto.txtTlto}) kentta.Luku(-12.34, "0.0#");
+  lto.txtLtoHyotysuhde.Luku(62.5, "0.0");
+  lto.Nayta();
+  OdotaMahtuvan(lto);
+
+  frmIVKoneYhteenveto luettelo;
+  luettelo.lvwKoneet.Rivit({{"TK01 Työväenopisto", "Tulo- ja poistoilmakone", "Luokkahuoneet", "12,345", "12,50",
+                             "2 650", "1 234,56", "2 345,67", "123,45"},
+                            {"PK03", "Poistoilmakone", "---", "0,00", "0,45", "8 760", "0,00", "0,00", "3,94"}});
+  luettelo.lvwKoneet.Summarivi({"Yhteensä", "", "", "12,345", "12,95", "", "1 234,56", "2 345,67", "127,39"});
+  luettelo.lvwKoneet.Indeksi(0);
+  luettelo.PaivitaNapit(false);
+  luettelo.Nayta();
+  QCoreApplication::processEvents();
+  TallennaKuva(luettelo);
+}
+
+/// Pixels of the picture that differ from the window's background.
+int Piirretty(const QWidget& pinta) {
+  const QImage kuva = const_cast<QWidget&>(pinta).grab().toImage();
+  const QRgb tausta = pinta.palette().color(QPalette::Window).rgb();
+  int maara = 0;
+  for (int y = 0; y < kuva.height(); ++y)
+    for (int x = 0; x < kuva.width(); ++x) maara += kuva.pixel(x, y) != tausta;
+  return maara;
+}
+
+TEST_F(Taytetyt, PeriaatekuvaVaihtuuJaSeuraaTeemanVareja) {
+  frmIlmanvaihtokone kone;
+  kone.Nayta();
+  auto* pinta = static_cast<QtIkkuna&>(kone.Ikkuna()).Juuri()->findChild<QWidget*>("imgPeriaate");
+  EXPECT_EQ(pinta->accessibleName(), "Koneen periaatekuva");
+  kone.PaivitaKentat();
+  EXPECT_EQ(Piirretty(*pinta), 0) << "no principle chosen";
+  QList<QImage> kuvat;
+  for (int periaate = 0; periaate < kone.cmbIVPeriaate.Maara(); ++periaate) {
+    kone.cmbIVPeriaate.Indeksi(periaate);
+    kone.PaivitaKentat();
+    EXPECT_GT(Piirretty(*pinta), 1000);
+    const QImage kuva = pinta->grab().toImage();
+    EXPECT_FALSE(kuvat.contains(kuva));
+    kuvat << kuva;
+  }
+  QPalette tumma = pinta->palette();
+  tumma.setColor(QPalette::Window, Qt::black);
+  tumma.setColor(QPalette::WindowText, Qt::white);
+  pinta->setPalette(tumma);
+  const QImage kuva = pinta->grab().toImage();
+  bool valkoista = false;
+  for (int y = 0; y < kuva.height(); ++y)
+    for (int x = 0; x < kuva.width(); ++x) valkoista = valkoista || kuva.pixel(x, y) == qRgb(255, 255, 255);
+  EXPECT_TRUE(valkoista);
 }
 
 }  // namespace

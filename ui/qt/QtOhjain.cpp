@@ -18,6 +18,7 @@
 
 #include "kernel/Kirjainkoko.h"
 #include "ui/qt/Kaaviokuva.h"
+#include "ui/qt/Kuvapinta.h"
 #include "ui/qt/QtListView.h"
 
 namespace {
@@ -237,6 +238,21 @@ class QtMSChart : public QtOhjain {
   Kaaviokuva& kaavio_;
 };
 
+class QtImage : public QtOhjain {
+ public:
+  QtImage(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, Kuvapinta& pinta)
+      : QtOhjain(ikkuna, std::move(kuvaus), &pinta), pinta_(pinta) {}
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    if (piirre == Piirre::Teksti) pinta_.setAccessibleName(Q(Teksti()));
+    if (piirre == Piirre::Kuva) pinta_.AsetaKuva(Q(Kuva()));
+  }
+
+ private:
+  Kuvapinta& pinta_;
+};
+
 std::vector<Osa> LueOsat(QWidget& widget) {
   std::vector<Osa> osat;
   if (auto* sivut = dynamic_cast<QTabWidget*>(&widget))
@@ -319,6 +335,8 @@ std::unique_ptr<QtOhjain> TeeOhjain(Lomakeikkuna& ikkuna, QWidget& widget) {
       return Tee<QtListView, QTreeWidget>(ikkuna, widget, tyyppi);
     case Ohjaintyyppi::MSChart:
       return Tee<QtMSChart, Kaaviokuva>(ikkuna, widget, tyyppi);
+    case Ohjaintyyppi::Image:
+      return Tee<QtImage, Kuvapinta>(ikkuna, widget, tyyppi);
   }
   return nullptr;
 }

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frmIlmanvaihtokone.h"
+
+#include "ui/Kenttatarkistus.h"
+#include "ui/Lomakekaannos.h"
+#include "ui/Tekstivarasto.h"
+
+namespace {
+
+constexpr int kEiTilaa = 9128, kEiTiloja = 3029;
+constexpr int kVakioilmavirta = 0, kMuuttuvaIlmavirta = 2;  // rows of the system
+
+struct Periaate {
+  const char* kuva;
+  bool tulo, poisto;
+};
+constexpr Periaate kPeriaatteet[] = {
+    {"Tuloilmakone", true, false},
+    {"TuloilmakonePlusLTO", true, true},
+    {"Poistoilmakone", false, true},
+    {"TuloPoisto", true, true},
+};
+constexpr Periaate kTuntematon{"", true, true};
+
+}  // namespace
+
+frmIlmanvaihtokone::frmIlmanvaihtokone() : Lomake("frmIlmanvaihtokone") {
+  for (const ComboBox& valinta : {cmbIVPeriaate, cmbJarjestelmaTyyppi, cmbPuhaltimenVoimansiirtoTapa,
+                                  cmbPuhaltimenSaatotapa, cmbVakioPaineOsuus}) {
+    TaytaValinta(*this, valinta);
+    valinta.KunMuuttuu([this] { Muuttui(); });
+  }
+  cmbLiittyyTilaan.KunMuuttuu([this] { Muuttui(); });
+  chkTuloilmanLammitysSahkoPatterilla.KunKlikataan([this] { Muuttui(); });
+  for (const TextBox& kentta : {txtTuloIlmavirta11Teho, txtPoistoIlmavirta11Teho, txtSisaanpuhallusLampotila,
+                                txtPoistoLampotila, txtIlmanLampeneminenPuhaltimessa, txtLtoHyotysuhde})
+    kentta.KunPoistutaan([this, kentta] {
+      if (kentta.Muuttunut()) Nosta(DataMuuttui);
+    });
+  cmdLto.Nostaa(LtoKlikattu);
+  cmdKayntiajat.KunKlikataan([this] { NostaTarkistettuna(KayntiajatKlikattu); });
+  cmdPuhaltimet.KunKlikataan([this] { NostaTarkistettuna(PuhaltimetKlikattu); });
+  cmdOk.KunKlikataan([this] { NostaTarkistettuna(OkKlikattu); });
+  cmdPeruuta.Nostaa(PeruutaKlikattu);
+}
+
+void frmIlmanvaihtokone::Muuttui() {
+  PaivitaKentat();
+  Nosta(DataMuuttui);
+}
+
+void frmIlmanvaihtokone::NostaTarkistettuna(const std::function<void()>& tapahtuma) {
+  if (TarkistaLukukentat(*this)) Nosta(tapahtuma);
+}
+
+void frmIlmanvaihtokone::Tilat(const std::vector<std::string>& nimet, int valittu) {
+  std::vector<std::string> rivit{Teksti(nimet.empty() ? kEiTiloja : kEiTilaa)};
+  rivit.insert(rivit.end(), nimet.begin(), nimet.end());
+  cmbLiittyyTilaan.Rivit(rivit);
+  cmbLiittyyTilaan.Indeksi(valittu);
+  cmbLiittyyTilaan.Kaytossa(!nimet.empty());
+}
+
+void frmIlmanvaihtokone::PaivitaKentat() {
+  const int rivi = cmbIVPeriaate.Indeksi();
+  const Periaate& periaate = rivi < 0 ? kTuntematon : kPeriaatteet[rivi];
+  const bool talteenotto = periaate.tulo && periaate.poisto;
+  const int jarjestelma = cmbJarjestelmaTyyppi.Indeksi();
+  imgPeriaate.Kuva(periaate.kuva);
+  txtTuloIlmavirta11Teho.Kaytossa(periaate.tulo);
+  txtSisaanpuhallusLampotila.Kaytossa(periaate.tulo);
+  chkTuloilmanLammitysSahkoPatterilla.Kaytossa(periaate.tulo);
+  txtPoistoIlmavirta11Teho.Kaytossa(periaate.poisto);
+  txtLtoHyotysuhde.Kaytossa(talteenotto);
+  cmdLto.Kaytossa(talteenotto);
+  txtPoistoLampotila.Kaytossa(talteenotto && cmbLiittyyTilaan.Indeksi() <= 0);
+  cmbPuhaltimenVoimansiirtoTapa.Kaytossa(jarjestelma != kVakioilmavirta);
+  cmbPuhaltimenSaatotapa.Kaytossa(jarjestelma == kMuuttuvaIlmavirta);
+  cmbVakioPaineOsuus.Kaytossa(jarjestelma == kMuuttuvaIlmavirta);
+}
