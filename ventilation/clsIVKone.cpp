@@ -46,7 +46,7 @@ constexpr double kTaysVirta = 100;  // %
 
 /// Sum of the months, kWh, as MWh.
 template <class F>
-double Vuosisumma(F&& kuukausiarvo) {
+double Vuosisumma(const F& kuukausiarvo) {
   double summa = 0;
   for (int m = 0; m < kKuukausia; ++m) summa += kuukausiarvo(m);
   return Aarellinen(summa / kkWhperMWh);
