@@ -151,9 +151,7 @@ double clsIVKone::VesikiertoisenLampoPatterinEnergia(int kuukausi) const try {
   NostaVirhe("clsIVKone:VesikiertoisenLampoPatterinEnergia Method");
 }
 
-double clsIVKone::VuotuinenIVjalkilammitysLampo() const try {
-  return Vuosisumma(IV_LammEnergia());
-} catch (...) {
+double clsIVKone::VuotuinenIVjalkilammitysLampo() const try { return Vuosisumma(IV_LammEnergia()); } catch (...) {
   NostaVirhe("clsIVKone:VuotuinenIVjalkilammitysLampo Method");
 }
 
@@ -197,8 +195,7 @@ clsIVKone::Vuosiluvut clsIVKone::VuodenLuvut() try {
       kkWhperMWh * Vuosisumma([&ajat](int m) {
         return ajat.KayntiAikaPerKuukausi(m, ajat.KayntiaikojenSyottotapaID, Raja::min(), Raja::infinity());
       });
-  return {tunteja, VuotuinenIVjalkilammitysLampo(), Vuosisumma(LtoEnergia()),
-          VuotuinenPuhallinSahko()};
+  return {tunteja, VuotuinenIVjalkilammitysLampo(), Vuosisumma(LtoEnergia()), VuotuinenPuhallinSahko()};
 } catch (...) {
   NostaVirhe("clsIVKone:VuodenLuvut Method");
 }
