@@ -15,6 +15,8 @@ class Hiljaisuus {
 
   /// Something was to be told.
   bool Viesteja() const { return !keratyt_.Naytetyt().empty(); }
+  /// Text of the first message; "" when there is none.
+  std::string EnsimmainenViesti() const { return Viesteja() ? keratyt_.Naytetyt().front().teksti : ""; }
 
  private:
   Viestit& ennen_;

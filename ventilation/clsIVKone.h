@@ -101,6 +101,8 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   void AsetaLampeneminen(double lampeneminen);
   void PoistaPeriaatteeseenKuulumattomat();
   void NaytaVuosi();
+  template <class T>
+  void MuokkaaOsaa(T& osa);
   void SuljeKayttoliittyma();
   bool OnElavassaMallissa() const;
   void KayttoLiittyma_LtoKlikattu();

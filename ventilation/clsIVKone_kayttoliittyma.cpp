@@ -3,7 +3,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
-#include "ui/KerataanViestit.h"
+#include "ui/Hiljaa.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmIlmanvaihtokone.h"
@@ -60,21 +60,6 @@ constexpr Vuosikentta kVuosikentat[] = {
     {&frmIlmanvaihtokone::txtLtoEnergia, &clsIVKone::Vuosiluvut::talteenotto, kEnergia},
 };
 
-/// Collects the messages of one scope instead of showing them.
-class HiljaisetViestit {
- public:
-  HiljaisetViestit() : ennen_(ViestitNyt()) { AsetaViestit(&keraaja_); }
-  ~HiljaisetViestit() { AsetaViestit(&ennen_); }
-  HiljaisetViestit(const HiljaisetViestit&) = delete;
-  HiljaisetViestit& operator=(const HiljaisetViestit&) = delete;
-  /// The first message, or "".
-  std::string Ensimmainen() const { return keraaja_.Naytetyt().empty() ? "" : keraaja_.Naytetyt().front().teksti; }
-
- private:
-  KerataanViestit keraaja_;
-  Viestit& ennen_;
-};
-
 /// Row of the choice of spaces: 0 none, or a key that no space has.
 int TilanRivi(const clsTilat& tilat, const Tunniste& avain) {
   int rivi = 0;
@@ -103,10 +88,22 @@ bool clsIVKone::NaytaKayttoliittyma() try {
   NostaVirhe("clsIVKone:NaytaKayttoliittyma Method");
 }
 
+/// Opens the dialog of the schedule or of the fans over what the form now has.
+template <class T>
+void clsIVKone::MuokkaaOsaa(T& osa) try {
+  KirjoitaDataluokka();
+  PaivitaOsienTiedot();
+  if (osa.NaytaKayttoliittyma()) NaytaVuosi();
+} catch (...) {
+  NostaVirhe("clsIVKone:MuokkaaOsaa Method");
+}
+
 void clsIVKone::LiitaTapahtumat() {
   frmIlmanvaihtokone& lomake = *kayttoLiittyma_.arvo;
   lomake.DataMuuttui = [this] { NaytaVuosi(); };
   lomake.LtoKlikattu = [this] { KayttoLiittyma_LtoKlikattu(); };
+  lomake.KayntiajatKlikattu = [this] { MuokkaaOsaa(KayntiAikaYleistiedot); };
+  lomake.PuhaltimetKlikattu = [this] { MuokkaaOsaa(PuhaltimienSahkonKulutus); };
   lomake.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
   lomake.PeruutaKlikattu = [this] { KayttoLiittyma_PeruutaKlikattu(); };
 }
@@ -175,14 +172,14 @@ void clsIVKone::PoistaPeriaatteeseenKuulumattomat() {
 /// Figures of the machine that OK would make, with what the calculation complains of in words beside them.
 void clsIVKone::NaytaVuosi() {
   const frmIlmanvaihtokone& lomake = *kayttoLiittyma_.arvo;
-  const HiljaisetViestit viestit;
+  const Hiljaisuus hiljaisuus;
   try {
     const auto kone = Kopioi();
     LueLomakkeelta(*kone);
     kone->PoistaPeriaatteeseenKuulumattomat();
     const Vuosiluvut luvut = kone->VuodenLuvut();
     for (const Vuosikentta& k : kVuosikentat) (lomake.*k.kentta).Luku(luvut.*k.luku, k.kuvio);
-    lomake.lblHuomautus.Otsikko(viestit.Ensimmainen());
+    lomake.lblHuomautus.Otsikko(hiljaisuus.EnsimmainenViesti());
   } catch (const Virhe& virhe) {
     for (const Vuosikentta& k : kVuosikentat) (lomake.*k.kentta).Teksti(Teksti(kEiLukua));
     lomake.lblHuomautus.Otsikko(virhe.Kuvaus());

@@ -314,6 +314,35 @@ TEST_F(KoneDialogi, CalculatorFillsTheEfficiencyAndCancelRestoresAll) {
   EXPECT_TRUE(rakennus->Tallennettu);
 }
 
+TEST_F(KoneDialogi, ScheduleAndFansAreEditedUnderTheFormsPresentValues) {
+  const auto ennen = Kone().Kopioi();
+  const auto muuta = [this](Ikkunaton& l, const char* nappi) {
+    l.KayttajaKirjoittaa("txtTuloIlmavirta11Teho", "2");
+    l.KayttajaKirjoittaa("txtSisaanpuhallusLampotila", "19");
+    l.KayttajaPainaa("cmdKayntiajat");
+    EXPECT_EQ(l.Teksti("txtKayntiaika"), "6 257");
+    l.KayttajaPainaa("cmdPuhaltimet");
+    EXPECT_EQ(l.Teksti("txtPuhallinSahko"), "31,29") << "4 + 1 kW";
+    l.KayttajaPainaa(nappi);
+  };
+  ikkunat.KunNaytetaan("frmIlmanvaihtokoneenKayntiajat", [this](Ikkunaton& l) {
+    EXPECT_EQ(Kone().KayntiAikaYleistiedot.Item("1KokoVuosi").Tsp, 19);
+    Kone().KayntiAikaYleistiedot.Item("2KokoVuosi").Tsp = 22;
+    l.KayttajaKirjoittaa("txtKayntiJaksojenLkm1", "5");
+    l.KayttajaPainaa("cmdOk");
+  });
+  ikkunat.KunNaytetaan("frmIVKoneenPuhaltimienSahkonKaytto", [this](Ikkunaton& l) {
+    EXPECT_EQ(Kone().PuhaltimienSahkonKulutus.TuloIlmavirta11Teho, 2);
+    l.KayttajaKirjoittaa("txtSahkoTeho11Tulo", "4");
+    l.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_FALSE(Muokkaa([&](Ikkunaton& l) { muuta(l, "cmdPeruuta"); }));
+  EXPECT_EQ(Eroja(*ennen), 0);
+  EXPECT_TRUE(Muokkaa([&](Ikkunaton& l) { muuta(l, "cmdOk"); }));
+  EXPECT_EQ(Kone().KayntiAikaYleistiedot.Item("2KokoVuosi").Tsp, 22) << "OK doesn't write the temperature twice";
+  EXPECT_EQ(Kone().PuhaltimienSahkonKulutus.TuloSahkoTeho11, 4);
+}
+
 TEST_F(KoneDialogi, AnEfficiencyOverHundredIsShownButNotAccepted) {
   ikkunat.KunNaytetaan("frmLTOhyotylaskenta", [](Ikkunaton& l) {
     l.KayttajaKirjoittaa("txtTp", "20");
