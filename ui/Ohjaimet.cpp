@@ -13,7 +13,7 @@ Ohjainkahva::Ohjainkahva(const Lomake& lomake, std::string_view nimi, Ohjaintyyp
                            std::string(TyypinNimi(tyyppi)));
 }
 
-void TextBox::Luku(double arvo, std::string_view kuvio) const { Teksti(Muotoile(arvo, kuvio)); }
+void TextBox::Luku(double arvo, std::string_view kuvio) const { ohjain_->Teksti(Muotoile(arvo, kuvio), arvo); }
 
 double TextBox::Luku() const { return LueLuku(Teksti()).value_or(0.0); }
 
@@ -38,15 +38,14 @@ void TabStrip::SivuKaytossa(int indeksi, bool kaytossa) const {
 }
 
 bool LueArvo(const TextBox& kentta, double& kohde) {
-  if (!kentta.Muuttunut()) return true;
-  const auto luku = LueLuku(kentta.Teksti());
+  const bool muuttunut = kentta.Muuttunut();
+  const auto luku = muuttunut ? LueLuku(kentta.Teksti()) : kentta.Kohde().TaytettyLuku();
   if (luku) kohde = *luku;
-  return luku.has_value();
+  return luku || !muuttunut;
 }
 
 bool LueArvo(const TextBox& kentta, float& kohde) {
-  if (!kentta.Muuttunut()) return true;
-  double luku = 0;
+  double luku = kohde;
   if (!LueArvo(kentta, luku)) return false;
   kohde = static_cast<float>(luku);
   return true;

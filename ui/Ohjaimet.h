@@ -166,8 +166,8 @@ std::array<Kahva, 6> Kuusi(const Lomake& lomake, const std::string& nimi) {
           Kahva(lomake, nimi + "3"), Kahva(lomake, nimi + "4"), Kahva(lomake, nimi + "5")};
 }
 
-/// Reads a field into `kohde`. An unchanged field leaves it as it is; so does a text that is no number, which gives
-/// false. An empty field is no number.
+/// Reads a field into `kohde`. An unchanged field gives the very number that it was filled with, whatever was read from
+/// it meanwhile; a text that is no number leaves `kohde` as it is and gives false. An empty field is no number.
 bool LueArvo(const TextBox& kentta, double& kohde);
 bool LueArvo(const TextBox& kentta, float& kohde);
 /// The same for a whole number, a half rounded to even; also false outside the range of 32 bits.

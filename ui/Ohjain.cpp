@@ -57,8 +57,9 @@ Ohjain::Ohjain(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus)
 
 void Ohjain::Paivita(Piirre) {}
 
-void Ohjain::Teksti(std::string teksti) {
+void Ohjain::Teksti(std::string teksti, std::optional<double> luku) {
   taytetty_ = std::move(teksti);
+  taytettyLuku_ = luku;
   odottaa_ = muokataan_;
   if (odottaa_) return;
   teksti_ = taytetty_;
@@ -183,5 +184,5 @@ void Ohjain::KayttajaLiittaa(std::string_view leikepoyta) {
 void Ohjain::KayttajaPoistuu() {
   Nosta(Poistuttu);
   muokataan_ = false;
-  if (odottaa_) Teksti(taytetty_);
+  if (odottaa_) Teksti(taytetty_, taytettyLuku_);
 }

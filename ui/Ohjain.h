@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -112,8 +113,11 @@ class Ohjain {
 
   /// Text of a field, caption of any other control.
   const std::string& Teksti() const { return teksti_; }
-  /// Fills silently. A field in which the person is writing takes the text when it loses the focus.
-  void Teksti(std::string teksti);
+  /// Fills silently. A field in which the person is writing takes the text when it loses the focus. `luku`: the number
+  /// of which the text is the shown form, if it is one.
+  void Teksti(std::string teksti, std::optional<double> luku = {});
+  /// The number with which the field was filled last.
+  std::optional<double> TaytettyLuku() const { return taytettyLuku_; }
   /// True when the person has changed the text after it was filled.
   bool Muuttunut() const;
   /// What the person has written has been read: the field can be filled at once, though the focus may still be there.
@@ -193,7 +197,8 @@ class Ohjain {
   Lomakeikkuna& ikkuna_;
   Ohjainkuvaus kuvaus_;
   std::string teksti_;
-  std::string taytetty_;    // as filled last
+  std::string taytetty_;  // as filled last
+  std::optional<double> taytettyLuku_;
   bool muokataan_ = false;  // the person has written since the focus came
   bool odottaa_ = false;    // filled while being written in
   std::string vihje_;

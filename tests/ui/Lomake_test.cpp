@@ -120,6 +120,10 @@ TEST_F(Lomakekerros, MuuttumatontaKenttaaEiJasenneta) {
   Ikkuna().KayttajaKirjoittaa("txtLuku", "1 021.5");
   EXPECT_TRUE(LueArvo(lomake_->txtLuku, arvo));
   EXPECT_EQ(arvo, 1021.5);
+  Ikkuna().KayttajaKirjoittaa("txtLuku", "21,50");
+  EXPECT_TRUE(LueArvo(lomake_->txtLuku, arvo));
+  EXPECT_EQ(arvo, 21.504) << "typed back: as it was before it was read";
+  Ikkuna().KayttajaKirjoittaa("txtLuku", "1 021.5");
   EXPECT_TRUE(LueArvo(lomake_->txtLuku, vuosi));
   EXPECT_EQ(vuosi, 1022);  // a half to the even one
   for (const char* eiLuku : {"", "x", "99999999999"}) {
