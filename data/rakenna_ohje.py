@@ -221,7 +221,7 @@ def tarkista(sivut, luvut, kuvat):
 
 def sivun_html(sivu, edellinen, seuraava):
     selaus = []
-    if edellinen:
+    if edellinen and edellinen.nimi != SISALLYS:
         selaus.append(f'<a href="{edellinen.nimi}.html">← {html.escape(edellinen.otsikko)}</a>')
     selaus.append(f'<a href="{SISALLYS}.html">Sisällys</a>')
     if seuraava:

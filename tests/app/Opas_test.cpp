@@ -146,6 +146,32 @@ TEST_F(OppaanEsimerkki, RakenteetJaKerros) {
   EXPECT_FALSE(tila().Rakenteet.NaytaKayttoliityma(tila().TilanNimi, tila().Sisalampotila));
 }
 
+TEST_F(OppaanEsimerkki, Tilat) {
+  AsetaQtLomakkeet(nullptr);  // a window of its own has the room that it needs
+  rakennus().Tilat.NaytaKayttoliittyma();
+  QApplication::processEvents();
+  TallennaKuva(*AvoinLomake("frmTilaYhteenveto"));
+  KunAuki("cmdPeruuta");
+  EXPECT_FALSE(tila().NaytaKayttoliittyma());
+}
+
+TEST_F(OppaanEsimerkki, KoneKayntiajatJaPuhaltimet) {
+  AsetaQtLomakkeet(nullptr);
+  rakennus().IVKoneet.NaytaKayttoliittyma();
+  QApplication::processEvents();
+  TallennaKuva(*AvoinLomake("frmIVKoneYhteenveto"));
+  clsIVKone& kone = rakennus().IVKoneet.Item(1);
+  const double sahko = kone.Sahko();
+  KunAuki("cmdPeruuta", [](Lomake& lomake) {
+    for (const char* nappi : {"cmdKayntiajat", "cmdPuhaltimet"}) {
+      KunAuki("cmdPeruuta");
+      lomake.Etsi(nappi).KayttajaPainaa();
+    }
+  });
+  EXPECT_FALSE(kone.NaytaKayttoliittyma());
+  EXPECT_EQ(kone.Sahko(), sahko);
+}
+
 TEST_F(OppaanEsimerkki, KuukausitaseenLuvutOvatOppaanLukuja) {
   KunAuki("cmdSulje");
   NaytaKuukausitase(rakennus());

@@ -5,6 +5,9 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QScreen>
+#include <QTreeWidget>
+#include <algorithm>
 #include <stdexcept>
 
 #include "kernel/Kirjainkoko.h"
@@ -35,6 +38,25 @@ QWidget* TeeJuuri(const std::string& nimi) {
   for (const LomakeRivi& rivi : Lomaketaulu())
     if (SamaNimi(rivi.nimi, nimi)) return rivi.tee(nullptr);
   throw std::logic_error("lomaketta ei ole: " + nimi);
+}
+
+/// Gives the main window the room that a window inside it lacks, as far as the screen has it.
+void Laajenna(QWidget& paaikkuna, const QSize& puuttuu) {
+  if (paaikkuna.isMaximized() || paaikkuna.isFullScreen()) return;
+  const QRect naytto = paaikkuna.screen()->availableGeometry();
+  const QSize kehys = paaikkuna.frameSize() - paaikkuna.size();
+  const QSize suurin = (naytto.size() - kehys).expandedTo(paaikkuna.size());
+  paaikkuna.resize((paaikkuna.size() + puuttuu).boundedTo(suurin));
+  const QPoint yli = paaikkuna.frameGeometry().bottomRight() - naytto.bottomRight();
+  const QPoint siirto(std::min(std::max(0, yli.x()), paaikkuna.x() - naytto.x()),
+                      std::min(std::max(0, yli.y()), paaikkuna.y() - naytto.y()));
+  if (siirto.x() > 0 || siirto.y() > 0) paaikkuna.move(paaikkuna.pos() - siirto);
+}
+
+/// Lists are made as wide as their columns; on a small screen they scroll.
+void KutistaLuettelot(const QWidget& lomake) {
+  constexpr QSize kPienin{240, 100};
+  for (QTreeWidget* lista : lomake.findChildren<QTreeWidget*>()) lista->setMinimumSize(kPienin);
 }
 
 }  // namespace
@@ -96,7 +118,10 @@ Alikehys* QtIkkuna::TeeAlikehys() {
 
 /// A new window no larger than the area, and wholly inside it.
 void QtIkkuna::Mahduta() {
+  const QSize puuttuu = (alikehys_->size() - alue_->viewport()->size()).expandedTo({0, 0});
+  if (!puuttuu.isNull()) Laajenna(*alue_->window(), puuttuu);
   const QRect alue = alue_->viewport()->rect();
+  if (alikehys_->size() != alikehys_->size().boundedTo(alue.size())) KutistaLuettelot(*juuri_);
   alikehys_->resize(alikehys_->size().boundedTo(alue.size()));
   if (!alue.contains(alikehys_->geometry())) alikehys_->move(alue.topLeft());
 }

@@ -205,12 +205,21 @@ void QtListView::SovitaNuoli(int sarake) {
   nuoli_ = {sarake, lisa, sarake > 0 ? nimi - lista_.columnWidth(0) : 0};
 }
 
+/// Width that the columns need. The last one is drawn wider, to the end of the list.
+int QtListView::Tarve() const {
+  const int viimeinen = lista_.columnCount() - 1;
+  const int sisalto = static_cast<const QAbstractItemView&>(lista_).sizeHintForColumn(viimeinen);
+  int tarve = std::max(sisalto, lista_.header()->sectionSizeHint(viimeinen));
+  for (int s = 0; s < viimeinen; ++s) tarve += lista_.columnWidth(s);
+  return tarve;
+}
+
 /// The first column gives room to the others, as far as it can.
 void QtListView::KavennaNimi() {
   const int merkki = lista_.fontMetrics().averageCharWidth();
   const int tilaa = std::max(lista_.viewport()->width(), lista_.minimumWidth() - 2 * lista_.frameWidth());
   const int kapein = std::min(lista_.columnWidth(0), kKapeinNimi * merkki);
-  if (const int ylitys = lista_.header()->length() - tilaa; ylitys > 0)
+  if (const int ylitys = Tarve() - tilaa; ylitys > 0)
     lista_.setColumnWidth(0, std::max(lista_.columnWidth(0) - ylitys, kapein));
 }
 

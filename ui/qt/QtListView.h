@@ -28,6 +28,7 @@ class QtListView : public QtOhjain {
   void NaytaSummarivi();
   void MitoitaSarakkeet();
   void SovitaNuoli(int sarake);
+  int Tarve() const;
   void KavennaNimi();
   void RiviValittu(const QTreeWidgetItem* rivi);
   bool Nappain(const QKeyEvent& tapahtuma);
