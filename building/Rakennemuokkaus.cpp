@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "building/Kerrosmuokkaus.h"
 #include "building/LisaaKopio.h"
 #include "building/Rakenneleikkaus.h"
 #include "building/Rakenneliitos.h"
@@ -13,14 +12,12 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
-#include "library/Lampotilajakauma.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
-constexpr int kKopio = 1998, kUusiRakenne = 2771, kKylla = 2772, kEi = 2773, kRakenneKaytossa = 2774, kLukittu = 2775,
-              kHaetaan = 5202;
+constexpr int kKopio = 1998, kUusiRakenne = 2771, kRakenneKaytossa = 2774, kLukittu = 2775, kHaetaan = 5202;
 constexpr int kVirheenOtsikko = 9100;
 
 constexpr const char* kUarvo = "0.00#";
@@ -107,20 +104,6 @@ Rakenneratkaisu UusiRatkaisu(const std::string& nimi, std::int32_t rakennetyyppi
   return ratkaisu;
 }
 
-std::string KyllaTaiEi(bool kylla) { return Teksti(kylla ? kKylla : kEi); }
-
-/// `vastus`: m²K/W.
-std::vector<std::string> Kerrosrivi(const clsRakennekerros& kerros, std::size_t indeksi, double vastus) {
-  const std::string numero = std::to_string(indeksi);
-  return {kerros.Nimi.empty() ? numero : kerros.Nimi,
-          kerros.Materiaali.Nimi,
-          Muotoile(kerros.Paksuus, "### ##0.##"),
-          KyllaTaiEi(kerros.UArvoon),
-          numero,
-          KyllaTaiEi(kerros.Yhtenainen),
-          vastus > 0 ? Muotoile(vastus, "0.00#") : kEiArvoa};
-}
-
 }  // namespace
 
 Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet, double Tsisa)
@@ -152,14 +135,6 @@ void Rakennemuokkaus::LiitaTapahtumat() {
   lomake.VarjostusValittu = [this](frmRakenteet::Varjostus v) { KayttoLiittyma_VarjostusValittu(v); };
   lomake.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
   lomake.PeruutaKlikattu = [this] { KayttoLiittyma_PeruutaKlikattu(); };
-}
-
-void Rakennemuokkaus::LiitaKerrostapahtumat() {
-  KayttoLiittyma.RakKerLisaa = [this] { KayttoLiittyma_RakKerLisaa(); };
-  KayttoLiittyma.RakKerMuokkaa = [this] { KayttoLiittyma_RakKerMuokkaa(); };
-  KayttoLiittyma.RakKerKopioi = [this] { KayttoLiittyma_RakKerKopioi(); };
-  KayttoLiittyma.RakKerPoista = [this] { KayttoLiittyma_RakKerPoista(); };
-  KayttoLiittyma.RakKerSiirraSisaanPain = [this] { KayttoLiittyma_RakKerSiirraSisaanPain(); };
 }
 
 void Rakennemuokkaus::LueDataluokka() {
@@ -231,9 +206,14 @@ bool Rakennemuokkaus::RatkaisuaMuokattu() const {
   return std::ranges::any_of(kTekstikentat, muokattu) || std::ranges::any_of(kLukukentat, muokattu);
 }
 
+Rakenneratkaisu Rakennemuokkaus::RatkaisuTaiUusi() const {
+  const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
+  return rakenne.RakenneRatkaisu ? *rakenne.RakenneRatkaisu : UusiRatkaisu({}, rakenne.Rakennetyyppi);
+}
+
 Rakenneratkaisu& Rakennemuokkaus::Ratkaisu() {
   clsRakenne& rakenne = rakenteet_.Item(muokattava_);
-  if (!rakenne.RakenneRatkaisu) rakenne.RakenneRatkaisu.Luo() = UusiRatkaisu({}, rakenne.Rakennetyyppi);
+  if (!rakenne.RakenneRatkaisu) rakenne.RakenneRatkaisu.Luo() = RatkaisuTaiUusi();
   return *rakenne.RakenneRatkaisu;
 }
 
@@ -284,18 +264,6 @@ void Rakennemuokkaus::NaytaUarvo() {
   KayttoLiittyma.txtKerrostenUarvo.Teksti(kerroksista ? Muotoile(*kerroksista, kUarvo) : kEiArvoa);
   if (rakenne.LaskeU_arvoMateriaaleista) KayttoLiittyma.txtUarvo.Luku(rakenne.U_arvo(), kUarvo);
   KayttoLiittyma.chtLampotilat.Kaavio(Rakenneleikkaus(rakenne, Tsisa_));
-}
-
-void Rakennemuokkaus::NaytaKerrokset(int valittava) {
-  const clsRakenne* rakenne = Muokattava();
-  Taulukko rivit;
-  if (rakenne && rakenne->RakenneRatkaisu) {
-    const auto vastukset = LaskeLampotilajakauma(*rakenne->RakenneRatkaisu, 0, 0).kerrosvastukset;
-    for (const clsRakennekerros& kerros : rakenne->RakenneRatkaisu->Kerrokset)
-      rivit.push_back(Kerrosrivi(kerros, rivit.size() + 1, vastukset[rivit.size()]));
-  }
-  KayttoLiittyma.lvwKerrokset.Rivit(std::move(rivit));
-  KayttoLiittyma.lvwKerrokset.Indeksi(valittava);
 }
 
 bool Rakennemuokkaus::Lukittu() const { return VaadiRakennus().Saastotoimenpiteet.Count() > 0; }
@@ -450,57 +418,6 @@ void Rakennemuokkaus::KayttoLiittyma_VarjostusValittu(frmRakenteet::Varjostus va
     case frmRakenteet::kHorisontti:
       return ValitseVarjostus(r.HorisVarjostus, l.cmbHorisVarjTyyppi, l.txtYmparistonVarjostuskulma, kHorisonttikulmat);
   }
-}
-
-/// The sums and the U-value follow the layers.
-void Rakennemuokkaus::KerroksetMuuttuivat(int valittava) {
-  Ratkaisu().PaivitaKerrossummat();
-  LueRatkaisu(Ratkaisu());
-  NaytaUarvo();
-  NaytaKerrokset(valittava);
-  PaivitaKentat();
-}
-
-/// A pick of the whole structure ends: it would replace the layer under the person's hands.
-void Rakennemuokkaus::AvaaKerros(int rivi) {
-  KirjoitaDataluokka();
-  RakKirjasto_KantaDlgSuljettu();
-  const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
-  Kerrosmuokkaus muokkaus(rakenne.RakenneRatkaisu ? *rakenne.RakenneRatkaisu : UusiRatkaisu({}, rakenne.Rakennetyyppi),
-                          rivi + 1);
-  if (!muokkaus.Nayta()) return;
-  Ratkaisu() = muokkaus.Ratkaisu();
-  KerroksetMuuttuivat(rivi);
-}
-
-void Rakennemuokkaus::KayttoLiittyma_RakKerLisaa() {
-  AvaaKerros(static_cast<int>(KayttoLiittyma.lvwKerrokset.Rivit().size()));
-}
-
-void Rakennemuokkaus::KayttoLiittyma_RakKerMuokkaa() { AvaaKerros(KayttoLiittyma.lvwKerrokset.Indeksi()); }
-
-void Rakennemuokkaus::KayttoLiittyma_RakKerKopioi() {
-  KirjoitaDataluokka();
-  const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
-  LisaaKopio(Ratkaisu().Kerrokset, Ratkaisu().Kerrokset.Item(rivi + 1));
-  KerroksetMuuttuivat(rivi + 1);
-}
-
-/// None is chosen any more when a pick has brought other layers during the question.
-void Rakennemuokkaus::KayttoLiittyma_RakKerPoista() {
-  if (!KysyPoisto()) return;
-  const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
-  if (rivi < 0) return;
-  KirjoitaDataluokka();
-  Ratkaisu().Kerrokset.Remove(rivi + 1);
-  KerroksetMuuttuivat(std::min(rivi, Ratkaisu().Kerrokset.Count() - 1));
-}
-
-void Rakennemuokkaus::KayttoLiittyma_RakKerSiirraSisaanPain() {
-  KirjoitaDataluokka();
-  const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
-  Ratkaisu().Kerrokset.SiirraSisaanpain(rivi + 1);
-  KerroksetMuuttuivat(rivi - 1);
 }
 
 void Rakennemuokkaus::KayttoLiittyma_OkKlikattu() try {

@@ -45,6 +45,8 @@ class Rakennemuokkaus {
   clsRakenne* Muokattava() const { return rakenteet_.Etsi(muokattava_); }
   /// The solution of the chosen structure; made if it has none.
   Rakenneratkaisu& Ratkaisu();
+  /// A copy of it, or a new one for a structure that has none.
+  Rakenneratkaisu RatkaisuTaiUusi() const;
   clsRakenne& LisaaRakenne(std::int32_t rakennetyyppi, const std::string& nimi);
   void RakenteetMuuttuivat(const Tunniste& valittava);
   void KerroksetMuuttuivat(int valittava);
