@@ -19,7 +19,7 @@ std::vector<std::string> Rivi(const Kirjastomateriaali& materiaali) {
           Muotoile(materiaali.Aine.Lambda, "0.00#"),
           Muotoile(materiaali.Aine.Tiheys, "0.##"),
           Muotoile(materiaali.Aine.Ominaislampo, "0.0##"),
-          KirjastonNimi(materiaali.Kanta)};
+          KirjastonLyhenne(materiaali.Kanta)};
 }
 
 std::string Lahdeteksti(const Kirjastomateriaali& materiaali) {
@@ -53,6 +53,7 @@ void Materiaaliselain::Nayta() {
   const auto alku = std::ranges::find(naytetyt_, avaus_.alku, [](const auto* m) { return m->Aine.Nimi; });
   if (alku != naytetyt_.end()) Valitse((*alku)->Id);
   KayttoLiittyma.Nayta();
+  KayttoLiittyma.txtHaku.Kohdista();
   KerroViat(avaus_.kirjastot);
 }
 

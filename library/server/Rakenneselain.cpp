@@ -25,7 +25,7 @@ std::vector<std::string> Rivi(const Kirjastorakenne& rakenne, const std::vector<
   const auto tyyppi = RakennetyyppiSanasta(rakenne.Ratkaisu.Rakennetyyppi);
   const std::size_t i = static_cast<std::size_t>(tyyppi.value_or(-1) + 1);  // row 0 is all kinds
   return {rakenne.Ratkaisu.Nimi, Uteksti(rakenne.Ratkaisu), rakenne.Aikakausi,
-          tyyppi && i < tyypit.size() ? tyypit[i] : rakenne.Ratkaisu.Rakennetyyppi, KirjastonNimi(rakenne.Kanta)};
+          tyyppi && i < tyypit.size() ? tyypit[i] : rakenne.Ratkaisu.Rakennetyyppi, KirjastonLyhenne(rakenne.Kanta)};
 }
 
 }  // namespace
@@ -57,6 +57,7 @@ void Rakenneselain::Kuuntele() {
 void Rakenneselain::Nayta() {
   Paivita();
   KayttoLiittyma.Nayta();
+  KayttoLiittyma.txtHaku.Kohdista();
   KerroViat(avaus_.kirjastot);
 }
 

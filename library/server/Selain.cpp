@@ -42,9 +42,7 @@ std::optional<Kirjasto> ValittuKirjasto(const ComboBox& valinta) {
   return valinta.Indeksi() == 1 ? Kirjasto::Oma : Kirjasto::Vakio;
 }
 
-std::string KirjastonNimi(Kirjasto kirjasto) {
-  return Teksti(kirjasto == Kirjasto::Oma ? kOmaKirjasto : kVakiokirjasto);
-}
+std::string KirjastonLyhenne(Kirjasto kirjasto) { return Teksti(kirjasto == Kirjasto::Oma ? kOma : kVakio); }
 
 void TaytaEhdot(const ComboBox& valinta, const std::vector<std::string>& rivit) {
   const std::string ennen = valinta.Indeksi() > 0 ? valinta.Teksti() : std::string();

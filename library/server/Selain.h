@@ -27,7 +27,8 @@ bool KirjoitaKirjastoon(int epaonnistui, const std::function<void()>& kirjoita);
 /// The rows of the choice list of libraries, and what the chosen one lets through.
 std::vector<std::string> Kirjastorivit();
 std::optional<Kirjasto> ValittuKirjasto(const ComboBox& valinta);
-std::string KirjastonNimi(Kirjasto kirjasto);
+/// Word for the library in a list.
+std::string KirjastonLyhenne(Kirjasto kirjasto);
 /// Fills a list of conditions, the first row letting all through, and keeps the chosen row if it is still there.
 void TaytaEhdot(const ComboBox& valinta, const std::vector<std::string>& rivit);
 /// The chosen condition; empty for the first row.

@@ -41,6 +41,9 @@ enum : int {
   kAnnettu,
   kTuontiEpaonnistui,
   kVientiEpaonnistui,
-  kPoistoEpaonnistui
+  kPoistoEpaonnistui,
+  // In lists.
+  kOma = 5260,
+  kVakio,
 };
-}
+}  // namespace kirjastotekstit
