@@ -109,19 +109,9 @@ void frmMain::LuoTyokalut() {
     ryhma = rivi.valikko;
     const QString nappaimet = toiminto.shortcut().toString(QKeySequence::NativeText);
     toiminto.setToolTip(Q(Teksti(rivi.tyokaluvihje)) + (nappaimet.isEmpty() ? nappaimet : " (" + nappaimet + ')'));
+    toiminto.setIcon(Vektorikuvake(rivi.tyokalu));
     tyokalut_->addAction(&toiminto);
   }
-  PiirraKuvakkeet();
-}
-
-void frmMain::PiirraKuvakkeet() {
-  for (const Toiminto& t : toiminnot_)
-    if (*t.rivi.tyokalu) t.toiminto.setIcon(Vektorikuvake(t.rivi.tyokalu, palette()));
-}
-
-void frmMain::changeEvent(QEvent* tapahtuma) {
-  if (tapahtuma->type() == QEvent::PaletteChange) PiirraKuvakkeet();
-  QMainWindow::changeEvent(tapahtuma);
 }
 
 void frmMain::PaivitaViimeisimmat() {

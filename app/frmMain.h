@@ -52,7 +52,6 @@ class frmMain : public QMainWindow, public Paaikkuna {
   bool IstuntoPaattyy();
 
  protected:
-  void changeEvent(QEvent* tapahtuma) override;
   void closeEvent(QCloseEvent* tapahtuma) override;
 
  private:
@@ -63,7 +62,6 @@ class frmMain : public QMainWindow, public Paaikkuna {
   void LuoToiminto(const Valikkorivi& rivi, QMenu& valikko);
   void LuoTyokalut();
   /// In the colours of the present theme.
-  void PiirraKuvakkeet();
   /// Enables the entries of the top menu; of all when it is "".
   void PaivitaKaytossa(std::string_view valikko);
   void PaataMuokkaus();

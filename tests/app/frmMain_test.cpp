@@ -144,10 +144,12 @@ TEST_F(PaaikkunaTesti, TheToolBarHasItsKeysInOrderAndFollowsTheTheme) {
   for (const QAction* nappi : rivi.actions())
     if (!nappi->isSeparator()) kuvat << Kuva(*nappi);
   for (const QImage& kuva : kuvat) EXPECT_EQ(kuvat.count(kuva), 1) << "a picture of its own";
-  QPalette tumma = ikkuna->palette();
+  const QPalette vaalea = QApplication::palette();
+  QPalette tumma = vaalea;
   tumma.setColor(QPalette::ButtonText, Qt::white);
-  ikkuna->setPalette(tumma);
+  QApplication::setPalette(tumma);
   EXPECT_NE(Kuva(Toiminto(*ikkuna, "mnuFileNew")), kuvat.front());
+  QApplication::setPalette(vaalea);
 }
 
 /// The forms inside the main window, as the person uses the clipboard in them.

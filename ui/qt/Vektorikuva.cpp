@@ -2,19 +2,37 @@
 #include "ui/qt/Vektorikuva.h"
 
 #include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
 #include <QSvgRenderer>
 
 namespace {
 
-QPixmap Piirra(const QByteArray& lahde, int sivu) {
-  QPixmap kuva(sivu, sivu);
-  kuva.fill(Qt::transparent);
-  QPainter maalain(&kuva);
-  QSvgRenderer(lahde).render(&maalain);
-  return kuva;
-}
+class Kuvakemoottori : public QIconEngine {
+ public:
+  explicit Kuvakemoottori(QString nimi) : nimi_(std::move(nimi)) {}
+
+  void paint(QPainter* maalain, const QRect& alue, QIcon::Mode tila, QIcon::State) override {
+    const auto ryhma = tila == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    QSvgRenderer(Vektorikuva(nimi_, QGuiApplication::palette().color(ryhma, QPalette::ButtonText)))
+        .render(maalain, alue);
+  }
+  /// The base class paints on white.
+  QPixmap pixmap(const QSize& koko, QIcon::Mode tila, QIcon::State asento) override {
+    QPixmap kuva(koko);
+    kuva.fill(Qt::transparent);
+    QPainter maalain(&kuva);
+    paint(&maalain, kuva.rect(), tila, asento);
+    return kuva;
+  }
+  QIconEngine* clone() const override { return new Kuvakemoottori(nimi_); }
+
+ private:
+  QString nimi_;
+};
 
 }  // namespace
 
@@ -24,14 +42,4 @@ QByteArray Vektorikuva(const QString& nimi, const QColor& teksti) {
   return tiedosto.readAll().replace("currentColor", teksti.name().toLatin1());
 }
 
-QIcon Vektorikuvake(const QString& nimi, const QPalette& varit) {
-  QIcon kuvake;
-  const std::pair<QIcon::Mode, QPalette::ColorGroup> tilat[] = {{QIcon::Normal, QPalette::Active},
-                                                                {QIcon::Disabled, QPalette::Disabled}};
-  for (const auto& [tila, ryhma] : tilat) {
-    const QByteArray lahde = Vektorikuva(nimi, varit.color(ryhma, QPalette::ButtonText));
-    if (lahde.isEmpty()) return {};
-    for (const int sivu : {16, 24, 32, 48, 64}) kuvake.addPixmap(Piirra(lahde, sivu), tila);
-  }
-  return kuvake;
-}
+QIcon Vektorikuvake(const QString& nimi) { return QIcon(new Kuvakemoottori(nimi)); }
