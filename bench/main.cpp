@@ -41,12 +41,13 @@ std::unique_ptr<clsRakennus> TeeRakennus(int tiloja, int rakenteita, int koneita
   return rakennus;
 }
 
+/// That of the main table, without or with machines; each made when it is first measured.
 clsRakennus& Rakennus(bool koneita = false) {
-  static const std::unique_ptr<clsRakennus> rakennukset[] = {TeeRakennus(kTiloja, kRakenteita, 0),
-                                                             TeeRakennus(kTiloja, kRakenteita, kKoneita)};
-  clsRakennus& rakennus = *rakennukset[koneita];
-  AsetaGlobaaliRakennus(&rakennus);
-  return rakennus;
+  static std::unique_ptr<clsRakennus> rakennukset[2];
+  auto& rakennus = rakennukset[koneita];
+  if (!rakennus) rakennus = TeeRakennus(kTiloja, kRakenteita, koneita ? kKoneita : 0);
+  AsetaGlobaaliRakennus(rakennus.get());
+  return *rakennus;
 }
 
 template <std::size_t I>
