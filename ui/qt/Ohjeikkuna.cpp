@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSplitter>
-#include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -13,6 +12,7 @@
 
 #include "ui/Ohje.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/qt/Vektorikuva.h"
 
 namespace {
 
@@ -73,15 +73,15 @@ void Ohjeikkuna::LuoTyokalut() {
   rivi.setMovable(false);
   rivi.setContextMenuPolicy(Qt::PreventContextMenu);
   rivi.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  const auto lisaa = [&](int teksti, QStyle::StandardPixmap kuvake, const char* nappaimet, const auto& toiminto) {
-    QAction* nappi = rivi.addAction(style()->standardIcon(kuvake), Q(teksti), this, toiminto);
+  const auto lisaa = [&](int teksti, const char* kuvake, const char* nappaimet, const auto& toiminto) {
+    QAction* nappi = rivi.addAction(Vektorikuvake(kuvake), Q(teksti), this, toiminto);
     nappi->setShortcut(QKeySequence(nappaimet));
     nappi->setToolTip(Q(teksti).remove('&') + " (" + nappi->shortcut().toString(QKeySequence::NativeText) + ')');
     return nappi;
   };
-  QAction* takaisin = lisaa(6102, QStyle::SP_ArrowBack, "Alt+Left", [this] { selain_.backward(); });
-  QAction* eteenpain = lisaa(6103, QStyle::SP_ArrowForward, "Alt+Right", [this] { selain_.forward(); });
-  lisaa(6104, QStyle::SP_FileDialogContentsView, "Alt+Home", [this] { Avaa(kOhjeSisallys); });
+  QAction* takaisin = lisaa(6102, "Back", "Alt+Left", [this] { selain_.backward(); });
+  QAction* eteenpain = lisaa(6103, "Forward", "Alt+Right", [this] { selain_.forward(); });
+  lisaa(6104, "Contents", "Alt+Home", [this] { Avaa(kOhjeSisallys); });
   for (QAction* nappi : {takaisin, eteenpain}) nappi->setEnabled(false);
   connect(&selain_, &QTextBrowser::backwardAvailable, takaisin, &QAction::setEnabled);
   connect(&selain_, &QTextBrowser::forwardAvailable, eteenpain, &QAction::setEnabled);
