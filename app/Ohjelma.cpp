@@ -106,7 +106,6 @@ void Ohjelma::Nayta() {
   if (!avattu) NaytaAlkuikkuna();
   frmSplash_.reset();
   SuoritaKomento(Tervehdi);
-  paaikkuna_->PaivitaValikot();
 }
 
 /// Closing the start window without its button leaves the choice to the menus.

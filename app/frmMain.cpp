@@ -53,10 +53,12 @@ frmMain::frmMain(Istunto& istunto)
   AsetaQtLomakkeet(&alue_);
   AsetaPaaikkuna(this);
   AsetaOtsikko({});
+  AsetaKomennonJalki([this] { PaivitaValikot(); });
   PaivitaValikot();
 }
 
 frmMain::~frmMain() {
+  AsetaKomennonJalki({});
   alue_.disconnect(this);
   AsetaPaaikkuna(nullptr);
   AsetaQtLomakkeet(nullptr);
@@ -122,16 +124,15 @@ void frmMain::PaivitaViimeisimmat() {
     const QString numero = QString::number(viimeisimmat_.size() + 1);
     auto* toiminto =
         new QAction('&' + numero + "  " + Q(LyhennaPolku(tiedosto, kPolkuValikossa)).replace('&', "&&"), this);
-    connect(toiminto, &QAction::triggered, this, [this, tiedosto] {
-      SuoritaKomento([&] { istunto_.AvaaViimeisin(tiedosto); });
-      PaivitaValikot();
-    });
+    connect(toiminto, &QAction::triggered, this,
+            [this, tiedosto] { SuoritaKomento([&] { istunto_.AvaaViimeisin(tiedosto); }); });
     valikko.insertAction(lopeta, toiminto);
     viimeisimmat_.push_back(toiminto);
   }
   if (!viimeisimmat_.empty()) viimeisimmat_.push_back(valikko.insertSeparator(lopeta));
 }
 
+/// Runs also behind each command: what a dialog commits can be undone at once.
 void frmMain::PaivitaValikot() {
   SuoritaKomento([this] { istunto_.SeuraaMuutoksia(); });
   PaivitaKaytossa({});
@@ -153,7 +154,6 @@ void frmMain::PaataMuokkaus() {
 void frmMain::Suorita(const Valikkorivi& rivi) {
   if (std::string_view(rivi.valikko) != "mnuEdit") PaataMuokkaus();
   SuoritaKomento([&] { rivi.toiminto(*this); });
-  PaivitaValikot();
 }
 
 void frmMain::mnuFilePageSetup_Click() { KysySivunAsetukset(*this, sivu_); }
@@ -222,7 +222,7 @@ void frmMain::MDIForm_Unload() {
 void frmMain::closeEvent(QCloseEvent* tapahtuma) {
   tapahtuma->ignore();
   if (KomentoKaynnissa()) return ViestitNyt().AsetaPaneeli(Teksti(9515));
-  if (!QueryUnload(false)) return PaivitaValikot();
+  if (!QueryUnload(false)) return;
   MDIForm_Unload();
   tapahtuma->accept();
 }

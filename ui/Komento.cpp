@@ -20,6 +20,11 @@ std::function<void()>& ViestienNaytto() {
   return nayta;
 }
 
+std::function<void()>& KomennonJalki() {
+  static std::function<void()> jalki;
+  return jalki;
+}
+
 void NaytaKeskeytys(const std::string& paneeli, const std::string& teksti) {
   ViestitNyt().AsetaPaneeli(paneeli);
   Ilmoita(teksti, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
@@ -43,9 +48,12 @@ void SuoritaVartioituna(const std::function<void()>& komento) {
 void SuoritaKomento(const std::function<void()>& komento) {
   ++syvyys;
   SuoritaVartioituna(komento);
+  if (syvyys == 1 && KomennonJalki()) SuoritaVartioituna(KomennonJalki());
   --syvyys;
   NaytaOdottavatViestit();
 }
+
+void AsetaKomennonJalki(std::function<void()> jalki) { KomennonJalki() = std::move(jalki); }
 
 bool KomentoKaynnissa() { return syvyys > 0; }
 

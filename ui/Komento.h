@@ -7,6 +7,9 @@
 /// shown, and the program goes on. Commands may nest (an event of a dialog that a command has opened).
 void SuoritaKomento(const std::function<void()>& komento);
 
+/// Runs at the end of each outermost command, still as a part of it; an empty function takes it away.
+void AsetaKomennonJalki(std::function<void()> jalki);
+
 /// True while a command runs.
 bool KomentoKaynnissa();
 

@@ -246,6 +246,15 @@ TEST_F(Leikepoytatesti, FieldsThatCannotBeWrittenInAndListsAreCopiedOnly) {
   EXPECT_EQ(Voi(), "") << "what was active is gone";
 }
 
+TEST_F(Leikepoytatesti, WhatAFormCommitsCanBeUndoneByItsKeyAtOnce) {
+  Ohjain<QPushButton>("mnuRakennuksen_tilat", "cmdKopioiTila").click();
+  ASSERT_EQ(istunto.Rakennus()->Tilat.Count(), 2);
+  auto& luettelo = *ikkuna->findChild<QTreeWidget*>("lvwTilat");
+  luettelo.setFocus();
+  QTest::keyClick(&luettelo, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(istunto.Rakennus()->Tilat.Count(), 1);
+}
+
 TEST_F(PaaikkunaTesti, ClosingAsksAndObeys) {
   ASSERT_TRUE(istunto.Avaa(kohde));
   istunto.Rakennus()->Tallennettu = false;
