@@ -30,8 +30,6 @@ TEST(Rakenneratkaisu, LayersThatCountAddTheirResistances) {
   LisaaKerros(seina, 200, 0.04F);                 // 5
   LisaaKerros(seina, 40, 0).Lammonvastus = 0.18F;
   LisaaKerros(seina, 130, 0.65F).UArvoon = false;  // cladding behind a ventilated gap
-  LisaaKerros(seina, 0, 0.5F);                     // no thickness, no resistance
-  LisaaKerros(seina, 10, -1);
   EXPECT_NEAR(U(seina), 1 / (0.13 + 0.052 + 5 + 0.18 + 0.04), kTarkkuus);
 }
 
@@ -47,11 +45,9 @@ TEST(Rakenneratkaisu, StudsWeakenTheInsulationByTheirShare) {
 }
 
 TEST(Rakenneratkaisu, SurfaceResistancesDefaultByKindWhenBothAreZero) {
-  EXPECT_NEAR(U(Ratkaisu("Ulkoseinä", 100, 0.1F)), 1 / 1.17, kTarkkuus);
-  EXPECT_NEAR(U(Ratkaisu("Yläpohja", 100, 0.1F)), 1 / 1.14, kTarkkuus);
-  EXPECT_NEAR(U(Ratkaisu("Alapohja", 100, 0.1F)), 1 / 1.21, kTarkkuus);
-  EXPECT_NEAR(U(Ratkaisu("KevytValiseinä", 100, 0.1F)), 1 / 1.26, kTarkkuus);
-  EXPECT_NEAR(U(Ratkaisu("", 100, 0.1F)), 1 / 1.17, kTarkkuus);
+  for (const auto& [tyyppi, R] :
+       {std::pair{"Ulkoseinä", 1.17}, {"Yläpohja", 1.14}, {"Alapohja", 1.21}, {"KevytValiseinä", 1.26}, {"", 1.17}})
+    EXPECT_NEAR(U(Ratkaisu(tyyppi, 100, 0.1F)), 1 / R, kTarkkuus) << tyyppi;
 
   auto seina = Ratkaisu("Ulkoseinä", 100, 0.1F);
   seina.PintavastusSisa = 0.5F;  // the outer one is 0 on purpose then
@@ -59,17 +55,10 @@ TEST(Rakenneratkaisu, SurfaceResistancesDefaultByKindWhenBothAreZero) {
 }
 
 TEST(Rakenneratkaisu, WithoutAResistingLayerThereIsNoU) {
-  EXPECT_FALSE(Ratkaisu("Ulkoseinä").LaskeU_arvo());
   EXPECT_FALSE(Ratkaisu("Ulkoseinä", 100, 0).LaskeU_arvo());
   auto seina = Ratkaisu("Ulkoseinä", 100, 0.1F);
   seina.Kerrokset.Item(1).UArvoon = false;
   EXPECT_FALSE(seina.LaskeU_arvo());
-}
-
-TEST(Rakenneratkaisu, ManyThinLayersEqualOneThick) {
-  auto ohuet = Ratkaisu("Yläpohja");
-  for (int i = 0; i < 40; ++i) LisaaKerros(ohuet, 10, 0.04F);
-  EXPECT_NEAR(U(ohuet), U(Ratkaisu("Yläpohja", 400, 0.04F)), kTarkkuus);
 }
 
 TEST(Rakenneratkaisu, GivenUStandsBeforeTheLayersAndStatedUBehindThem) {
@@ -105,23 +94,6 @@ TEST(Rakenneratkaisu, MassAndThicknessFollowTheLayers) {
   EXPECT_EQ(ovi.Paksuus, 60);
 }
 
-TEST(Rakenneratkaisu, CopySharesNothingAndReusesTheTargetsLayers) {
-  auto alku = Ratkaisu("Ulkoseinä", 100, 0.1F);
-  alku.Kerrokset.Item(1).Materiaali.Nimi = "Puu";
-  auto kopio = alku.Kopioi();
-  const clsRakennekerros* kerros = &kopio->Kerrokset.Item(1);
-  alku.Kerrokset.Item(1).Paksuus = 50;
-  EXPECT_EQ(kerros->Paksuus, 100);
-  EXPECT_EQ(kopio->InstanssiId, alku.InstanssiId);
-
-  LisaaKerros(alku, 20, 1);
-  alku.Kopioi(*kopio);
-  EXPECT_EQ(&kopio->Kerrokset.Item(1), kerros);
-  EXPECT_EQ(kerros->Paksuus, 50);
-  EXPECT_EQ(kerros->Materiaali.Nimi, "Puu");
-  EXPECT_EQ(kopio->Kerrokset.Count(), 2);
-}
-
 TEST(Rakenneratkaisu, MovingInwardsSwapsWithTheNeighbourAndKeepsKeys) {
   auto seina = Ratkaisu("Ulkoseinä", 1, 1);
   LisaaKerros(seina, 2, 1);
@@ -136,39 +108,10 @@ TEST(Rakenneratkaisu, MovingInwardsSwapsWithTheNeighbourAndKeepsKeys) {
   EXPECT_THROW(seina.Kerrokset.SiirraSisaanpain(4), std::out_of_range);
 }
 
-TEST(Rakenneratkaisu, MaterialsAreReachedByNameAsColumnsOfTheLayer) {
-  clsRakennekerros kerros;
-  AsetaJasen(kerros, "LisamateriaaliLambda", std::string("0,12"));
-  AsetaJasen(kerros, "MateriaaliNimi", std::string("Mineraalivilla"));
-  EXPECT_EQ(kerros.Lisamateriaali.Lambda, 0.12F);
-  EXPECT_EQ(kerros.Materiaali.Lambda, 0);
-  EXPECT_EQ(std::get<std::string>(HaeJasen(kerros, "MateriaaliNimi")), "Mineraalivilla");
-}
-
 TEST(Rakenneratkaisu, StubNamesWhatIsMissing) {
   const auto seina = PuuttuvaRakenneratkaisu("US99", Rakennelaji::Ulkoseina);
   EXPECT_EQ(seina.Nimi, "Puuttuvan IDn: US99 rakenne");
   ASSERT_EQ(seina.Kerrokset.Count(), 1);
-  EXPECT_EQ(seina.Kerrokset.Item(1).Nimi, "Puuttuvan rakenteen (IDn: US99) rakennekerros");
-  EXPECT_EQ(seina.Kerrokset.Item(1).Materiaali.Nimi, "Puuttuvan rakenteen (IDn: US99) rakennekerroksen materiaali");
-  EXPECT_TRUE(seina.U_arvoAnnettu);
   EXPECT_FALSE(seina.VoimassaolevaU_arvo());
-  EXPECT_FALSE(seina.OnIkkuna);
-
-  const auto ikkuna = PuuttuvaRakenneratkaisu("X", Rakennelaji::Ikkuna);
-  EXPECT_TRUE(ikkuna.OnIkkuna);
-  EXPECT_EQ(ikkuna.Rakennetyyppi, "Ikkuna");
-  EXPECT_EQ(ikkuna.Aurinkoenergianlapaisy, 70);
-  EXPECT_EQ(ikkuna.Karmikerroin, 75);
-  EXPECT_EQ(ikkuna.Verhokerroin, 75);
-}
-
-TEST(Rakennetyyppi, WordsAndKindsMeet) {
-  for (std::int32_t tyyppi = 0; tyyppi < 8; ++tyyppi)
-    EXPECT_EQ(RakennetyyppiSanasta(RakennetyypinSana(tyyppi)), tyyppi);
-  EXPECT_EQ(RakennetyyppiSanasta("Välipohja"), Rakennelaji::Valipohja);
-  EXPECT_FALSE(RakennetyyppiSanasta("Savupiippu"));
-  EXPECT_FALSE(RakennetyyppiSanasta(""));
-  EXPECT_EQ(RakennetyypinSana(8), "");
-  EXPECT_EQ(RakennetyypinSana(-1), "");
+  EXPECT_TRUE(PuuttuvaRakenneratkaisu("X", Rakennelaji::Ikkuna).OnIkkuna);
 }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QTest>
 #include <QTextBrowser>
@@ -11,38 +10,24 @@
 #include "library/server/Materiaaliselain.h"
 #include "library/server/Rakenneselain.h"
 #include "tests/palvelin/Koekirjasto.h"
-#include "ui/KerataanViestit.h"
-#include "ui/qt/QtIkkuna.h"
+#include "tests/tuki/Ikkunatesti.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/qt/QtOhje.h"
 
 namespace {
 
-class Kirjastoikkunat : public testing::Test {
+class Kirjastoikkunat : public Ikkunatesti {
  protected:
-  Kirjastoikkunat() {
-    AsetaViestit(&viestit_);
-    AsetaQtLomakkeet(nullptr);
-  }
-  ~Kirjastoikkunat() override {
-    AsetaLomakesovitin(nullptr);
-    AsetaViestit(nullptr);
-  }
-
   static Lomake& Auki(const char* nimi) { return *AvoinLomake(nimi); }
   /// The window fits a small screen also when it is full.
   static void Katso(const char* nimi) {
-    QApplication::processEvents();
-    const QWidget* juuri = static_cast<QtIkkuna&>(Auki(nimi).Ikkuna()).Juuri();
-    EXPECT_LE(juuri->width(), 1000) << nimi;
-    EXPECT_LE(juuri->height(), 700) << nimi;
-    const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
-    if (kansio.isEmpty()) return;
-    QDir().mkpath(kansio);
-    EXPECT_TRUE(juuri->window()->grab().save(kansio + '/' + nimi + ".png"));
+    TallennaKuva(Auki(nimi));
+    EXPECT_LE(Juuri(Auki(nimi)).width(), 1000) << nimi;
+    EXPECT_LE(Juuri(Auki(nimi)).height(), 700) << nimi;
   }
 
   Koekirjasto koe_;
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
 };
 
 TEST_F(Kirjastoikkunat, FitASmallScreenWhenFull) {
@@ -92,7 +77,7 @@ TEST_F(Kirjastoikkunat, WindowsOfTwoProgramsLiveApart) {
 TEST_F(Kirjastoikkunat, F1OpensTheGuideAtTheTopicOfTheWindow) {
   const QtOhje ohje;
   const auto sivu = [](const char* lomake) {
-    QWidget* juuri = static_cast<QtIkkuna&>(Auki(lomake).Ikkuna()).Juuri()->window();
+    QWidget* juuri = Juuri(Auki(lomake)).window();
     juuri->activateWindow();
     QApplication::processEvents();
     QTest::keyClick(juuri, Qt::Key_F1);

@@ -8,8 +8,8 @@
 #include "library/server/Materiaaliselain.h"
 #include "library/server/Rakenneselain.h"
 #include "tests/palvelin/Koekirjasto.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Ikkunaton.h"
-#include "ui/KerataanViestit.h"
 
 namespace fs = std::filesystem;
 
@@ -17,9 +17,6 @@ namespace {
 
 class Selaimet : public testing::Test {
  protected:
-  Selaimet() { AsetaViestit(&viestit_); }
-  ~Selaimet() override { AsetaViestit(nullptr); }
-
   void AvaaRakenteet(bool valinta = false, const std::string& alku = {}) {
     selain_ = std::make_unique<Rakenneselain>(
         Selaimenavaus{{koe_.Oma(), koe_.Vakio()}, valinta, alku, [this] { ++sulkemisia_; }},
@@ -47,7 +44,7 @@ class Selaimet : public testing::Test {
   }
 
   Koekirjasto koe_;
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
   Ikkunattomat ikkunattomat_{LUMIVIRTA_LAHDE "/ui/forms"};
   std::vector<std::string> valitut_;
   int sulkemisia_ = 0;

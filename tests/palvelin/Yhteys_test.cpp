@@ -9,7 +9,7 @@
 
 #include "library/Kirjastoluettelo.h"
 #include "tests/palvelin/Koekirjasto.h"
-#include "ui/KerataanViestit.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Komento.h"
 #include "ui/qt/Kirjastoyhteys.h"
 
@@ -29,11 +29,6 @@ bool Elaa(qint64 prosessi) {
 
 class Kirjastolinkki : public testing::Test {
  protected:
-  Kirjastolinkki() { AsetaViestit(&viestit_); }
-  ~Kirjastolinkki() override {
-    AsetaViestit(nullptr);
-    for (const auto& yhteys : yhteydet_) EXPECT_TRUE(!yhteys);
-  }
   void TearDown() override {
     const qint64 palvelin = Yhteys().Prosessi();
     yhteydet_.clear();
@@ -63,7 +58,7 @@ class Kirjastolinkki : public testing::Test {
   }
 
   Koekirjasto koe_;
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
   std::string ohjelma_ = Kirjastopalvelinohjelma();
   std::chrono::milliseconds aikaraja_{15000};
   std::vector<std::unique_ptr<Kirjastoyhteys>> yhteydet_;
@@ -87,15 +82,6 @@ TEST_F(Kirjastolinkki, PickedStructureArrivesWholeAndThenTheDialogIsClosed) {
   EXPECT_EQ(valitut_.back(), "Asfaltti");
   EXPECT_EQ(aikarajoja_, 0);
   EXPECT_TRUE(viestit_.Naytetyt().empty());
-}
-
-TEST_F(Kirjastolinkki, ServerProgramRunsWhileItHasAClient) {
-  Yhteys().NaytaRakennekirjasto();
-  ASSERT_TRUE(Odota([&] { return Yhteys().Prosessi() != 0; }));
-  EXPECT_TRUE(Elaa(Yhteys().Prosessi()));
-  const auto pyynto = Yhteys().ValitseMateriaali({}, Kuuntelija());
-  Odota([] { return false; }, 500);
-  EXPECT_EQ(sulkemisia_, 0);
 }
 
 TEST_F(Kirjastolinkki, ServerThatDiesInTheMiddleOfAPickIsStartedAnewAndTheDialogOpensAgain) {

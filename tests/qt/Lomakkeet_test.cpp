@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Rules that every form must keep, on the real windows. With LUMIVIRTA_KUVAT=<folder> pictures of the forms are left
-// there for a person to look at.
+// Rules that every form must keep, on the real windows.
 #include <Lomaketaulu.h>
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,10 +13,8 @@
 #include <QTabWidget>
 #include <algorithm>
 #include <functional>
-#include <memory>
 
-#include "ui/Lomake.h"
-#include "ui/qt/QtIkkuna.h"
+#include "tests/tuki/Ikkunatesti.h"
 
 namespace {
 
@@ -28,18 +24,11 @@ class Paljas : public Lomake {
   explicit Paljas(const std::string& nimi) : Lomake(nimi) {}
 };
 
-class Lomakkeet : public ::testing::TestWithParam<std::string> {
+class Lomakkeet : public Ikkunatesti, public testing::WithParamInterface<std::string> {
  protected:
-  void SetUp() override {
-    AsetaQtLomakkeet(nullptr);
-    lomake_ = std::make_unique<Paljas>(GetParam());
-    lomake_->Nayta();
-    juuri_ = static_cast<QtIkkuna&>(lomake_->Ikkuna()).Juuri();
+  Lomakkeet() {
+    lomake_.Nayta();
     QCoreApplication::processEvents();
-  }
-  void TearDown() override {
-    lomake_.reset();
-    AsetaLomakesovitin(nullptr);
   }
 
   /// Widgets of the type that bear a control name, in the order of the form file.
@@ -70,8 +59,8 @@ class Lomakkeet : public ::testing::TestWithParam<std::string> {
     katso();
   }
 
-  std::unique_ptr<Lomake> lomake_;
-  QWidget* juuri_ = nullptr;
+  Paljas lomake_{GetParam()};
+  QWidget* juuri_ = &Juuri(lomake_);
 };
 
 std::vector<std::string> KaikkiLomakkeet() {
@@ -107,9 +96,9 @@ bool OnKirjaimia(const QString& teksti) {
 }
 
 TEST_P(Lomakkeet, KaikillaTeksteillaOnRiviTekstivarastossa) {
-  EXPECT_FALSE(lomake_->Otsikko().empty());
-  EXPECT_EQ(lomake_->Otsikko().find("[String"), std::string::npos);
-  for (const auto& ohjain : lomake_->Ohjaimet())
+  EXPECT_FALSE(lomake_.Otsikko().empty());
+  EXPECT_EQ(lomake_.Otsikko().find("[String"), std::string::npos);
+  for (const auto& ohjain : lomake_.Ohjaimet())
     for (const std::string& teksti : {ohjain->Teksti(), ohjain->Vihje()})
       EXPECT_EQ(teksti.find("[String"), std::string::npos) << ohjain->Nimi() << ": " << teksti;
 }

@@ -10,25 +10,16 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "ui/frmRakennekerroksenMuokkaaminen.h"
+#include "tests/tuki/Ikkunatesti.h"
 #include "ui/frmRakenteet.h"
 #include "ui/frmTila.h"
 #include "ui/frmTilaYhteenveto.h"
-#include "ui/qt/QtIkkuna.h"
 #include "ui/qt/QtViestit.h"
 
 namespace {
 
-class Luettelo : public ::testing::Test {
+class Luettelo : public Ikkunatesti {
  protected:
-  void SetUp() override { AsetaQtLomakkeet(nullptr); }
-  void TearDown() override { AsetaLomakesovitin(nullptr); }
-
-  static QWidget& Juuri(const Lomake& lomake) { return *static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri(); }
-  template <class W>
-  static W& Etsi(const Lomake& lomake, const char* nimi) {
-    return *Juuri(lomake).findChild<W*>(nimi);
-  }
   static void Nayta(Lomake& lomake) {
     lomake.Nayta();
     ASSERT_TRUE(QTest::qWaitForWindowActive(Juuri(lomake).window()));
@@ -56,34 +47,34 @@ class Luettelo : public ::testing::Test {
 class Tilaluettelo : public Luettelo {
  protected:
   Tilaluettelo() {
-    AsetaQtLomakkeet(nullptr);
-    lomake_ = std::make_unique<frmTilaYhteenveto>();
-    lomake_->lvwTilat.Rivit({{"Öljyvarasto", "90"}, {"Sali", "1 000"}, {"Aula", "200"}});
-    lomake_->lvwTilat.Summarivi({"Yhteensä", "1 290"});
-    lomake_->lvwTilat.Indeksi(0);
-    lomake_->txtTotSahkoKuormaPros.Teksti("0");
-    lomake_->PaivitaNapit(false);
-    Nayta(*lomake_);
+    lomake_.lvwTilat.Rivit({{"Öljyvarasto", "90"}, {"Sali", "1 000"}, {"Aula", "200"}});
+    lomake_.lvwTilat.Summarivi({"Yhteensä", "1 290"});
+    lomake_.lvwTilat.Indeksi(0);
+    lomake_.txtTotSahkoKuormaPros.Teksti("0");
+    lomake_.PaivitaNapit(false);
+    Nayta(lomake_);
   }
-  QTreeWidget& Lista() { return Etsi<QTreeWidget>(*lomake_, "lvwTilat"); }
+  QTreeWidget& Lista() { return Etsi<QTreeWidget>(lomake_, "lvwTilat"); }
 
-  std::unique_ptr<frmTilaYhteenveto> lomake_;
+  frmTilaYhteenveto lomake_;
 };
 
 TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
   NapsautaOtsikkoa(Lista(), 0);
   EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Aula", "Sali", "Öljyvarasto", "Yhteensä"}));
-  EXPECT_EQ(lomake_->lvwTilat.Indeksi(), 0);
+  EXPECT_EQ(lomake_.lvwTilat.Indeksi(), 0);
   EXPECT_EQ(Lista().currentItem()->text(0), "Öljyvarasto") << "the chosen row moves with its number";
   NapsautaOtsikkoa(Lista(), 1);
   NapsautaOtsikkoa(Lista(), 1);
   EXPECT_EQ(Sarake(Lista(), 1), QStringList({"1 000", "200", "90", "1 290"}));
   Napsauta(Lista(), 0);
-  EXPECT_EQ(lomake_->lvwTilat.Indeksi(), 1);
+  EXPECT_EQ(lomake_.lvwTilat.Indeksi(), 1);
   Napsauta(Lista(), 3);
-  EXPECT_NE(lomake_->lvwTilat.Indeksi(), 3) << "the sums can't be chosen";
+  EXPECT_NE(lomake_.lvwTilat.Indeksi(), 3) << "the sums can't be chosen";
   QTest::keyClick(&Lista(), Qt::Key_End);
   EXPECT_EQ(Lista().currentItem()->text(0), "Öljyvarasto");
+  lomake_.lvwTilat.Rivit({{"A", "1"}, {"B", "2"}});
+  EXPECT_EQ(Sarake(Lista(), 1), QStringList({"2", "1", "1 290"})) << "new rows are sorted as the former were";
 }
 
 TEST_F(Tilaluettelo, LajiteltuOtsikkoMahtuuNuolineenJaMuutSaavatTilansaTakaisin) {
@@ -134,40 +125,38 @@ TEST_F(Tilaluettelo, ValitutRivitTaiKaikkiLeikepoydalle) {
 
 TEST_F(Tilaluettelo, EnterJaKaksoisnapsautusMuokkaavatEivatkaSulje) {
   int muokattu = 0;
-  lomake_->MuokkaaKlikattu = [&] { ++muokattu; };
+  lomake_.MuokkaaKlikattu = [&] { ++muokattu; };
   Napsauta(Lista(), 1);
   QTest::keyClick(&Lista(), Qt::Key_Return);
   EXPECT_EQ(muokattu, 1);
-  EXPECT_TRUE(lomake_->Auki());
+  EXPECT_TRUE(lomake_.Auki());
   Napsauta(Lista(), 2);
   QTest::mouseDClick(Lista().viewport(), Qt::LeftButton, {}, Lista().visualItemRect(Lista().topLevelItem(2)).center());
   EXPECT_EQ(muokattu, 2);
-  EXPECT_EQ(lomake_->lvwTilat.Indeksi(), 2);
+  EXPECT_EQ(lomake_.lvwTilat.Indeksi(), 2);
 }
 
 class Rakenneluettelo : public Luettelo {
  protected:
   Rakenneluettelo() {
-    AsetaQtLomakkeet(nullptr);
-    lomake_ = std::make_unique<frmRakenteet>();
-    lomake_->lvwRakenteet.Rivit({{"Seinä", "Ulkoseinä", "12"}, {"Ovi", "Ovi", "2"}});
-    lomake_->ValitseRakenne(0);
-    for (const auto& ohjain : lomake_->Ohjaimet())
+    lomake_.lvwRakenteet.Rivit({{"Seinä", "Ulkoseinä", "12"}, {"Ovi", "Ovi", "2"}});
+    lomake_.ValitseRakenne(0);
+    for (const auto& ohjain : lomake_.Ohjaimet())
       if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("1");
-    lomake_->PaivitaKentat({.valittu = true});
+    lomake_.PaivitaKentat({.valittu = true});
   }
-  QTreeWidget& Lista() { return Etsi<QTreeWidget>(*lomake_, "lvwRakenteet"); }
+  QTreeWidget& Lista() { return Etsi<QTreeWidget>(lomake_, "lvwRakenteet"); }
 
-  std::unique_ptr<frmRakenteet> lomake_;
+  frmRakenteet lomake_;
 };
 
 TEST_F(Rakenneluettelo, VirheellinenKenttaPalauttaaValinnan) {
-  Nayta(*lomake_);
+  Nayta(lomake_);
   int valintoja = 0;
-  lomake_->RakenneValittu = [&] { ++valintoja; };
+  lomake_.RakenneValittu = [&] { ++valintoja; };
   Napsauta(Lista(), 1);
   EXPECT_EQ(valintoja, 1);
-  auto& ala = Etsi<QLineEdit>(*lomake_, "txtRakenneala");
+  auto& ala = Etsi<QLineEdit>(lomake_, "txtRakenneala");
   ala.setFocus();
   QTest::keyClicks(&ala, "x");
   QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
@@ -180,24 +169,24 @@ TEST_F(Rakenneluettelo, VirheellinenKenttaPalauttaaValinnan) {
 }
 
 TEST_F(Rakenneluettelo, LiitetytRivitTulevatLomakkeelle) {
-  Nayta(*lomake_);
+  Nayta(lomake_);
   Taulukko rivit;
-  lomake_->RivitLiitetty = [&](const Taulukko& liitetyt) { rivit = liitetyt; };
+  lomake_.RivitLiitetty = [&](const Taulukko& liitetyt) { rivit = liitetyt; };
   QGuiApplication::clipboard()->setText("Nimi\tPinta-ala\r\nSeinä\t1 200,5\r\n");
   QTest::keyClick(&Lista(), Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(rivit, (Taulukko{{"Nimi", "Pinta-ala"}, {"Seinä", "1 200,5"}}));
 }
 
 TEST_F(Rakenneluettelo, SuljettuSivuEiAukeaJaAuetessaanSailyttaaSivun) {
-  Nayta(*lomake_);
-  auto& sivut = Etsi<QTabWidget>(*lomake_, "tabRakenne");
+  Nayta(lomake_);
+  auto& sivut = Etsi<QTabWidget>(lomake_, "tabRakenne");
   EXPECT_FALSE(sivut.isTabEnabled(2));
-  lomake_->PaivitaKentat({.valittu = true, .ikkuna = true});
+  lomake_.PaivitaKentat({.valittu = true, .ikkuna = true});
   EXPECT_TRUE(sivut.isTabEnabled(2));
-  EXPECT_TRUE(Etsi<QWidget>(*lomake_, "cmbSuuntaus").isVisible());
-  lomake_->tabRakenne.Indeksi(2);
+  EXPECT_TRUE(Etsi<QWidget>(lomake_, "cmbSuuntaus").isVisible());
+  lomake_.tabRakenne.Indeksi(2);
   EXPECT_EQ(sivut.currentIndex(), 2);
-  lomake_->PaivitaKentat({.valittu = true});
+  lomake_.PaivitaKentat({.valittu = true});
   EXPECT_EQ(sivut.currentIndex(), 0) << "no one is left on a closed page";
 }
 

@@ -6,17 +6,16 @@
 
 #include <QAction>
 #include <QDialog>
-#include <QDir>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include "kernel/Hakemistot.h"
-#include "ui/KerataanViestit.h"
+#include "tests/tuki/Ikkunatesti.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Ohje.h"
 #include "ui/frmNormeeraamatonKulutus.h"
-#include "ui/qt/QtIkkuna.h"
 #include "ui/qt/QtOhje.h"
 
 namespace {
@@ -143,16 +142,13 @@ TEST_F(Opas, HakuLoytaaSivutJoillaOnKaikkiSanat) {
 }
 
 TEST_F(Opas, JokainenSivuMahtuuIkkunaan) {
-  const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
   const Ohjeluettelo luettelo = Luettelo();
   for (const Ohjeluettelo::Rivi& rivi : luettelo.Rivit()) {
     if (rivi.sivu.find('#') != std::string::npos) continue;
     selain_->setSource(QUrl::fromLocalFile(Koti() + "Ohje/" + QString::fromStdString(rivi.sivu)));
     QCoreApplication::processEvents();
     EXPECT_LE(selain_->document()->size().width(), selain_->viewport()->width()) << rivi.sivu;
-    if (kansio.isEmpty()) continue;
-    QDir().mkpath(kansio);
-    EXPECT_TRUE(ikkuna_.grab().save(kansio + "/ohje_" + QString::fromStdString(rivi.sivu) + ".png"));
+    TallennaKuva(ikkuna_, "ohje_" + QString::fromStdString(rivi.sivu));
   }
 }
 
@@ -192,14 +188,12 @@ TEST(OhjeenAvaus, PuuttuvaOpasKerrotaan) {
   const QTemporaryDir tyhja;
   AsetaAppPath(tyhja.path().toStdString());
   {
-    KerataanViestit viestit;
-    AsetaViestit(&viestit);
+    const Koeviestit viestit;
     QtOhje ohje;
     AvaaOhje(kOhjeTervetuloa);
     ASSERT_EQ(viestit.Naytetyt().size(), 1u);
     EXPECT_NE(viestit.Naytetyt()[0].teksti.find("Lumivirta 2.hlp"), std::string::npos);
     EXPECT_EQ(Oppaanikkuna(), nullptr);
-    AsetaViestit(nullptr);
   }
   AsetaAppPath(koti);
 }

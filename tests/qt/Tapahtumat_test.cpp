@@ -12,14 +12,12 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
-#include <QTreeWidget>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include "kernel/Virhe.h"
+#include "tests/tuki/Ikkunatesti.h"
 #include "ui/Komento.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
@@ -27,27 +25,15 @@
 #include "ui/frmLampoYhteenveto.h"
 #include "ui/frmNormeeraamatonKulutus.h"
 #include "ui/frmPerustiedot.h"
-#include "ui/qt/QtIkkuna.h"
 #include "ui/qt/QtViestit.h"
 
 namespace {
 
-class Tapahtumat : public ::testing::Test {
+class Tapahtumat : public Ikkunatesti {
  protected:
-  void SetUp() override { AsetaQtLomakkeet(nullptr); }
-  void TearDown() override { AsetaLomakesovitin(nullptr); }
-
-  template <class W>
-  static W& Etsi(const Lomake& lomake, const char* nimi) {
-    return *static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri()->findChild<W*>(nimi);
-  }
-
-  static void NaytaAktiivisena(Lomakeikkuna& ikkuna, QWidget* juuri) {
-    ikkuna.Nayta();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(juuri->window()));
-  }
   static void NaytaAktiivisena(Lomake& lomake) {
-    NaytaAktiivisena(lomake.Ikkuna(), static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri());
+    lomake.Nayta();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Juuri(lomake).window()));
   }
 
   /// Runs when the next dialog or box has opened. One that stays open is hidden, so that a fault can't hang the run.
@@ -168,35 +154,6 @@ TEST_F(Tapahtumat, PeruuttajaltaEiKysytaKeskeneraisistaKentista) {
     QCoreApplication::processEvents();
     EXPECT_EQ(huomautuksia, 0) << (hiirella ? "hiirellä" : "Escillä");
   }
-}
-
-TEST_F(Tapahtumat, KohdistusTuoPiilossaOlevanSivunEsiin) {
-  auto* juuri = new QWidget;
-  auto* sivut = new QTabWidget;
-  (new QVBoxLayout(juuri))->addWidget(sivut);
-  auto* lista = new QTreeWidget;
-  auto* sivu = new QWidget;
-  auto* kentta = new QLineEdit(sivu);
-  lista->setColumnCount(2);
-  kentta->setObjectName("txtSivulla");
-  lista->setObjectName("lvwRivit");
-  sivut->setObjectName("tabSivut");
-  sivut->addTab(lista, "");
-  sivut->addTab(sivu, "");
-  QtIkkuna ikkuna(juuri, nullptr);
-  ikkuna.Etsi("lvwRivit").Rivit({{"Tuloilmakone 1", "2,5"}, {"Poistoilmakone", "1,0"}});
-  NaytaAktiivisena(ikkuna, juuri);
-  int valintoja = 0;
-  ikkuna.Etsi("lvwRivit").Muuttui = [&] { ++valintoja; };
-  lista->setCurrentItem(lista->topLevelItem(1));
-  EXPECT_EQ(ikkuna.Etsi("lvwRivit").Indeksi(), 1);
-  EXPECT_EQ(valintoja, 1);
-  EXPECT_EQ(lista->topLevelItem(0)->text(1), "2,5");
-  EXPECT_TRUE(ikkuna.Etsi("txtSivulla").Nakyva()) << "piilossa oleva sivu ei piilota kenttää";
-  ikkuna.Etsi("txtSivulla").Kohdista();
-  EXPECT_EQ(sivut->currentIndex(), 1);
-  EXPECT_TRUE(kentta->hasFocus());
-  EXPECT_EQ(ikkuna.Etsi("tabSivut").Indeksi(), 1);
 }
 
 TEST_F(Tapahtumat, ModaalitonLomakeOnPaaikkunanSisallaJaSulkeutuuItse) {

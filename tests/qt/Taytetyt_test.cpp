@@ -2,12 +2,12 @@
 // The forms filled with the figures of a large building. With LUMIVIRTA_KUVAT=<folder> their pictures are left there.
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QLineEdit>
 #include <QTimer>
 #include <functional>
 
 #include "kernel/Luvut.h"
+#include "tests/tuki/Ikkunatesti.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmIVKoneYhteenveto.h"
@@ -21,22 +21,12 @@
 #include "ui/frmPerustiedot.h"
 #include "ui/frmRakenteet.h"
 #include "ui/frmSplash.h"
-#include "ui/qt/QtIkkuna.h"
 
 namespace {
 
-void TallennaKuvaksi(const std::string& nimi, const Lomake& lomake) {
-  const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
-  if (kansio.isEmpty()) return;
-  QDir().mkpath(kansio);
-  QWidget* ikkuna = static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri()->window();
-  EXPECT_TRUE(ikkuna->grab().save(kansio + '/' + QString::fromStdString(nimi) + ".png"));
-}
-void TallennaKuva(const Lomake& lomake) { TallennaKuvaksi(lomake.Nimi(), lomake); }
-
 void OdotaMahtuvan(const Lomake& lomake) {
   QCoreApplication::processEvents();
-  for (const QLineEdit* kentta : static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri()->findChildren<QLineEdit*>()) {
+  for (const QLineEdit* kentta : Juuri(lomake).findChildren<QLineEdit*>()) {
     const int reunat = kentta->sizeHint().width() - 17 * kentta->fontMetrics().horizontalAdvance('x');
     EXPECT_LE(kentta->fontMetrics().horizontalAdvance(kentta->text()) + reunat, kentta->width())
         << kentta->objectName().toStdString() << ": " << kentta->text().toStdString();
@@ -44,11 +34,8 @@ void OdotaMahtuvan(const Lomake& lomake) {
   TallennaKuva(lomake);
 }
 
-class Taytetyt : public ::testing::Test {
+class Taytetyt : public Ikkunatesti {
  protected:
-  void SetUp() override { AsetaQtLomakkeet(nullptr); }
-  void TearDown() override { AsetaLomakesovitin(nullptr); }
-
   /// Looks at a form while it is open as modal, then presses its button.
   static void KunAuki(const char* nappi, const std::function<void(const Lomake&)>& katso) {
     QTimer::singleShot(0, [=] {
@@ -117,7 +104,7 @@ TEST_F(Taytetyt, PienetLomakkeetMahtuvatKenttiinsa) {
   KunAuki("cmdSulje", OdotaMahtuvan);
   frmLammonTuotonJaJaonHaviot().NaytaHaviot(182716, -3814.72, 12345.67, 2345.67);
 
-  KunAuki("cmdSulje", TallennaKuva);
+  KunAuki("cmdSulje", OdotaMahtuvan);
   frmJakaumaGraafi().NaytaJakauma("Työväenopiston ja kirjaston yhteisrakennus",
                                   {"Tilojen lämmitys", "Ilmanvaihtokoneiden jälkilämmitys", "Käyttöveden lämmitys",
                                    "Prosessiveden lämmitys", "Muu lämpö"},
@@ -147,9 +134,8 @@ TEST_F(Taytetyt, RakenteidenIkkunaMahtuuKunKerroksiaOnMonta) {
                                               std::vector<double>(nimet.size(), 1), lampotilat));
   lomake.Nayta();
   OdotaMahtuvan(lomake);
-  const QWidget* juuri = static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri();
-  EXPECT_LE(juuri->width(), 1000);
-  EXPECT_LE(juuri->height(), kKorkeinIkkuna);
+  EXPECT_LE(Juuri(lomake).width(), 1000);
+  EXPECT_LE(Juuri(lomake).height(), kKorkeinIkkuna);
 }
 
 TEST_F(Taytetyt, MuutostenLuetteloMahtuuIkkunaansa) {
@@ -191,9 +177,9 @@ TEST_F(Taytetyt, KoneenLomakkeetMahtuvatKenttiinsa) {
     kone.cmbIVPeriaate.Indeksi(periaate);
     kone.PaivitaKentat();
     OdotaMahtuvan(kone);
-    TallennaKuvaksi(kone.Nimi() + std::to_string(periaate), kone);
+    TallennaKuva(kone, QString::number(periaate));
   }
-  const QWidget* huomautus = static_cast<QtIkkuna&>(kone.Ikkuna()).Juuri()->findChild<QWidget*>("lblHuomautus");
+  const QWidget* huomautus = Juuri(kone).findChild<QWidget*>("lblHuomautus");
   EXPECT_GE(huomautus->height(), huomautus->heightForWidth(huomautus->width()));
 
   frmLTOhyotylaskenta lto;
@@ -210,8 +196,7 @@ TEST_F(Taytetyt, KoneenLomakkeetMahtuvatKenttiinsa) {
   luettelo.lvwKoneet.Indeksi(0);
   luettelo.PaivitaNapit(false);
   luettelo.Nayta();
-  QCoreApplication::processEvents();
-  TallennaKuva(luettelo);
+  OdotaMahtuvan(luettelo);
 }
 
 /// Pixels of the picture that differ from the window's background.
@@ -227,7 +212,7 @@ int Piirretty(const QWidget& pinta) {
 TEST_F(Taytetyt, PeriaatekuvaVaihtuuJaSeuraaTeemanVareja) {
   frmIlmanvaihtokone kone;
   kone.Nayta();
-  auto* pinta = static_cast<QtIkkuna&>(kone.Ikkuna()).Juuri()->findChild<QWidget*>("imgPeriaate");
+  auto* pinta = Juuri(kone).findChild<QWidget*>("imgPeriaate");
   EXPECT_EQ(pinta->accessibleName(), "Koneen periaatekuva");
   kone.PaivitaKentat();
   EXPECT_EQ(Piirretty(*pinta), 0) << "no principle chosen";

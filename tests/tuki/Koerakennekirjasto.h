@@ -15,7 +15,6 @@ class Koerakennekirjasto : public Rakennekirjastolinkki {
   /// The dialog is open for someone, with what it began at.
   bool Auki() const { return static_cast<bool>(tapahtumat_); }
   const std::string& Alku() const { return alku_; }
-  int Selauksia() const { return selauksia_; }
 
   void Valitse(const Rakenneratkaisu& ratkaisu) {
     Kerro(&Rakennekirjastotapahtumat::RakKirjasto_RakenneValittu, ratkaisu);
@@ -43,8 +42,8 @@ class Koerakennekirjasto : public Rakennekirjastolinkki {
                                                            Rakennekirjastotapahtumat tapahtumat) override {
     return Avaa(nimi, std::move(tapahtumat));
   }
-  void NaytaRakennekirjasto() override { ++selauksia_; }
-  void NaytaMateriaalikirjasto() override { ++selauksia_; }
+  void NaytaRakennekirjasto() override {}
+  void NaytaMateriaalikirjasto() override {}
 
  private:
   struct Pyynto : Rakennekirjastopyynto {
@@ -71,5 +70,4 @@ class Koerakennekirjasto : public Rakennekirjastolinkki {
   std::optional<Rakennekirjastotapahtumat> tapahtumat_;
   std::string alku_;
   int numero_ = 0;
-  int selauksia_ = 0;
 };

@@ -10,9 +10,9 @@
 #include <stdexcept>
 
 #include "kernel/Virhe.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Ikkunaton.h"
 #include "ui/Kenttatarkistus.h"
-#include "ui/KerataanViestit.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Ohjaimet.h"
 #include "ui/Tekstivarasto.h"
@@ -36,7 +36,6 @@ constexpr const char* kKoelomake = R"(<?xml version="1.0" encoding="UTF-8"?>
 </widget></widget></item>
 <item><widget class="QTreeWidget" name="lvwRivit"><column><property name="text"><string>9183</string></property></column></widget></item>
 <item><widget class="QPushButton" name="cmdLisaaRivi"><property name="Tag" stdset="0"><string>2144</string></property><property name="ToolTipText" stdset="0"><string>9179</string></property></widget></item>
-<item><widget class="QPushButton" name="cmdPOISTARivi"/></item>
 <item><widget class="QPushButton" name="cmdMuuta"/></item>
 </layout></widget></ui>)";
 
@@ -50,7 +49,6 @@ class frmKoe : public Lomake {
   TabStrip tabSivut{*this, "tabSivut"};
   ListView lvwRivit{*this, "lvwRivit"};
   CommandButton cmdLisaaRivi{*this, "cmdLisaaRivi"};
-  CommandButton cmdPoistaRivi{*this, "cmdPoistaRivi"};
   CommandButton cmdMuuta{*this, "cmdMuuta"};
 };
 
@@ -58,7 +56,6 @@ class frmKoe : public Lomake {
 class Lomakekerros : public ::testing::Test {
  protected:
   Lomakekerros() {
-    AsetaViestit(&viestit_);
     AlustaTekstit();
     AsetaRahayksikko("mk");
     AsetaTarkistuksenKello(Koekello);
@@ -69,7 +66,6 @@ class Lomakekerros : public ::testing::Test {
     lomake_.reset();
     AsetaTarkistuksenKello(nullptr);
     AsetaRahayksikko("€");
-    AsetaViestit(nullptr);
     std::filesystem::remove_all(kansio_);
   }
 
@@ -81,24 +77,11 @@ class Lomakekerros : public ::testing::Test {
 
   Ikkunaton& Ikkuna() { return ikkunattomat_.Ikkuna("frmKoe"); }
 
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
   std::filesystem::path kansio_ = TeeKansio();
   Ikkunattomat ikkunattomat_{kansio_.string()};
   std::unique_ptr<frmKoe> lomake_;
 };
-
-TEST_F(Lomakekerros, VaaraNimiTaiTyyppiEiKelpaaKahvaksi) {
-  EXPECT_THROW((TextBox{*lomake_, "txtLuuk"}), TuntematonOhjain);
-  EXPECT_THROW((Label{*lomake_, "txtLuku"}), TuntematonOhjain);
-  EXPECT_THROW(Ikkuna().KayttajaKirjoittaa("txtLuuk", "1"), TuntematonOhjain);
-}
-
-TEST_F(Lomakekerros, KayttajaEiPaaseKasiksiPoissaOlevaan) {
-  lomake_->cmdMuuta.Kaytossa(false);
-  lomake_->txtLuku.Nakyva(false);
-  EXPECT_THROW(Ikkuna().KayttajaPainaa("cmdMuuta"), std::logic_error);
-  EXPECT_THROW(Ikkuna().KayttajaKirjoittaa("txtLuku", "1"), std::logic_error);
-}
 
 TEST_F(Lomakekerros, VainKayttajanMuutosNostaaTapahtuman) {
   int tapahtumia = 0;
@@ -177,30 +160,6 @@ TEST_F(Lomakekerros, KaannosPaneeTekstitTagienMukaan) {
   EXPECT_EQ(lomake_->lvwRivit.Kohde().Osat()[0].otsikko, "Investointi (t€)");
 }
 
-TEST_F(Lomakekerros, ValitaanSivujaJaRivejaOtsikollaan) {
-  int valintoja = 0;
-  lomake_->tabSivut.KunMuuttuu([&] { ++valintoja; });
-  lomake_->lvwRivit.KunMuuttuu([&] { ++valintoja; });
-  lomake_->lvwRivit.Rivit({{"Aula"}, {"Keittiö"}});
-  lomake_->lvwRivit.Indeksi(7);  // there is no such row
-  EXPECT_EQ(lomake_->lvwRivit.Indeksi(), -1);
-  Ikkuna().KayttajaValitsee("lvwRivit", "Keittiö");
-  Ikkuna().KayttajaValitsee("tabSivut", Teksti(2143));
-  EXPECT_EQ(lomake_->lvwRivit.Indeksi(), 1);
-  EXPECT_EQ(lomake_->tabSivut.Indeksi(), 1);
-  EXPECT_EQ(valintoja, 2);
-  EXPECT_THROW(Ikkuna().KayttajaValitsee("lvwRivit", "Sauna"), std::logic_error);
-}
-
-TEST_F(Lomakekerros, MuokkausnapitLukitaanKunToimenpiteitaOn) {
-  LukitseMuokkausnapit(*lomake_, false);
-  EXPECT_TRUE(lomake_->cmdLisaaRivi.Kaytossa());
-  LukitseMuokkausnapit(*lomake_, true);
-  EXPECT_FALSE(lomake_->cmdLisaaRivi.Kaytossa());
-  EXPECT_FALSE(lomake_->cmdPoistaRivi.Kaytossa());
-  EXPECT_TRUE(lomake_->cmdMuuta.Kaytossa());
-}
-
 TEST_F(Lomakekerros, KenttatarkistusEhdoittain) {
   struct Tapaus {
     const char* luku;
@@ -252,31 +211,6 @@ TEST_F(Lomakekerros, TarkistusNayttaaYhdenViestinSekunnissa) {
   EXPECT_EQ(Ikkuna().Kohdistettu(), "txtLuku");
   EXPECT_TRUE(naytti(51001));
   EXPECT_TRUE(naytti(3));  // the counter has wrapped
-}
-
-TEST_F(Lomakekerros, AvoimetLomakkeetTiedetaan) {
-  EXPECT_EQ(AvoinLomake("frmKoe"), nullptr);
-  bool suljettu = false;
-  lomake_->Suljettu = [&] { suljettu = true; };
-  lomake_->Nayta();
-  lomake_->Nayta();
-  EXPECT_EQ(AvoimetLomakkeet().size(), 1u);
-  EXPECT_EQ(AvoinLomake("FRMKOE"), lomake_.get());
-  Ikkuna().KayttajaPeruuttaa();  // no cancelling button: closes by itself
-  EXPECT_TRUE(suljettu);
-  EXPECT_EQ(AvoinLomake("frmKoe"), nullptr);
-  lomake_->Nayta();
-  SuljeLomakkeet();
-  EXPECT_FALSE(lomake_->Auki());
-}
-
-TEST_F(Lomakekerros, VirheellinenKasikirjoitusEiJaaHuomaamatta) {
-  ikkunattomat_.KunNaytetaan("frmKoe", [](Ikkunaton& ikkuna) { ikkuna.KayttajaPainaa("cmdEiOle"); });
-  lomake_->NaytaModaalisena();
-  const auto virheet = ikkunattomat_.Virheet();
-  ASSERT_EQ(virheet.size(), 2u);
-  EXPECT_NE(virheet[0].find("cmdEiOle"), std::string::npos);
-  EXPECT_NE(virheet[1].find("auki"), std::string::npos);
 }
 
 }  // namespace

@@ -4,24 +4,17 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/Lomakeikkuna.h"
-
 namespace {
 
-Taulukko Sarake(const std::vector<std::string>& solut) {
+using Solut = std::vector<std::string>;
+
+Solut Lajiteltuna(const Solut& solut, bool laskeva = false) {
   Taulukko rivit;
   for (const std::string& solu : solut) rivit.push_back({solu});
-  return rivit;
-}
-
-std::vector<std::string> Lajiteltuna(const std::vector<std::string>& solut, bool laskeva = false) {
-  const Taulukko rivit = Sarake(solut);
-  std::vector<std::string> tulos;
+  Solut tulos;
   for (const int i : Jarjestyksessa(rivit, 0, laskeva)) tulos.push_back(solut[static_cast<std::size_t>(i)]);
   return tulos;
 }
-
-using Solut = std::vector<std::string>;
 
 TEST(Taulukko, TekstitSuomalaisessaAakkosjarjestyksessa) {
   EXPECT_EQ(Lajiteltuna({"Öljy", "Zeniitti", "ähky", "Åbo", "auto", "Čapek", "", "élan", "Eteinen"}),
@@ -48,43 +41,6 @@ TEST(Taulukko, LiitettyTekstiJaetaanRiveiksi) {
             (Taulukko{{"Nimi", "Ala"}, {"Sali \"A\"\n2 krs", "12,5"}, {"Aula", ""}}));
   EXPECT_TRUE(TaulukkoTekstista("").empty());
   EXPECT_EQ(TaulukkoTekstista("\"kesken\tjäi").size(), 1u) << "an open quotation loses nothing";
-}
-
-/// A window with one list.
-class Listaikkuna : public Lomakeikkuna {
- public:
-  Listaikkuna() {
-    Lisaa(std::make_unique<Ohjain>(*this, Ohjainkuvaus{.nimi = "lvwTilat", .tyyppi = Ohjaintyyppi::ListView}));
-    Lista().Osat({{.otsikko = "Tila"}, {.otsikko = "Ala"}});
-    Lista().Rivit({{"Sali", "1 000"}, {"Aula", "90"}, {"Varasto", "200"}});
-    Lista().Summarivi({"Yhteensä", "1 290"});
-  }
-  Ohjain& Lista() const { return Etsi("lvwTilat"); }
-  void Otsikko(const std::string&) override {}
-  void Nayta() override {}
-  void NaytaModaalisena() override {}
-  void Sulje() override {}
-  bool Aktiivinen() const override { return false; }
-};
-
-TEST(Taulukko, LajiteltuLuetteloPitaaRivinumerotJaJarjestyksensa) {
-  Listaikkuna ikkuna;
-  Ohjain& lista = ikkuna.Lista();
-  lista.Indeksi(2);
-  lista.KayttajaLajittelee(1);
-  EXPECT_EQ(lista.Jarjestys(), (std::vector<int>{1, 2, 0}));
-  EXPECT_EQ(lista.Indeksi(), 2);
-  lista.KayttajaLajittelee(1);
-  EXPECT_EQ(lista.Jarjestys(), (std::vector<int>{0, 2, 1}));
-  EXPECT_EQ(lista.RivitTekstina({}), "Tila\tAla\nSali\t1000\nVarasto\t200\nAula\t90\nYhteensä\t1290\n");
-  EXPECT_EQ(lista.RivitTekstina({1, 0}), "Tila\tAla\nSali\t1000\nAula\t90\n");
-  lista.Rivit({{"A", "1"}, {"B", "2"}});
-  EXPECT_EQ(lista.Jarjestys(), (std::vector<int>{1, 0})) << "new rows are sorted as the former were";
-  lista.KayttajaLiittaa("ei kuuntelijaa");
-  Taulukko liitetty;
-  lista.Liitetty = [&](const Taulukko& rivit) { liitetty = rivit; };
-  lista.KayttajaLiittaa("C\t3\n");
-  EXPECT_EQ(liitetty, (Taulukko{{"C", "3"}}));
 }
 
 }  // namespace

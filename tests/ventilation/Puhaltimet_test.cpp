@@ -28,10 +28,7 @@ class Puhaltimet : public RakennusTesti {
 
 TEST_F(Puhaltimet, EfficiencyOfDrives) {
   const auto hyotysuhde = [](std::int32_t tapa, double P4) { return clsVoimasiirto{tapa, P4}.Hyotysuhde(); };
-  EXPECT_DOUBLE_EQ(hyotysuhde(0, 1), 90);
-  EXPECT_NEAR(hyotysuhde(0, 2), 92.49532985001589, kTarkkuus);
   EXPECT_NEAR(hyotysuhde(0, 10), 94.84206807439524, kTarkkuus);
-  EXPECT_DOUBLE_EQ(hyotysuhde(1, 1), 95);
   EXPECT_NEAR(hyotysuhde(1, 10), 97.69077552789821, kTarkkuus);
   EXPECT_EQ(hyotysuhde(2, 0.01), 100) << "direct drive";
   for (const std::int32_t tapa : {0, 1, 2}) EXPECT_EQ(hyotysuhde(tapa, 0), 100);
@@ -67,10 +64,7 @@ TEST_F(Puhaltimet, FitsAreTakenByTensAndNotInterpolated) {
   EXPECT_EQ(kertoimet(50, Kuristus1nop, 40), (std::array{-0.5415, 1.1685, 0.3854}));
   EXPECT_EQ(kertoimet(70, Kuristus2nop, 29), (std::array{0.0, 0.2136, 0.2917}));
   EXPECT_EQ(kertoimet(70.1, Kuristus2nop, 29), (std::array{-1.5, 2.73, -0.233}));
-  EXPECT_EQ(kertoimet(70, Johtosiipi2nop, 30), (std::array{0.5778, 0.0889, 0.1221}));
   EXPECT_EQ(kertoimet(71, Johtosiipi2nop, 30), (std::array{1.4756, -1.5103, 1.0332}));
-  EXPECT_EQ(kertoimet(50, Johtosiipi1nop, 100), (std::array{-0.7671, 1.497, 0.2564}));
-  EXPECT_EQ(kertoimet(50, Siipikulma, 55), (std::array{0.4341, 0.3996, 0.1574}));
   EXPECT_EQ(kertoimet(50, Taajuusmuuttaja, 9), kertoimet(50, Taajuusmuuttaja, -5));
   EXPECT_EQ(kertoimet(50, Taajuusmuuttaja, 250), (std::array{0.1509, 0.72, 0.1314}));
   EXPECT_EQ(kertoimet(50, 6, 10), (std::array{0.0, 0.0, 0.0}));
@@ -112,7 +106,6 @@ TEST_F(Puhaltimet, IterationReturnsThePowerThatItWasGiven) {
 TEST_F(Puhaltimet, PowerOfVariableFlow) {
   const auto teho = [](clsMivSaato saato, double x) { return saato.MivTehontarve(x); };
   EXPECT_NEAR(teho(Saato(Taajuusmuuttaja, 10, 2, 10), 50), 2.145668379649364, kTarkkuus);
-  EXPECT_NEAR(teho(Saato(Taajuusmuuttaja, 10, 0, 10), 30), 1.245054968967409, kTarkkuus);
   EXPECT_NEAR(teho(Saato(Kuristus1nop, 0, 1, 4), 60), 3.523940575319877, kTarkkuus);
   EXPECT_NEAR(teho(Saato(Kuristus2nop, 20, 0, 4), 70), 2.478580827263416, kTarkkuus);
   EXPECT_NEAR(teho(Saato(Kuristus2nop, 20, 0, 4), 70.1), 3.7876476497240614, kTarkkuus) << "full speed";
@@ -143,7 +136,6 @@ TEST_F(Puhaltimet, OutOfRangeIsToldAndGivesZero) {
 TEST_F(Puhaltimet, PartPowerOfTwoSpeeds) {
   EXPECT_NEAR(Kaksinopeus(5, 0).KaksiNopPuhaltimenOsateho(50), 1.0325331621107765, kTarkkuus);
   EXPECT_NEAR(Kaksinopeus(5, 2).KaksiNopPuhaltimenOsateho(66), 2.2219625492806094, kTarkkuus);
-  EXPECT_NEAR(Kaksinopeus(10, 0).KaksiNopPuhaltimenOsateho(33), 0.5721299564375248, kTarkkuus);
   EXPECT_EQ(Kaksinopeus(0.05, 1).KaksiNopPuhaltimenOsateho(60), 0.05) << "at most the full power";
   EXPECT_EQ(Kaksinopeus(0, 0).KaksiNopPuhaltimenOsateho(50), 0);
   EXPECT_EQ(Viesteja(), 0u);
@@ -164,7 +156,6 @@ TEST_F(Puhaltimet, PowersOfAMachinesFans) {
   puhaltimet.TuloIlmavirta11Teho = 4;
   puhaltimet.PoistoIlmavirta11Teho = 4;
   EXPECT_EQ(puhaltimet.TuloSahkoOminaisteho(), 2.5);
-  EXPECT_EQ(puhaltimet.PoistoSahkoOminaisteho(), 1.25);
   EXPECT_EQ(puhaltimet.TuloSahkoOsaTeho(), 10) << "constant flow has no part power of its own";
 
   puhaltimet.JarjestelmaTyyppiID = PuhaltimenTeho::MuuttuvaIlmavirta;
@@ -176,16 +167,6 @@ TEST_F(Puhaltimet, PowersOfAMachinesFans) {
   puhaltimet.JarjestelmaTyyppiID = PuhaltimenTeho::Kaksinopeus;
   puhaltimet.PuhaltimenVoimansiirtoTapaID = clsVoimasiirto::Kiilahihna;
   EXPECT_NEAR(puhaltimet.PoistoSahkoOsaTeho(), 1.0325331621107765, kTarkkuus);
-  puhaltimet.PoistoSahkoOsaTeho(1.5);
-  EXPECT_NE(puhaltimet.PoistoSahkoOsaTeho(), 1.5);
-  puhaltimet.OsaTehoTiedonLaatuIDPoisto = clsPuhaltimenSahkonKulutus::Annettu;
-  EXPECT_EQ(puhaltimet.PoistoSahkoOsaTeho(), 1.5) << "given, not calculated";
-
-  puhaltimet.TuloPuhParam.Ilmavirta = 4;
-  puhaltimet.TuloPuhParam.PaineenKorotus = 600;
-  EXPECT_NEAR(puhaltimet.TuloPuhParam.Ottoteho(), 2.4 / (0.6 * 0.95 * 0.9 * 0.98), kTarkkuus);
-  puhaltimet.TuloPuhParam.MoottorinHyotysuhde = 0;
-  EXPECT_THROW(puhaltimet.TuloPuhParam.Ottoteho(), std::exception);
 }
 
 }  // namespace

@@ -10,21 +10,6 @@ class clsKayntiAjatTesti : public KoneTesti {
   clsKayntiAjat& ajat = kone.KayntiAikaYleistiedot;
 };
 
-TEST_F(clsKayntiAjatTesti, AScheduleHasSevenLinesInEachSeason) {
-  ASSERT_EQ(ajat.Count(), 35);
-  EXPECT_EQ(ajat.Item(1).sKey, Tunniste("1EkaNeljannes"));
-  EXPECT_EQ(ajat.Item(35).sKey, Tunniste("7KokoVuosi"));
-  EXPECT_EQ(ajat.Item("3KolmasNeljannes").Jakso, 2);
-  const std::array<int, 12> kJaksot{0, 0, 1, 1, 1, 2, 2, 2, 3, 3, 3, 0};
-  for (int m = 0; m < kKuukausia; ++m) {
-    const int jakso = kJaksot[static_cast<std::size_t>(m)];
-    EXPECT_EQ(clsKayntiAjat::MuunnaKuukausiJaksoksi(m), jakso);
-    clsKayntiAika aika;
-    for (aika.Jakso = -1; aika.Jakso < 6; ++aika.Jakso)
-      EXPECT_EQ(aika.KuuluuKuukauteen(m), aika.Jakso == jakso || aika.Jakso == clsKayntiAika::KokoVuosi);
-  }
-}
-
 TEST_F(clsKayntiAjatTesti, HoursOfOneRun) {
   clsKayntiAika aika;
   EXPECT_EQ(aika.KayntiTunnit(), 24) << "equal times";
