@@ -28,9 +28,10 @@ using Vertailu = Rekisteri;
 }  // namespace
 
 TEST_F(Rekisteri, MallinSarakeOnAttribuuttiJosLuokallaOnSe) {
-  koe::TeeMalli(hakemisto.Malli(), "ALTER TABLE KoeTila ADD Uusi TEXT; ALTER TABLE KoeTila DROP COLUMN Yla");
+  const std::string toinen = (hakemisto / "toinen.tmp").string();
+  koe::TeeMalli(toinen, "ALTER TABLE KoeTila ADD Uusi TEXT; ALTER TABLE KoeTila DROP COLUMN Yla");
   clsTyyppiTiedot uudet;
-  uudet.AlustaTyyppitiedot(hakemisto.Malli());
+  uudet.AlustaTyyppitiedot(toinen);
   EXPECT_THAT(uudet.Item("koetila").clsAttribuutit,
               ElementsAre("sKey", "TilanNimi", "Lampotila", "Sivu", "Seinat", "Uusi"));
   EXPECT_EQ(uudet.Item("koetila").Jasenet().size(), 5u);

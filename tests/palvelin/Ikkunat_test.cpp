@@ -10,7 +10,7 @@
 #include "library/server/Materiaaliselain.h"
 #include "library/server/Rakenneselain.h"
 #include "tests/palvelin/Koekirjasto.h"
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "ui/qt/QtOhje.h"
 

@@ -16,7 +16,7 @@
 #include <functional>
 
 #include "kernel/Luvut.h"
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmAbout.h"

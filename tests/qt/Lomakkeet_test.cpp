@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 
 namespace {
 

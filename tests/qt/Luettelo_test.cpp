@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "ui/frmRakenteet.h"
 #include "ui/frmTila.h"
 #include "ui/frmTilaYhteenveto.h"

@@ -12,7 +12,7 @@
 #include <QTimer>
 
 #include "kernel/Hakemistot.h"
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "ui/Ohje.h"
 #include "ui/frmNormeeraamatonKulutus.h"

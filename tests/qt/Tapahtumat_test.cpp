@@ -17,7 +17,7 @@
 #include <QWheelEvent>
 
 #include "kernel/Virhe.h"
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "ui/Komento.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"

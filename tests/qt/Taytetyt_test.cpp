@@ -7,7 +7,7 @@
 #include <functional>
 
 #include "kernel/Luvut.h"
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmIVKoneYhteenveto.h"
