@@ -66,6 +66,16 @@ TEST_F(KayttajankirjastoTesti, CopyFromTheStandardKeepsLayersMaterialsAndSource)
   EXPECT_TRUE(Rakennetietokanta(oma_).Hae(oma.Id)) << "the program's reader has to find it";
 }
 
+TEST_F(KayttajankirjastoTesti, EditReplacesTheLayers) {
+  Kirjastorakenne oma = OmaSeina();
+  oma.Ratkaisu.Kerrokset.Remove(1);
+  oma.Ratkaisu.Kerrokset.Item(1).Paksuus = 250;
+  ASSERT_TRUE(kirjasto_.Tallenna(oma));
+  ASSERT_EQ(Omat().size(), 1U);
+  EXPECT_EQ(Omat().front().Ratkaisu.Kerrokset.Count(), 2);
+  EXPECT_EQ(Omat().front().Ratkaisu.Paksuus, 272);
+}
+
 TEST_F(KayttajankirjastoTesti, LockedDatabaseIsRefusedSoonAndKeepsItsContents) {
   Kirjastorakenne oma = OmaSeina();
   {

@@ -254,7 +254,7 @@ TEST_F(clsIVKoneTesti, AMachineComesBackFromItsFile) {
   EXPECT_EQ(oma.Sahko(), sahko);
 }
 
-TEST_F(clsIVKoneTesti, AVariationReachesTheMachineAndItsSchedule) {
+TEST_F(clsIVKoneTesti, AVariationReachesTheMachineItsScheduleAndItsFans) {
   clsIVKone& kone = LisaaToimistokone(tila.sKey);
   rakennus->PaivitaInstanssiIdLista();
   const double ennen = rakennus->VuotuinenIVjalkilammitysLampo();
@@ -268,9 +268,11 @@ TEST_F(clsIVKoneTesti, AVariationReachesTheMachineAndItsSchedule) {
     muuttunut.ArvoJalkeen = arvo;
   };
   muuta(kone, "SisaanpuhallusLampotila", 5, 17);
+  muuta(kone, "VakioPaineOsuusID", 3, 4);
   muuta(kone.KayntiAikaYleistiedot.Item("1KokoVuosi"), "Alkaa", 7, 7.5 / 24);
   rakennus->LiitaSaastoToimenpide(muuttuneet);
   EXPECT_EQ(kone.KayntiAikaYleistiedot.Item("3KokoVuosi").Tsp, 17);
+  EXPECT_EQ(kone.PuhaltimienSahkonKulutus.VakioPaineOsuusID, 4);
   EXPECT_EQ(kone.KayntiAikaYleistiedot.Item("1KokoVuosi").Alkaa.minuutit, 7 * 60 + 30);
   EXPECT_LT(rakennus->VuotuinenIVjalkilammitysLampo(), ennen);
 }
