@@ -47,6 +47,7 @@ TEST_F(RakennekirjastoTesti, SolutionIsReadWithItsLayersFromInsideOut) {
   Rakennetietokanta kanta(TeeKanta("vakio.mdb", std::string(kAineet) + kSeina));
   const auto seina = kanta.Hae("S1");
   ASSERT_TRUE(seina);
+  EXPECT_EQ(seina->Pistemaiset, 2);
   EXPECT_EQ(seina->Rw, 45.5F);
   ASSERT_EQ(seina->Kerrokset.Count(), 3);
   const auto& sisin = seina->Kerrokset.Item(1);
