@@ -64,13 +64,6 @@ class OikeaKirjasto : public testing::Test {
   clsRakennus rakennus_;
 };
 
-TEST_F(OikeaKirjasto, ClosedWithoutAPickItLeavesTheStructure) {
-  Hae("sulje");
-  EXPECT_FALSE(Seina().RakenneRatkaisu);
-  EXPECT_EQ(Seina().U_arvo(), 0.28);
-  EXPECT_TRUE(viestit_.Naytetyt().empty());
-}
-
 TEST_F(OikeaKirjasto, PickSurvivesTheDeathOfTheServer) {
   Hae("kuole:" + koti_.Tiedosto("kuoli"));
   ASSERT_TRUE(std::filesystem::exists(koti_.Tiedosto("kuoli")));

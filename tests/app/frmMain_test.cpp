@@ -135,15 +135,12 @@ TEST_F(PaaikkunaTesti, TheModelDisablesTheFirstButtons) {
 
 QImage Kuva(const QAction& toiminto) { return toiminto.icon().pixmap(24).toImage(); }
 
-TEST_F(PaaikkunaTesti, TheToolBarHasItsKeysInOrderAndFollowsTheTheme) {
+TEST_F(PaaikkunaTesti, EveryToolHasAPictureOfItsOwnThatFollowsTheTheme) {
   const auto& rivi = *ikkuna->findChild<QToolBar*>("tbToolBar");
-  QStringList napit;
-  for (const QAction* nappi : rivi.actions()) napit << (nappi->isSeparator() ? "|" : nappi->objectName().remove("mnu"));
-  EXPECT_EQ(napit.join(' '), "FileNew FileOpen FileSave FilePrint | EditCut EditCopy EditPaste | HelpContents");
   QList<QImage> kuvat;
   for (const QAction* nappi : rivi.actions())
     if (!nappi->isSeparator()) kuvat << Kuva(*nappi);
-  for (const QImage& kuva : kuvat) EXPECT_EQ(kuvat.count(kuva), 1) << "a picture of its own";
+  for (const QImage& kuva : kuvat) EXPECT_EQ(kuvat.count(kuva), 1);
   const QPalette vaalea = QApplication::palette();
   QPalette tumma = vaalea;
   tumma.setColor(QPalette::ButtonText, Qt::white);
@@ -229,6 +226,8 @@ TEST_F(Leikepoytatesti, SavingAndClosingTakeWhatIsStillBeingWritten) {
   viestit.AsetaSeuraavaVastaus(Vastaus::Peruuta);
   EXPECT_FALSE(ikkuna->close()) << "there is something to be saved";
   EXPECT_EQ(tilat.TotSahkoKuormaPros, 60);
+  viestit.AsetaSeuraavaVastaus(Vastaus::Ei);
+  EXPECT_TRUE(ikkuna->close());
 }
 
 TEST_F(Leikepoytatesti, FieldsThatCannotBeWrittenInAndListsAreCopiedOnly) {
@@ -253,17 +252,6 @@ TEST_F(Leikepoytatesti, WhatAFormCommitsCanBeUndoneByItsKeyAtOnce) {
   luettelo.setFocus();
   QTest::keyClick(&luettelo, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(istunto.Rakennus()->Tilat.Count(), 1);
-}
-
-TEST_F(PaaikkunaTesti, ClosingAsksAndObeys) {
-  ASSERT_TRUE(istunto.Avaa(kohde));
-  istunto.Rakennus()->Tallennettu = false;
-  viestit.AsetaSeuraavaVastaus(Vastaus::Peruuta);
-  EXPECT_FALSE(ikkuna->close());
-  EXPECT_TRUE(ikkuna->isVisible());
-  viestit.AsetaSeuraavaVastaus(Vastaus::Ei);
-  EXPECT_TRUE(ikkuna->close());
-  EXPECT_FALSE(ikkuna->isVisible());
 }
 
 TEST_F(PaaikkunaTesti, ThePlaceIsKeptInTwips) {

@@ -2,7 +2,6 @@
 // Structures and materials picked from the library into the dialogs; a stand-in answers in the server's place.
 #include "tests/building/Koerakennus.h"
 #include "tests/tuki/Koerakennekirjasto.h"
-#include "ui/Ikkunaton.h"
 
 namespace {
 
@@ -31,7 +30,7 @@ Rakenneratkaisu Kirjastoikkuna() {
 
 class Kirjastohaku : public RakennusTesti {
  protected:
-  Kirjastohaku() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms"), tila(LisaaTila(500, 200)) {
+  Kirjastohaku() : tila(LisaaTila(500, 200)) {
     LisaaRakenne(tila, Rakennelaji::Ulkoseina, 120, 0.28);
     LisaaRakenne(tila, Rakennelaji::Ovi, 4, 1.4);
     rakennus->PaivitaInstanssiIdLista();
@@ -57,7 +56,6 @@ class Kirjastohaku : public RakennusTesti {
     return kerrokset.Item(kerrokset.Count());
   }
 
-  Ikkunattomat ikkunat;
   clsTila& tila;
   Koerakennekirjasto kirjasto;
 };
@@ -116,7 +114,8 @@ TEST_F(Kirjastohaku, WordThatIsNotKnownKeepsTheKindAndUnknownUTheValue) {
   EXPECT_EQ(Seina().U_arvo(), 0.28);
 }
 
-TEST_F(Kirjastohaku, LibraryClosesWithItsStructureItsLayersAndTheDialog) {
+TEST_F(Kirjastohaku, LibraryClosesWithItsStructureItsLayersAndTheDialogAndCancelRestores) {
+  const auto ennen = tila.Kopioi();
   Muokkaa([this](Ikkunaton& l) {
     const auto hae = [&] {
       l.KayttajaPainaa("cmdHaeKirjastosta");
@@ -134,24 +133,14 @@ TEST_F(Kirjastohaku, LibraryClosesWithItsStructureItsLayersAndTheDialog) {
     l.KayttajaPainaa("cmdPoistaRakenne");
     EXPECT_FALSE(kirjasto.Auki());
     hae();
+    kirjasto.Valitse(Kirjastoikkuna());
+    hae();
     l.KayttajaPainaa("cmdPeruuta");
   });
   EXPECT_FALSE(kirjasto.Auki());
+  EXPECT_EQ(Muutoksia(tila, *ennen), 0);
   EXPECT_EQ(tila.Rakenteet.Count(), 2);
-  EXPECT_FALSE(Seina().RakenneRatkaisu) << "nothing is made by a dialog that was cancelled";
-}
-
-TEST_F(Kirjastohaku, CancelBringsBackWhatThePickReplaced) {
-  const auto ennen = rakennus->Kopioi();
-  Muokkaa([this](Ikkunaton& l) {
-    l.KayttajaPainaa("cmdHaeKirjastosta");
-    kirjasto.Valitse(Kirjastoikkuna());
-    l.KayttajaPainaa("cmdPeruuta");
-  });
-  clsMuuttuneetAttribuutit muutokset;
-  rakennus->VertaileAttribuutit(*ennen, muutokset);
-  EXPECT_EQ(muutokset.Count(), 0);
-  EXPECT_FALSE(Seina().RakenneRatkaisu);
+  EXPECT_FALSE(Seina().RakenneRatkaisu || Ovi().RakenneRatkaisu) << "solutions are outside the comparison";
 }
 
 TEST_F(Kirjastohaku, MaterialsOfALayerArePickedExactly) {

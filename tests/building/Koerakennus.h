@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A building for the tests of the model: global for the life of the fixture, messages collected, weather of the built
-// data (zone I, Helsinki).
+// A building for the tests of the model: global for the life of the fixture, messages collected, dialogs scripted,
+// weather of the built data (zone I, Helsinki).
 #pragma once
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 #include "building/clsRakennus.h"
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "ui/Ikkunaton.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Tekstivarasto.h"
 
@@ -68,6 +69,14 @@ class RakennusTesti : public testing::Test {
     tiedot.OtaKayttoon(0);
   }
 
+  /// How many attributes of the space and of what is below it differ from a copy made before.
+  int Muutoksia(clsTila& tila, clsTila& ennen) const {
+    clsMuuttuneetAttribuutit muutokset;
+    VertaileOliot(tila, ennen, muutokset, rakennus->TyyppiTiedot);
+    return muutokset.Count();
+  }
+
   KerataanViestit viestit;
+  Ikkunattomat ikkunat{LUMIVIRTA_LAHDE "/ui/forms"};
   std::unique_ptr<clsRakennus> rakennus;
 };

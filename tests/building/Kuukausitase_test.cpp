@@ -9,7 +9,6 @@
 #include "results/Laskentataulukko.h"
 #include "tests/building/Koerakennus.h"
 #include "tests/kernel/Koehakemisto.h"
-#include "ui/Ikkunaton.h"
 
 namespace {
 
@@ -18,9 +17,7 @@ constexpr Tasetermi kKuormaosat[] = {Tasetermi::Sahko, Tasetermi::Henkilot, Tase
 
 class KuukausitaseTesti : public RakennusTesti {
  protected:
-  KuukausitaseTesti() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") { LuoKoulu(); }
-
-  Ikkunattomat ikkunat;
+  KuukausitaseTesti() { LuoKoulu(); }
 };
 
 double Summa(const Kuukausitase& tase, std::span<const Tasetermi> termit, std::size_t m) {
@@ -53,13 +50,6 @@ TEST_F(KuukausitaseTesti, TheYearIsTheBuildingsOwnDemandAndTheBuildingTheSumOfIt
   for (clsTila& tila : rakennus->Tilat) summa += LaskeKuukausitase(*rakennus, tila).NormitettuTarve();
   EXPECT_NEAR(summa, koko.NormitettuTarve(), 1e-6);
   EXPECT_FALSE(rakennus->Tilat.VuotuinenLampoEnergianTarveUpToDate()) << "no cache is left on";
-}
-
-TEST_F(KuukausitaseTesti, ASpaceWithoutStructuresOrMachinesLosesItsLeakageAlone) {
-  const Kuukausitase tase = LaskeKuukausitase(*rakennus, LisaaTila(1000, 300));
-  EXPECT_EQ(tase.Vuosi(Tasetermi::Johtuminen), 0);
-  EXPECT_EQ(tase.Vuosi(Tasetermi::Ilmanvaihtokoneet), 0);
-  EXPECT_EQ(tase.Vuosi(Tasetermi::Vuotoilma), tase.Vuosi(Tasetermi::Haviot));
 }
 
 TEST_F(KuukausitaseTesti, TheDialogShowsTheFiguresAndHowTheYearIsScaled) {

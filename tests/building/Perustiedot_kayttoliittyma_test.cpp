@@ -2,14 +2,13 @@
 // The basic-data dialog and the heat summary, driven as a person would, without a screen.
 #include "kernel/Luvut.h"
 #include "tests/building/Koerakennus.h"
-#include "ui/Ikkunaton.h"
 #include "ui/frmLampoYhteenveto.h"
 
 namespace {
 
 class DialogiTesti : public RakennusTesti {
  protected:
-  DialogiTesti() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+  DialogiTesti() {
     AlustaPerustiedot(rakennus->Perustiedot);
     AlustaToteutuneetKulutukset(rakennus->Perustiedot.ToteutuneetKulutukset);
   }
@@ -22,8 +21,6 @@ class DialogiTesti : public RakennusTesti {
     lomake.KayttajaValitsee("cmbPaikkakunta", "Kuopio");
     lomake.KayttajaKirjoittaa("txtLampo1", "20,4");
   }
-
-  Ikkunattomat ikkunat;
 };
 
 TEST_F(DialogiTesti, TheFirstOkMakesTheModel) {
@@ -89,19 +86,6 @@ TEST_F(DialogiTesti, AConstantShareAboveTheMeasuredHeatIsRefused) {
   });
   rakennus->Perustiedot.NaytaKayttoliityma();
   EXPECT_EQ(rakennus->Perustiedot.ToteutuneetKulutukset.Item(1).Lampo, 0);
-}
-
-TEST_F(DialogiTesti, LettersInANumberFieldAreRefusedAndTheDialogStays) {
-  ikkunat.KunNaytetaan("frmPerustiedot", [this](Ikkunaton& lomake) {
-    TaytaOmakotitalo(lomake);
-    lomake.KayttajaKirjoittaa("txtBruttoAla", "sata");
-    lomake.KayttajaPainaa("cmdOk");
-    EXPECT_TRUE(lomake.Auki());
-    EXPECT_EQ(lomake.Kohdistettu(), "txtBruttoAla");
-    EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "error 1008";
-    lomake.KayttajaPainaa("cmdPeruuta");
-  });
-  rakennus->Perustiedot.NaytaKayttoliityma();
 }
 
 TEST_F(DialogiTesti, HeatSummaryShowsTheModelBesideTheMeasuredHeat) {

@@ -3,33 +3,17 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include <filesystem>
-#include <set>
 
-#include "kernel/Hakemistot.h"
 #include "kernel/Luvut.h"
 #include "kernel/Vertailu.h"
-#include "kernel/Virhe.h"
 #include "tests/building/Koerakennus.h"
 #include "tests/kernel/Koehakemisto.h"
-#include "ui/Ikkunaton.h"
 
 namespace {
 
 class TiedostoTesti : public RakennusTesti {
  protected:
   TiedostoTesti() : tiedosto((hakemisto / "Kohde.lvt").string()) { LuoKoulu(); }
-
-  std::set<std::string> Sarake(const std::string& sql) const {
-    SQLite::Database kanta(tiedosto, SQLite::OPEN_READONLY);
-    SQLite::Statement kysely(kanta, sql);
-    std::set<std::string> arvot;
-    while (kysely.executeStep()) arvot.insert(kysely.getColumn(0).getString());
-    return arvot;
-  }
-  void Muuta(const std::string& sql) const {
-    SQLite::Database kanta(tiedosto, SQLite::OPEN_READWRITE);
-    kanta.exec(sql);
-  }
 
   Koehakemisto hakemisto;
   std::string tiedosto;
@@ -55,39 +39,23 @@ TEST_F(TiedostoTesti, SaveLoadAndCompareShowNoChange) {
   std::erase_if(muutokset.muutokset, [](const Muutos& m) { return m.clsTypeName == "clsProjektiAsetukset"; });
   ASSERT_EQ(muutokset.muutokset.size(), 1u);
   EXPECT_EQ(muutokset.muutokset[0].arvoJalkeenStr, "IsObjectGet ");
-  EXPECT_EQ(luettu.Tilat.Item(1).Rakenteet.Item(3).RakenneRatkaisu->Karmikerroin,
-            rakennus->Tilat.Item(1).Rakenteet.Item(3).RakenneRatkaisu->Karmikerroin);
   EXPECT_EQ(luettu.VuotuinenBruttoLampoEnergia(), lampo) << "to the last bit";
   EXPECT_TRUE(viestit.Naytetyt().empty());
 }
 
-TEST_F(TiedostoTesti, ASecondSaveKeepsIdentitiesAndRenewsRowKeys) {
-  ASSERT_TRUE(rakennus->Tallenna(tiedosto));
-  const auto tunnisteet = Sarake("SELECT InstanssiId FROM clsRakenne");
-  const auto rivit = Sarake("SELECT ObjID FROM clsRakenne");
-  ASSERT_TRUE(rakennus->Tallenna(tiedosto));
-  EXPECT_EQ(Sarake("SELECT InstanssiId FROM clsRakenne"), tunnisteet);
-  for (const std::string& rivi : Sarake("SELECT ObjID FROM clsRakenne")) EXPECT_FALSE(rivit.contains(rivi));
-  EXPECT_FALSE(std::filesystem::exists(AppPath() + "~backup1lvt.old"));
-}
-
-TEST_F(TiedostoTesti, AFailedSaveIsToldAndTheObjectStaysUnsaved) {
+TEST_F(TiedostoTesti, AFailedSaveNamesTheValueAndTheObjectStaysUnsaved) {
   rakennus->Tallennettu = true;
-  EXPECT_FALSE(rakennus->Tallenna((hakemisto / "ei ole/Kohde.lvt").string()));
-  EXPECT_FALSE(rakennus->Tallennettu);
-  EXPECT_EQ(viestit.Esiintymia(Teksti(9516)), 1);
-
-  viestit.Tyhjenna();
   rakennus->Tilat.Item(1).BruttoAla = std::numeric_limits<double>::quiet_NaN();
   EXPECT_FALSE(rakennus->Tallenna(tiedosto));
-  EXPECT_EQ(viestit.Esiintymia("clsTila.BruttoAla"), 1) << "class and member of the value are named";
+  EXPECT_FALSE(rakennus->Tallennettu);
+  EXPECT_EQ(viestit.Esiintymia("clsTila.BruttoAla"), 1);
   EXPECT_FALSE(std::filesystem::exists(tiedosto));
 }
 
 TEST_F(TiedostoTesti, DamagedValuesGetDefaultsAndTheNextSaveKeepsTheFile) {
   ASSERT_TRUE(rakennus->Tallenna(tiedosto));
-  Muuta("UPDATE clsTila SET Kokonaistilavuus = 'paljon'");
-  Muuta("DELETE FROM clsRakenne WHERE OrderID = 4");
+  SQLite::Database(tiedosto, SQLite::OPEN_READWRITE)
+      .exec("UPDATE clsTila SET Kokonaistilavuus = 'paljon'; DELETE FROM clsRakenne WHERE OrderID = 4");
   clsRakennus luettu;
   AsetaGlobaaliRakennus(&luettu);
   luettu.Hae(tiedosto);
@@ -99,18 +67,11 @@ TEST_F(TiedostoTesti, DamagedValuesGetDefaultsAndTheNextSaveKeepsTheFile) {
   EXPECT_TRUE(std::filesystem::exists(tiedosto + ".ennen"));
 }
 
-TEST_F(TiedostoTesti, AForeignFileIsNoProject) {
-  KirjoitaTiedosto(tiedosto, "Tämä on muistio.");
-  clsRakennus uusi;
-  EXPECT_THROW(uusi.Hae(tiedosto), Virhe);
-  EXPECT_EQ(LueTiedosto(tiedosto), "Tämä on muistio.");
-}
-
 /// A project whose first structure was made with an older structure database and takes its U-value from layers, the
 /// innermost of which has another conductivity than the library.
 class VanhaKanta : public TiedostoTesti {
  protected:
-  VanhaKanta() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+  VanhaKanta() {
     clsRakenne& seina = Seina(*rakennus);
     seina.RakennekannanVersio = 0;
     seina.LaskeU_arvoMateriaaleista = true;
@@ -127,12 +88,14 @@ class VanhaKanta : public TiedostoTesti {
     EXPECT_EQ(viestit.VastauksiaJaljella(), 0u);
   }
 
-  Ikkunattomat ikkunat;
   clsRakennus luettu;
   float lambda = 0;
 };
 
 TEST_F(VanhaKanta, ChangesAreListedAndTakenOnlyWhenAccepted) {
+  Avaa(Vastaus::Ei);
+  EXPECT_EQ(Aine(luettu).Lambda, 9);
+  EXPECT_EQ(Seina(luettu).RakennekannanVersio, 0) << "asked again at the next opening";
   for (const char* nappi : {"cmdPeruuta", "cmdOk"}) {
     ikkunat.KunNaytetaan("frmMateriaalimuutokset", [&](Ikkunaton& l) {
       const Taulukko& rivit = l.Etsi("lvwMuutokset").Rivit();
@@ -150,12 +113,6 @@ TEST_F(VanhaKanta, ChangesAreListedAndTakenOnlyWhenAccepted) {
     EXPECT_EQ(Seina(luettu).RakennekannanVersio, hyvaksytty ? 1 : 0);
     EXPECT_EQ(luettu.Tallennettu, !hyvaksytty) << "what was taken isn't in the file yet";
   }
-}
-
-TEST_F(VanhaKanta, NoLeavesEverything) {
-  Avaa(Vastaus::Ei);
-  EXPECT_EQ(Aine(luettu).Lambda, 9);
-  EXPECT_EQ(Seina(luettu).RakennekannanVersio, 0) << "asked again at the next opening";
 }
 
 TEST_F(VanhaKanta, UnreadableLibraryIsToldAndTheObjectOpens) {

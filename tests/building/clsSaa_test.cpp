@@ -93,12 +93,4 @@ TEST_F(RakennusTesti, LocalitiesOutsideTheListChangeNothingAndCopiesCarryNoTable
   EXPECT_EQ(saa.Keskilampotila(0), tammikuu) << "writing a copy back keeps the live tables";
 }
 
-TEST_F(RakennusTesti, EachLocalityReadsItsZone) {
-  constexpr int kVyohykkeet[] = {1, 1, 4, 3, 3, 3, 3, 2, 2, 1, 3, 1, 4, 2, 1, 2};
-  for (int i = 0; i < 16; ++i) {
-    rakennus->Saa.AsetaSaaPaikkakunta(i);
-    EXPECT_EQ(rakennus->Saa.SaaFileNimi, "SaaVyohyke" + std::to_string(kVyohykkeet[i]) + ".txt") << "locality " << i;
-  }
-}
-
 }  // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
-#include "kernel/Virhe.h"
 #include "tests/measures/Asetuskansio.h"
 
 namespace {
@@ -44,17 +43,6 @@ TEST_F(LammitysSahko, SahkollaLammitettyKayttovesiSiirtyySahkoonKiertoineen) {
   rakennus_.VedenKulutusryhmat.LKVTiedot.Sahkolammitys = true;
   EXPECT_DOUBLE_EQ(ryhmat_.LammitysSahkonVuosikulutus(), 18.3522);
   EXPECT_DOUBLE_EQ(ryhmat_.Vuosikulutus(), 18.3522);
-}
-
-TEST_F(LammitysSahko, IlmanLaskentakohdettaOnVirhe) {
-  AsetaGlobaaliRakennus(nullptr);
-  EXPECT_THROW(ryhmat_.LammitysSahkonVuosikulutus(), Virhe);
-}
-
-TEST_F(LammitysSahko, TilaanLiittymatonOnKoneJonkaTilaaEiOle) {
-  for (const char* tila : {"a", "", "poistettu"}) rakennus_.IVKoneet.Add().LiittyyTilaansKey = tila;
-  const std::vector<clsIVKone*> koneet = rakennus_.IVKoneet.ListaaTilaanLiittymattomatIVKoneet();
-  EXPECT_EQ(koneet, (std::vector{&rakennus_.IVKoneet.Item(2), &rakennus_.IVKoneet.Item(3)}));
 }
 
 }  // namespace

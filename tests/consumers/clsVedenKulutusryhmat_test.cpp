@@ -86,15 +86,9 @@ TEST_F(VesiryhmatTesti, KayttoJaProsessivesiLasketaanErikseen) {
   EXPECT_DOUBLE_EQ(ryhmat_.VuotuinenProsessivedenLammityksenEnergia(), kSuihkujenLampo);
 }
 
-TEST_F(VesiryhmatTesti, KiertopiirinHavioLisataanKayttoveteen) {
-  EXPECT_EQ(ryhmat_.LKVKiertopiirinHavio(), 0);
+TEST_F(VesiryhmatTesti, KiertoLisataanKayttoveteenJaSahkolammitysSiirtaaLammonSahkoonLajeittain) {
   ryhmat_.LKVKiertoVirtaama = 0.1;  // 5 K all year
-  EXPECT_DOUBLE_EQ(ryhmat_.LKVKiertopiirinHavio(), 18352.2);
   EXPECT_DOUBLE_EQ(ryhmat_.VuotuinenLkvLammityksenEnergia(), kSuihkujenLampo + 18.3522);
-}
-
-TEST_F(VesiryhmatTesti, SahkolammitysSiirtaaLammonSahkoonLajeittain) {
-  ryhmat_.LKVKiertoVirtaama = 0.1;
   EXPECT_EQ(ryhmat_.VuotuinenLkvSahkoLammityksenEnergia(), 0);
   EXPECT_EQ(ryhmat_.VuotuinenProsessivedenSahkoLammityksenEnergia(), 0);
   ryhmat_.LKVTiedot.Sahkolammitys = true;

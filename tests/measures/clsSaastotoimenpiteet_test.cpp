@@ -19,19 +19,6 @@ TEST_F(clsSaastotoimenpiteetTesti, ToimenpiteetLoytyvatKohteensaTunnisteella) {
   EXPECT_TRUE(toimenpiteet.LiittyykoToimenpidetta(toinen.InstanssiId).empty());
 }
 
-TEST(clsSaastotoimenpiteet, SolmutPysyvatLisaysjarjestyksessa) {
-  clsSaastotoimenpiteet toimenpiteet;
-  toimenpiteet.AddListaItem("sKeyKokoKohde", "", "Koko kohde", 0);
-  toimenpiteet.AddListaItem("sKeySahko", "sKeyKokoKohde", "Sähkö", 0);
-  toimenpiteet.AddListaItem("sKeyVesi", "sKeyKokoKohde", "Vesi", 0);
-  toimenpiteet.AddListaItem("a", "sKeySahko", "Lampunvaihto", 1).ValittuTaulukko2een = true;
-  const auto kopio = toimenpiteet.Kopioi();
-  EXPECT_EQ(kopio->ListaItem(2).NimiTeksti, "Sähkö");
-  EXPECT_EQ(kopio->ListaItem(4).Parent, Tunniste("sKeySahko"));
-  EXPECT_TRUE(kopio->ListaItem("a").ValittuTaulukko2een);
-  EXPECT_TRUE(kopio->ListaItem("a").Visible);
-}
-
 TEST(clsValitutToimenpiteet, RiviLisataanAnnetunRivinJalkeenTaiLoppuun) {
   clsToimenpiteidenJarjestelija jarjestelija;
   clsValitutToimenpiteet& rivit = jarjestelija.ValitutToimenpiteet;

@@ -5,7 +5,7 @@
 #include "kernel/Hakemistot.h"
 #include "settings/Asetusavaimet.h"
 #include "settings/clsLumivirtaAsetukset.h"
-#include "tests/kernel/Koehakemisto.h"
+#include "tests/measures/Asetuskansio.h"
 #include "ui/Ikkunaton.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Lomakekaannos.h"
@@ -13,13 +13,11 @@
 #include "ui/Tekstivarasto.h"
 #include "ui/frmOptions.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
-class Asetusdialogit : public testing::Test {
+class Asetusdialogit : public Asetuskansio {
  protected:
-  Asetusdialogit() : ikkunat_(LUMIVIRTA_LAHDE "/ui/forms") {
+  Asetusdialogit() {
     AsetaViestit(&viestit_);
     AlustaTekstit();
     TallennaAsetus(Avain::CurrentUserRealName, "Aino Åberg");
@@ -39,10 +37,8 @@ class Asetusdialogit : public testing::Test {
   }
   std::string Ini() const { return LueTiedosto(koti_ / "config" / "lumivirta" / "asetukset.ini"); }
 
-  Koehakemisto koti_;
-  Ymparistomuuttuja config_{"XDG_CONFIG_HOME", (koti_ / "config").string()};
   KerataanViestit viestit_;
-  Ikkunattomat ikkunat_;
+  Ikkunattomat ikkunat_{LUMIVIRTA_LAHDE "/ui/forms"};
 };
 
 TEST_F(Asetusdialogit, OkWithoutEditsLeavesTheStoreByteForByte) {

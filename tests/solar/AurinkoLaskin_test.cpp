@@ -67,29 +67,17 @@ TEST_F(AurinkoLaskinTesti, KulmaNollaJaVaakatasoOvatVarjostamattomia) {
   for (int suuntaus = kPohjoinen; suuntaus <= kVaaka; ++suuntaus) {
     AurinkoLaskin laskin = Laskin();
     laskin.Vyohykkeet.Add({});
+    laskin.HorisonttiKulma((suuntaus + 1) % 4, 30);  // of another orientation
     laskin.Ikkunat.Add(suuntaus == kVaaka ? VarjostettuIkkuna(suuntaus) : Ikkuna(suuntaus));
     laskin.Laske();
     EXPECT_NEAR(laskin.AurinkoEnergia(4), aprilli[suuntaus] * 0.6075, 1e-9) << suuntaus;  // 2 x .9 x .6 x .75 x .75
   }
 }
 
-TEST_F(AurinkoLaskinTesti, HorisonttiKulmaKoskeeVainOmaaSuuntaansa) {
+TEST_F(AurinkoLaskinTesti, IkkunatLasketaanYhteenVyohykkeittain) {
   AurinkoLaskin laskin = Laskin();
   laskin.Vyohykkeet.Add({});
-  laskin.HorisonttiKulma(kEtela, 30);
-  laskin.Ikkunat.Add(Ikkuna(kIta));
-  laskin.Laske();
-  EXPECT_NEAR(laskin.AurinkoEnergia(4), 287.64 * 0.6075, 1e-9);
-}
-
-TEST_F(AurinkoLaskinTesti, IkkunatLasketaanYhteenVyohykkeittainVyohykkeenTiedoistaRiippumatta) {
-  AurinkoLaskin laskin = Laskin();
-  LaskentaVyohyke iso;
-  iso.Tilavuus = 5000;
-  iso.Koko = 900;
-  for (int kk = 1; kk <= 12; ++kk) iso.Asetuslampotila(kk) = 10 + kk;
   laskin.Vyohykkeet.Add({});
-  laskin.Vyohykkeet.Add(iso);
   LaskentaIkkuna toisessa = Ikkuna(kEtela);
   toisessa.Vyohyke = 2;
   laskin.Ikkunat.Add(toisessa);
@@ -98,8 +86,6 @@ TEST_F(AurinkoLaskinTesti, IkkunatLasketaanYhteenVyohykkeittainVyohykkeenTiedois
   laskin.Laske();
   EXPECT_NEAR(laskin.AurinkoEnergia(4, 1), (386.28 + 158.04) * 0.6075, 1e-9);
   EXPECT_NEAR(laskin.AurinkoEnergia(4, 2), 386.28 * 0.6075, 1e-9);
-  EXPECT_EQ(laskin.Keskilampotila(12, 2), 22);
-  EXPECT_EQ(laskin.Vyohykkeet.Item(2).Tilavuus, 5000);
 }
 
 TEST_F(AurinkoLaskinTesti, PuuttuvaTaiVaaraTietoOnVirheEikaJataTulosta) {
@@ -126,38 +112,28 @@ TEST_F(AurinkoLaskinTesti, PuuttuvaTaiVaaraTietoOnVirheEikaJataTulosta) {
 }
 
 TEST_F(AurinkoLaskinTesti, TiedostoLuetaanKerranJaUnohdetaanPyydettaessa) {
-  const auto huhtikuu = [&] {
+  const auto huhtikuu = [&](const std::string& saatiedosto) {
     AurinkoLaskin laskin = Laskin();
+    laskin.LataaSaa(saatiedosto);
     laskin.Vyohykkeet.Add({});
     laskin.Ikkunat.Add(Ikkuna(kEtela));
     laskin.Laske();
     return laskin.AurinkoEnergia(4);
   };
-  const double ennen = huhtikuu();
+  const double ennen = huhtikuu(saa);
   std::string kirkas = kSaaVyohyke1;
   kirkas.replace(kirkas.find("386.28"), 6, "772.56");
   Kirjoita("SaaVyohyke1.txt", kirkas);
-  EXPECT_EQ(huhtikuu(), ennen);
+  EXPECT_EQ(huhtikuu(saa), ennen);
 
-  const std::string toinen = Kirjoita("SaaVyohyke2.txt", kirkas);  // another path is another file
-  AurinkoLaskin laskin = Laskin();
-  laskin.LataaSaa(toinen);
-  laskin.Vyohykkeet.Add({});
-  laskin.Ikkunat.Add(Ikkuna(kEtela));
-  laskin.Laske();
-  EXPECT_NEAR(laskin.AurinkoEnergia(4), 2 * ennen, 1e-9);
-  EXPECT_EQ(huhtikuu(), ennen);
+  const std::string toinen = Polku("SaaVyohyke2.txt");
+  EXPECT_NE(Virheteksti([&] { huhtikuu(toinen); }).find(toinen), std::string::npos);
+  Kirjoita("SaaVyohyke2.txt", kirkas);  // another path is another file, and one that was missing is looked for again
+  EXPECT_NEAR(huhtikuu(toinen), 2 * ennen, 1e-9);
+  EXPECT_EQ(huhtikuu(saa), ennen);
 
   TyhjennaAurinkotaulukot();
-  EXPECT_NEAR(huhtikuu(), 2 * ennen, 1e-9);
-}
-
-TEST_F(AurinkoLaskinTesti, PuuttuvaTiedostoLuetaanKunSeOnTullut) {
-  AurinkoLaskin laskin;
-  const std::string polku = Polku("SaaVyohyke3.txt");
-  EXPECT_NE(Virheteksti([&] { laskin.LataaSaa(polku); }).find(polku), std::string::npos);
-  Kirjoita("SaaVyohyke3.txt", kSaaVyohyke1);
-  EXPECT_EQ(Virheteksti([&] { laskin.LataaSaa(polku); }), "");
+  EXPECT_NEAR(huhtikuu(saa), 2 * ennen, 1e-9);
 }
 
 TEST_F(AurinkoLaskinTesti, YhdenIkkunanLaskentaEiVaraaMuistia) {

@@ -18,20 +18,6 @@
 
 namespace {
 
-/// Values that no member has by default and that no two members share.
-class ErillisetArvot {
- public:
-  Variantti Seuraava(Laji laji) {
-    ++n_;
-    if (laji == Laji::Teksti) return "arvo " + std::to_string(n_);
-    if (laji == Laji::Totuus) return true;
-    return static_cast<std::int16_t>(n_);
-  }
-
- private:
-  int n_ = 1000;
-};
-
 std::string Tekstina(const Olio& olio, const Jasen& jasen) {
   ArvoNakyma arvo;
   jasen.nayta(olio, arvo);
@@ -52,18 +38,17 @@ using Luokat =
                    clsToimenpiteidenJarjestelija>;
 TYPED_TEST_SUITE(Jasentaulu, Luokat);
 
-/// Two rows of a table that show one member by mistake would give one value; a member that a copy forgets would differ.
-TYPED_TEST(Jasentaulu, JokainenArvoAsettuuNimellaOmaanJaseneensaJaKopioituu) {
+/// Two rows of a table that show one member by mistake would give one value.
+TYPED_TEST(Jasentaulu, JokainenArvoAsettuuNimellaOmaanJaseneensa) {
   TypeParam olio;
-  ErillisetArvot arvot;
-  for (const Jasen& jasen : TypeParam::kLuokka.Jasenet())
-    if (!jasen.OnOlio() && jasen.laji != Laji::Totuus) AsetaJasen(olio, jasen.nimi, arvot.Seuraava(jasen.laji));
-  std::set<std::string> luetut;
-  const auto kopio = olio.Kopioi();
+  int arvo = 1000;
   for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
-    if (jasen.OnOlio()) continue;
-    EXPECT_EQ(Tekstina(*kopio, jasen), Tekstina(olio, jasen)) << jasen.nimi;
-    if (jasen.laji == Laji::Totuus) continue;
+    if (jasen.OnOlio() || jasen.laji == Laji::Totuus) continue;
+    AsetaJasen(olio, jasen.nimi, std::to_string(++arvo));
+  }
+  std::set<std::string> luetut;
+  for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
+    if (jasen.OnOlio() || jasen.laji == Laji::Totuus) continue;
     EXPECT_TRUE(luetut.insert(Tekstina(olio, jasen)).second) << jasen.nimi;
   }
 }
