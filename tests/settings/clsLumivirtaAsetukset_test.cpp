@@ -30,15 +30,6 @@ class AsetuksetTesti : public Asetuskansio {
   KerataanViestit viestit_;
 };
 
-TEST_F(AsetuksetTesti, TyhjaVarastoAntaaOletukset) {
-  const auto a = Luettu();
-  EXPECT_EQ(a.YleinenALV, 22);
-  EXPECT_EQ(a.strDefaultCurrencyUnit, "mk");
-  EXPECT_NEAR(a.SahkoVeroKotitalous, 7.021846, 1e-6);  // 41.75 mk/MWh is tax class 1
-  EXPECT_NEAR(a.SahkoVeroTeollisuus, 4.330839, 1e-6);
-  EXPECT_EQ(a.TietokannanVersio(), 1);
-}
-
 TEST_F(AsetuksetTesti, ValuuttaVaihtaaNaytonKertoimenJaNimen) {
   TallennaAsetus(Avain::Valuutta, "1");
   TallennaAsetus(Avain::TotSahko, MiljoonasosinaTekstina(25.5));
@@ -54,7 +45,7 @@ TEST_F(AsetuksetTesti, ValuuttaVaihtaaNaytonKertoimenJaNimen) {
   EXPECT_EQ(a.NayttoKerroin(Energialaji::Vesi), 1936.27);
 }
 
-TEST_F(AsetuksetTesti, KelvottomatArvotKorvautuvatOletuksilla) {
+TEST_F(AsetuksetTesti, PuuttuvatJaKelvottomatArvotKorvautuvatOletuksilla) {
   TallennaAsetus(Avain::YleinenALV, "kaksikymmentä");
   TallennaAsetus(Avain::Valuutta, "99");
   TallennaAsetus(Avain::Veroluokka1, "");
@@ -62,6 +53,9 @@ TEST_F(AsetuksetTesti, KelvottomatArvotKorvautuvatOletuksilla) {
   EXPECT_EQ(a.YleinenALV, 22);
   EXPECT_EQ(a.ValuuttaTyyppi(), 0);
   EXPECT_EQ(a.dblSahkoVeroluokka1, 7.021846);
+  EXPECT_NEAR(a.SahkoVeroKotitalous, 7.021846, 1e-6);  // 41.75 mk/MWh is tax class 1
+  EXPECT_NEAR(a.SahkoVeroTeollisuus, 4.330839, 1e-6);
+  EXPECT_EQ(a.TietokannanVersio(), 1);
   TallennaAsetus(Avain::MainLeft, "99999999999");
   EXPECT_EQ(HaeKokonaisluku(Avain::MainLeft), 1000);
 }
