@@ -13,8 +13,8 @@
 #include "building/Yhteiset.h"
 #include "kernel/Kirjoitussuoja.h"
 #include "tests/app/Koekoti.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Ikkunaton.h"
-#include "ui/KerataanViestit.h"
 #include "ui/Lomake.h"
 #include "ui/Paaikkuna.h"
 
@@ -35,18 +35,13 @@ void Kirjoita(const std::string& tiedosto, const std::string& sisalto) { std::of
 class IstuntoTesti : public testing::Test {
  protected:
   IstuntoTesti() {
-    AsetaViestit(&viestit);
-    HyvaksyPerustiedot();
+    lomakkeet.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) { lomake.KayttajaPainaa("cmdOk"); });
   }
   ~IstuntoTesti() override {
     EXPECT_EQ(viestit.VastauksiaJaljella(), 0u) << "an answer that was never asked for";
     istunto.SuljeKohde();
-    AsetaViestit(nullptr);
   }
 
-  void HyvaksyPerustiedot() {
-    lomakkeet.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) { lomake.KayttajaPainaa("cmdOk"); });
-  }
   void PeruutaPerustiedot() {
     lomakkeet.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) { lomake.KayttajaPainaa("cmdPeruuta"); });
   }
@@ -88,7 +83,7 @@ class IstuntoTesti : public testing::Test {
   const std::string& ViimeTeksti() const { return viestit.Naytetyt().back().teksti; }
 
   Koekoti koti;
-  KerataanViestit viestit;
+  Koeviestit viestit;
   Ikkunattomat lomakkeet{LUMIVIRTA_LAHDE "/ui/forms"};
   Otsikot paaikkuna;
   Istunto istunto;

@@ -10,7 +10,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "tests/app/Koekoti.h"
-#include "ui/KerataanViestit.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Lomake.h"
 #include "ui/qt/Kirjastoyhteys.h"
 #include "ui/qt/QtIkkuna.h"
@@ -22,7 +22,6 @@ constexpr int kEnintaan_ms = 20000;
 class OikeaKirjasto : public testing::Test {
  protected:
   OikeaKirjasto() {
-    AsetaViestit(&viestit_);
     AsetaQtLomakkeet(nullptr);
     AsetaGlobaaliRakennus(&rakennus_);
     rakennus_.Perustiedot.LammTarveLukuPaikkakuntaID(1);
@@ -34,7 +33,6 @@ class OikeaKirjasto : public testing::Test {
   ~OikeaKirjasto() override {
     AsetaGlobaaliRakennus(nullptr);
     AsetaLomakesovitin(nullptr);
-    AsetaViestit(nullptr);
   }
   clsRakenteet& Rakenteet() { return rakennus_.Tilat.Item(1).Rakenteet; }
   const clsRakenne& Seina() { return Rakenteet().Item(1); }
@@ -60,9 +58,16 @@ class OikeaKirjasto : public testing::Test {
 
   Koekoti koti_;
   Ymparistomuuttuja ajohakemisto_{"XDG_RUNTIME_DIR", koti_.hakemisto.Polku().string()};
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
   clsRakennus rakennus_;
 };
+
+TEST_F(OikeaKirjasto, ClosedWithoutAPickItLeavesTheStructure) {
+  Hae("sulje");
+  EXPECT_FALSE(Seina().RakenneRatkaisu);
+  EXPECT_EQ(Seina().U_arvo(), 0.28);
+  EXPECT_TRUE(viestit_.Naytetyt().empty());
+}
 
 TEST_F(OikeaKirjasto, PickSurvivesTheDeathOfTheServer) {
   Hae("kuole:" + koti_.Tiedosto("kuoli"));

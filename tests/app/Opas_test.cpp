@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QTimer>
 #include <fstream>
 #include <sstream>
@@ -16,11 +15,10 @@
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "tests/app/Koekoti.h"
-#include "ui/KerataanViestit.h"
-#include "ui/Lomake.h"
+#include "tests/tuki/Ikkunatesti.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
-#include "ui/qt/QtIkkuna.h"
 
 namespace {
 
@@ -53,22 +51,14 @@ TEST(Opas, PikanappaimetOvatValikonNappaimia) {
   EXPECT_NE(OppaanSivu("nappaimet.md").find(PikanappaintenTaulu()), std::string::npos) << PikanappaintenTaulu();
 }
 
-void TallennaKuva(QWidget& ikkuna, const std::string& nimi) {
-  const QString kansio = qEnvironmentVariable("LUMIVIRTA_KUVAT");
-  if (kansio.isEmpty()) return;
-  QDir().mkpath(kansio);
-  EXPECT_TRUE(ikkuna.grab().save(kansio + '/' + QString::fromStdString(nimi) + ".png"));
-}
-
-void TallennaKuva(const Lomake& lomake) {
-  TallennaKuva(*static_cast<QtIkkuna&>(lomake.Ikkuna()).Juuri(), lomake.Nimi());
-}
+/// The form alone, also when it is inside the main window.
+void KuvaaLomake(const Lomake& lomake) { TallennaKuva(Juuri(lomake), QString::fromStdString(lomake.Nimi())); }
 
 /// Takes the picture of the modal form that opens next, lets `katso` use it and presses its button.
 void KunAuki(const char* nappi, const std::function<void(Lomake&)>& katso = {}) {
   QTimer::singleShot(0, [=] {
     Lomake& lomake = *AvoimetLomakkeet().back();
-    TallennaKuva(lomake);
+    KuvaaLomake(lomake);
     if (katso) katso(lomake);
     lomake.Etsi(nappi).KayttajaPainaa();
   });
@@ -78,7 +68,6 @@ void KunAuki(const char* nappi, const std::function<void(Lomake&)>& katso = {}) 
 class OppaanEsimerkki : public ::testing::Test {
  protected:
   void SetUp() override {
-    AsetaViestit(&viestit_);
     ikkuna_ = std::make_unique<frmMain>(istunto_);
     ikkuna_->resize(700, 500);
     ikkuna_->AsetaPaneeli(Teksti(1092));
@@ -93,13 +82,12 @@ class OppaanEsimerkki : public ::testing::Test {
   void TearDown() override {
     istunto_.SuljeKohde();
     ikkuna_.reset();
-    AsetaViestit(nullptr);
   }
   clsRakennus& rakennus() { return *istunto_.Rakennus(); }
   clsTila& tila() { return *rakennus().Tilat.begin(); }
 
   Koekoti koti_;
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
   Istunto istunto_;
   std::unique_ptr<frmMain> ikkuna_;
 };
@@ -119,7 +107,7 @@ TEST_F(OppaanEsimerkki, LampoyhteenvedonLuvutOvatOppaanLukuja) {
   QApplication::processEvents();
   TallennaKuva(*ikkuna_, "paaikkuna");
   const Lomake& yhteenveto = *AvoinLomake("frmLampoYhteenveto");
-  TallennaKuva(yhteenveto);
+  KuvaaLomake(yhteenveto);
   const std::string opas = OppaanSivu("lampoyhteenveto.md");
   for (const char* kentta : {"txtTilojenLammitys", "txtIlmanvaihtokoneet", "txtYhteensa", "txtToteutunutKulutus",
                              "txtHaviot", "txtHaviotYhteensa"})
@@ -137,7 +125,7 @@ TEST_F(OppaanEsimerkki, RakenteetJaKerros) {
   KunAuki("cmdPeruuta", [](Lomake& rakenteet) {
     rakenteet.Etsi("tabRakenne").Indeksi(1);
     QApplication::processEvents();
-    TallennaKuva(rakenteet);
+    KuvaaLomake(rakenteet);
     EXPECT_NE(OppaanSivu("rakenteet.md").find(rakenteet.Etsi("txtKerrostenUarvo").Teksti()), std::string::npos);
     KunAuki("cmdPeruuta");
     rakenteet.Etsi("lvwKerrokset").Indeksi(1);
@@ -150,7 +138,7 @@ TEST_F(OppaanEsimerkki, Tilat) {
   AsetaQtLomakkeet(nullptr);  // a window of its own has the room that it needs
   rakennus().Tilat.NaytaKayttoliittyma();
   QApplication::processEvents();
-  TallennaKuva(*AvoinLomake("frmTilaYhteenveto"));
+  KuvaaLomake(*AvoinLomake("frmTilaYhteenveto"));
   KunAuki("cmdPeruuta");
   EXPECT_FALSE(tila().NaytaKayttoliittyma());
 }
@@ -159,7 +147,7 @@ TEST_F(OppaanEsimerkki, KoneKayntiajatJaPuhaltimet) {
   AsetaQtLomakkeet(nullptr);
   rakennus().IVKoneet.NaytaKayttoliittyma();
   QApplication::processEvents();
-  TallennaKuva(*AvoinLomake("frmIVKoneYhteenveto"));
+  KuvaaLomake(*AvoinLomake("frmIVKoneYhteenveto"));
   clsIVKone& kone = rakennus().IVKoneet.Item(1);
   const double sahko = kone.Sahko();
   KunAuki("cmdPeruuta", [](Lomake& lomake) {

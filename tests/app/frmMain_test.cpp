@@ -26,7 +26,7 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "settings/Asetusavaimet.h"
 #include "tests/app/Koekoti.h"
-#include "ui/KerataanViestit.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Lomake.h"
 #include "ui/Ohje.h"
 #include "ui/qt/QtOhje.h"
@@ -65,7 +65,6 @@ void AvaaValikko(const QMainWindow& ikkuna, const char* nimi) {
 class PaaikkunaTesti : public testing::Test {
  protected:
   PaaikkunaTesti() {
-    AsetaViestit(&viestit);
     TeeKohde(kohde);
     ikkuna = std::make_unique<frmMain>(istunto);
     ikkuna->show();
@@ -73,13 +72,12 @@ class PaaikkunaTesti : public testing::Test {
   ~PaaikkunaTesti() override {
     istunto.SuljeKohde();
     ikkuna.reset();
-    AsetaViestit(nullptr);
   }
   bool Kaytossa(const char* nimi) const { return Toiminto(*ikkuna, nimi).isEnabled(); }
 
   Koekoti koti;
   std::string kohde = koti.Tiedosto("Koulu.lvt");
-  KerataanViestit viestit;
+  Koeviestit viestit;
   Istunto istunto;
   std::unique_ptr<frmMain> ikkuna;
 };

@@ -8,8 +8,8 @@
 #include "building/clsRakennus.h"
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Ikkunaton.h"
-#include "ui/KerataanViestit.h"
 #include "ui/Tekstivarasto.h"
 
 inline constexpr int kHelsinki = 1, kTampere = 13, kKuopio = 6;
@@ -17,7 +17,6 @@ inline constexpr int kHelsinki = 1, kTampere = 13, kKuopio = 6;
 class RakennusTesti : public testing::Test {
  protected:
   RakennusTesti() {
-    AsetaViestit(&viestit);
     AlustaTekstit();
     Asetukset().HaeRekisteristä();
     rakennus = std::make_unique<clsRakennus>();
@@ -26,7 +25,6 @@ class RakennusTesti : public testing::Test {
     rakennus->Perustiedot.BruttoAla = 1000;
     rakennus->Saa.AsetaSaaPaikkakunta(kHelsinki);
   }
-  ~RakennusTesti() override { AsetaViestit(nullptr); }
   /// The building's forms go before what shows them, which a derived fixture may hold.
   void TearDown() override { rakennus.reset(); }
 
@@ -76,7 +74,7 @@ class RakennusTesti : public testing::Test {
     return muutokset.Count();
   }
 
-  KerataanViestit viestit;
+  Koeviestit viestit;
   Ikkunattomat ikkunat{LUMIVIRTA_LAHDE "/ui/forms"};
   std::unique_ptr<clsRakennus> rakennus;
 };

@@ -88,6 +88,19 @@ TEST_F(DialogiTesti, AConstantShareAboveTheMeasuredHeatIsRefused) {
   EXPECT_EQ(rakennus->Perustiedot.ToteutuneetKulutukset.Item(1).Lampo, 0);
 }
 
+TEST_F(DialogiTesti, LettersInANumberFieldAreRefusedAndTheDialogStays) {
+  ikkunat.KunNaytetaan("frmPerustiedot", [this](Ikkunaton& lomake) {
+    TaytaOmakotitalo(lomake);
+    lomake.KayttajaKirjoittaa("txtBruttoAla", "sata");
+    lomake.KayttajaPainaa("cmdOk");
+    EXPECT_TRUE(lomake.Auki());
+    EXPECT_EQ(lomake.Kohdistettu(), "txtBruttoAla");
+    EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "error 1008";
+    lomake.KayttajaPainaa("cmdPeruuta");
+  });
+  rakennus->Perustiedot.NaytaKayttoliityma();
+}
+
 TEST_F(DialogiTesti, HeatSummaryShowsTheModelBesideTheMeasuredHeat) {
   LuoKoulu();
   rakennus->Perustiedot.ToteutuneetKulutukset.Item(1).Lampo = 800;

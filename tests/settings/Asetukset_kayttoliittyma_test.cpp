@@ -6,8 +6,8 @@
 #include "settings/Asetusavaimet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tests/measures/Asetuskansio.h"
+#include "tests/tuki/Koeviestit.h"
 #include "ui/Ikkunaton.h"
-#include "ui/KerataanViestit.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Ohjaimet.h"
 #include "ui/Tekstivarasto.h"
@@ -18,13 +18,11 @@ namespace {
 class Asetusdialogit : public Asetuskansio {
  protected:
   Asetusdialogit() {
-    AsetaViestit(&viestit_);
     AlustaTekstit();
     TallennaAsetus(Avain::CurrentUserRealName, "Aino Åberg");
   }
   ~Asetusdialogit() override {
     AsetaRahayksikko("€");
-    AsetaViestit(nullptr);
     AsetaVioittumisilmoitus(nullptr);
   }
 
@@ -37,7 +35,7 @@ class Asetusdialogit : public Asetuskansio {
   }
   std::string Ini() const { return LueTiedosto(koti_ / "config" / "lumivirta" / "asetukset.ini"); }
 
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
   Ikkunattomat ikkunat_{LUMIVIRTA_LAHDE "/ui/forms"};
 };
 

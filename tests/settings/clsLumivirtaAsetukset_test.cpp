@@ -5,7 +5,7 @@
 #include "kernel/Hakemistot.h"
 #include "settings/Asetusavaimet.h"
 #include "tests/measures/Asetuskansio.h"
-#include "ui/KerataanViestit.h"
+#include "tests/tuki/Koeviestit.h"
 
 namespace {
 
@@ -13,11 +13,9 @@ class AsetuksetTesti : public Asetuskansio {
  protected:
   AsetuksetTesti() {
     AsetaAppPath((koti_ / "ohjelma").string());
-    AsetaViestit(&viestit_);
     TallennaAsetus(Avain::CurrentUserRealName, "Aino Åberg");
   }
   ~AsetuksetTesti() override {
-    AsetaViestit(nullptr);
     AsetaVioittumisilmoitus(nullptr);
     AsetaAppPath("");
   }
@@ -27,7 +25,7 @@ class AsetuksetTesti : public Asetuskansio {
     return asetukset;
   }
 
-  KerataanViestit viestit_;
+  Koeviestit viestit_;
 };
 
 TEST_F(AsetuksetTesti, ValuuttaVaihtaaNaytonKertoimenJaNimen) {
