@@ -15,7 +15,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "tests/app/Koekoti.h"
-#include "tests/tuki/Ikkunatesti.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
