@@ -108,4 +108,23 @@ TEST(clsSahkonKulutusryhmat, UusinRiviTuleeHetiOtsikkonsaJalkeenJaLuotuListanLop
   EXPECT_EQ(ryhmat.CountListaItems(), 7);
 }
 
+TEST(clsSahkonKulutusryhmat, KopioPalauttaaRyhmatJaRivitSamoihinOlioihin) {
+  clsSahkonKulutusryhmat ryhmat;
+  clsSahkonKulutusryhma& ryhma = ryhmat.Add("a");
+  clsSahkoListaItem& rivi = ryhmat.AddListaItem("a", "", 0, "Pumppu");
+  TaytaSadanWatinLaite(ryhma);
+  const auto varalla = ryhmat.Kopioi();
+  ryhma.KayttoaikaHpD = 1;
+  rivi.NimiTeksti = "Muutettu";
+  ryhmat.Add("b");
+  ryhmat.AddListaItem("b", "", 0, "Lisätty");
+  varalla->Kopioi(ryhmat);
+  EXPECT_EQ(&ryhmat.Item("a"), &ryhma);
+  EXPECT_EQ(&ryhmat.ListaItem("a"), &rivi);
+  EXPECT_EQ(ryhma.KayttoaikaHpD, 24);
+  EXPECT_EQ(rivi.NimiTeksti, "Pumppu");
+  EXPECT_EQ(ryhmat.Count(), 1);
+  EXPECT_EQ(ryhmat.CountListaItems(), 1);
+}
+
 }  // namespace
