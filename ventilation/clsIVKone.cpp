@@ -183,7 +183,7 @@ double clsIVKone::VuotuinenPuhallinSahko() try {
 }
 
 double clsIVKone::Sahko() try {
-  return Vuosisumma([this](int m) { return SahkoPatterinEnergia(m); }) + VuotuinenPuhallinSahko();
+  return (TuloilmanLammitysSahkoPatterilla ? VuotuinenIVjalkilammitysLampo() : 0) + VuotuinenPuhallinSahko();
 } catch (...) {
   NostaVirhe("clsIVKone:Sahko Method");
 }
