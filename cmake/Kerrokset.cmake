@@ -53,6 +53,7 @@ endfunction()
 function(lumi_testiymparisto)
   set(rivit
       "set(ENV{LUMIVIRTA_KOTI} [==[${LUMIVIRTA_KOTI}]==])"
+      "set(ENV{LUMIVIRTA_LAHDE} [==[${CMAKE_SOURCE_DIR}]==])"
       "set(ENV{XDG_CONFIG_HOME} [==[${CMAKE_BINARY_DIR}/asetukset]==])"
       "set(ENV{QT_QPA_PLATFORM} offscreen)"
       "set(ENV{LSAN_OPTIONS} [==[suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0]==])")
@@ -63,7 +64,7 @@ endfunction()
 
 # lumi_testi(<name> [QT] KANSIOT <folders under tests/> LINKIT <targets>): a GoogleTest program.
 # tests/<folder>/main.cpp, if any, takes the place of gtest_main.
-# A test finds the built data in $LUMIVIRTA_KOTI and files of the tree under the macro LUMIVIRTA_LAHDE.
+# A test finds the built data in $LUMIVIRTA_KOTI and files of the tree under $LUMIVIRTA_LAHDE.
 function(lumi_testi nimi)
   cmake_parse_arguments(A "QT" "" "KANSIOT;LINKIT" ${ARGN})
   list(TRANSFORM A_KANSIOT PREPEND "tests/")
@@ -80,7 +81,6 @@ function(lumi_testi nimi)
   endforeach()
   add_executable(${nimi} ${lahteet})
   target_include_directories(${nimi} PRIVATE "${CMAKE_SOURCE_DIR}")
-  target_compile_definitions(${nimi} PRIVATE LUMIVIRTA_LAHDE="${CMAKE_SOURCE_DIR}")
   target_link_libraries(${nimi} PRIVATE ${A_LINKIT} ${paaohjelma} GTest::gtest GTest::gmock)
   if(A_QT)
     set_target_properties(${nimi} PROPERTIES AUTOMOC ON)
@@ -121,7 +121,6 @@ function(lumi_mittari nimi)
   endif()
   add_executable(${nimi} ${lahteet})
   target_include_directories(${nimi} PRIVATE "${CMAKE_SOURCE_DIR}")
-  target_compile_definitions(${nimi} PRIVATE LUMIVIRTA_LAHDE="${CMAKE_SOURCE_DIR}")
   target_link_libraries(${nimi} PRIVATE ${A_LINKIT} ${paaohjelma})
   if(A_QT)
     target_link_libraries(${nimi} PRIVATE qt)

@@ -2,6 +2,7 @@
 // The session as the auditor goes through it, without windows: answers and dialogs are scripted.
 #include "app/Istunto.h"
 #include "app/Viimeisimmat.h"
+#include "tests/tuki/Lahdekoodi.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -84,7 +85,7 @@ class IstuntoTesti : public testing::Test {
 
   Koekoti koti;
   Koeviestit viestit;
-  Ikkunattomat lomakkeet{LUMIVIRTA_LAHDE "/ui/forms"};
+  Ikkunattomat lomakkeet{Lahdekoodi("ui/forms")};
   Otsikot paaikkuna;
   Istunto istunto;
 };

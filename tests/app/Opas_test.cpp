@@ -17,6 +17,7 @@
 #include "tests/app/Koekoti.h"
 #include "tests/qt/Ikkunatesti.h"
 #include "tests/tuki/Koeviestit.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
 
@@ -25,7 +26,7 @@ namespace {
 constexpr double kVakioOsuus = 96;  // MWh/a, in the guide entered as other heat too
 
 std::string OppaanSivu(const char* sivu) {
-  std::ifstream virta(std::string(LUMIVIRTA_LAHDE "/docs/opas/") + sivu);
+  std::ifstream virta(Lahdekoodi(std::string("docs/opas/") + sivu));
   std::ostringstream teksti;
   teksti << virta.rdbuf();
   EXPECT_FALSE(teksti.str().empty()) << sivu;

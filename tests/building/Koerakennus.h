@@ -9,6 +9,7 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tests/tuki/Koeviestit.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "ui/Ikkunaton.h"
 #include "ui/Tekstivarasto.h"
 
@@ -75,6 +76,6 @@ class RakennusTesti : public testing::Test {
   }
 
   Koeviestit viestit;
-  Ikkunattomat ikkunat{LUMIVIRTA_LAHDE "/ui/forms"};
+  Ikkunattomat ikkunat{Lahdekoodi("ui/forms")};
   std::unique_ptr<clsRakennus> rakennus;
 };

@@ -5,6 +5,7 @@
 #include "kernel/Hakemistot.h"
 #include "kernel/Tietokanta.h"
 #include "tests/kernel/Koehakemisto.h"
+#include "tests/tuki/Lahdekoodi.h"
 
 /// Structure databases made by the shipped schema in a folder of the test's own.
 class Koekannat : public testing::Test {
@@ -14,7 +15,7 @@ class Koekannat : public testing::Test {
   std::string TeeKanta(const std::string& nimi, const std::string& rivit = {}) const {
     Tietokanta kanta(Polku(nimi), Tietokanta::Tapa::Uusi);
     kanta.Aja("PRAGMA synchronous = OFF");
-    kanta.Aja(LueTiedosto(LUMIVIRTA_LAHDE "/data/skeemat/rakennekirjasto.sql") + rivit);
+    kanta.Aja(LueTiedosto(Lahdekoodi("data/skeemat/rakennekirjasto.sql")) + rivit);
     return Polku(nimi);
   }
 

@@ -9,6 +9,7 @@
 #include "library/server/Rakenneselain.h"
 #include "tests/palvelin/Koekirjasto.h"
 #include "tests/tuki/Koeviestit.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "ui/Ikkunaton.h"
 
 namespace fs = std::filesystem;
@@ -45,7 +46,7 @@ class Selaimet : public testing::Test {
 
   Koekirjasto koe_;
   Koeviestit viestit_;
-  Ikkunattomat ikkunattomat_{LUMIVIRTA_LAHDE "/ui/forms"};
+  Ikkunattomat ikkunattomat_{Lahdekoodi("ui/forms")};
   std::vector<std::string> valitut_;
   int sulkemisia_ = 0;
   std::unique_ptr<Selain> selain_;

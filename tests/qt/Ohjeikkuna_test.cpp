@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The user's guide as it is built, in its window. With LUMIVIRTA_KUVAT=<folder> a picture of each page is left there.
 #include "ui/qt/Ohjeikkuna.h"
+#include "tests/tuki/Lahdekoodi.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +61,7 @@ class Opas : public ::testing::Test {
 
 TEST(OppaanSisalto, JokaisellaLomakkeenAiheellaOnOmaSivunsa) {
   const Ohjeluettelo luettelo = Luettelo();
-  QStringList rivit = Lue(LUMIVIRTA_LAHDE "/data/ohjeet.csv").split('\n', Qt::SkipEmptyParts);
+  QStringList rivit = Lue(Lahdekoodi("data/ohjeet.csv")).split('\n', Qt::SkipEmptyParts);
   rivit.removeFirst();
   QList<int> aiheet{kOhjeSisallys, kOhjeTervetuloa};
   for (const QString& rivi : rivit)

@@ -7,6 +7,7 @@
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tests/measures/Asetuskansio.h"
 #include "tests/tuki/Koeviestit.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "ui/Ikkunaton.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Ohjaimet.h"
@@ -36,7 +37,7 @@ class Asetusdialogit : public Asetuskansio {
   std::string Ini() const { return LueTiedosto(koti_ / "config" / "lumivirta" / "asetukset.ini"); }
 
   Koeviestit viestit_;
-  Ikkunattomat ikkunat_{LUMIVIRTA_LAHDE "/ui/forms"};
+  Ikkunattomat ikkunat_{Lahdekoodi("ui/forms")};
 };
 
 TEST_F(Asetusdialogit, OkWithoutEditsLeavesTheStoreByteForByte) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/tuki/Koeviestit.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "ui/Ikkunaton.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/Tekstivarasto.h"
@@ -22,7 +23,7 @@ class Dialogit : public ::testing::Test {
   }
 
   Koeviestit viestit_;
-  Ikkunattomat ikkunattomat_{LUMIVIRTA_LAHDE "/ui/forms"};
+  Ikkunattomat ikkunattomat_{Lahdekoodi("ui/forms")};
 };
 
 class Perustiedot : public Dialogit {

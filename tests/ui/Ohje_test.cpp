@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The way to the user's guide without a window: topics of the forms, the list of pages.
 #include "ui/Ohje.h"
+#include "tests/tuki/Lahdekoodi.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +24,7 @@ class Muistava : public Ohjenaytto {
 
 TEST(Ohje, LomakkeenOhjeOnPaallimmaisenLomakkeen) {
   AlustaTekstit();
-  Ikkunattomat ikkunat(LUMIVIRTA_LAHDE "/ui/forms");
+  Ikkunattomat ikkunat(Lahdekoodi("ui/forms"));
   Muistava ohje;
   AvaaLomakkeenOhje();
   EXPECT_EQ(ohje.aihe_, kOhjeSisallys) << "mitään lomaketta ei ole auki";

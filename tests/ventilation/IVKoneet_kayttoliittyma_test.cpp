@@ -2,6 +2,7 @@
 // The list of machines, the dialog of a machine and the calculator of heat recovery, driven as a person would, without
 // a screen.
 #include "kernel/Luvut.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "tests/ventilation/Koekone.h"
 #include "ui/Ikkunaton.h"
 #include "ui/Kenttatarkistus.h"
@@ -10,7 +11,7 @@ namespace {
 
 class KoneDialogi : public KoneTesti {
  protected:
-  KoneDialogi() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+  KoneDialogi() : ikkunat(Lahdekoodi("ui/forms")) {
     AsetaTarkistuksenKello(nullptr);
     clsTila& tila = LisaaTila(1000, 300);
     tila.TilanNimi = "Aula";

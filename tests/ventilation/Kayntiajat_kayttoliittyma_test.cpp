@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "kernel/Luvut.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "tests/ventilation/Koekone.h"
 #include "ui/Ikkunaton.h"
 #include "ui/Kenttatarkistus.h"
@@ -12,7 +13,7 @@ namespace {
 
 class KayntiaikaDialogi : public KoneTesti {
  protected:
-  KayntiaikaDialogi() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+  KayntiaikaDialogi() : ikkunat(Lahdekoodi("ui/forms")) {
     AsetaTarkistuksenKello([] { return kello += 2000; });
   }
   ~KayntiaikaDialogi() override { AsetaTarkistuksenKello(nullptr); }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "kernel/Luvut.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "tests/ventilation/Koekone.h"
 #include "ui/Ikkunaton.h"
 #include "ui/Kenttatarkistus.h"
@@ -11,7 +12,7 @@ namespace {
 
 class PuhallinDialogi : public KoneTesti {
  protected:
-  PuhallinDialogi() : ikkunat(LUMIVIRTA_LAHDE "/ui/forms") {
+  PuhallinDialogi() : ikkunat(Lahdekoodi("ui/forms")) {
     AsetaTarkistuksenKello(nullptr);
     kone.KoneenTunnus = "TK1";
     kone.TuloIlmavirta11Teho = 2;
