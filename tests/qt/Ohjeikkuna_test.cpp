@@ -61,7 +61,7 @@ class Opas : public ::testing::Test {
 
 TEST(OppaanSisalto, JokaisellaLomakkeenAiheellaOnOmaSivunsa) {
   const Ohjeluettelo luettelo = Luettelo();
-  QStringList rivit = Lue(Lahdekoodi("data/ohjeet.csv")).split('\n', Qt::SkipEmptyParts);
+  QStringList rivit = Lue(QString::fromStdString(Lahdekoodi("data/ohjeet.csv"))).split('\n', Qt::SkipEmptyParts);
   rivit.removeFirst();
   QList<int> aiheet{kOhjeSisallys, kOhjeTervetuloa};
   for (const QString& rivi : rivit)
