@@ -5,12 +5,11 @@
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "ui/Tekstivarasto.h"
-#include "ui/Viestit.h"
 #include "ui/frmMateriaalimuutokset.h"
 
 namespace {
 
-constexpr int kLambda = 5218, kTiheys = 5219, kOminaislampo = 5220, kUarvo = 5221, kEiMuutoksia = 9550;
+constexpr int kLambda = 5218, kTiheys = 5219, kOminaislampo = 5220, kUarvo = 5221;
 constexpr const char* kUarvonKuvio = "0.00#";
 
 struct Suure {
@@ -81,10 +80,6 @@ Taulukko Materiaalimuutokset(const clsTilat& tilat, Rakennetietokanta& kanta) tr
 }
 
 bool HyvaksyMateriaalimuutokset(Taulukko muutokset) {
-  if (muutokset.empty()) {
-    Ilmoita(Teksti(kEiMuutoksia));
-    return true;
-  }
   frmMateriaalimuutokset lomake;
   return lomake.Kysy(std::move(muutokset));
 }

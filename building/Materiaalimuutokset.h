@@ -10,5 +10,5 @@ class clsTilat;
 /// structure that takes it from its layers follows on a row of its own. Raises error 9999 as the database does.
 Taulukko Materiaalimuutokset(const clsTilat& tilat, Rakennetietokanta& kanta);
 
-/// Shows the rows and asks whether to take them. True when the person says so; without rows after a message.
+/// Shows the rows and asks whether to take them. True when the person says so.
 bool HyvaksyMateriaalimuutokset(Taulukko muutokset);

@@ -130,16 +130,18 @@ void clsRakennus::PaivitaMateriaalitVakiokannasta(const std::string& tiedosto) t
   NostaVirhe("clsRakennus:PaivitaMateriaalitVakiokannasta Method");
 }
 
-/// A library that can't be read leaves the materials as they are: the object opens all the same. True when they were
-/// brought up to date.
+/// Asks only when something would change. A library that can't be read leaves the materials as they are: the object
+/// opens all the same. True when they were brought up to date.
 bool clsRakennus::TarjoaMateriaalienPaivitysta() try {
   if (!RakVakioKantaUudempiKuinMinunRakenteet()) return false;
+  const std::string& tiedosto = Asetukset().strVakioTietokanta;
+  Rakennetietokanta kanta(tiedosto);
+  Taulukko muutokset = Materiaalimuutokset(Tilat, kanta);
+  if (muutokset.empty()) return false;
   const Vastaus vastaus =
       ViestitNyt().Nayta({Teksti(9227) + " " + Teksti(9228), {}, Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei});
   if (vastaus != Vastaus::Kylla) return false;
-  const std::string& tiedosto = Asetukset().strVakioTietokanta;
-  Rakennetietokanta kanta(tiedosto);
-  if (!HyvaksyMateriaalimuutokset(Materiaalimuutokset(Tilat, kanta))) return false;
+  if (!HyvaksyMateriaalimuutokset(std::move(muutokset))) return false;
   PaivitaMateriaalitVakiokannasta(tiedosto);
   return true;
 } catch (const Virhe& virhe) {

@@ -14,6 +14,7 @@
 #include "kernel/Hakemistot.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "library/Rakennetietokanta.h"
 #include "settings/Asetusavaimet.h"
 #include "ui/Viestit.h"
 
@@ -52,6 +53,15 @@ void TallennaHiljaa(Avain avain, const std::string& arvo) {
   try {
     TallennaAsetus(avain, arvo);
   } catch (const Virhe&) {
+  }
+}
+
+/// What the database tells of itself; the stored text while it can't be read, which is told where it is needed.
+std::string VakiokannanVersio(const std::string& kanta) {
+  try {
+    return Rakennetietokanta(kanta).Versio();
+  } catch (const Virhe&) {
+    return HaeAsetus(Avain::VakiokantaVersio);
   }
 }
 
@@ -126,7 +136,7 @@ void clsLumivirtaAsetukset::HaeRekisteristä() try {
   YleinenALV = HaeMiljoonasosat(Avain::YleinenALV);
   strVakioTietokanta = HaeAsetus(Avain::Vakiokanta);
   strKayttajanTietokanta = HaeAsetus(Avain::Kayttajakohtainen);
-  strCurrentDatabaseVersion = HaeAsetus(Avain::VakiokantaVersio);
+  strCurrentDatabaseVersion = VakiokannanVersio(strVakioTietokanta);
   dblLampoALV = HaeMiljoonasosat(Avain::TotLampo);
   dblSahkoALV = HaeMiljoonasosat(Avain::TotSahko);
   dblVesiALV = HaeMiljoonasosat(Avain::TotVesi);

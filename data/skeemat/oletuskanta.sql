@@ -23,14 +23,19 @@ CREATE TABLE RakenteidenMenekit (
     YPMenekki REAL NOT NULL,
     OviMenekki REAL NOT NULL
 );
-CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL);
-CREATE TEMP TABLE Aikakausi (
+CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Ryhma TEXT NOT NULL,
+                                   Hakusanat TEXT NOT NULL);
+-- The solutions of a group of use types in an era of the building code.
+CREATE TEMP TABLE Oletusrakenne (
     Id INTEGER PRIMARY KEY,
+    Ryhma TEXT NOT NULL,
     Rakennusv_alk INTEGER NOT NULL,
     Rakennusv_lop INTEGER NOT NULL,
     USRakenneID TEXT NOT NULL,
     IkkRakenneID TEXT NOT NULL,
     APRakenneID TEXT NOT NULL,
     YPRakenneID TEXT NOT NULL,
-    OviRakenneID TEXT NOT NULL
+    OviRakenneID TEXT NOT NULL,
+    Lahde TEXT NOT NULL,
+    Tila TEXT NOT NULL  -- how sure the choice is
 );

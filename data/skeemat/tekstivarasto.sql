@@ -5,7 +5,8 @@ CREATE TABLE Combotaulu (
     Id INTEGER PRIMARY KEY,
     frmName TEXT NOT NULL COLLATE NOCASE,
     cmbName TEXT NOT NULL COLLATE NOCASE,
-    Suomi TEXT NOT NULL DEFAULT ''
+    Suomi TEXT NOT NULL DEFAULT '',
+    Hakusanat TEXT NOT NULL DEFAULT ''  -- everyday words by which the row is found as well, divided by ";"
 );
 CREATE INDEX CombotaulunListat ON Combotaulu (frmName, cmbName);
 -- ErrorLevel: 1 = an error that refuses something, 2 = a notice.
@@ -22,5 +23,6 @@ CREATE TABLE HelppiIDt (
     HelpID3 INTEGER
 );
 INSERT INTO Kieli VALUES ('Suomi');
-CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL);
+CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Ryhma TEXT NOT NULL,
+                                   Hakusanat TEXT NOT NULL);
 CREATE TEMP TABLE Paikkakunta (Numero INTEGER PRIMARY KEY, Nimi TEXT NOT NULL);
