@@ -8,7 +8,6 @@
 
 class Edistyminen;
 class clsIVKone;
-class frmTila;
 
 /// A space: the unit of the monthly heat balance. Steady-state degree hours with ideal utilisation: gains count in a
 /// month up to that month's losses. Months are 0 to 11, monthly figures kWh, yearly ones MWh.
@@ -102,8 +101,6 @@ class clsTila : public Malli<clsTila, Alkio> {
   /// Opens the dialog of the space, modal. OK writes the values and tells so by DataMuuttui; Cancel restores the space
   /// with its structures. True after OK.
   bool NaytaKayttoliittyma();
-  void LueDataluokka();
-  void KirjoitaDataluokka();
   /// Opens the dialog of the structures.
   void EditoiRakenteita();
 
@@ -119,17 +116,9 @@ class clsTila : public Malli<clsTila, Alkio> {
   void LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen);
   template <class F>
   static double Vuosisumma(F&& kuukausiarvo);
-  void LiitaTapahtumat();
   bool OnElavassaMallissa() const;
-  void MuutosVoimaan();
-  void KayttoLiittyma_KayttoaikaValittu(int rivi);
-  void KayttoLiittyma_SaatotapaValittu(int rivi);
-  void KayttoLiittyma_OkKlikattu();
-  void KayttoLiittyma_PeruutaKlikattu();
 
   double sahkoOmKuorma_ = 3.57856132909155;  // kWh/m² in a month
   Lippu ivHaviotUpToDate_, ivKuormatUpToDate_, aurKuormatUpToDate_, johtumishaviotUpToDate_;
   Oma<Kuukausitaulu> ivHaviot_, ivKuormat_, aurKuormat_, johtumishaviot_;  // kWh
-  Oma<std::shared_ptr<frmTila>> kayttoLiittyma_;
-  Oma<std::shared_ptr<clsTila>> varalla_;  // as it was when the dialog opened
 };

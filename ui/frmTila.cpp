@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "ui/Kenttatarkistus.h"
 #include "ui/Lomakekaannos.h"
 
 namespace {
@@ -25,7 +24,7 @@ bool OnMuu(const ComboBox& valinta) { return valinta.Indeksi() == valinta.Maara(
 
 }  // namespace
 
-frmTila::frmTila() : Lomake("frmTila") {
+frmTila::frmTila() : Muokkauslomake("frmTila") {
   for (const ComboBox& valinta : {cmbTilanKayttoaika, cmbSaatotapa, cmbRakenteidenDynamiikka})
     TaytaValinta(*this, valinta);
   cmbRakenteidenDynamiikka.Indeksi(kKeskiraskas);
@@ -41,10 +40,6 @@ frmTila::frmTila() : Lomake("frmTila") {
   cmbRakenteidenDynamiikka.KunMuuttuu([this] { NaytaDynamiikka(); });
   chkPainovoimainenIlmanvaihto.KunKlikataan([this] { PaivitaKentat(); });
   cmdRakenteet.Nostaa(RakenteetKlikattu);
-  cmdOk.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
-  });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
 }
 
 void frmTila::PaivitaKentat() {

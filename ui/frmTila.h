@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// Data of one space.
-class frmTila : public Lomake {
+class frmTila : public Muokkauslomake {
  public:
   frmTila();
 
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   /// Row of the choice of hours of use or of the control method, from 0.
   std::function<void(int)> KayttoaikaValittu;
   std::function<void(int)> SaatotapaValittu;
@@ -38,8 +36,6 @@ class frmTila : public Lomake {
   TextBox txtAikavakio{*this, "txtAikavakio"};  // h, read only
   Label lblDynamiikanKuvaus{*this, "lblDynamiikanKuvaus"};
   CommandButton cmdRakenteet{*this, "cmdRakenteet"};
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 
  private:
   void NaytaDynamiikka();

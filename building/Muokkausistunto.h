@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "ui/Muokkauslomake.h"
+
+/// What is special about the editing of one object; each may be left out.
+struct Muokkaustoimet {
+  std::string nimi{};  ///< of the object: it begins the caption
+  bool elava = true;   ///< the object is a part of the building, not of a saving measure
+  /// From the object to the fields, at opening.
+  std::function<void()> lue{};
+  /// From the fields to the object, at OK.
+  std::function<void()> kirjoita{};
+  /// False, after telling why and taking the person to the field: the dialog stays open. What was written stays so.
+  std::function<bool()> tarkista{};
+  /// What else the object's new values change.
+  std::function<void()> voimaan{};
+  /// The object's own event for those who listen to it, also outside the living building.
+  std::function<void()> tapahtuma{};
+  /// The object is as it was before: after Cancel, or after an error with the dialog still open.
+  std::function<void()> palautettu{};
+};
+
+/// One modal dialog over an object of the model, from its opening to OK or Cancel. The object itself is edited:
+///
+/// 1. A reserve copy is taken, the fields are filled, the caption begins with the object's name.
+/// 2. OK, with good number fields: writes the fields, checks, takes the values into use, raises the object's event, and
+///    commits once (clsRakennus::PerusmalliMuuttui). Then the dialog closes.
+/// 3. Cancel: the reserve is copied back, and the register with it.
+/// 4. An error on the way: as Cancel, but the dialog stays open and the error goes on to be shown.
+///
+/// A session inside another commits nothing: its object is a part of what the outer one commits or takes back. An
+/// object outside the building marks the project unsaved and raises its event; the building itself didn't change.
+class Muokkausistunto {
+ public:
+  /// `olio` has Kopioi, as every model object. It and the form must outlive the session.
+  template <class T>
+  Muokkausistunto(T& olio, Muokkauslomake& lomake, Muokkaustoimet toimet)
+      : Muokkausistunto(lomake, std::move(toimet),
+                        [&olio, varalla = std::shared_ptr<T>(olio.Kopioi())] { varalla->Kopioi(olio); }) {}
+  Muokkausistunto(const Muokkausistunto&) = delete;
+  Muokkausistunto& operator=(const Muokkausistunto&) = delete;
+
+  /// Shows the dialog. True after OK.
+  bool Nayta();
+
+ private:
+  Muokkausistunto(Muokkauslomake& lomake, Muokkaustoimet toimet, std::function<void()> kopioiTakaisin);
+  void Hyvaksy();
+  void Peruuta();
+  void Palauta();
+  void Kirjaa() const;
+
+  Muokkauslomake& lomake_;
+  Muokkaustoimet toimet_;
+  std::function<void()> kopioiTakaisin_;
+  std::string muutoksenNimi_;  // the form's own caption, as undo tells of it
+  bool hyvaksytty_ = false;
+};

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Sidonta.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+#include "kernel/Luvut.h"
+
+namespace {
+
+std::vector<const Sidontalista*>& Taulut() {
+  static std::vector<const Sidontalista*> taulut;
+  return taulut;
+}
+
+double KerroinNyt(const Sidonta& rivi) { return rivi.kerroin ? rivi.kerroin() : 1; }
+
+}  // namespace
+
+void sidonta::NaytaLuku(const Sidonta& rivi, Ohjain& kentta, double arvo) {
+  kentta.Teksti(Muotoile(arvo * KerroinNyt(rivi), rivi.kuvio), arvo);
+}
+
+bool sidonta::LueLukuna(const Sidonta& rivi, const Ohjain& kentta, double& arvo) {
+  if (!kentta.Muuttunut()) {
+    arvo = kentta.TaytettyLuku().value_or(arvo);
+    return true;
+  }
+  const auto luku = LueLuku(kentta.Teksti());
+  if (luku) arvo = *luku / KerroinNyt(rivi);
+  return luku.has_value();
+}
+
+bool sidonta::Mahduta(double luku, double& arvo) {
+  arvo = luku;
+  return true;
+}
+
+bool sidonta::Mahduta(double luku, float& arvo) {
+  if (std::abs(luku) > std::numeric_limits<float>::max()) return false;
+  arvo = static_cast<float>(luku);
+  return true;
+}
+
+bool sidonta::Mahduta(double luku, std::int32_t& arvo) try {
+  arvo = PyoristaKokonaisluvuksi(luku);
+  return true;
+} catch (const std::out_of_range&) {
+  return false;
+}
+
+bool sidonta::Mahduta(double luku, std::int16_t& arvo) {
+  std::int32_t pitka = 0;
+  if (!Mahduta(luku, pitka) || !std::in_range<std::int16_t>(pitka)) return false;
+  arvo = static_cast<std::int16_t>(pitka);
+  return true;
+}
+
+bool sidonta::TekstiMuuttunut(const Ohjain& kentta, const void*) { return kentta.Muuttunut(); }
+
+std::string sidonta::ValittuTeksti(const Ohjain& valinta) {
+  return valinta.Rivit()[static_cast<std::size_t>(valinta.Indeksi())].front();
+}
+
+Sidontalista::Sidontalista(std::string_view lomake, std::vector<Sidonta> rivit,
+                           std::initializer_list<std::string_view> sanat)
+    : lomake_(lomake), rivit_(std::move(rivit)), sanat_(sanat.begin(), sanat.end()) {
+  Taulut().push_back(this);
+}
+
+Sidontalista::~Sidontalista() { std::erase(Taulut(), this); }
+
+std::span<const Sidontalista* const> Sidontalista::Kaikki() { return Taulut(); }
+
+std::string Sidontalista::OhjaimenNimi(const Sidonta& rivi, std::string_view sana) {
+  std::string nimi(rivi.ohjain);
+  if (const auto paikka = nimi.find('*'); paikka != std::string::npos) nimi.replace(paikka, 1, sana);
+  return nimi;
+}
+
+void Sidontalista::LueOlio(const Lomake& lomake, const void* olio, std::string_view sana) const {
+  for (const Sidonta& rivi : rivit_) rivi.lue(rivi, lomake.Etsi(OhjaimenNimi(rivi, sana)), olio);
+}
+
+bool Sidontalista::KirjoitaOlio(const Lomake& lomake, void* olio, std::string_view sana) const {
+  bool kelpaa = true;
+  for (const Sidonta& rivi : rivit_) kelpaa &= rivi.kirjoita(rivi, lomake.Etsi(OhjaimenNimi(rivi, sana)), olio);
+  return kelpaa;
+}
+
+bool Sidontalista::MuuttunutOlio(const Lomake& lomake, const void* olio, std::string_view sana) const {
+  return std::ranges::any_of(
+      rivit_, [&](const Sidonta& rivi) { return rivi.muuttunut(lomake.Etsi(OhjaimenNimi(rivi, sana)), olio); });
+}
