@@ -105,7 +105,7 @@ void KaannaLomake(Lomake& lomake) {
 }
 
 void TaytaValinta(const Lomake& lomake, const ComboBox& valinta, bool valitseViimeinen) {
-  valinta.Rivit(Valintalista(lomake.Nimi(), valinta.Nimi()));
+  valinta.HaettavatRivit(HaettavaValintalista(lomake.Nimi(), valinta.Nimi()));
   if (valitseViimeinen) valinta.Indeksi(valinta.Maara() - 1);
 }
 

@@ -74,6 +74,9 @@ class ComboBox : public TyypitettyKahva<Ohjaintyyppi::ComboBox> {
   using TyypitettyKahva::TyypitettyKahva;
   /// Replaces the rows; nothing is chosen afterwards.
   void Rivit(const std::vector<std::string>& rivit) const;
+  /// The same with search words: a row is a name and everyday words for it, divided by ";". The person finds a row by
+  /// writing either.
+  void HaettavatRivit(Taulukko rivit) const { ohjain_->Rivit(std::move(rivit)); }
   int Maara() const { return static_cast<int>(ohjain_->Rivit().size()); }
   /// Chosen row from 0, -1 none.
   int Indeksi() const { return ohjain_->Indeksi(); }

@@ -51,6 +51,13 @@ std::string Kielisarake(const SQLite::Database& varasto) {
   return Nimi(g_kielitunnus);
 }
 
+/// Nothing when the store, somebody's own of an older program, has no such column.
+std::optional<int> SarakkeenPaikka(const SQLite::Statement& kysely, std::string_view nimi) {
+  for (int i = 0; i < kysely.getColumnCount(); ++i)
+    if (kysely.getColumnName(i) == nimi) return i;
+  return std::nullopt;
+}
+
 struct Otsake {
   std::string otsikko;
   Vakavuus vakavuus;
@@ -134,16 +141,28 @@ bool KysyPoisto() {
   return ViestitNyt().Nayta(kysymys) == Vastaus::Kylla;
 }
 
-std::vector<std::string> Valintalista(std::string_view lomake, std::string_view valinta) try {
+Taulukko HaettavaValintalista(std::string_view lomake, std::string_view valinta) try {
   const auto varasto = AvaaVarasto();
   SQLite::Statement kysely(varasto, "SELECT " + Kielisarake(varasto) +
-                                        " FROM Combotaulu WHERE frmName = ? COLLATE NOCASE AND cmbName = ? COLLATE "
+                                        ", * FROM Combotaulu WHERE frmName = ? COLLATE NOCASE AND cmbName = ? COLLATE "
                                         "NOCASE ORDER BY Id ");
   kysely.bind(1, std::string(lomake));
   kysely.bind(2, std::string(valinta));
-  std::vector<std::string> rivit;
-  while (kysely.executeStep()) rivit.push_back(kysely.getColumn(0).getString());
+  const auto sanat = SarakkeenPaikka(kysely, "Hakusanat");
+  Taulukko rivit;
+  while (kysely.executeStep()) {
+    rivit.push_back({kysely.getColumn(0).getString()});
+    if (sanat && kysely.getColumn(*sanat).size() > 0) rivit.back().push_back(kysely.getColumn(*sanat).getString());
+  }
   return rivit;
+} catch (...) {
+  NostaVirhe("modTekstivarasto:HaettavaValintalista Method");
+}
+
+std::vector<std::string> Valintalista(std::string_view lomake, std::string_view valinta) try {
+  std::vector<std::string> nimet;
+  for (auto& rivi : HaettavaValintalista(lomake, valinta)) nimet.push_back(std::move(rivi.front()));
+  return nimet;
 } catch (...) {
   NostaVirhe("modTekstivarasto:Valintalista Method");
 }

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/Taulukko.h"
+
 /// The store of all user-visible texts, choice lists, messages and help topics: the database "StrVarasto.mdb" in
 /// AppPath, one text column per language. The texts are read once at start; messages, lists and topics when they are
 /// used.
@@ -31,5 +33,7 @@ bool KysyPoisto();
 /// The rows of a choice list, in order, by form and control name (letter case ignored). Raises when the store can't be
 /// read.
 std::vector<std::string> Valintalista(std::string_view lomake, std::string_view valinta);
+/// The same rows as cells: the name, and everyday words by which it is found, divided by ";", where it has any.
+Taulukko HaettavaValintalista(std::string_view lomake, std::string_view valinta);
 /// The help topic of a form: index 0, 1 or 2 for its first to third topic; 0 when it has none.
 int Ohjeaihe(std::string_view lomake, int indeksi);

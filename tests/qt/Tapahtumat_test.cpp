@@ -2,9 +2,11 @@
 // The real windows under real events: keyboard, wheel, closing, messages.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QCompleter>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -234,6 +236,51 @@ TEST_F(Tapahtumat, KaavioKopioituuKuvanaJaLukuina) {
   const QMimeData* tiedot = QGuiApplication::clipboard()->mimeData();
   EXPECT_TRUE(tiedot->hasImage());
   EXPECT_TRUE(tiedot->text().contains("Tilat  (75 %)\t30,00")) << tiedot->text().toStdString();
+}
+
+TEST_F(Tapahtumat, AChoiceIsFoundByWritingEverydayWords) {
+  frmPerustiedot lomake;
+  lomake.cmbKayttotarkoitus.Indeksi(0);
+  int muutoksia = 0, ok = 0;
+  lomake.cmbKayttotarkoitus.KunMuuttuu([&] { ++muutoksia; });
+  lomake.OkKlikattu = [&] { ++ok; };
+  NaytaAktiivisena(lomake);
+  auto& lista = Etsi<QComboBox>(lomake, "cmbKayttotarkoitus");
+  lista.setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(&lista, "koulu");
+  const auto* osumat = lista.completer()->popup();
+  ASSERT_TRUE(osumat->isVisible());
+  EXPECT_GT(osumat->model()->rowCount(), 3);
+  TallennaKuva(*lista.completer()->popup(), "cmbKayttotarkoitus osumat");
+  QTest::keyClick(lista.completer()->popup(), Qt::Key_Return);
+  EXPECT_EQ(lomake.cmbKayttotarkoitus.Teksti(), "Yleissivistävän oppilaitoksen rakennus") << "the best hit";
+  EXPECT_EQ(lista.currentText(), "Yleissivistävän oppilaitoksen rakennus");
+  EXPECT_FALSE(osumat->isVisible());
+  EXPECT_EQ(muutoksia, 1);
+
+  QTest::keyClicks(&lista, "koulu");
+  QTest::keyClick(lista.completer()->popup(), Qt::Key_Down);
+  QTest::keyClick(lista.completer()->popup(), Qt::Key_Down);
+  const QString toinen = osumat->model()->index(1, 0).data().toString();
+  QTest::keyClick(lista.completer()->popup(), Qt::Key_Return);
+  EXPECT_EQ(lomake.cmbKayttotarkoitus.Teksti(), toinen.toStdString()) << "the hit that the arrows reached";
+  EXPECT_EQ(muutoksia, 2);
+
+  const auto alku = lista.currentText();
+  QTest::keyClicks(&lista, "zzz");
+  EXPECT_FALSE(osumat->isVisible());
+  QTest::keyClick(&lista, Qt::Key_Return);
+  EXPECT_EQ(lista.currentText(), alku) << "nothing found: the choice stands";
+  QTest::keyClicks(&lista, "halli");
+  QTest::keyClick(lista.completer()->popup(), Qt::Key_Escape);
+  QTest::keyClick(&lista, Qt::Key_Escape);
+  EXPECT_EQ(lista.currentText(), alku);
+  QTest::keyClicks(&lista, "halli");
+  QTest::keyClick(lista.completer()->popup(), Qt::Key_Escape);
+  QTest::keyClick(&lista, Qt::Key_Tab);
+  EXPECT_EQ(lista.currentText(), alku) << "leaving the field chooses nothing";
+  EXPECT_EQ(muutoksia, 2);
+  EXPECT_EQ(ok, 0) << "Enter in the search doesn't accept the dialog";
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGroupBox>
@@ -19,6 +18,7 @@
 #include "kernel/Kirjainkoko.h"
 #include "ui/qt/Kaaviokuva.h"
 #include "ui/qt/Kuvapinta.h"
+#include "ui/qt/QtComboBox.h"
 #include "ui/qt/QtListView.h"
 
 namespace {
@@ -158,37 +158,6 @@ class QtTextBox : public QtOhjain {
   }
 
   QLineEdit& kentta_;
-};
-
-class QtComboBox : public QtOhjain {
- public:
-  QtComboBox(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QComboBox& lista)
-      : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
-    connect(&lista, &QComboBox::activated, this, [this](int indeksi) { KayttajaValitsee(indeksi); });
-    lista.setFocusPolicy(Qt::StrongFocus);
-    lista.installEventFilter(this);
-  }
-
-  /// The wheel scrolls the form, it doesn't change a list that happens to lie under the pointer.
-  bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
-    if (tapahtuma->type() != QEvent::Wheel || lista_.hasFocus()) return QtOhjain::eventFilter(kohde, tapahtuma);
-    tapahtuma->ignore();
-    return true;
-  }
-
- protected:
-  void NaytaPiirre(Piirre piirre) override {
-    if (piirre == Piirre::Rivit) NaytaRivit();
-    if (piirre == Piirre::Indeksi || piirre == Piirre::Rivit) lista_.setCurrentIndex(Indeksi());
-  }
-
- private:
-  void NaytaRivit() {
-    lista_.clear();
-    for (const auto& rivi : Rivit()) lista_.addItem(Q(rivi.front()));
-  }
-
-  QComboBox& lista_;
 };
 
 class QtTabStrip : public QtOhjain {
