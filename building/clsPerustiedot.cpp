@@ -6,7 +6,13 @@
 
 namespace {
 
-constexpr Jasen kJasenet[] = {
+/// Degree days of the localities' normal years, Hanko to Vaasa, K·d.
+constexpr std::array<double, 16> kLammitystarveluvut{4098, 4366, 6448, 5230, 5053, 5523, 5068, 4629,
+                                                     4734, 4036, 5291, 4400, 6434, 4719, 4255, 4730};
+
+}  // namespace
+
+constexpr Jasen clsPerustiedot::kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Arvo<&clsPerustiedot::KohteenNimi>("KohteenNimi"),
     Arvo<&clsPerustiedot::Pvm>("Pvm"),
@@ -21,8 +27,8 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsPerustiedot::KohteenHenkiloMaara>("KohteenHenkiloMaara", "hlö"),
     Arvo<&clsPerustiedot::LammTarveLukuPaikkakunta>("LammTarveLukuPaikkakunta"),
     Ominaisuus<clsPerustiedot, [](const clsPerustiedot& p) { return p.LammTarveLukuPaikkakuntaID(); },
-               [](clsPerustiedot& p, std::int32_t v) { p.LammTarveLukuPaikkakuntaID(v); }>(
-        "LammTarveLukuPaikkakuntaID"),
+               [](clsPerustiedot& p, std::int32_t v) { p.LammTarveLukuPaikkakuntaID(v); },
+               &clsPerustiedot::paikkakunta_>("LammTarveLukuPaikkakuntaID"),
     Arvo<&clsPerustiedot::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", "K·d"),
     Lapsi<&clsPerustiedot::ToteutuneetKulutukset>("ToteutuneetKulutukset"),
     Lapsi<&clsPerustiedot::LammKulVakioOsuus>("LammKulVakioOsuus"),
@@ -31,12 +37,6 @@ constexpr Jasen kJasenet[] = {
     Lapsi<&clsPerustiedot::VedenHankinta>("VedenHankinta"),
     Arvo<&clsPerustiedot::OletusarvotLaskettu>("OletusarvotLaskettu"),
 };
-
-/// Degree days of the localities' normal years, Hanko to Vaasa, K·d.
-constexpr std::array<double, 16> kLammitystarveluvut{4098, 4366, 6448, 5230, 5053, 5523, 5068, 4629,
-                                                     4734, 4036, 5291, 4400, 6434, 4719, 4255, 4730};
-
-}  // namespace
 
 const Luokka clsPerustiedot::kLuokka{"clsPerustiedot", kJasenet};
 

@@ -61,6 +61,8 @@ class clsPerustiedot : public Malli<clsPerustiedot> {
   void OtaKayttoon(std::int32_t entinenPaikkakunta);
 
  private:
+  static const Jasen kJasenet[];
+
   void LiitaTapahtumat();
   void LueKulutukset();
   bool KirjoitaKulutukset();

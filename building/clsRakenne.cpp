@@ -13,25 +13,6 @@
 
 namespace {
 
-constexpr Jasen kJasenet[] = {
-    Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Arvo<&Alkio::sKey>("sKey"),
-    Arvo<&clsRakenne::Rakennetyyppi>("Rakennetyyppi"),
-    Arvo<&clsRakenne::TyyppiID>("TyyppiID"),
-    Arvo<&clsRakenne::TyyppiStr>("TyyppiStr"),
-    Arvo<&clsRakenne::SuuntausID>("SuuntausID"),
-    Arvo<&clsRakenne::SuuntausStr>("SuuntausStr"),
-    Arvo<&clsRakenne::PintaAla>("PintaAla", "m²"),
-    Ominaisuus<clsRakenne, [](const clsRakenne& r) { return r.U_arvo(); },
-               [](clsRakenne& r, double u) { r.U_arvo(u); }>("U_arvo", "W/m²K"),
-    Arvo<&clsRakenne::LaskeU_arvoMateriaaleista>("LaskeU_arvoMateriaaleista"),
-    Lapsi<&clsRakenne::RakenneRatkaisu>("RakenneRatkaisu"),
-    Lapsi<&clsRakenne::HorisVarjostus>("HorisVarjostus"),
-    Lapsi<&clsRakenne::SivuLippa>("SivuLippa"),
-    Lapsi<&clsRakenne::YlaLippa>("YlaLippa"),
-    Arvo<&clsRakenne::RakennekannanVersio>("RakennekannanVersio"),
-};
-
 constexpr double kPuskuritilanKerroin = 0.8;
 constexpr double kTuntiaVuorokaudessa = 24;
 constexpr double kWhPerkWh = 1000;
@@ -96,12 +77,12 @@ constexpr std::array<double, 16> kLeveysasteet{60, 60, 65, 63, 62, 63, 63, 61, 6
 /// The zone is a formal carrier of the gains; its figures are constants of the method.
 constexpr double kVyohykkeenAsetuslampotila = 21.0, kVyohykkeenTilavuus = 500.0, kVyohykkeenKoko = 60.0;
 
-/// Paths of the calculator's files, put together once for each program folder and weather file.
+/// Paths of the calculator's files, put together once a thread for each program folder and weather file.
 struct Aurinkotiedostot {
   std::string koti, saaNimi, saa, fh, ff, fo;
 
   static const Aurinkotiedostot& Nyt() {
-    static Aurinkotiedostot t;
+    thread_local Aurinkotiedostot t;
     const std::string& nimi = VaadiSaa().SaaFileNimi;
     if (t.saaNimi != nimi || t.koti != AppPath())
       t = {AppPath(),
@@ -140,6 +121,25 @@ LaskentaIkkuna MuodostaIkkuna(const clsRakenne& r, const Aurinkotiedostot& tiedo
 }
 
 }  // namespace
+
+constexpr Jasen clsRakenne::kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsRakenne::Rakennetyyppi>("Rakennetyyppi"),
+    Arvo<&clsRakenne::TyyppiID>("TyyppiID"),
+    Arvo<&clsRakenne::TyyppiStr>("TyyppiStr"),
+    Arvo<&clsRakenne::SuuntausID>("SuuntausID"),
+    Arvo<&clsRakenne::SuuntausStr>("SuuntausStr"),
+    Arvo<&clsRakenne::PintaAla>("PintaAla", "m²"),
+    Ominaisuus<clsRakenne, [](const clsRakenne& r) { return r.U_arvo(); }, [](clsRakenne& r, double u) { r.U_arvo(u); },
+               &clsRakenne::u_arvo_>("U_arvo", "W/m²K"),
+    Arvo<&clsRakenne::LaskeU_arvoMateriaaleista>("LaskeU_arvoMateriaaleista"),
+    Lapsi<&clsRakenne::RakenneRatkaisu>("RakenneRatkaisu"),
+    Lapsi<&clsRakenne::HorisVarjostus>("HorisVarjostus"),
+    Lapsi<&clsRakenne::SivuLippa>("SivuLippa"),
+    Lapsi<&clsRakenne::YlaLippa>("YlaLippa"),
+    Arvo<&clsRakenne::RakennekannanVersio>("RakennekannanVersio"),
+};
 
 const Luokka clsRakenne::kLuokka{"clsRakenne", kJasenet};
 

@@ -73,6 +73,8 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   void MitatoiAurinkokuormat() noexcept { aurinkokuormatUpToDate_ = false; }
 
  private:
+  static const Jasen kJasenet[];
+
   void LaskeAurinkokuormat();
 
   Oma<Kuukausitaulu> aurinkoKuormat_;

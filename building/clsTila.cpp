@@ -250,14 +250,11 @@ double clsTila::VuotuisetHyodynnetytLampoKuormat() try {
 double clsTila::VuotuinenLampoEnergianTarve() try {
   const double paikkakunta = VaadiRakennus().Perustiedot.NormVuodenLammTarveLuku;
   const double vyohyke = VaadiSaa().NormVuodenLammTarveLuku;
-  if (vyohyke <= 0) {
-    NaytaVirhe(kLammitystarvelukuVirhe);
-    return 0;
-  }
   PaivitaSahkoOmKuorma();
   if (!ivHaviotUpToDate_) PaivitaIVHaviotTilassa();
   if (!aurKuormatUpToDate_) PaivitaAurKuormatTilassa();
   if (!johtumishaviotUpToDate_) PaivitaJohtumishaviot();
+  if (vyohyke <= 0) return NaytaVirhe(kLammitystarvelukuVirhe), 0;
   double tarve = 0;
   for (int m = 0; m < kKuukausia; ++m)
     if (OnLammityskautta(m)) tarve += KuukaudenTarve(m);

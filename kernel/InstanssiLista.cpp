@@ -56,10 +56,6 @@ int Instanssirekisteri::Count() const noexcept {
   return static_cast<int>(std::ranges::count_if(listat_, [](const auto& lista) { return lista != nullptr; }));
 }
 
-void Instanssirekisteri::Poista(const Luokka& luokka) {
-  if (luokka.Numero() < listat_.size()) listat_[luokka.Numero()].reset();
-}
-
 void Instanssirekisteri::TyhjennaIdListat() noexcept {
   for (const auto& lista : listat_)
     if (lista) lista->Tyhjenna();

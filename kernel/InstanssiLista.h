@@ -37,7 +37,6 @@ class Instanssirekisteri {
   InstanssiLista* Etsi(std::string_view clsNimi) noexcept;
   /// Number of classes.
   int Count() const noexcept;
-  void Poista(const Luokka& luokka);
   /// Empties every list; the classes stay.
   void TyhjennaIdListat() noexcept;
 

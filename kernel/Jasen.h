@@ -14,8 +14,15 @@ struct Jasen {
   std::string_view yksikko;
   /// Shows the value; null for a member that holds an object.
   void (*nayta)(const Olio&, ArvoNakyma&) = nullptr;
-  /// Sets the value from one of any form; false when it can't be read as this member's type. Null: read only.
+  /// Sets the value from one of any form, with the property's own code; false when it can't be read as this member's
+  /// type. Null: read only by name, as an object's identity and key are.
   bool (*aseta)(Olio&, const ArvoNakyma&) = nullptr;
+  /// Writes the field alone, as a copy does: converted and checked, without the code of a property. Loading and
+  /// variations write so. Null for a member that holds an object.
+  bool (*kirjoita)(Olio&, const ArvoNakyma&) = nullptr;
+  /// The field as it is, and the field put back as it was, to the last bit.
+  Kentanarvo (*ota)(const Olio&) = nullptr;
+  void (*palauta)(Olio&, Kentanarvo&&) = nullptr;
   /// The object held, or nothing; null for a scalar member.
   Olio* (*olio)(Olio&) = nullptr;
   /// Makes the object of a member that may hold nothing, and gives it.
@@ -34,6 +41,14 @@ struct Osat<T C::*> {
   using Luokka = C;
   using Tyyppi = T;
 };
+
+class Alkio;
+
+/// Identity and key, the members of the base classes: whoever renamed them by name would break the register and the
+/// index of a collection.
+template <auto Kentta>
+inline constexpr bool kOnTunniste = std::is_same_v<typename Osat<decltype(Kentta)>::Luokka, Olio> ||
+                                    std::is_same_v<typename Osat<decltype(Kentta)>::Luokka, Alkio>;
 
 template <class T>
 constexpr Laji LajiTyypista() {
@@ -62,6 +77,16 @@ void NaytaArvo(const T& arvo, ArvoNakyma& nakyma) {
     nakyma.Aseta(std::string_view(arvo));
 }
 
+/// Gives the member its field.
+template <auto Kentta>
+constexpr void LiitaKentta(Jasen& j) {
+  using C = typename Osat<decltype(Kentta)>::Luokka;
+  using T = typename Osat<decltype(Kentta)>::Tyyppi;
+  j.kirjoita = [](Olio& o, const ArvoNakyma& n) { return Muunna(n, static_cast<C&>(o).*Kentta); };
+  j.ota = [](const Olio& o) -> Kentanarvo { return static_cast<const C&>(o).*Kentta; };
+  j.palauta = [](Olio& o, Kentanarvo&& arvo) { static_cast<C&>(o).*Kentta = std::get<T>(std::move(arvo)); };
+}
+
 /// A plain data member.
 template <auto Kentta>
 constexpr Jasen Arvo(std::string_view nimi, std::string_view yksikko = {}) {
@@ -69,12 +94,14 @@ constexpr Jasen Arvo(std::string_view nimi, std::string_view yksikko = {}) {
   using T = typename Osat<decltype(Kentta)>::Tyyppi;
   Jasen j{nimi, LajiTyypista<T>(), yksikko};
   j.nayta = [](const Olio& o, ArvoNakyma& n) { NaytaArvo(static_cast<const C&>(o).*Kentta, n); };
-  j.aseta = [](Olio& o, const ArvoNakyma& n) { return Muunna(n, static_cast<C&>(o).*Kentta); };
+  LiitaKentta<Kentta>(j);
+  if constexpr (!kOnTunniste<Kentta>) j.aseta = j.kirjoita;
   return j;
 }
 
-/// A property with code: `Hae` is a function of const C&, `Aseta` one of C& and the value.
-template <class C, auto Hae, auto Aseta>
+/// A property with code: `Hae` is a function of const C&, `Aseta` one of C& and the value. `Kentta` is its field;
+/// without one the two functions are to do no more than read and write the value that a copy carries.
+template <class C, auto Hae, auto Aseta, auto Kentta = nullptr>
 constexpr Jasen Ominaisuus(std::string_view nimi, std::string_view yksikko = {}) {
   using T = std::remove_cvref_t<decltype(Hae(std::declval<const C&>()))>;
   Jasen j{nimi, LajiTyypista<T>(), yksikko};
@@ -85,6 +112,13 @@ constexpr Jasen Ominaisuus(std::string_view nimi, std::string_view yksikko = {})
     Aseta(static_cast<C&>(o), std::move(arvo));
     return true;
   };
+  if constexpr (std::is_null_pointer_v<decltype(Kentta)>) {
+    j.kirjoita = j.aseta;
+    j.ota = [](const Olio& o) -> Kentanarvo { return Hae(static_cast<const C&>(o)); };
+    j.palauta = [](Olio& o, Kentanarvo&& arvo) { Aseta(static_cast<C&>(o), std::get<T>(std::move(arvo))); };
+  } else {
+    LiitaKentta<Kentta>(j);
+  }
   static_assert(!std::is_same_v<T, std::string>, "a text property must show a member, not a temporary");
   return j;
 }

@@ -25,7 +25,7 @@ std::string Arvoteksti(const ArvoNakyma& nakyma) {
 }
 
 bool Aseta(Olio& olio, const Jasen& jasen, const ArvoNakyma& arvo) try {
-  return jasen.aseta(olio, arvo);
+  return jasen.kirjoita(olio, arvo);
 } catch (const std::exception&) {
   return false;
 }
@@ -124,7 +124,7 @@ class Rivilukija::Taulu {
     }
     const Jasen* jasen = luokka_.Etsi(nimi);
     const bool teksti = rivit_.OnTekstisarake(paikka);
-    if (jasen && !jasen->OnOlio() && jasen->aseta)
+    if (jasen && jasen->kirjoita)
       arvot_.push_back({paikka, jasen, teksti});
     else if (teksti && !(jasen && !jasen->OnOlio()))
       oliot_.push_back({paikka, jasen, std::string(nimi)});

@@ -6,6 +6,8 @@
 #include <array>
 #include <cstring>
 #include <memory>
+#include <mutex>
+#include <shared_mutex>
 #include <unordered_map>
 
 #include "kernel/Kirjainkoko.h"
@@ -15,12 +17,34 @@ namespace {
 constexpr std::size_t kNumeroita = 32;
 constexpr std::size_t kPisinSana = Tunniste::kPisinTeksti - kNumeroita - 1;
 
-using Sanavarasto = std::unordered_map<std::string_view, std::unique_ptr<Sana>>;
+/// The words of the run, for all threads.
+class Sanavarasto {
+ public:
+  const Sana& Sanaksi(std::string_view teksti) {
+    {
+      const std::shared_lock lukko(lukko_);
+      if (const auto it = sanat_.find(teksti); it != sanat_.end()) return *it->second;
+    }
+    const std::unique_lock lukko(lukko_);
+    return EtsiTaiLisaa(teksti);
+  }
 
-Sanavarasto& Sanat() {
-  static Sanavarasto sanat;
-  return sanat;
-}
+ private:
+  const Sana& EtsiTaiLisaa(std::string_view teksti) {
+    if (const auto it = sanat_.find(teksti); it != sanat_.end()) return *it->second;
+    auto uusi = std::make_unique<Sana>();
+    uusi->teksti = teksti;
+    Sana& sana = *uusi;
+    sanat_.emplace(sana.teksti, std::move(uusi));
+    const std::string taitettu = PieniksiKirjaimiksi(teksti);
+    sana.taitettu = taitettu == sana.teksti ? &sana : &EtsiTaiLisaa(taitettu);
+    sana.tiiviste = std::hash<std::string_view>{}(taitettu);
+    return sana;
+  }
+
+  std::shared_mutex lukko_;
+  std::unordered_map<std::string_view, std::unique_ptr<Sana>> sanat_;
+};
 
 /// Random bits from the system, fetched in pages: an identity costs no system call of its own.
 class Satunnaislahde {
@@ -87,16 +111,8 @@ std::size_t SananPituus(std::string_view teksti) {
 }  // namespace
 
 const Sana& Sanaksi(std::string_view teksti) {
-  auto& sanat = Sanat();
-  if (const auto it = sanat.find(teksti); it != sanat.end()) return *it->second;
-  auto uusi = std::make_unique<Sana>();
-  uusi->teksti = teksti;
-  Sana& sana = *uusi;
-  sanat.emplace(sana.teksti, std::move(uusi));
-  const std::string taitettu = PieniksiKirjaimiksi(teksti);
-  sana.taitettu = taitettu == sana.teksti ? &sana : &Sanaksi(taitettu);
-  sana.tiiviste = std::hash<std::string_view>{}(taitettu);
-  return sana;
+  static Sanavarasto sanat;
+  return sanat.Sanaksi(teksti);
 }
 
 Tunniste::Tunniste(std::string_view teksti) {
@@ -126,7 +142,7 @@ Tunniste Tunniste::Lue(std::string_view teksti, const Sana& vihje) {
 }
 
 Tunniste Tunniste::Uusi(const Sana& luokka) {
-  static Satunnaislahde lahde;
+  thread_local Satunnaislahde lahde;
   Tunniste t;
   if (luokka.teksti.size() > kPisinSana || !lahde.Seuraava(t.a_, t.b_) || !t.OnGuid())
     return Tunniste(luokka.teksti + " 00000000");

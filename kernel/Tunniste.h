@@ -14,7 +14,7 @@ struct Sana {
   std::size_t tiiviste = 0;
 };
 
-/// The kept word of `teksti`; the same text gives the same address.
+/// The kept word of `teksti`; the same text gives the same address, on every thread.
 const Sana& Sanaksi(std::string_view teksti);
 
 /// Key or identity of an object: either "class name" + blank + 32 hexadecimal digits, or any fixed text ("sKeyVesi").

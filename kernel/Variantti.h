@@ -42,6 +42,9 @@ struct Desimaali {
 using Variantti = std::variant<std::monostate, std::int16_t, std::int32_t, float, double, Rahamaara, Kellonaika,
                                std::string, bool, Desimaali, Olio*>;
 
+/// A member's field as it is, to be put back exactly.
+using Kentanarvo = std::variant<std::int16_t, std::int32_t, float, double, bool, Kellonaika, std::string, Tunniste>;
+
 /// A member's value seen without copying it: how save, load and comparison look at members. A text lives as long as the
 /// object and this view do.
 class ArvoNakyma {

@@ -10,6 +10,8 @@
 /// One class of the type catalogue: its name and its persistent attributes, as the template names them.
 class clsTyyppiTieto {
  public:
+  clsTyyppiTieto(std::string nimi, std::vector<std::string> attribuutit);
+
   std::string clsNimi;
   std::vector<std::string> clsAttribuutit;
 
@@ -21,36 +23,46 @@ class clsTyyppiTieto {
   const std::vector<const Jasen*>& Oliojasenet() const noexcept { return oliojasenet_; }
 
  private:
-  friend class clsTyyppiTiedot;
-  void Ratkaise();
-
-  const Luokka* luokka_ = nullptr;
+  const Luokka* luokka_;
   std::vector<const Jasen*> jasenet_, oliojasenet_;
 };
 
-/// The type catalogue of a building: per class the attribute names read from the template of project files, and the
-/// live objects by `InstanssiId` (`Nimet`, the instance register). The template alone says which members of a class are
-/// attributes.
-class clsTyyppiTiedot {
+/// The type catalogue: per class the attribute names, read from the template of project files. The template alone says
+/// which members of a class are attributes. Never changes once read: all buildings share one.
+class Tyyppiluettelo {
  public:
-  /// Reads classes and attributes from a template database; "" means AppPath + "stemplate.tmp". A read template is kept
-  /// for the run. Raises error 9999 if it can't be read.
-  void AlustaTyyppitiedot(const std::string& tiedosto);
+  explicit Tyyppiluettelo(const std::string& tiedosto);
+  Tyyppiluettelo(const Tyyppiluettelo&) = delete;
+  Tyyppiluettelo& operator=(const Tyyppiluettelo&) = delete;
+  /// The catalogue of a template database, read once in a run.
+  static std::shared_ptr<const Tyyppiluettelo> Hae(const std::string& tiedosto);
 
-  clsTyyppiTieto& Add(std::string_view clsNimi);
   /// Description of a class; raises std::out_of_range for an unknown one.
   const clsTyyppiTieto& Item(std::string_view clsNimi) const;
-  const clsTyyppiTieto* Etsi(const Luokka& luokka) const noexcept;
-  int Count() const noexcept { return static_cast<int>(tiedot_.size()); }
-  void Remove(std::string_view clsNimi);
-  auto begin() const { return tiedot_.begin(); }
-  auto end() const { return tiedot_.end(); }
+  const clsTyyppiTieto* Etsi(const Luokka& luokka) const noexcept {
+    return luokka.Numero() < hakemisto_.size() ? hakemisto_[luokka.Numero()] : nullptr;
+  }
+  auto begin() const noexcept { return tiedot_.begin(); }
+  auto end() const noexcept { return tiedot_.end(); }
+
+ private:
+  std::vector<clsTyyppiTieto> tiedot_;
+  std::vector<const clsTyyppiTieto*> hakemisto_;  // by class number
+};
+
+/// A building's way to the type catalogue, and its live objects by `InstanssiId` (`Nimet`, the instance register).
+class clsTyyppiTiedot {
+ public:
+  /// Takes the catalogue of a template database; "" means AppPath + "stemplate.tmp". Raises error 9999 if it can't be
+  /// read.
+  void AlustaTyyppitiedot(const std::string& tiedosto);
+
+  /// Description of a class; raises std::out_of_range for an unknown one.
+  const clsTyyppiTieto& Item(std::string_view clsNimi) const { return luettelo_->Item(clsNimi); }
+  const clsTyyppiTieto* Etsi(const Luokka& luokka) const noexcept { return luettelo_->Etsi(luokka); }
 
   Instanssirekisteri Nimet;
 
  private:
-  void PaivitaHakemisto();
-
-  std::vector<clsTyyppiTieto> tiedot_;
-  std::vector<std::int16_t> hakemisto_;  // by class number: place in tiedot_, or -1
+  std::shared_ptr<const Tyyppiluettelo> luettelo_;
 };

@@ -62,11 +62,11 @@ bool LueRivi(Olio& olio, std::string_view rivi) {
   const auto vali = rivi.find('\t');
   if (vali == std::string_view::npos) return false;
   const Jasen* jasen = olio.LuokanTiedot().Etsi(rivi.substr(0, vali));
-  if (!jasen || !jasen->aseta) return true;
+  if (!jasen || !jasen->kirjoita) return true;
   const std::string teksti = Suojaamatta(rivi.substr(vali + 1));
   ArvoNakyma arvo;
   arvo.Aseta(std::string_view(teksti));
-  return jasen->aseta(olio, arvo);
+  return jasen->kirjoita(olio, arvo);
 }
 
 }  // namespace

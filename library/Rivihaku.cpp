@@ -26,7 +26,7 @@ void Rivihaku::LueRivi(Olio& olio) {
     if (!jasenet_[i] || sarake.isNull()) continue;
     ArvoNakyma nakyma;
     NaytaSarake(sarake, nakyma);
-    if (!jasenet_[i]->aseta || !jasenet_[i]->aseta(olio, nakyma))
+    if (!jasenet_[i]->kirjoita || !jasenet_[i]->kirjoita(olio, nakyma))
       throw std::runtime_error("sarakkeen " + std::string(jasenet_[i]->nimi) + " arvoa ei voi lukea");
   }
 }

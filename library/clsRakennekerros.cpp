@@ -8,7 +8,9 @@ template <auto Aine, auto Kentta>
 constexpr Jasen Aineesta(std::string_view nimi, std::string_view yksikko = {}) {
   Jasen j{nimi, LajiTyypista<typename Osat<decltype(Kentta)>::Tyyppi>(), yksikko};
   j.nayta = [](const Olio& o, ArvoNakyma& n) { NaytaArvo((static_cast<const clsRakennekerros&>(o).*Aine).*Kentta, n); };
-  j.aseta = [](Olio& o, const ArvoNakyma& n) { return Muunna(n, (static_cast<clsRakennekerros&>(o).*Aine).*Kentta); };
+  j.kirjoita = j.aseta = [](Olio& o, const ArvoNakyma& n) {
+    return Muunna(n, (static_cast<clsRakennekerros&>(o).*Aine).*Kentta);
+  };
   return j;
 }
 

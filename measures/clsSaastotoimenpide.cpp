@@ -20,17 +20,22 @@ constexpr Jasen EnnenJasen() {
   return j;
 }
 
-constexpr Jasen kJasenet[] = {
+}  // namespace
+
+constexpr Jasen clsSaastotoimenpide::kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Lapsi<&clsSaastotoimenpide::MuuttuneetAttribuutit>("MuuttuneetAttribuutit"),
     Ominaisuus<clsSaastotoimenpide, [](const clsSaastotoimenpide& o) { return o.LampoEnergiaEnnen(); },
-               [](clsSaastotoimenpide& o, double arvo) { o.LampoEnergiaEnnen(arvo); }>("LampoEnergiaEnnen", "MWh/a"),
+               [](clsSaastotoimenpide& o, double arvo) { o.LampoEnergiaEnnen(arvo); },
+               &clsSaastotoimenpide::lampoEnnen_>("LampoEnergiaEnnen", "MWh/a"),
     Arvo<&clsSaastotoimenpide::LampoEnergiaJalkeen>("LampoEnergiaJalkeen", "MWh/a"),
     Ominaisuus<clsSaastotoimenpide, [](const clsSaastotoimenpide& o) { return o.SahkoEnergiaEnnen(); },
-               [](clsSaastotoimenpide& o, double arvo) { o.SahkoEnergiaEnnen(arvo); }>("SahkoEnergiaEnnen", "MWh/a"),
+               [](clsSaastotoimenpide& o, double arvo) { o.SahkoEnergiaEnnen(arvo); },
+               &clsSaastotoimenpide::sahkoEnnen_>("SahkoEnergiaEnnen", "MWh/a"),
     Arvo<&clsSaastotoimenpide::SahkoEnergiaJalkeen>("SahkoEnergiaJalkeen", "MWh/a"),
     Ominaisuus<clsSaastotoimenpide, [](const clsSaastotoimenpide& o) { return o.VedenkulutusEnnen(); },
-               [](clsSaastotoimenpide& o, double arvo) { o.VedenkulutusEnnen(arvo); }>("VedenkulutusEnnen", "m³/a"),
+               [](clsSaastotoimenpide& o, double arvo) { o.VedenkulutusEnnen(arvo); },
+               &clsSaastotoimenpide::vesiEnnen_>("VedenkulutusEnnen", "m³/a"),
     Arvo<&clsSaastotoimenpide::VedenkulutusJalkeen>("VedenkulutusJalkeen", "m³/a"),
     Arvo<&Alkio::sKey>("sKey"),
     Arvo<&clsSaastotoimenpide::JalkeenTiedotUpToDate>("JalkeenTiedotUpToDate"),
@@ -51,8 +56,6 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsSaastotoimenpide::ToimenpiteenTekijanNimi>("ToimenpiteenTekijanNimi"),
     EnnenJasen(),
 };
-
-}  // namespace
 
 const Luokka clsSaastotoimenpide::kLuokka{"clsSaastotoimenpide", kJasenet, Luokka::Osallistuu::EiRekisteriin};
 

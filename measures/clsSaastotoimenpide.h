@@ -43,6 +43,8 @@ class clsSaastotoimenpide : public Malli<clsSaastotoimenpide, Alkio> {
   void VedenkulutusEnnen(double arvo) noexcept { AsetaEnnen(vesiEnnen_, arvo); }
 
  private:
+  static const Jasen kJasenet[];
+
   void AsetaEnnen(double& tieto, double arvo) noexcept;
 
   double lampoEnnen_ = 0;

@@ -8,7 +8,7 @@
 
 /// The files of the solar calculator, each read and checked once in the life of the process and then found by its path:
 /// a calculator is made anew for every window, and must not go to the disk for it. A file changed on the disk is seen
-/// after TyhjennaAurinkotaulukot. For one thread, as the calculation is.
+/// after TyhjennaAurinkotaulukot. For any thread; a table once given holds to the end of the run.
 
 /// The three kinds of shading; a file is remembered for its kind.
 enum class Varjostuslaji { Horisontti, YlaLippa, SivuLippa };
@@ -19,6 +19,5 @@ const Saataulukko& HaeSaataulukko(std::string_view polku);
 /// Errors: AurinkoVirhe, see Varjostustaulukko; a file that failed is read anew the next time.
 const Varjostustaulukko& HaeVarjostustaulukko(Varjostuslaji laji, std::string_view polku);
 
-/// Forgets every file read. No calculator or window with loaded tables may be in use across the call: they point to
-/// the tables.
+/// Has every file read anew when it is next asked for. Calculators and windows in use keep the tables that they have.
 void TyhjennaAurinkotaulukot();

@@ -14,6 +14,8 @@ struct Kuukausiarvot {
   double& operator()(int kuukausi) { return arvot[Indeksi(kuukausi)]; }
   double operator()(int kuukausi) const { return arvot[Indeksi(kuukausi)]; }
 
+  friend bool operator==(const Kuukausiarvot&, const Kuukausiarvot&) = default;
+
   static constexpr bool OnKuukausi(int numero) { return numero >= 1 && numero <= kKuukausia; }
 
  private:

@@ -21,6 +21,8 @@ class Saataulukko {
   /// Radiation on a surface of the orientation, MJ/m² per month.
   const Kuukausiarvot& Sateily(Ilmansuunta suunta) const { return sateily_[Indeksi(suunta)]; }
 
+  friend bool operator==(const Saataulukko&, const Saataulukko&) = default;
+
  private:
   std::array<Kuukausiarvot, kIlmansuuntia> sateily_;
 };

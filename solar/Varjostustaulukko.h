@@ -25,15 +25,19 @@ class Varjostustaulukko {
   /// A horizontal surface has 1.
   double Kerroin(double leveysaste, double kulma, Ilmansuunta suunta) const;
 
+  friend bool operator==(const Varjostustaulukko&, const Varjostustaulukko&) = default;
+
  private:
   static constexpr std::size_t kSarakkeita = 3;
   struct Piste {
     double kulma;
     std::array<double, kSarakkeita> kertoimet;
+    friend bool operator==(const Piste&, const Piste&) = default;
   };
   struct Kayra {
     double leveysaste;
     std::vector<Piste> pisteet;  ///< at least one, by rising angle
+    friend bool operator==(const Kayra&, const Kayra&) = default;
   };
 
   void LisaaRivi(const Lukutiedosto& tiedosto);

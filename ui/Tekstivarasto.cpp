@@ -45,10 +45,9 @@ std::optional<std::string> EnsimmainenKieli(const SQLite::Database& varasto) {
   return kysely.getColumn(0).getString();
 }
 
-/// The language column: as read at start, else read now.
+/// The language column: as read at start, else read now. Remembers nothing: threads ask for texts side by side.
 std::string Kielisarake(const SQLite::Database& varasto) {
-  if (g_kielitunnus.empty()) g_kielitunnus = EnsimmainenKieli(varasto).value_or("");
-  return Nimi(g_kielitunnus);
+  return Nimi(g_kielitunnus.empty() ? EnsimmainenKieli(varasto).value_or("") : g_kielitunnus);
 }
 
 /// Nothing when the store, somebody's own of an older program, has no such column.

@@ -9,7 +9,7 @@
 
 /// The store of all user-visible texts, choice lists, messages and help topics: the database "StrVarasto.mdb" in
 /// AppPath, one text column per language. The texts are read once at start; messages, lists and topics when they are
-/// used.
+/// used. What is read at start is to be read before the first thread is made; after that any thread may ask.
 
 /// Reads the language of the store and the texts of that language: the first thing that a program does.
 void AlustaTekstit();

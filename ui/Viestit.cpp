@@ -7,7 +7,7 @@
 
 namespace {
 
-Viestit* g_viestit = nullptr;
+thread_local Viestit* t_viestit = nullptr;
 
 }  // namespace
 
@@ -23,11 +23,11 @@ bool OnVastaus(Napit napit, Vastaus vastaus) {
 }
 
 Viestit& ViestitNyt() {
-  static KerataanViestit ikkunaton;
-  return g_viestit ? *g_viestit : ikkunaton;
+  thread_local KerataanViestit ikkunaton;
+  return t_viestit ? *t_viestit : ikkunaton;
 }
 
-void AsetaViestit(Viestit* viestit) { g_viestit = viestit; }
+void AsetaViestit(Viestit* viestit) { t_viestit = viestit; }
 
 void Ilmoita(std::string teksti, std::string otsikko, Vakavuus vakavuus) {
   ViestitNyt().Nayta({std::move(teksti), std::move(otsikko), vakavuus, Napit::Ok, Vastaus::Ok});

@@ -43,9 +43,10 @@ class Viestit {
   virtual void AnnaPiirtaa() = 0;
 };
 
-/// The present way; `KerataanViestit` until another is set.
+/// The present way of this thread; `KerataanViestit` until another is set. A calculation on a thread of its own thus
+/// never speaks past the windows: whoever started it takes its messages (ui/Hiljaa.h) and tells them.
 Viestit& ViestitNyt();
-/// Sets the way, which must live until the next call; nullptr brings the first one back.
+/// Sets this thread's way, which must live until the next call; nullptr brings the first one back.
 void AsetaViestit(Viestit* viestit);
 
 /// Shows a message with an OK button.

@@ -10,36 +10,6 @@
 
 namespace {
 
-constexpr Jasen kJasenet[] = {
-    Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Arvo<&Alkio::sKey>("sKey"),
-    Arvo<&clsIVKone::KoneenTunnus>("KoneenTunnus"),
-    Arvo<&clsIVKone::TuloIlmavirta11Teho>("TuloIlmavirta11Teho", "m³/s"),
-    Arvo<&clsIVKone::PoistoIlmavirta11Teho>("PoistoIlmavirta11Teho", "m³/s"),
-    Ominaisuus<clsIVKone, [](const clsIVKone& k) { return k.SisaanpuhallusLampotila(); },
-               [](clsIVKone& k, double T) { k.SisaanpuhallusLampotila(T); }>("SisaanpuhallusLampotila", "°C"),
-    Arvo<&clsIVKone::PoistoLampotila>("PoistoLampotila", "°C"),
-    Arvo<&clsIVKone::IlmanLampeneminenPuhaltimessa>("IlmanLampeneminenPuhaltimessa", "K"),
-    Arvo<&clsIVKone::LtoHyotysuhde>("LtoHyotysuhde", "%"),
-    Arvo<&clsIVKone::TuloilmanLammitysSahkoPatterilla>("TuloilmanLammitysSahkoPatterilla"),
-    Arvo<&clsIVKone::IVPeriaateID>("IVPeriaateID"),
-    Arvo<&clsIVKone::IVPeriaate>("IVPeriaate"),
-    Arvo<&clsIVKone::JarjestelmaTyyppiID>("JarjestelmaTyyppiID"),
-    Arvo<&clsIVKone::JarjestelmaTyyppi>("JarjestelmaTyyppi"),
-    Arvo<&clsIVKone::PuhaltimenSaatotapaID>("PuhaltimenSaatotapaID"),
-    Arvo<&clsIVKone::PuhaltimenSaatotapa>("PuhaltimenSaatotapa"),
-    Arvo<&clsIVKone::PuhaltimenVoimansiirtoTapaID>("PuhaltimenVoimansiirtoTapaID"),
-    Arvo<&clsIVKone::PuhaltimenVoimansiirtoTapa>("PuhaltimenVoimansiirtoTapa"),
-    Ominaisuus<clsIVKone, [](const clsIVKone& k) { return k.VakioPaineOsuusID(); },
-               [](clsIVKone& k, std::int32_t rivi) { k.VakioPaineOsuusID(rivi); }>("VakioPaineOsuusID"),
-    Arvo<&clsIVKone::VakioPaineOsuus>("VakioPaineOsuus"),
-    Arvo<&clsIVKone::LiittyyTilaansKey>("LiittyyTilaansKey"),
-    Lapsi<&clsIVKone::Lto>("Lto"),
-    Lapsi<&clsIVKone::KayntiAikaYleistiedot>("KayntiAikaYleistiedot"),
-    Lapsi<&clsIVKone::PuhaltimienSahkonKulutus>("PuhaltimienSahkonKulutus"),
-    Lapsi<&clsIVKone::LammTehot>("LammTehot"),
-};
-
 constexpr int kUusiKoneTekstinro = 9129;
 constexpr double kkWhperMWh = 1000;
 constexpr double kTaysVirta = 100;  // %
@@ -61,6 +31,38 @@ Kuukausitaulu Erotus(Kuukausitaulu a, const Kuukausitaulu& b) {
 }
 
 }  // namespace
+
+constexpr Jasen clsIVKone::kJasenet[] = {
+    Arvo<&Olio::InstanssiId>("InstanssiId"),
+    Arvo<&Alkio::sKey>("sKey"),
+    Arvo<&clsIVKone::KoneenTunnus>("KoneenTunnus"),
+    Arvo<&clsIVKone::TuloIlmavirta11Teho>("TuloIlmavirta11Teho", "m³/s"),
+    Arvo<&clsIVKone::PoistoIlmavirta11Teho>("PoistoIlmavirta11Teho", "m³/s"),
+    Ominaisuus<clsIVKone, [](const clsIVKone& k) { return k.SisaanpuhallusLampotila(); },
+               [](clsIVKone& k, double T) { k.SisaanpuhallusLampotila(T); }, &clsIVKone::sisaanpuhallusLampotila_>(
+        "SisaanpuhallusLampotila", "°C"),
+    Arvo<&clsIVKone::PoistoLampotila>("PoistoLampotila", "°C"),
+    Arvo<&clsIVKone::IlmanLampeneminenPuhaltimessa>("IlmanLampeneminenPuhaltimessa", "K"),
+    Arvo<&clsIVKone::LtoHyotysuhde>("LtoHyotysuhde", "%"),
+    Arvo<&clsIVKone::TuloilmanLammitysSahkoPatterilla>("TuloilmanLammitysSahkoPatterilla"),
+    Arvo<&clsIVKone::IVPeriaateID>("IVPeriaateID"),
+    Arvo<&clsIVKone::IVPeriaate>("IVPeriaate"),
+    Arvo<&clsIVKone::JarjestelmaTyyppiID>("JarjestelmaTyyppiID"),
+    Arvo<&clsIVKone::JarjestelmaTyyppi>("JarjestelmaTyyppi"),
+    Arvo<&clsIVKone::PuhaltimenSaatotapaID>("PuhaltimenSaatotapaID"),
+    Arvo<&clsIVKone::PuhaltimenSaatotapa>("PuhaltimenSaatotapa"),
+    Arvo<&clsIVKone::PuhaltimenVoimansiirtoTapaID>("PuhaltimenVoimansiirtoTapaID"),
+    Arvo<&clsIVKone::PuhaltimenVoimansiirtoTapa>("PuhaltimenVoimansiirtoTapa"),
+    Ominaisuus<clsIVKone, [](const clsIVKone& k) { return k.VakioPaineOsuusID(); },
+               [](clsIVKone& k, std::int32_t rivi) { k.VakioPaineOsuusID(rivi); }, &clsIVKone::vakioPaineOsuusID_>(
+        "VakioPaineOsuusID"),
+    Arvo<&clsIVKone::VakioPaineOsuus>("VakioPaineOsuus"),
+    Arvo<&clsIVKone::LiittyyTilaansKey>("LiittyyTilaansKey"),
+    Lapsi<&clsIVKone::Lto>("Lto"),
+    Lapsi<&clsIVKone::KayntiAikaYleistiedot>("KayntiAikaYleistiedot"),
+    Lapsi<&clsIVKone::PuhaltimienSahkonKulutus>("PuhaltimienSahkonKulutus"),
+    Lapsi<&clsIVKone::LammTehot>("LammTehot"),
+};
 
 const Luokka clsIVKone::kLuokka{"clsIVKone", kJasenet};
 

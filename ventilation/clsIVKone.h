@@ -96,6 +96,8 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   void KirjoitaDataluokka();
 
  private:
+  static const Jasen kJasenet[];
+
   void LiitaTapahtumat();
   void LueLomakkeelta(clsIVKone& kone) const;
   void AsetaLampeneminen(double lampeneminen);

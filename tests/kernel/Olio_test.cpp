@@ -58,6 +58,8 @@ TEST(Jasentaulu, KelpaamatonArvoJattaaJasenenEnnalleen) {
   EXPECT_THROW(AsetaJasen(r, "Tilat", 1.0), TuntematonJasen);
   EXPECT_THROW(AsetaJasen(r, "EiOle", 1.0), TuntematonJasen);
   EXPECT_THROW(HaeJasen(r, "EiOle"), TuntematonJasen);
+  EXPECT_THROW(AsetaJasen(r, "InstanssiId", std::string("KoeRakennus 1")), TuntematonJasen);
+  EXPECT_THROW(AsetaJasen(r.TilatKokoelma.Add("sKeyA"), "sKey", std::string("sKeyB")), TuntematonJasen);
   EXPECT_EQ(r.Lyhyt, 5);
 }
 

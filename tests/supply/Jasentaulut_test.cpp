@@ -43,12 +43,12 @@ TYPED_TEST(Jasentaulu, JokainenArvoAsettuuNimellaOmaanJaseneensa) {
   TypeParam olio;
   int arvo = 1000;
   for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
-    if (jasen.OnOlio() || jasen.laji == Laji::Totuus) continue;
+    if (!jasen.aseta || jasen.laji == Laji::Totuus) continue;
     AsetaJasen(olio, jasen.nimi, std::to_string(++arvo));
   }
   std::set<std::string> luetut;
   for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
-    if (jasen.OnOlio() || jasen.laji == Laji::Totuus) continue;
+    if (!jasen.aseta || jasen.laji == Laji::Totuus) continue;
     EXPECT_TRUE(luetut.insert(Tekstina(olio, jasen)).second) << jasen.nimi;
   }
 }
