@@ -28,8 +28,7 @@ void Kumous::Kumoa() {
   const auto edellinen = std::move(ennen_);
   edellinen->Kopioi(rakennus_);
   rakennus_->MuuLampo = edellinen->MuuLampo;
-  rakennus_->PaivitaInstanssiIdLista();
   rakennus_->Saa.AsetaSaaPaikkakunta(rakennus_->Perustiedot.LammTarveLukuPaikkakuntaID());
-  rakennus_->PerusmalliMuuttui();
+  rakennus_->Muuttui({});
   Seuraa(rakennus_);
 }

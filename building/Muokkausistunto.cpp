@@ -63,14 +63,14 @@ void Muokkausistunto::Peruuta() try {
 
 void Muokkausistunto::Palauta() {
   kopioiTakaisin_();
-  VaadiRakennus().PaivitaInstanssiIdLista();
+  VaadiRakennus().RekisteriVanheni();
   Tee(toimet_.palautettu);
 }
 
 void Muokkausistunto::Kirjaa() const {
   if (istuntoja > 1) return;
   if (toimet_.elava)
-    VaadiRakennus().PerusmalliMuuttui();
+    VaadiRakennus().Muuttui(muutoksenNimi_);
   else
     VaadiRakennus().Tallennettu = false;
 }

@@ -300,7 +300,7 @@ clsRakenne& Rakennemuokkaus::LisaaRakenne(std::int32_t rakennetyyppi, const std:
 }
 
 void Rakennemuokkaus::RakenteetMuuttuivat(const Tunniste& valittava) {
-  VaadiRakennus().PaivitaInstanssiIdLista();
+  VaadiRakennus().RekisteriVanheni();
   NaytaLuettelo(valittava);
 }
 
@@ -433,7 +433,7 @@ void Rakennemuokkaus::KayttoLiittyma_OkKlikattu() try {
 void Rakennemuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
   Odotus odotus;
   varalla_->Kopioi(rakenteet_);
-  VaadiRakennus().PaivitaInstanssiIdLista();
+  VaadiRakennus().RekisteriVanheni();
   KayttoLiittyma.Sulje();
 } catch (...) {
   NostaVirhe("Rakennemuokkaus:KayttoLiittyma_PeruutaKlikattu Method");

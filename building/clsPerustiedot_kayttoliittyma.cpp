@@ -168,7 +168,7 @@ void clsPerustiedot::OtaKayttoon(std::int32_t entinenPaikkakunta) try {
     LaskeOletusarvotPerustietojenMukaan.arvo();
     OletusarvotLaskettu = true;
   }
-  VaadiRakennus().PerusmalliMuuttui();
+  VaadiRakennus().Muuttui(Teksti(kOtsikko));
 } catch (...) {
   NostaVirhe("clsPerustiedot:OtaKayttoon Method");
 }
@@ -189,7 +189,7 @@ void clsPerustiedot::KayttoLiittyma_PeruutaKlikattu() try {
   Odotus odotus;
   varalla_.arvo->Kopioi(*this);
   clsRakennus& rakennus = VaadiRakennus();
-  rakennus.PaivitaInstanssiIdLista();
+  rakennus.RekisteriVanheni();
   if (!OletusarvotLaskettu) {
     rakennus.ProjektiAsetukset.strCurrentProjectFile.clear();
     PaaikkunaNyt().AsetaOtsikko("");

@@ -100,6 +100,7 @@ clsRakennus::~clsRakennus() {
 
 void clsRakennus::Delete() try {
   TyyppiTiedot.Nimet.TyhjennaIdListat();
+  RekisteriVanheni();
   TyhjennaOsat();
   Tariffit.Tyhjenna();
   Vesitariffit.Tyhjenna();
@@ -119,8 +120,15 @@ void clsRakennus::TyhjennaOsat() {
 void clsRakennus::PaivitaInstanssiIdLista() try {
   TyyppiTiedot.Nimet.TyhjennaIdListat();
   PaivitaIdLista(*this, TyyppiTiedot);
+  rekisteriVoimassa_ = true;
 } catch (...) {
   NostaVirhe("clsRakennus:PaivitaInstanssiIdLista Method");
+}
+
+Olio* clsRakennus::HaeInstanssi(std::string_view luokka, const Tunniste& instanssiId) {
+  if (!rekisteriVoimassa_) PaivitaInstanssiIdLista();
+  const InstanssiLista* lista = TyyppiTiedot.Nimet.Etsi(luokka);
+  return lista ? lista->Item(instanssiId) : nullptr;
 }
 
 std::unique_ptr<clsRakennus> clsRakennus::Kopioi(clsRakennus* kohde) try {
@@ -141,6 +149,7 @@ std::unique_ptr<clsRakennus> clsRakennus::Kopioi(clsRakennus* kohde) try {
   ProjektiAsetukset.Kopioi(kohde->ProjektiAsetukset);
   kohde->Tallennettu = Tallennettu;
   kohde->InstanssiId = InstanssiId;
+  kohde->RekisteriVanheni();
   PaivitaInstanssiIdLista();
   return uusi;
 } catch (...) {
@@ -155,8 +164,7 @@ void clsRakennus::VertaileAttribuutit(clsRakennus& vanha, MuutostenKeraaja& muut
 
 void clsRakennus::LiitaSaastoToimenpide(const clsMuuttuneetAttribuutit& muuttuneet) try {
   for (const clsMuuttunutAttribuutti& muutos : muuttuneet) {
-    InstanssiLista* lista = TyyppiTiedot.Nimet.Etsi(muutos.clsTypeName);
-    Olio* olio = lista ? lista->Item(muutos.InstanssiId) : nullptr;
+    Olio* olio = HaeInstanssi(muutos.clsTypeName, muutos.InstanssiId);
     const Variantti arvo = UusiArvo(muutos);
     if (olio && !std::holds_alternative<std::monostate>(arvo)) AsetaJasen(*olio, muutos.AttribuutinNimi, arvo);
   }

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include "building/Muutosilmoitus.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsSaa.h"
 #include "building/clsTilat.h"
@@ -62,6 +63,10 @@ class clsRakennus : public Malli<clsRakennus> {
   void Delete();
   /// Empties the register and rebuilds it by walking the tree.
   void PaivitaInstanssiIdLista();
+  /// Objects have come, gone or been replaced: the register is rebuilt at the next look-up.
+  void RekisteriVanheni() noexcept { rekisteriVoimassa_ = false; }
+  /// The object of that class and identity, or nothing. The one way to look into the register.
+  Olio* HaeInstanssi(std::string_view luokka, const Tunniste& instanssiId);
   /// Deep copy of the physics and the energy tariffs, identities included; measures, water tariffs, tariff comparison
   /// and arranger stay with this object. Into an existing target it reuses the target's parts. Returns the copy when
   /// there is no target.
@@ -123,25 +128,38 @@ class clsRakennus : public Malli<clsRakennus> {
   /// Warns when the constant share V exceeds Q; 0 with error 1050 when the year has no degree days S.
   double ToteutunutNormitettuLampo();
 
-  /// To be called when a dialog has committed a change of the model: measures and caches no longer hold, and the object
-  /// differs from its file.
-  void PerusmalliMuuttui();
+  /// To be called once when a command or a dialog has committed a change of the model, whatever it was: the object
+  /// differs from its file, measures, caches and register no longer hold, the session makes it a step of undo, and open
+  /// windows show the new figures. `toiminto` is what the person sees as its name, "Tilan tiedot".
+  void Muuttui(std::string_view toiminto);
   /// How many times that has been called: tells whether the model has changed since one looked last.
   int Muutoksia() const noexcept { return muutoksia_; }
+  /// Open windows show the present figures.
+  void PaivitaNakymat();
+  /// A window that shows results of this building: `naytaUudelleen` runs after each change while the subscription is
+  /// kept.
+  [[nodiscard]] Muutostilaus TilaaMuutokset(Muutoskuulija naytaUudelleen);
+  /// The session's ear for Muuttui.
+  std::function<void(std::string_view toiminto)> MuutosVahvistettu;
 
   /// Opens the heat summary after its warnings; re-bases all measures on the present model.
   void NaytaLampoYhteenvetoDlg();
 
  private:
+  void PoistaVoimasta();
   void LuoOletusmalli();
   void TyhjennaOsat();
   bool TarjoaMateriaalienPaivitysta();
   void VaroitaMaanvaraisista() const;
   void VaroitaIlmavirroista();
+  void PaivitaLampoYhteenveto();
   void TaytaLampoYhteenveto();
   void PaivitaToimenpiteidenPerusta();
 
   int muutoksia_ = 0;
+  Muutosilmoitus nakymat_;
+  bool rekisteriVoimassa_ = false;
   bool vaurioitunut_ = false;  // the file had values that could not be read: the next save keeps it aside
   std::unique_ptr<frmLampoYhteenveto> lampoYhteenveto_;
+  Muutostilaus lampoYhteenvedonTilaus_;
 };

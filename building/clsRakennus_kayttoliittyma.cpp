@@ -6,6 +6,7 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Virhe.h"
 #include "library/Rakennetyyppi.h"
+#include "ui/Hiljaa.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr double kSuuriMaanvarainenU = 1.0;  // W/m²K
+constexpr int kMuuLampo = 9567;
 constexpr int kSuuriUVaroitus = 1068, kIrrallisetKoneet = 1057, kIrrallinenKone = 1058;
 
 /// "The part, and the rest": how the panel tells that the generation goes on.
@@ -29,14 +31,28 @@ class Vaiheet {
 
 }  // namespace
 
-void clsRakennus::PerusmalliMuuttui() {
-  ++muutoksia_;
+void clsRakennus::PoistaVoimasta() {
+  RekisteriVanheni();
   for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) toimenpide.EnnenTiedotUpToDate = false;
   Tilat.VuotuinenLampoEnergianTarveUpToDate(false);
   IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = false;
+}
+
+void clsRakennus::Muuttui(std::string_view toiminto) {
+  ++muutoksia_;
+  PoistaVoimasta();
   Tallennettu = false;
-  Tilat.ListaaTilat();
-  IVKoneet.ListaaKoneet();
+  if (MuutosVahvistettu) MuutosVahvistettu(toiminto);
+  nakymat_.Ilmoita();
+}
+
+void clsRakennus::PaivitaNakymat() {
+  PoistaVoimasta();
+  nakymat_.Ilmoita();
+}
+
+Muutostilaus clsRakennus::TilaaMuutokset(Muutoskuulija naytaUudelleen) {
+  return nakymat_.Tilaa(std::move(naytaUudelleen));
 }
 
 void clsRakennus::LuoOletusmalli() try {
@@ -64,8 +80,7 @@ void clsRakennus::LuoOletusmalli() try {
   SahkoTariffienVertailu.TotEnergia = Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Sahko;
   SahkoTariffienVertailu.TotHuippuTeho = 0;
   SahkoTariffienVertailu.TotLoisteho = 0;
-  PaivitaInstanssiIdLista();
-  Tallennettu = false;
+  RekisteriVanheni();
 } catch (...) {
   NostaVirhe("clsRakennus:LuoOletusmalli Method");
 }
@@ -75,22 +90,30 @@ void clsRakennus::NaytaLampoYhteenvetoDlg() try {
     lampoYhteenveto_ = std::make_unique<frmLampoYhteenveto>();
     lampoYhteenveto_->MuuLampoMuuttui = [this](double arvo) {
       MuuLampo = arvo;
-      Tallennettu = false;
+      Muuttui(Teksti(kMuuLampo));
     };
     lampoYhteenveto_->KuukausitaseKlikattu = [this] { NaytaKuukausitase(*this); };
     lampoYhteenveto_->OkKlikattu = [this] { lampoYhteenveto_->Sulje(); };
+    lampoYhteenvedonTilaus_ = TilaaMuutokset([this] {
+      const Hiljaisuus hiljaisuus;  // the warnings are told at opening
+      if (lampoYhteenveto_->Auki()) PaivitaLampoYhteenveto();
+    });
   }
-  Odotus odotus;
+  const Odotus odotus;
   VaroitaMaanvaraisista();
   VaroitaIlmavirroista();
-  {
-    const Tasehaarukka haarukka(*this);
-    TaytaLampoYhteenveto();
-    PaivitaToimenpiteidenPerusta();
-  }
+  PaivitaLampoYhteenveto();
   lampoYhteenveto_->Nayta();
 } catch (...) {
   NostaVirhe("clsRakennus:NaytaLampoYhteenvetoDlg Method");
+}
+
+/// The figures, and with them the base of the measures.
+void clsRakennus::PaivitaLampoYhteenveto() {
+  const Odotus odotus;
+  const Tasehaarukka haarukka(*this);
+  TaytaLampoYhteenveto();
+  PaivitaToimenpiteidenPerusta();
 }
 
 void clsRakennus::VaroitaMaanvaraisista() const {

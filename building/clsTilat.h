@@ -2,6 +2,7 @@
 #pragma once
 #include <memory>
 
+#include "building/Muutosilmoitus.h"
 #include "building/clsTila.h"
 #include "ui/Avainluettelo.h"
 
@@ -36,8 +37,7 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   void NaytaKayttoliittyma();
   void LueDataluokka();
   void KirjoitaDataluokka();
-  /// Fills the list with the spaces and their balance of the year, if it is open. To be called when the model has
-  /// changed.
+  /// Fills the list with the spaces and their balance of the year, if it is open.
   void ListaaTilat();
 
  private:
@@ -45,7 +45,7 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   void TaytaLuettelo();
   clsTila& ValittuTila() const;
   void PaivitaNapit();
-  void MalliMuuttui(const Tunniste& valittava);
+  void LuetteloMuuttui(int toiminto, const Tunniste& valittava);
   void KayttoLiittyma_LisaaKlikattu();
   void KayttoLiittyma_MuokkaaKlikattu();
   void KayttoLiittyma_KopioiKlikattu();
@@ -58,4 +58,5 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   Oma<double> tarve_;  // MWh/a
   Oma<std::shared_ptr<frmTilaYhteenveto>> kayttoLiittyma_;
   Oma<Avainluettelo> rivit_;
+  Oma<Muutostilaus> tilaus_;
 };

@@ -14,6 +14,7 @@
 
 namespace {
 
+constexpr int kSahkokuormat = 2523, kTilanKopiointi = 2525, kTilanPoisto = 2526;
 constexpr int kKopio = 1998, kUusiTila = 2770, kYhteensa = 2779, kVirheenOtsikko = 9100, kTilaKaytossa = 9512;
 
 constexpr const char* kEiLukua = "---";
@@ -72,6 +73,7 @@ void clsTilat::NaytaKayttoliittyma() try {
   if (!kayttoLiittyma_.arvo) {
     kayttoLiittyma_.arvo = std::make_shared<frmTilaYhteenveto>();
     LiitaTapahtumat();
+    tilaus_.arvo = VaadiRakennus().TilaaMuutokset([this] { ListaaTilat(); });
   }
   LueDataluokka();
   kayttoLiittyma_.arvo->Nayta();
@@ -124,10 +126,8 @@ void clsTilat::PaivitaNapit() { kayttoLiittyma_.arvo->PaivitaNapit(VaadiRakennus
 
 clsTila& clsTilat::ValittuTila() const { return Item(rivit_.arvo.Valittu(kayttoLiittyma_.arvo->lvwTilat)); }
 
-void clsTilat::MalliMuuttui(const Tunniste& valittava) {
-  VaadiRakennus().PaivitaInstanssiIdLista();
-  VaadiRakennus().PerusmalliMuuttui();
-  TaytaLuettelo();
+void clsTilat::LuetteloMuuttui(int toiminto, const Tunniste& valittava) {
+  VaadiRakennus().Muuttui(Teksti(toiminto));
   rivit_.arvo.Valitse(kayttoLiittyma_.arvo->lvwTilat, valittava);
   PaivitaNapit();
 }
@@ -138,23 +138,24 @@ void clsTilat::KayttoLiittyma_LisaaKlikattu() try {
   tila.TilanNimi = Teksti(kUusiTila);
   tila.TilanKayttoaikaStr = Valintalista("frmTila", "cmbTilanKayttoaika").at(0);
   tila.SaatotapaStr = Valintalista("frmTila", "cmbSaatotapa").at(1);
-  if (tila.NaytaKayttoliittyma()) return MalliMuuttui(avain);
+  if (tila.NaytaKayttoliittyma()) {
+    rivit_.arvo.Valitse(kayttoLiittyma_.arvo->lvwTilat, avain);
+    return PaivitaNapit();
+  }
   Remove(avain);
-  VaadiRakennus().PaivitaInstanssiIdLista();
+  VaadiRakennus().RekisteriVanheni();
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_LisaaKlikattu Method");
 }
 
-void clsTilat::KayttoLiittyma_MuokkaaKlikattu() try {
-  if (ValittuTila().NaytaKayttoliittyma()) TaytaLuettelo();
-} catch (...) {
+void clsTilat::KayttoLiittyma_MuokkaaKlikattu() try { ValittuTila().NaytaKayttoliittyma(); } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_MuokkaaKlikattu Method");
 }
 
 void clsTilat::KayttoLiittyma_KopioiKlikattu() try {
   clsTila& kopio = LisaaKopio(*this, ValittuTila());
   kopio.TilanNimi = Teksti(kKopio) + kopio.TilanNimi;
-  MalliMuuttui(kopio.sKey);
+  LuetteloMuuttui(kTilanKopiointi, kopio.sKey);
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_KopioiKlikattu Method");
 }
@@ -165,14 +166,14 @@ void clsTilat::KayttoLiittyma_PoistaKlikattu() try {
     return Ilmoita(Teksti(kTilaKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
   if (!KysyPoisto()) return;
   Remove(Tunniste(tila.sKey));
-  MalliMuuttui({});
+  LuetteloMuuttui(kTilanPoisto, {});
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_PoistaKlikattu Method");
 }
 
 void clsTilat::KayttoLiittyma_SahkokuormatMuuttuivat() try {
   KirjoitaDataluokka();
-  VaadiRakennus().PerusmalliMuuttui();
+  VaadiRakennus().Muuttui(Teksti(kSahkokuormat));
   LueDataluokka();
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_SahkokuormatMuuttuivat Method");

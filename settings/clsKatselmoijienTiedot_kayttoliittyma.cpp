@@ -4,9 +4,12 @@
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 #include "settings/clsKatselmoijienTiedot.h"
+#include "ui/Tekstivarasto.h"
 #include "ui/frmKatselmoijienTiedot.h"
 
 namespace {
+
+constexpr int kOtsikko = 2880;
 
 using Kentat = std::array<TextBox, clsKatselmoijanTiedot::kKenttia>;
 
@@ -29,7 +32,7 @@ void clsKatselmoijienTiedot::NaytaKayttoliittyma() try {
   };
   lomake.OkKlikattu = [this, &lomake] {
     KirjoitaDataluokka(lomake);
-    VaadiRakennus().PerusmalliMuuttui();
+    VaadiRakennus().Muuttui(Teksti(kOtsikko));
     lomake.Sulje();
   };
   lomake.PeruutaKlikattu = [&lomake] { lomake.Sulje(); };

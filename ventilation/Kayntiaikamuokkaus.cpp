@@ -103,7 +103,7 @@ void Kayntiaikamuokkaus::LiitaTapahtumat() {
 
 bool Kayntiaikamuokkaus::Nayta() {
   const clsKayntiAika oletus;
-  if (ajat_.TaydennaJaksot(oletus.Tsp, oletus.dTPuhallin)) VaadiRakennus().PaivitaInstanssiIdLista();
+  if (ajat_.TaydennaJaksot(oletus.Tsp, oletus.dTPuhallin)) VaadiRakennus().RekisteriVanheni();
   KayttoLiittyma.ValitseSyottotapa(ajat_.Vuosittainen() ? 0 : 1);
   NaytaJaksot();
   KayttoLiittyma.NaytaModaalisena();
@@ -234,7 +234,7 @@ void Kayntiaikamuokkaus::KayttoLiittyma_OkKlikattu() try {
 void Kayntiaikamuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
   Odotus odotus;
   varalla_->Kopioi(ajat_);
-  VaadiRakennus().PaivitaInstanssiIdLista();
+  VaadiRakennus().RekisteriVanheni();
   KayttoLiittyma.Sulje();
 } catch (...) {
   NostaVirhe("Kayntiaikamuokkaus:KayttoLiittyma_PeruutaKlikattu Method");

@@ -219,7 +219,7 @@ void clsIVKone::KayttoLiittyma_OkKlikattu() try {
 void clsIVKone::KayttoLiittyma_PeruutaKlikattu() try {
   Odotus odotus;
   varalla_.arvo->Kopioi(*this);
-  if (OnElavassaMallissa()) VaadiRakennus().PaivitaInstanssiIdLista();
+  if (OnElavassaMallissa()) VaadiRakennus().RekisteriVanheni();
   kayttoLiittyma_.arvo->Sulje();
 } catch (...) {
   NostaVirhe("clsIVKone:KayttoLiittyma_PeruutaKlikattu Method");

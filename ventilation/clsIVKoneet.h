@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "building/Muutosilmoitus.h"
 #include "kernel/Kokoelma.h"
 #include "kernel/Laskenta.h"
 #include "ui/Avainluettelo.h"
@@ -43,8 +44,7 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
   void LueDataluokka();
   /// Opens the dialog of the machine and takes its change into use. True after OK.
   bool Muokkaa(clsIVKone& kone);
-  /// Fills the list with the machines and their energy of the year, if it is open. To be called when the model has
-  /// changed.
+  /// Fills the list with the machines and their energy of the year, if it is open.
   void ListaaKoneet();
 
  private:
@@ -52,7 +52,7 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
   void PaivitaNapit();
   clsIVKone& ValittuKone() const;
   void Valitse(const Tunniste& avain);
-  void MalliMuuttui(const Tunniste& valittava);
+  void LuetteloMuuttui(int toiminto, const Tunniste& valittava);
   void IVKone_LampoSahkoKulutusMuuttui();
   void KayttoLiittyma_LisaaKlikattu();
   void KayttoLiittyma_MuokkaaKlikattu();
@@ -62,4 +62,5 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
   Oma<double> jalkilammitys_;
   Oma<std::shared_ptr<frmIVKoneYhteenveto>> kayttoLiittyma_;
   Oma<Avainluettelo> rivit_;
+  Oma<Muutostilaus> tilaus_;
 };

@@ -16,6 +16,7 @@
 
 namespace {
 
+constexpr int kKoneenTiedot = 3020, kKoneenKopiointi = 3018, kKoneenPoisto = 3019;
 constexpr int kKopio = 1998, kYhteensa = 2779, kKoneKaytossa = 3016, kVirheenOtsikko = 9100, kEiTilaa = 9128;
 
 constexpr const char* kEiLukua = "---";
@@ -92,6 +93,7 @@ void clsIVKoneet::NaytaKayttoliittyma() try {
   if (!kayttoLiittyma_.arvo) {
     kayttoLiittyma_.arvo = std::make_shared<frmIVKoneYhteenveto>();
     LiitaTapahtumat();
+    tilaus_.arvo = VaadiRakennus().TilaaMuutokset([this] { ListaaKoneet(); });
   }
   LueDataluokka();
   kayttoLiittyma_.arvo->Nayta();
@@ -134,7 +136,7 @@ bool clsIVKoneet::Muokkaa(clsIVKone& kone) try {
   NostaVirhe("clsIVKoneet:Muokkaa Method");
 }
 
-void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() { VaadiRakennus().PerusmalliMuuttui(); }
+void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() { VaadiRakennus().Muuttui(Teksti(kKoneenTiedot)); }
 
 void clsIVKoneet::Valitse(const Tunniste& avain) {
   rivit_.arvo.Valitse(kayttoLiittyma_.arvo->lvwKoneet, avain);
@@ -142,9 +144,8 @@ void clsIVKoneet::Valitse(const Tunniste& avain) {
 }
 
 /// After machines have come or gone.
-void clsIVKoneet::MalliMuuttui(const Tunniste& valittava) {
-  VaadiRakennus().PaivitaInstanssiIdLista();
-  VaadiRakennus().PerusmalliMuuttui();
+void clsIVKoneet::LuetteloMuuttui(int toiminto, const Tunniste& valittava) {
+  VaadiRakennus().Muuttui(Teksti(toiminto));
   Valitse(valittava);
 }
 
@@ -154,10 +155,9 @@ void clsIVKoneet::KayttoLiittyma_LisaaKlikattu() try {
   clsKayntiAjat& ajat = kone.KayntiAikaYleistiedot;
   ajat.LuoJaksot(kone.SisaanpuhallusLampotila(), kone.IlmanLampeneminenPuhaltimessa);
   ajat.KayntiAikojenSyottoTapa = Valintalista("frmIlmanvaihtokoneenKayntiajat", "cmbKayntiAikojenSyottoTapa").at(0);
-  const bool hyvaksytty = Muokkaa(kone);
-  if (!hyvaksytty) Remove(avain);
-  VaadiRakennus().PaivitaInstanssiIdLista();
-  if (hyvaksytty) Valitse(avain);
+  if (Muokkaa(kone)) return Valitse(avain);
+  Remove(avain);
+  VaadiRakennus().RekisteriVanheni();
 } catch (...) {
   NostaVirhe("clsIVKoneet:KayttoLiittyma_LisaaKlikattu Method");
 }
@@ -170,7 +170,7 @@ void clsIVKoneet::KayttoLiittyma_KopioiKlikattu() try {
   clsIVKone& kopio = LisaaKopio(*this, ValittuKone());
   kopio.KoneenTunnus = Teksti(kKopio) + kopio.KoneenTunnus;
   kopio.PaivitaOsienTiedot();
-  MalliMuuttui(kopio.sKey);
+  LuetteloMuuttui(kKoneenKopiointi, kopio.sKey);
 } catch (...) {
   NostaVirhe("clsIVKoneet:KayttoLiittyma_KopioiKlikattu Method");
 }
@@ -181,7 +181,7 @@ void clsIVKoneet::KayttoLiittyma_PoistaKlikattu() try {
     return Ilmoita(Teksti(kKoneKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
   if (!KysyPoisto()) return;
   Remove(Tunniste(kone.sKey));
-  MalliMuuttui({});
+  LuetteloMuuttui(kKoneenPoisto, {});
 } catch (...) {
   NostaVirhe("clsIVKoneet:KayttoLiittyma_PoistaKlikattu Method");
 }

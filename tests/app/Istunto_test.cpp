@@ -313,7 +313,7 @@ TEST_F(IstuntoTesti, QuietMomentsKeepARecoveryCopyUntilACleanEnd) {
   TallennettuKohde("Koulu");
   istunto.HiljainenHetki();
   EXPECT_FALSE(fs::exists(palautus)) << "nothing has changed";
-  istunto.Rakennus()->PerusmalliMuuttui();
+  istunto.Rakennus()->Muuttui("Koe");
   istunto.HiljainenHetki();
   ASSERT_TRUE(fs::exists(palautus));
   const auto aika = fs::last_write_time(palautus);
@@ -351,7 +351,7 @@ TEST_F(IstuntoTesti, UndoBringsBackTheModelBeforeTheLastCommittedDialog) {
   istunto.Rakennus()->Perustiedot.LammTarveLukuPaikkakuntaID(12);
   istunto.Rakennus()->Saa.AsetaSaaPaikkakunta(12);
   istunto.Rakennus()->Tilat.Add("uusi tila");
-  istunto.Rakennus()->PerusmalliMuuttui();
+  istunto.Rakennus()->Muuttui("Koe");
   istunto.SeuraaMuutoksia();
   ASSERT_TRUE(istunto.VoiKumota());
   istunto.mnuEditUndo_Click();
