@@ -25,3 +25,11 @@ int PaivitaIdLista(Olio& olio, clsTyyppiTiedot& tyypit) {
       if (Olio* lapsi = jasen->olio(olio)) uusittu += PaivitaIdLista(*lapsi, tyypit);
   return uusittu;
 }
+
+void UusiTunnisteet(Olio& olio) {
+  olio.InstanssiId = Tunniste::Uusi(olio.LuokanTiedot().NimiSana());
+  if (KokoelmaPohja* kokoelma = olio.Kokoelmana())
+    for (int i = 1; i <= kokoelma->Count(); ++i) UusiTunnisteet(kokoelma->Pohja(i));
+  for (const Jasen& jasen : olio.LuokanTiedot().Jasenet())
+    if (Olio* lapsi = jasen.OnOlio() && !jasen.viittaus ? jasen.olio(olio) : nullptr) UusiTunnisteet(*lapsi);
+}

@@ -6,3 +6,7 @@
 /// one: so two objects that were loaded or copied with the same identity come apart.
 /// Returns how many identities were renewed.
 int PaivitaIdLista(Olio& olio, clsTyyppiTiedot& tyypit);
+
+/// Gives the object and all objects that it owns identities of their own: for a copy that is to stand beside its
+/// source.
+void UusiTunnisteet(Olio& olio);
