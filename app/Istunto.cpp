@@ -7,6 +7,7 @@
 
 #include "app/Viimeisimmat.h"
 #include "building/Mallivaraus.h"
+#include "building/Versiotarkistus.h"
 #include "building/Yhteiset.h"
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Hakemistot.h"
@@ -14,7 +15,6 @@
 #include "kernel/Kirjoitussuoja.h"
 #include "kernel/Paivamaara.h"
 #include "kernel/Projektitiedosto.h"
-#include "kernel/Versio.h"
 #include "kernel/Virhe.h"
 #include "ui/Lomake.h"
 #include "ui/Odotus.h"
@@ -72,15 +72,10 @@ std::string PalautuksenPolku() { return AppPath() + kPalautus; }
 /// is told of.
 bool VersioKay(const std::string& tiedosto) try {
   const Tiedostoversio versio = HaeTiedostonVersio(tiedosto);
-  const std::string teksti =
-      Teksti(9222) + " " + std::to_string(versio.Major) + "." + std::to_string(versio.Minor) + ".xx ";
-  if (versio.Major > kVersioMajor || versio.Minor > kVersioMinor) {
-    Ilmoita(teksti + Teksti(9223), Teksti(9101), Vakavuus::Varoitus);
-    return false;
-  }
-  if (versio.Major < kVersioMajor || versio.Minor < kVersioMinor)
-    Ilmoita(teksti + Tekstit({9224, 9225, 9226}), Teksti(9101));
-  return true;
+  const bool uudempi = Suhde(versio) == Versiosuhde::Uudempi;
+  if (const std::string viesti = Versioviesti(versio); !viesti.empty())
+    Ilmoita(viesti, Teksti(9101), uudempi ? Vakavuus::Varoitus : Vakavuus::Tieto);
+  return !uudempi;
 } catch (const Projektivirhe& virhe) {
   Ilmoita(Teksti(9501) + "\n\n" + virhe.what(), Teksti(9100), Vakavuus::Virhe);
   return false;

@@ -9,6 +9,7 @@
 #include "building/clsTilat.h"
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
+#include "kernel/Tiedostotunnus.h"
 #include "kernel/clsTyyppiTiedot.h"
 #include "measures/clsMuuttuneetAttribuutit.h"
 #include "measures/clsSaastotoimenpiteet.h"
@@ -77,11 +78,15 @@ class clsRakennus : public Malli<clsRakennus> {
   void LiitaSaastoToimenpide(const clsMuuttuneetAttribuutit& muuttuneet);
 
   /// Saves to a project file (kernel/Projektitiedosto.h). Never raises: error 1039 is shown, the former file is whole
-  /// and `Tallennettu` stays False. True when saved.
-  bool Tallenna(const std::string& tiedosto);
-  /// Loads from a project file and makes this building's weather the locality's. Raises Virhe; damaged values keep
-  /// their defaults and are told of.
+  /// and `Tallennettu` stays False. True when saved. With `odotettu` a file that isn't any more in that state, since
+  /// another hand has changed it, isn't replaced.
+  bool Tallenna(const std::string& tiedosto, const Tiedostotunnus* odotettu = nullptr);
+  /// Loads from a project file and makes this building's weather the locality's. Raises Virhe, also for a file of a
+  /// newer program; damaged values keep their defaults and are told of.
   void Hae(const std::string& tiedosto);
+  /// The state of the file that this object was last read from or saved to: before a save, OnYha() of it tells whether
+  /// another hand has changed the file since. No part of copies.
+  Tiedostotunnus LuettuTiedosto;
 
   /// Some structure was made with an older version of the standard structure database than the one in use.
   bool RakVakioKantaUudempiKuinMinunRakenteet() const;

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "building/Materiaalimuutokset.h"
+#include "building/Versiotarkistus.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
@@ -66,7 +67,7 @@ void KerroVaurioista(const Latausraportti& raportti) {
 
 }  // namespace
 
-bool clsRakennus::Tallenna(const std::string& tiedosto) {
+bool clsRakennus::Tallenna(const std::string& tiedosto, const Tiedostotunnus* odotettu) {
   Odotus odotus(Teksti(9103) + " " + Perustiedot.KohteenNimi + " ");
   try {
     PaivitaInstanssiIdLista();
@@ -75,7 +76,9 @@ bool clsRakennus::Tallenna(const std::string& tiedosto) {
     Revision = kVersioRevision;
     Tallennettu = true;  // as the file says it
     const Tallennusraportti raportti = TallennaProjekti(
-        *this, tiedosto, {}, {.sailytaEnnen = vaurioitunut_, .eteneminen = NaytaOsat(odotus, Teksti(9103))});
+        *this, tiedosto, {},
+        {.sailytaEnnen = vaurioitunut_, .odotettu = odotettu, .eteneminen = NaytaOsat(odotus, Teksti(9103))});
+    LuettuTiedosto = raportti.tunnus;
     for (const std::string& luokka : raportti.ilmanTunnistetta)
       Ilmoita("Tänne ei pitäisi tulla. InstanssiId puuttuu! Olion typename: " + luokka);
     vaurioitunut_ = false;
@@ -93,6 +96,8 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   Latausraportti raportti;
   raportti.eteneminen = NaytaOsat(odotus, Teksti(9106) + LyhennaPolku(tiedosto, kPolunPituusPaneelissa));
   HaeProjekti(*this, tiedosto, raportti);
+  VaadiTunnettuVersio({Major, Minor, Revision});
+  LuettuTiedosto = raportti.tunnus;
   const bool paivitetty = TarjoaMateriaalienPaivitysta();
   TyyppiTiedot.Nimet.TyhjennaIdListat();
   if (PaivitaIdLista(*this, TyyppiTiedot) > 0 && Saastotoimenpiteet.Count() > 0)

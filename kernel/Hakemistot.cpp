@@ -3,18 +3,14 @@
 
 #include <fcntl.h>
 #include <pwd.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdlib>
 #include <map>
 #include <sstream>
 #include <stdexcept>
-#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -67,99 +63,6 @@ fs::path AsennetutTiedostot() {
   for (const auto& ehdokas : {ohjelma, ohjelma.parent_path() / "share/lumivirta"})
     if (OnTiedosto(ehdokas / kLuettelo)) return ehdokas;
   return {};
-}
-
-[[noreturn]] void NostaJarjestelmavirhe(const fs::path& tiedosto) {
-  throw std::system_error(errno, std::generic_category(), tiedosto.string());
-}
-
-class Kahva {
- public:
-  Kahva(const fs::path& tiedosto, int tapa, mode_t oikeudet = 0)
-      : tiedosto_(tiedosto), kahva_(open(tiedosto.c_str(), tapa | O_CLOEXEC, oikeudet)) {
-    if (kahva_ < 0) NostaJarjestelmavirhe(tiedosto);
-  }
-  ~Kahva() { close(kahva_); }
-  Kahva(const Kahva&) = delete;
-  Kahva& operator=(const Kahva&) = delete;
-
-  void Kirjoita(std::string_view sisalto) {
-    while (!sisalto.empty()) {
-      const ssize_t n = write(kahva_, sisalto.data(), sisalto.size());
-      if (n < 0 && errno != EINTR) NostaJarjestelmavirhe(tiedosto_);
-      sisalto.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(n, 0)));
-    }
-  }
-  std::string Lue() {
-    std::string sisalto;
-    std::array<char, 65536> pala;
-    for (;;) {
-      const ssize_t n = read(kahva_, pala.data(), pala.size());
-      if (n == 0) return sisalto;
-      if (n < 0 && errno != EINTR) NostaJarjestelmavirhe(tiedosto_);
-      sisalto.append(pala.data(), static_cast<std::size_t>(std::max<ssize_t>(n, 0)));
-    }
-  }
-  /// Appends a file, in the kernel where the file systems can.
-  void LiitaTiedosto(const fs::path& lahde) {
-    Kahva luettava(lahde, O_RDONLY);
-    for (;;) {
-      const ssize_t n = copy_file_range(luettava.kahva_, nullptr, kahva_, nullptr, kKerralla, 0);
-      if (n == 0) return;
-      if (n < 0 && errno != EINTR) break;
-    }
-    Kirjoita(luettava.Lue());  // what is left: both handles stand where the copy ended
-  }
-  void Oikeudet(mode_t oikeudet) {
-    if (fchmod(kahva_, oikeudet) != 0 && errno != EPERM) NostaJarjestelmavirhe(tiedosto_);
-  }
-  void Levylle() {
-    if (fsync(kahva_) != 0 && errno != EINVAL) NostaJarjestelmavirhe(tiedosto_);
-  }
-
- private:
-  static constexpr std::size_t kKerralla = 1 << 30;
-
-  fs::path tiedosto_;
-  int kahva_;
-};
-
-/// Removes the unfinished file on the way out of a failure.
-class Keskenerainen {
- public:
-  explicit Keskenerainen(fs::path tiedosto) : tiedosto_(std::move(tiedosto)) {}
-  ~Keskenerainen() {
-    if (!tiedosto_.empty()) unlink(tiedosto_.c_str());
-  }
-  Keskenerainen(const Keskenerainen&) = delete;
-  Keskenerainen& operator=(const Keskenerainen&) = delete;
-  void Valmis() { tiedosto_.clear(); }
-
- private:
-  fs::path tiedosto_;
-};
-
-/// What a link points to, also when that doesn't exist yet; other paths as they are.
-fs::path LinkinKohde(const fs::path& tiedosto) {
-  return fs::is_symlink(tiedosto) ? fs::weakly_canonical(tiedosto) : tiedosto;
-}
-
-/// Fills a new file beside `tiedosto`, flushes it and gives it the name.
-template <class Tayta>
-void Korvaa(const fs::path& tiedosto, Tayta&& tayta) {
-  const fs::path kohde = LinkinKohde(tiedosto);
-  fs::create_directories(kohde.parent_path());
-  const fs::path uusi = kohde.string() + ".uusi." + std::to_string(getpid());
-  Keskenerainen siivous(uusi);
-  {
-    Kahva kahva(uusi, O_WRONLY | O_CREAT | O_TRUNC, 0666);
-    if (struct stat vanha; stat(kohde.c_str(), &vanha) == 0) kahva.Oikeudet(vanha.st_mode & 07777);
-    tayta(kahva);
-    kahva.Levylle();
-  }
-  if (rename(uusi.c_str(), kohde.c_str()) != 0) NostaJarjestelmavirhe(kohde);
-  siivous.Valmis();
-  Kahva(kohde.parent_path(), O_RDONLY | O_DIRECTORY).Levylle();
 }
 
 using Tiivisteet = std::map<std::string, std::string>;  // file -> SHA-256
@@ -275,28 +178,13 @@ Siemennys SiemennaTiedostot(const fs::path& lahde, const fs::path& kohde) {
 }
 
 Lukitus::Lukitus(const std::string& tiedosto, std::chrono::milliseconds enimmillaan)
-    : kahva_(open(tiedosto.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666)) {
-  if (kahva_ < 0) NostaJarjestelmavirhe(tiedosto);
+    : kahva_(tiedosto, O_RDONLY | O_CREAT, 0666) {
   const auto takaraja = std::chrono::steady_clock::now() + enimmillaan;
-  while (flock(kahva_, LOCK_EX | LOCK_NB) != 0 && (errno == EWOULDBLOCK || errno == EINTR)) {
-    if (std::chrono::steady_clock::now() >= takaraja) {
-      close(kahva_);
+  while (kahva_.Lukitse() == Kahva::Lukko::Toisella) {
+    if (std::chrono::steady_clock::now() >= takaraja)
       throw std::runtime_error("Toinen ohjelma varaa tiedostoa " + tiedosto);
-    }
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
-}
-
-Lukitus::~Lukitus() { close(kahva_); }
-
-std::string LueTiedosto(const fs::path& tiedosto) { return Kahva(tiedosto, O_RDONLY).Lue(); }
-
-void KirjoitaTiedosto(const fs::path& tiedosto, std::string_view sisalto) {
-  Korvaa(tiedosto, [sisalto](Kahva& kahva) { kahva.Kirjoita(sisalto); });
-}
-
-void KopioiTiedosto(const fs::path& lahde, const fs::path& tiedosto) {
-  Korvaa(tiedosto, [&lahde](Kahva& kahva) { kahva.LiitaTiedosto(lahde); });
 }
 
 std::string LyhennaPolku(std::string_view polku, std::size_t n) {

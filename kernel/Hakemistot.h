@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "kernel/Tiedostot.h"
+
 /// The directory of the program's data, with "/" at its end. It is the program's own directory if that holds the text
 /// store and can be written; otherwise "lumivirta" in the user's data directory (XDG_DATA_HOME), which
 /// `SiemennaTiedostot` fills. The environment variable LUMIVIRTA_KOTI overrides both. Chosen at the first call.
@@ -39,21 +41,10 @@ class Lukitus {
  public:
   explicit Lukitus(const std::string& tiedosto = AppPath() + ".lumivirta.lukko",
                    std::chrono::milliseconds enimmillaan = std::chrono::seconds(20));
-  ~Lukitus();
-  Lukitus(const Lukitus&) = delete;
-  Lukitus& operator=(const Lukitus&) = delete;
 
  private:
-  int kahva_;
+  Kahva kahva_;
 };
-
-/// The whole content of a file. Throws std::system_error with the file's name.
-std::string LueTiedosto(const std::filesystem::path& tiedosto);
-/// Writes the file so that at every moment either the old or the new content stands under its name, also after a power
-/// cut; a link is followed. Makes the missing directories. Throws std::system_error; the old file is then whole.
-void KirjoitaTiedosto(const std::filesystem::path& tiedosto, std::string_view sisalto);
-/// The same with the content of the file `lahde`.
-void KopioiTiedosto(const std::filesystem::path& lahde, const std::filesystem::path& tiedosto);
 
 /// The path in about `n` characters (not bytes): as it is when it is no longer than that, else its first three
 /// characters, "..." and its end from the first "/" of the last n − 6 characters, or all of these when they have none.

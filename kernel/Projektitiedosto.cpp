@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Projektitiedosto.h"
 
+#include <fcntl.h>
+
 #include <filesystem>
 
 #include "kernel/Hakemistot.h"
@@ -8,15 +10,23 @@
 #include "kernel/Rivilukija.h"
 #include "kernel/Tietokanta.h"
 #include "kernel/Turvatallennus.h"
+#include "kernel/UusiTiedosto.h"
 
 namespace {
 
 using Syy = Projektivirhe::Syy;
 
-/// Fills a copy of the template. The journal stays beside the file until the commit, everything is flushed, and pages
-/// are kept in memory until then.
-Tallennusraportti RakennaProjekti(Olio& juuri, const std::string& uusi, const Eteneminen& eteneminen) {
-  Tietokanta kanta(uusi, Tietokanta::Tapa::Kirjoitus);
+std::string LueMalli(const std::string& malli) try {
+  return LueTiedosto(malli);
+} catch (const std::system_error& virhe) {
+  if (virhe.code() != std::errc::no_such_file_or_directory)
+    throw Projektivirhe(Syy::Malli, malli + ": " + Selitys(virhe.code()));
+  throw Projektivirhe(Syy::MalliPuuttuu, "File: " + malli + " cannot be found.");
+}
+
+/// The journal stays beside the file until the commit, everything is flushed, and pages are kept in memory until then.
+Tallennusraportti TaytaKanta(Olio& juuri, Tietokanta& kanta, const Eteneminen& eteneminen,
+                             const std::function<void(Tietokanta&)>& lisaa) {
   kanta.Aja(
       "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; PRAGMA cache_spill=OFF; "
       "PRAGMA cache_size=-262144");
@@ -24,9 +34,17 @@ Tallennusraportti RakennaProjekti(Olio& juuri, const std::string& uusi, const Et
   Transaktio transaktio(kanta);
   TyhjennaProjektikanta(kanta);
   kirjoitin.Kirjoita(juuri);
+  if (lisaa) lisaa(kanta);
   transaktio.Hyvaksy();
   kirjoitin.TarkistaRivimaarat();
   return kirjoitin.Raportti();
+}
+
+/// The bytes were the template's until now: when they aren't a database of the right kind, the template is to blame.
+[[noreturn]] void NostaKirjoitusvirhe(const Tietokantavirhe& virhe, const std::string& tiedosto,
+                                      const std::string& malli) {
+  if (virhe.OnSisallossa()) throw Projektivirhe(Syy::Malli, malli + ": " + virhe.Selitys());
+  throw Projektivirhe(Syy::Kirjoitus, tiedosto + ": " + virhe.Selitys());
 }
 
 /// SQLite's error codes: 11 a page can't be read as one, 26 the file isn't a database, 14 it can't be opened.
@@ -38,6 +56,12 @@ Tallennusraportti RakennaProjekti(Olio& juuri, const std::string& uusi, const Et
 std::int64_t Luku(Tietokanta& kanta, const char* kysymys) {
   Kysely kysely(kanta, kysymys);
   return kysely.Seuraava() ? kysely.Kokonais(0) : 0;
+}
+
+Kahva AvaaTiedosto(const std::string& tiedosto) try {
+  return Kahva(tiedosto, O_RDONLY);
+} catch (const std::system_error& virhe) {
+  throw Projektivirhe(Syy::EiProjekti, tiedosto + ": " + Selitys(virhe.code()));
 }
 
 /// Opens a file to be read. One that lacks its end reads as zeros there, which would pass for values.
@@ -67,19 +91,35 @@ Tiedostoversio LueVersio(Tietokanta& kanta) {
 
 }  // namespace
 
-Tallennusraportti TallennaProjekti(Olio& juuri, const std::string& tiedosto, const std::string& malli,
-                                   const Tallennustapa& tapa) try {
-  Tallennusraportti raportti;
-  KorvaaTurvallisesti(tiedosto, malli.empty() ? AppPath() + "stemplate.tmp" : malli, tapa.sailytaEnnen,
-                      [&](const std::string& uusi) { raportti = RakennaProjekti(juuri, uusi, tapa.eteneminen); });
+Projektimalli::Projektimalli(const std::string& polku)
+    : polku_(polku.empty() ? AppPath() + "stemplate.tmp" : polku), sisalto_(LueMalli(polku_)) {}
+
+Tallennusraportti RakennaProjekti(Olio& juuri, UusiTiedosto& uusi, const Projektimalli& malli,
+                                  const Eteneminen& eteneminen, const std::function<void(Tietokanta&)>& lisaa) try {
+  uusi.OmaKahva().Kirjoita(malli.Sisalto());
+  Tietokanta kanta(uusi.Polku().string(), Tietokanta::Tapa::Oma);
+  Tallennusraportti raportti = TaytaKanta(juuri, kanta, eteneminen, lisaa);
+  raportti.tunnus = {uusi.OmaKahva(), raportti.juurenAvain};
   return raportti;
 } catch (const Tietokantavirhe& virhe) {
-  throw Projektivirhe(Syy::Kirjoitus, virhe.what());
+  NostaKirjoitusvirhe(virhe, uusi.OmaKahva().Tiedosto(), malli.Polku());
+}
+
+Tallennusraportti TallennaProjekti(Olio& juuri, const std::string& tiedosto, const std::string& malli,
+                                   const Tallennustapa& tapa) {
+  const Projektimalli pohja(malli);
+  Tallennusraportti raportti;
+  KorvaaTurvallisesti(tiedosto, {.sailytaEnnen = tapa.sailytaEnnen, .odotettu = tapa.odotettu},
+                      [&](UusiTiedosto& uusi) { raportti = RakennaProjekti(juuri, uusi, pohja, tapa.eteneminen); });
+  return raportti;
 }
 
 void HaeProjekti(Olio& juuri, const std::string& tiedosto, Latausraportti& raportti) try {
+  const Kahva kahva = AvaaTiedosto(tiedosto);
   Tietokanta kanta = AvaaLuettavaksi(tiedosto);
-  Rivilukija(kanta, raportti).Lue(juuri);
+  Rivilukija lukija(kanta, raportti);
+  lukija.Lue(juuri);
+  raportti.tunnus = {kahva, lukija.JuurenAvain()};
 } catch (const Tietokantavirhe& virhe) {
   NostaLukuvirhe(virhe);
 }

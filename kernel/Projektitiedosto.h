@@ -6,6 +6,10 @@
 #include <vector>
 
 #include "kernel/Olio.h"
+#include "kernel/Tiedostotunnus.h"
+
+class Tietokanta;
+class UusiTiedosto;
 
 /// Project files: an object tree in one SQLite file, a table for each class, a row for each object. The layout is in
 /// docs/file-format.md. What is stored is told by the tables of the template and the members of the classes alone.
@@ -15,11 +19,15 @@ class Projektivirhe : public std::runtime_error {
  public:
   enum class Syy {
     MalliPuuttuu,  ///< the template isn't there
+    Malli,         ///< the template is damaged, or lacks a class or a member of the program; names it
     Varmuuskopio,  ///< the file that is to be replaced can't be copied aside
     Kirjoitus,     ///< disk full, no right to write, disk error
     Arvo,          ///< a value can't be stored (infinity or not a number); names class and member
     EiProjekti,    ///< the file to be read isn't a project file
     Vaurioitunut,  ///< a project file that can't be read
+    Uudempi,       ///< a project file of a newer program
+    Vaihtunut,     ///< the file to be replaced isn't the one that was read: another hand has changed it
+    Vahvistus,     ///< the new content stands under the name, but the disk didn't confirm it: a power cut may undo it
   };
   Projektivirhe(Syy syy, const std::string& kuvaus) : std::runtime_error(kuvaus), syy_(syy) {}
   Syy OmaSyy() const noexcept { return syy_; }
@@ -33,6 +41,8 @@ using Eteneminen = std::function<void(const Luokka&)>;
 
 struct Tallennustapa {
   bool sailytaEnnen = false;  ///< keep the replaced file as "<tiedosto>.ennen": it had values that could not be read
+  /// The state of the file that may be replaced, as it was read or last saved. Null: whatever is there is replaced.
+  const Tiedostotunnus* odotettu = nullptr;
   Eteneminen eteneminen;
 };
 
@@ -40,6 +50,8 @@ struct Tallennusraportti {
   int riveja = 0;
   /// Class of each object that had no identity; it got the text "InstanssiId puuttuu!!".
   std::vector<std::string> ilmanTunnistetta;
+  std::string juurenAvain;  ///< key of the topmost row
+  Tiedostotunnus tunnus;    ///< of the new file
 };
 
 /// Saves the tree under `juuri` as the project file `tiedosto`, replacing an old one. `malli` is the template, "" for
@@ -48,9 +60,29 @@ struct Tallennusraportti {
 Tallennusraportti TallennaProjekti(Olio& juuri, const std::string& tiedosto, const std::string& malli = {},
                                    const Tallennustapa& tapa = {});
 
+/// The template as read for one save: a database whose tables say what is stored.
+class Projektimalli {
+ public:
+  /// Reads the template of that path, "" for AppPath + "stemplate.tmp". Raises Projektivirhe.
+  explicit Projektimalli(const std::string& polku = {});
+  const std::string& Polku() const noexcept { return polku_; }
+  const std::string& Sisalto() const noexcept { return sisalto_; }
+
+ private:
+  std::string polku_;
+  std::string sisalto_;
+};
+
+/// Fills a file under construction with the tree, flushed; `lisaa` may add tables of its own in the same transaction.
+/// What the two ways of saving share: over a project, and aside for recovery. Raises Projektivirhe.
+Tallennusraportti RakennaProjekti(Olio& juuri, UusiTiedosto& uusi, const Projektimalli& malli,
+                                  const Eteneminen& eteneminen = {},
+                                  const std::function<void(Tietokanta&)>& lisaa = {});
+
 struct Latausraportti {
   int vaurioita = 0;                   ///< values that kept their default, rows that were missing or doubled
   std::vector<std::string> esimerkit;  ///< the first of them, "clsTila.Kokonaistilavuus: abc"
+  Tiedostotunnus tunnus;               ///< of the file
   Eteneminen eteneminen;
 };
 
@@ -76,6 +108,6 @@ std::string HaeTiedostonTeksti(const std::string& tiedosto, const std::string& l
 /// A backup that a save left behind when it failed or was cut off, or "". The next save puts it aside with
 /// SailytaAjalla.
 std::string JaanytVarakopio();
-/// Renames a file so that it bears its date and time; the last five of that name are kept. Its new name, "" when there
-/// is no such file. Raises std::system_error.
-std::string SailytaAjalla(const std::string& tiedosto);
+/// Renames a file to "<alku> <date> <time>" with its extension; "" is its own name. This and the four latest others of
+/// that beginning are kept. Its new name, "" when there is no such file. Raises std::system_error.
+std::string SailytaAjalla(const std::string& tiedosto, std::string_view alku = {});

@@ -174,7 +174,7 @@ void Rivikirjoitin::KirjoitaOlio(Olio& olio, const Rivipaikka& paikka) {
   const std::string_view objId = Tunniste::Uusi(olio.LuokanTiedot().NimiSana()).Nakyma(puskuri);
   if (olio.InstanssiId.Tyhja()) VarmistaTunniste(olio);
   taulu.Lisaa(olio, objId, paikka);
-  ++raportti_.riveja;
+  if (raportti_.riveja++ == 0) raportti_.juurenAvain = objId;
   for (const Taulu::Lapsi& lapsi : taulu.Lapset())
     if (Olio* lapsiolio = lapsi.jasen->olio(olio)) {
       if (eteneminen_) eteneminen_(lapsiolio->LuokanTiedot());

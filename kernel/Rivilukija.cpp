@@ -225,6 +225,7 @@ void Rivilukija::LuePuu(Olio& juuri, Haku haku) {
     if (taulu && haku == Haku::Jarjestyksessa) throw Poikkeama();
     throw Projektivirhe(Projektivirhe::Syy::EiProjekti, kanta_.Tiedosto() + ": tiedostossa ei ole katselmuskohdetta");
   }
+  juurenAvain_ = taulu->ObjId();
   LueOlio(juuri, *taulu, kJuurenPaikka.jasen, false);
   TarkistaKaytetyt();
 }

@@ -22,6 +22,8 @@ class Rivilukija {
   ~Rivilukija();
 
   void Lue(Olio& juuri);
+  /// Key of the topmost row that was read.
+  const std::string& JuurenAvain() const noexcept { return juurenAvain_; }
 
  private:
   class Taulu;
@@ -48,6 +50,7 @@ class Rivilukija {
   Latausraportti& raportti_;
   std::vector<std::string> tiedostonTaulut_;
   std::vector<std::unique_ptr<Taulu>> taulut_;  // by class number
+  std::string juurenAvain_;
   Haku haku_ = Haku::Jarjestyksessa;
   int syvyys_ = 0;
   bool vieraitaJasenia_ = false;  // the file has member objects that the program doesn't know

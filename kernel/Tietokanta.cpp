@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Tietokanta.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
 #include <cctype>
@@ -12,9 +11,10 @@
 namespace {
 
 constexpr int kOdotusMs = 5000;
+constexpr int kPisinArvo = 64 << 20;  // bytes of one value, and of one row
 
-std::string_view Selitys(int koodi) {
-  switch (koodi & 0xFF) {
+std::string_view KoodinSelitys(int koodi) {
+  switch (koodi) {
     case SQLITE_FULL:
       return "levy on täynnä";
     case SQLITE_IOERR:
@@ -35,16 +35,14 @@ std::string_view Selitys(int koodi) {
       return "muisti ei riitä";
     case SQLITE_TOOBIG:
       return "arvo on liian pitkä";
+    case SQLITE_INTERRUPT:
+      return "tiedoston käsittely vaatisi kohtuuttomasti työtä";
     default:
       return "tietokannan käsittely epäonnistui";
   }
 }
 
-[[noreturn]] void NostaTietokantavirhe(int koodi, const std::string& tiedosto, const char* syy) {
-  throw Tietokantavirhe(koodi & 0xFF, tiedosto + ": " + std::string(Selitys(koodi)) + " (" + syy + ")");
-}
-
-std::string TiedostoUri(const std::string& tiedosto) {
+std::string TiedostoUri(const std::string& tiedosto, std::string_view ehto) {
   static constexpr std::string_view kSallitut = "/._-~";
   std::string uri = "file:";
   for (const char c : std::filesystem::absolute(tiedosto).string()) {
@@ -54,24 +52,50 @@ std::string TiedostoUri(const std::string& tiedosto) {
     else
       uri.append({'%', "0123456789ABCDEF"[tavu >> 4], "0123456789ABCDEF"[tavu & 15]});
   }
-  return uri + "?immutable=1";
+  return uri.append("?").append(ehto);
 }
 
-std::unique_ptr<SQLite::Database> Avaa(const std::string& tiedosto, Tietokanta::Tapa tapa) {
-  constexpr int kYhteinen = SQLITE_OPEN_NOMUTEX;
+sqlite3* AvaaNimella(const std::string& nimi, const std::string& tiedosto, int tapa) {
+  sqlite3* kanta = nullptr;
+  const int tulos = sqlite3_open_v2(nimi.c_str(), &kanta, tapa | SQLITE_OPEN_NOMUTEX, nullptr);
+  if (tulos == SQLITE_OK) return kanta;
+  const std::string syy = kanta ? sqlite3_errmsg(kanta) : sqlite3_errstr(tulos);
+  sqlite3_close_v2(kanta);
+  throw Tietokantavirhe(tulos, tiedosto, syy);
+}
+
+/// A pipe or a device in place of the file would be waited for without end.
+void VaadiTavallinen(const std::string& tiedosto) {
+  std::error_code virhe;
+  const auto tila = std::filesystem::status(tiedosto, virhe);
+  if (!std::filesystem::exists(tila) || std::filesystem::is_regular_file(tila)) return;
+  throw Tietokantavirhe(SQLITE_NOTADB, tiedosto, "not a regular file");
+}
+
+sqlite3* Avaa(const std::string& tiedosto, Tietokanta::Tapa tapa) {
+  VaadiTavallinen(tiedosto);
   switch (tapa) {
     case Tietokanta::Tapa::Luku:
-      return std::make_unique<SQLite::Database>(tiedosto, SQLITE_OPEN_READONLY | kYhteinen, kOdotusMs);
+      return AvaaNimella(tiedosto, tiedosto, SQLITE_OPEN_READONLY);
     case Tietokanta::Tapa::Muuttumaton:
-      return std::make_unique<SQLite::Database>(TiedostoUri(tiedosto),
-                                                SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | kYhteinen, kOdotusMs);
+      return AvaaNimella(TiedostoUri(tiedosto, "immutable=1"), tiedosto, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
     case Tietokanta::Tapa::Kirjoitus:
-      return std::make_unique<SQLite::Database>(tiedosto, SQLITE_OPEN_READWRITE | kYhteinen, kOdotusMs);
+      return AvaaNimella(tiedosto, tiedosto, SQLITE_OPEN_READWRITE);
+    case Tietokanta::Tapa::Oma:
+      return AvaaNimella(TiedostoUri(tiedosto, "nolock=1"), tiedosto, SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI);
     case Tietokanta::Tapa::Uusi:
       break;
   }
-  return std::make_unique<SQLite::Database>(tiedosto, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | kYhteinen,
-                                            kOdotusMs);
+  return AvaaNimella(tiedosto, tiedosto, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+void Suojaa(sqlite3* kanta) {
+  sqlite3_busy_timeout(kanta, kOdotusMs);
+  sqlite3_limit(kanta, SQLITE_LIMIT_LENGTH, kPisinArvo);
+  sqlite3_db_config(kanta, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  for (const int kielletty : {SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_VIEW,
+                              SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION})
+    sqlite3_db_config(kanta, kielletty, 0, nullptr);
 }
 
 struct Korvaus {
@@ -106,20 +130,40 @@ std::string Lainaa(std::string_view nimi) {
   return tulos + '"';
 }
 
-Tietokanta::Tietokanta(const std::string& tiedosto, Tapa tapa) try : tiedosto_(tiedosto), kanta_(Avaa(tiedosto, tapa)) {
-} catch (const SQLite::Exception& virhe) {
-  NostaTietokantavirhe(virhe.getErrorCode(), tiedosto, virhe.what());
+Tietokantavirhe::Tietokantavirhe(int koodi, const std::string& tiedosto, const std::string& tarkenne)
+    : std::runtime_error(tiedosto + ": " + std::string(KoodinSelitys(koodi & 0xFF)) + " (" + tarkenne + ")"),
+      koodi_(koodi & 0xFF),
+      selitys_(KoodinSelitys(koodi & 0xFF)) {
+  selitys_ += " (" + tarkenne + ")";
 }
 
-Tietokanta::Tietokanta(Tietokanta&&) noexcept = default;
+bool Tietokantavirhe::OnSisallossa() const noexcept {
+  return koodi_ == SQLITE_CORRUPT || koodi_ == SQLITE_NOTADB || koodi_ == SQLITE_ERROR;
+}
 
-Tietokanta::~Tietokanta() = default;
+struct Tietokanta::Tyoraja {
+  static constexpr int kAskel = 100'000;
+  std::int64_t jaljella;
 
-sqlite3* Tietokanta::Kahva() const noexcept { return kanta_->getHandle(); }
+  static int Kulu(void* raja) { return (static_cast<Tyoraja*>(raja)->jaljella -= kAskel) < 0; }
+};
+
+void Tietokanta::TyorajanVapautus::operator()(Tyoraja* raja) const noexcept { delete raja; }
+
+void Tietokanta::Sulku::operator()(sqlite3* kanta) const noexcept { sqlite3_close_v2(kanta); }
+
+Tietokanta::Tietokanta(const std::string& tiedosto, Tapa tapa) : tiedosto_(tiedosto), kanta_(Avaa(tiedosto, tapa)) {
+  Suojaa(Kahva());
+}
+
+void Tietokanta::RajaaTyo(std::int64_t askelia) {
+  tyoraja_.reset(new Tyoraja{askelia});
+  sqlite3_progress_handler(Kahva(), Tyoraja::kAskel, Tyoraja::Kulu, tyoraja_.get());
+}
 
 void Tietokanta::Aja(std::string_view sql) {
   const int tulos = sqlite3_exec(Kahva(), Lauseeksi(sql).c_str(), nullptr, nullptr, nullptr);
-  if (tulos != SQLITE_OK) NostaTietokantavirhe(tulos, tiedosto_, sqlite3_errmsg(Kahva()));
+  if (tulos != SQLITE_OK) throw Tietokantavirhe(tulos, tiedosto_, sqlite3_errmsg(Kahva()));
 }
 
 // Rows and values go straight to the C interface: a value of a row is read and bound without an allocation or a copy.
@@ -130,14 +174,14 @@ Kysely::Kysely(Tietokanta& kanta, std::string_view sql) {
   const std::string teksti = Lauseeksi(sql);
   sqlite3_stmt* lause = nullptr;
   const int tulos = sqlite3_prepare_v2(kanta.Kahva(), teksti.data(), static_cast<int>(teksti.size()), &lause, nullptr);
-  if (tulos != SQLITE_OK) NostaTietokantavirhe(tulos, kanta.Tiedosto(), sqlite3_errmsg(kanta.Kahva()));
+  if (tulos != SQLITE_OK) throw Tietokantavirhe(tulos, kanta.Tiedosto(), sqlite3_errmsg(kanta.Kahva()));
   lause_.reset(lause);
 }
 
 void Kysely::Nosta() const {
   sqlite3* kahva = sqlite3_db_handle(lause_.get());
   const char* tiedosto = sqlite3_db_filename(kahva, "main");
-  NostaTietokantavirhe(sqlite3_errcode(kahva), tiedosto ? tiedosto : "", sqlite3_errmsg(kahva));
+  throw Tietokantavirhe(sqlite3_errcode(kahva), tiedosto ? tiedosto : "", sqlite3_errmsg(kahva));
 }
 
 void Kysely::Tarkista(int tulos) const {

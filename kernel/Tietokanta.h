@@ -10,19 +10,21 @@
 
 struct sqlite3;
 struct sqlite3_stmt;
-namespace SQLite {
-class Database;
-}
 
 /// A failure of a database. what() is a Finnish sentence that names the file and the cause.
 class Tietokantavirhe : public std::runtime_error {
  public:
-  Tietokantavirhe(int koodi, const std::string& kuvaus) : std::runtime_error(kuvaus), koodi_(koodi) {}
-  /// SQLite's primary result code.
+  /// `koodi` is SQLite's primary result code, `tarkenne` its own words.
+  Tietokantavirhe(int koodi, const std::string& tiedosto, const std::string& tarkenne);
   int Koodi() const noexcept { return koodi_; }
+  /// The cause without the file.
+  const std::string& Selitys() const noexcept { return selitys_; }
+  /// The file could be handled, but isn't what it should be: no database, a damaged one, or one with other tables.
+  bool OnSisallossa() const noexcept;
 
  private:
   int koodi_;
+  std::string selitys_;
 };
 
 /// The statement as SQLite reads it: "DELETE * FROM" loses its star, "= True" becomes "<> 0" (True is stored as -1) and
@@ -33,17 +35,20 @@ std::string Lauseeksi(std::string_view sql);
 std::string Lainaa(std::string_view nimi);
 
 /// A database file. Errors of the class and of its queries raise Tietokantavirhe.
+///
+/// Files come from other people's hands: only a regular file is opened, and its schema is not trusted. Views, triggers
+/// and virtual tables can't be used, nothing in the file may name a function with side effects, and values longer than
+/// 64 MB are refused.
 class Tietokanta {
  public:
   enum class Tapa {
     Luku,         ///< read only, beside others that may write
     Muuttumaton,  ///< read only and nobody writes: no locks, and a journal beside the file is left alone
     Kirjoitus,    ///< an existing file
+    Oma,          ///< an existing file that only this program knows of: written without locks
     Uusi,         ///< made if it doesn't exist
   };
   explicit Tietokanta(const std::string& tiedosto, Tapa tapa = Tapa::Luku);
-  Tietokanta(Tietokanta&&) noexcept;
-  ~Tietokanta();
 
   /// Runs one or several statements without values.
   void Aja(std::string_view sql);
@@ -52,11 +57,23 @@ class Tietokanta {
   void Aja(std::string_view sql, const Arvot&... arvot);
 
   const std::string& Tiedosto() const noexcept { return tiedosto_; }
-  sqlite3* Kahva() const noexcept;
+  sqlite3* Kahva() const noexcept { return kanta_.get(); }
+  /// Queries give up with an error after this many steps of SQLite's machine (some ten million a second) in all.
+  void RajaaTyo(std::int64_t askelia);
 
  private:
+  struct Sulku {
+    void operator()(sqlite3* kanta) const noexcept;
+  };
+  /// What is left of the work allowed; its address is known to SQLite.
+  struct Tyoraja;
+  struct TyorajanVapautus {
+    void operator()(Tyoraja* raja) const noexcept;
+  };
+
   std::string tiedosto_;
-  std::unique_ptr<SQLite::Database> kanta_;
+  std::unique_ptr<Tyoraja, TyorajanVapautus> tyoraja_;
+  std::unique_ptr<sqlite3, Sulku> kanta_;
 };
 
 /// A prepared statement. Parameters count from 1, columns from 0.

@@ -3,8 +3,15 @@
 #include <functional>
 #include <string>
 
-/// Replaces the file `tiedosto` by one that starts as a copy of `malli` and that `rakenna` then fills and flushes under
-/// another name. The procedure and what an interruption leaves are told in the source. `sailytaEnnen` keeps the
-/// replaced file as "<tiedosto>.ennen". Raises Projektivirhe; what `rakenna` raises passes through.
-void KorvaaTurvallisesti(const std::string& tiedosto, const std::string& malli, bool sailytaEnnen,
-                         const std::function<void(const std::string& uusi)>& rakenna);
+#include "kernel/Tiedostotunnus.h"
+#include "kernel/UusiTiedosto.h"
+
+struct Korvaustapa {
+  bool sailytaEnnen = false;                 ///< keep the replaced file as "<tiedosto>.ennen"
+  const Tiedostotunnus* odotettu = nullptr;  ///< the file that may be replaced; null for any
+};
+
+/// Replaces the file `tiedosto` by one that `rakenna` makes and flushes under another name. The procedure and what an
+/// interruption leaves are told in the source. Raises Projektivirhe; what `rakenna` raises passes through.
+void KorvaaTurvallisesti(const std::string& tiedosto, const Korvaustapa& tapa,
+                         const std::function<void(UusiTiedosto& uusi)>& rakenna);
