@@ -30,13 +30,6 @@ constexpr const char* kPalautus = "~palautus.lvt";
 constexpr std::size_t kPolkuOtsikossa = 75, kPolkuKysymyksessa = 50;
 constexpr int kUudenPaikkakunta = 1;
 
-/// The texts in a row, a blank between them.
-std::string Tekstit(std::initializer_list<int> tunnukset) {
-  std::string tulos;
-  for (const int tunnus : tunnukset) tulos += (tulos.empty() ? "" : " ") + Teksti(tunnus);
-  return tulos;
-}
-
 Vastaus Kysy(std::string teksti, int otsikko, Napit napit, Vastaus oletus, Vakavuus vakavuus = Vakavuus::Kysymys) {
   return ViestitNyt().Nayta({std::move(teksti), otsikko ? Teksti(otsikko) : std::string(), vakavuus, napit, oletus});
 }
