@@ -21,7 +21,7 @@ class JsonKirjoitin {
   void Tyhja();
   /// A range of numbers as an array.
   template <class Alue>
-  void Luvut(const Alue& luvut) {
+  void Luvut(Alue&& luvut) {
     Erotin();
     tulos_ << '[';
     const char* valissa = "";
@@ -31,6 +31,13 @@ class JsonKirjoitin {
       valissa = ", ";
     }
     tulos_ << ']';
+  }
+  /// Rows of numbers as an array of arrays.
+  template <class Alue>
+  void Taulukko(const Alue& rivit) {
+    AlaTaulukko();
+    for (const auto& rivi : rivit) Luvut(rivi);
+    LopetaTaulukko();
   }
 
  private:

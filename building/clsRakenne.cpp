@@ -4,6 +4,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "library/Rakennetietokanta.h"
 #include "settings/clsLumivirtaAsetukset.h"
@@ -141,7 +142,16 @@ constexpr Jasen clsRakenne::kJasenet[] = {
     Arvo<&clsRakenne::RakennekannanVersio>("RakennekannanVersio"),
 };
 
-const Luokka clsRakenne::kLuokka{"clsRakenne", kJasenet};
+constexpr Tulos kTulokset[] = {
+    Avaintulos(),
+    Lukutulos<[](const clsRakenne& r) { return r.U_arvo(); }>("U_arvo", 6202, "W/m²K"),
+    Kuukausitulos<[](const clsRakenne& r, const Tuloskohde& kohde, int m) {
+      return r.LampoHaviot(kohde.Omistaja<clsTila>().Sisalampotila, m);
+    }>("LampoHaviot", 2960),
+    Kuukausitulos<&clsRakenne::AurinkoKuorma>("AurinkoKuorma", 2966),
+};
+
+const Luokka clsRakenne::kLuokka{"clsRakenne", kJasenet, kTulokset};
 
 clsRakenne::clsRakenne() : RakennekannanVersio(Asetukset().TietokannanVersio()) {}
 

@@ -5,6 +5,7 @@
 #include "building/Yhteiset.h"
 #include "kernel/Luvut.h"
 #include "kernel/Rekisteri.h"
+#include "kernel/Tulos.h"
 #include "kernel/Versio.h"
 #include "kernel/Vertailu.h"
 #include "kernel/Virhe.h"
@@ -34,6 +35,35 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsRakennus::Revision>("Revision"),
     Arvo<&clsRakennus::MuuLampo>("MuuLampo", "MWh/a"),
     Arvo<&clsRakennus::Tallennettu>("Tallennettu"),
+};
+
+constexpr Tulos kTulokset[] = {
+    Vuositulos<&clsRakennus::VuotuinenIVjalkilammitysLampo>("VuotuinenIVjalkilammitysLampo", 2231),
+    Vuositulos<&clsRakennus::VuotuinenAurinkoKuorma>("VuotuinenAurinkoKuorma", 2509),
+    Vuositulos<&clsRakennus::VuotuisetLKVHaviot>("VuotuisetLKVHaviot", 2232),
+    Vuositulos<&clsRakennus::VuotuisetProsessiVesiHaviot>("VuotuisetProsessiVesiHaviot", 2233),
+    Lukutulos<&clsRakennus::LaskeYleisSahkoKuorma>("LaskeYleisSahkoKuorma", 6208, "kWh/m²,kk"),
+    Vuositulos<&clsRakennus::VuotuinenLampoEnergianTarveTilat>("VuotuinenLampoEnergianTarveTilat", 2230),
+    Vuositulos<&clsRakennus::VuotuisetLampoHaviot>("VuotuisetLampoHaviot", 2963),
+    Vuositulos<&clsRakennus::VuotuisetHyodynnetytLampoKuormat>("VuotuisetHyodynnetytLampoKuormat", 2970),
+    Vuositulos<&clsRakennus::VuotuisetSaatohaviot>("VuotuisetSaatohaviot", 6201),
+    Vuositulos<&clsRakennus::VuotuisetLammonKonversiohaviot>("VuotuisetLammonKonversiohaviot", 6209),
+    Vuositulos<&clsRakennus::VuotuisetSahkoKonversiohaviot>("VuotuisetSahkoKonversiohaviot", 6210),
+    Vuositulos<&clsRakennus::VuotuisetLaiteSahkoKonversiohaviot>("VuotuisetLaiteSahkoKonversiohaviot", 6211),
+    Vuositulos<&clsRakennus::VuotuisetSahkoLammonKonversiohaviot>("VuotuisetSahkoLammonKonversiohaviot", 6212),
+    Vuositulos<&clsRakennus::VuotuinenBruttoLampoEnergia>("VuotuinenBruttoLampoEnergia", 6213),
+    Vuositulos<&clsRakennus::VuotuinenBruttoSahkoEnergia>("VuotuinenBruttoSahkoEnergia", 6214),
+    Vuositulos<&clsRakennus::VuotuinenBruttoLaiteSahkoEnergia>("VuotuinenBruttoLaiteSahkoEnergia", 6215),
+    Vuositulos<&clsRakennus::ToteutunutNormitettuLampo>("ToteutunutNormitettuLampo", 2237),
+    Kuukausitulos<&clsRakennus::LampoHaviotTilatKk>("LampoHaviotTilatKk", 2963),
+    Kuukausitulos<&clsRakennus::LampoEnergianTarveTilatKk>("LampoEnergianTarveTilatKk", 2971),
+    Kuukausitulos<&clsRakennus::AurinkoKuorma>("AurinkoKuorma", 2966),
+    Kuukausitulos<&clsRakennus::LampoHaviotIVKk>("LampoHaviotIVKk", 6216),
+    Kuukausitulos<&clsRakennus::HyodynnetytLampoKuormatKk>("HyodynnetytLampoKuormatKk", 2970),
+    Kuukausitulos<&clsRakennus::LammonTuotonHaviotKk>("LammonTuotonHaviotKk", 6209),
+    Kuukausitulos<&clsRakennus::LKVHaviotKk>("LKVHaviotKk", 2232),
+    Kuukausitulos<&clsRakennus::ProsessiVesiHaviotKk>("ProsessiVesiHaviotKk", 2233),
+    Upotustulos<&clsRakennus::IVKoneet>(),
 };
 
 constexpr int kLammitystarvelukuPuuttuu = 1050;
@@ -86,7 +116,7 @@ Variantti UusiArvo(const clsMuuttunutAttribuutti& muutos) {
 
 }  // namespace
 
-const Luokka clsRakennus::kLuokka{"clsRakennus", kJasenet};
+const Luokka clsRakennus::kLuokka{"clsRakennus", kJasenet, kTulokset};
 
 clsRakennus::clsRakennus() : Major(kVersioMajor), Minor(kVersioMinor), Revision(kVersioRevision) {
   TyyppiTiedot.AlustaTyyppitiedot("");

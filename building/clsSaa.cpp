@@ -5,6 +5,7 @@
 
 #include "kernel/Hakemistot.h"
 #include "kernel/Tekstitiedosto.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "solar/Aurinkotaulukot.h"
 
@@ -16,6 +17,14 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", "°C"),
     Arvo<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", "K·d"),
     Arvo<&clsSaa::SaaFileNimi>("SaaFileNimi"),
+};
+
+constexpr Tulos kTulokset[] = {
+    Tekstitulos<&clsSaa::Nimi>("Nimi", 6203),
+    Lukutulos<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", 6204, "°C", "0.0"),
+    Lukutulos<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", 6205, "°Cd", "### ##0"),
+    Kuukausitulos<&clsSaa::Keskilampotila>("Keskilampotila", 6206, "°C", "0.0"),
+    Kuukausitaulukko<&clsSaa::AuringonSateily>("AuringonSateily", kSuuntia, 6207, "kWh/m²", "0.0"),
 };
 
 constexpr double kMJperkWh = 3.6;
@@ -78,7 +87,7 @@ class Rivinlukija {
 
 }  // namespace
 
-const Luokka clsSaa::kLuokka{"clsSaa", kJasenet, Luokka::Osallistuu::EiRekisteriin};
+const Luokka clsSaa::kLuokka{"clsSaa", kJasenet, Luokka::Osallistuu::EiRekisteriin, kTulokset};
 
 double clsSaa::AuringonSateily(int kuukausi, int suunta) const {
   if (suunta < 0 || suunta >= kSuuntia) throw std::out_of_range("suunta ei ole väliltä 0-4");

@@ -6,6 +6,7 @@
 
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "ui/Edistyminen.h"
 #include "ui/Tekstivarasto.h"
@@ -37,6 +38,32 @@ constexpr Jasen kJasenet[] = {
     Lapsi<&clsTila::Rakenteet>("Rakenteet"),
 };
 
+constexpr Tulos kTulokset[] = {
+    Avaintulos(),
+    Tekstitulos<&clsTila::TilanNimi>("TilanNimi", 2502),
+    Kuukausitulos<&clsTila::JohtumisHaviot>("JohtumisHaviot", 2960),
+    Kuukausitulos<&clsTila::IVHaviotTilassa>("IVHaviotTilassa", 2508),
+    Kuukausitulos<&clsTila::LampoHaviot>("LampoHaviot", 2963),
+    Kuukausitulos<&clsTila::SahkoKuorma>("SahkoKuorma", 2964),
+    Kuukausitulos<&clsTila::HenkiloKuorma>("HenkiloKuorma", 2965),
+    Kuukausitulos<&clsTila::AurinkoKuorma>("AurinkoKuorma", 2966),
+    Kuukausitulos<&clsTila::IVKoneLampoKuorma>("IVKoneLampoKuorma", 2967),
+    Kuukausitulos<&clsTila::IdeaalinenHyvaksiKayttoAste>("IdeaalinenHyvaksiKayttoAste", 6200, "", "0.00"),
+    Kuukausitulos<&clsTila::HyodynnetytLampoKuormat>("HyodynnetytLampoKuormat", 2970),
+    Kuukausitulos<&clsTila::LampoEnergianTarve>("LampoEnergianTarve", 2971),
+    Vuositulos<&clsTila::VuotuisetJohtumisHaviot>("VuotuisetJohtumisHaviot", 2507),
+    Vuositulos<&clsTila::VuotuisetIVHaviotTilassa>("VuotuisetIVHaviotTilassa", 2508),
+    Vuositulos<&clsTila::VuotuisetLampoHaviot>("VuotuisetLampoHaviot", 2963),
+    Vuositulos<&clsTila::VuotuinenSahkoKuorma>("VuotuinenSahkoKuorma", 2964),
+    Vuositulos<&clsTila::VuotuinenHenkiloKuorma>("VuotuinenHenkiloKuorma", 2965),
+    Vuositulos<&clsTila::VuotuinenAurinkoKuorma>("VuotuinenAurinkoKuorma", 2509),
+    Vuositulos<&clsTila::VuotuinenIVKoneLampoKuorma>("VuotuinenIVKoneLampoKuorma", 2967),
+    Vuositulos<&clsTila::VuotuisetHyodynnetytLampoKuormat>("VuotuisetHyodynnetytLampoKuormat", 2970),
+    Vuositulos<&clsTila::VuotuinenLampoEnergianTarve>("VuotuinenLampoEnergianTarve", 2510),
+    Vuositulos<&clsTila::VuotuisetSaatohaviot>("VuotuisetSaatohaviot", 6201),
+    Kokoelmatulos<&clsTila::Rakenteet>("Rakenteet"),
+};
+
 constexpr double kHenkiloOmKuorma = 95.3454545454548;  // heat given off by one person, W
 constexpr double kIlmanTiheys = 1.2;                   // kg/m³
 constexpr double kIlmanLampokapasiteetti = 1.006;      // kJ/(kg·K)
@@ -52,7 +79,7 @@ bool OnLammityskautta(int kuukausi) { return kuukausi >= kLammityskaudenAlku || 
 
 }  // namespace
 
-const Luokka clsTila::kLuokka{"clsTila", kJasenet};
+const Luokka clsTila::kLuokka{"clsTila", kJasenet, kTulokset};
 
 void clsTila::AurKuormatTilassaUpToDate(bool voimassa) noexcept {
   aurKuormatUpToDate_ = voimassa;

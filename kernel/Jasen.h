@@ -4,14 +4,15 @@
 #include <memory>
 #include <type_traits>
 
+#include "kernel/Suure.h"
 #include "kernel/Variantti.h"
 
 /// One row of a class's member table: the name under which the value stands in project files and in saving measures,
-/// its kind and unit, and typed access to it. Names are a contract with old files: a row is never renamed.
+/// its kind, unit and range, and typed access to it. Names are a contract with old files: a row is never renamed.
 struct Jasen {
   std::string_view nimi;
   Laji laji;
-  std::string_view yksikko;
+  Suure suure;
   /// Shows the value; null for a member that holds an object.
   void (*nayta)(const Olio&, ArvoNakyma&) = nullptr;
   /// Sets the value from one of any form, with the property's own code; false when it can't be read as this member's
@@ -89,10 +90,10 @@ constexpr void LiitaKentta(Jasen& j) {
 
 /// A plain data member.
 template <auto Kentta>
-constexpr Jasen Arvo(std::string_view nimi, std::string_view yksikko = {}) {
+constexpr Jasen Arvo(std::string_view nimi, Suure suure = {}) {
   using C = typename Osat<decltype(Kentta)>::Luokka;
   using T = typename Osat<decltype(Kentta)>::Tyyppi;
-  Jasen j{nimi, LajiTyypista<T>(), yksikko};
+  Jasen j{nimi, LajiTyypista<T>(), suure};
   j.nayta = [](const Olio& o, ArvoNakyma& n) { NaytaArvo(static_cast<const C&>(o).*Kentta, n); };
   LiitaKentta<Kentta>(j);
   if constexpr (!kOnTunniste<Kentta>) j.aseta = j.kirjoita;
@@ -102,9 +103,9 @@ constexpr Jasen Arvo(std::string_view nimi, std::string_view yksikko = {}) {
 /// A property with code: `Hae` is a function of const C&, `Aseta` one of C& and the value. `Kentta` is its field;
 /// without one the two functions are to do no more than read and write the value that a copy carries.
 template <class C, auto Hae, auto Aseta, auto Kentta = nullptr>
-constexpr Jasen Ominaisuus(std::string_view nimi, std::string_view yksikko = {}) {
+constexpr Jasen Ominaisuus(std::string_view nimi, Suure suure = {}) {
   using T = std::remove_cvref_t<decltype(Hae(std::declval<const C&>()))>;
-  Jasen j{nimi, LajiTyypista<T>(), yksikko};
+  Jasen j{nimi, LajiTyypista<T>(), suure};
   j.nayta = [](const Olio& o, ArvoNakyma& n) { NaytaArvo(Hae(static_cast<const C&>(o)), n); };
   j.aseta = [](Olio& o, const ArvoNakyma& n) {
     T arvo{};

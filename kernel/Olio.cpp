@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "kernel/Kirjainkoko.h"
+#include "kernel/Tulos.h"
 
 namespace {
 
@@ -93,9 +94,11 @@ std::size_t Luokka::Nimenpaat::Tiiviste() const noexcept {
   return sekoitus ^ sekoitus >> 29;
 }
 
-Luokka::Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu osallistuu)
+Luokka::Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu osallistuu,
+               std::span<const Tulos> tulokset)
     : sana_(Sanaksi(nimi)),
       jasenet_(jasenet),
+      tulokset_(tulokset),
       osallistuu_(osallistuu),
       numero_(Luokat().size()),
       hakemisto_(std::bit_ceil(jasenet.size() * 4 + 1)) {
@@ -108,6 +111,12 @@ Luokka::Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu
     hakemisto_[kohta] = {paat, &jasen};
   }
   Luokat().push_back(this);
+}
+
+const Tulos& Luokka::TulosNimella(std::string_view nimi) const {
+  for (const Tulos& tulos : tulokset_)
+    if (tulos.nimi == nimi) return tulos;
+  throw std::logic_error("luokalla ei ole tulosta " + std::string(Nimi()) + "." + std::string(nimi));
 }
 
 const Jasen* Luokka::Etsi(std::string_view nimi) const noexcept {

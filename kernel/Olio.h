@@ -9,6 +9,7 @@
 #include "kernel/Oliomuisti.h"
 
 class KokoelmaPohja;
+struct Tulos;
 
 /// What the generic mechanisms (save, load, register, comparison, saving measures) know of a class.
 class Luokka {
@@ -20,14 +21,21 @@ class Luokka {
     EiKumpaankaan,  ///< objects of the structure library: neither registered nor compared
   };
 
-  /// `nimi` and `jasenet` live for the whole run. Enters the class in the list of all classes.
-  Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu osallistuu = Osallistuu::Kaikkeen);
+  /// `nimi` and the tables live for the whole run. Enters the class in the list of all classes.
+  Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu osallistuu = Osallistuu::Kaikkeen,
+         std::span<const Tulos> tulokset = {});
+  Luokka(std::string_view nimi, std::span<const Jasen> jasenet, std::span<const Tulos> tulokset)
+      : Luokka(nimi, jasenet, Osallistuu::Kaikkeen, tulokset) {}
   Luokka(const Luokka&) = delete;
   Luokka& operator=(const Luokka&) = delete;
 
   std::string_view Nimi() const noexcept { return sana_.teksti; }
   const Sana& NimiSana() const noexcept { return sana_; }
   std::span<const Jasen> Jasenet() const noexcept { return jasenet_; }
+  /// What is computed of an object of the class (kernel/Tulos.h), in the order in which it is shown.
+  std::span<const Tulos> Tulokset() const noexcept { return tulokset_; }
+  /// The result of that name. Raises std::logic_error if the class has none.
+  const Tulos& TulosNimella(std::string_view nimi) const;
   Osallistuu Osallistuminen() const noexcept { return osallistuu_; }
   /// Running number of the class, from 0: an index for tables by class.
   std::size_t Numero() const noexcept { return numero_; }
@@ -57,6 +65,7 @@ class Luokka {
 
   const Sana& sana_;
   std::span<const Jasen> jasenet_;
+  std::span<const Tulos> tulokset_;
   Osallistuu osallistuu_;
   std::size_t numero_;
   std::vector<Paikka> hakemisto_;  // open addressing, size a power of two

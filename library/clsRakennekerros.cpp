@@ -5,8 +5,8 @@ namespace {
 
 /// A figure of one of the layer's materials as a member of the layer.
 template <auto Aine, auto Kentta>
-constexpr Jasen Aineesta(std::string_view nimi, std::string_view yksikko = {}) {
-  Jasen j{nimi, LajiTyypista<typename Osat<decltype(Kentta)>::Tyyppi>(), yksikko};
+constexpr Jasen Aineesta(std::string_view nimi, Suure suure = {}) {
+  Jasen j{nimi, LajiTyypista<typename Osat<decltype(Kentta)>::Tyyppi>(), suure};
   j.nayta = [](const Olio& o, ArvoNakyma& n) { NaytaArvo((static_cast<const clsRakennekerros&>(o).*Aine).*Kentta, n); };
   j.kirjoita = j.aseta = [](Olio& o, const ArvoNakyma& n) {
     return Muunna(n, (static_cast<clsRakennekerros&>(o).*Aine).*Kentta);

@@ -5,6 +5,7 @@
 
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "ui/Tekstivarasto.h"
 
@@ -64,7 +65,24 @@ constexpr Jasen clsIVKone::kJasenet[] = {
     Lapsi<&clsIVKone::LammTehot>("LammTehot"),
 };
 
-const Luokka clsIVKone::kLuokka{"clsIVKone", kJasenet};
+constexpr Tulos kTulokset[] = {
+    Avaintulos(),
+    Tekstitulos<&clsIVKone::KoneenTunnus>("KoneenTunnus", 3002),
+    Kuukausitulos<[](const clsIVKone& k, int m) { return k.IV_LammEnergia(m); }>("IV_LammEnergia", 3008),
+    Kuukausitulos<[](const clsIVKone& k, int m) { return k.LtoEnergia(m); }>("LtoEnergia", 3009),
+    Kuukausitulos<&clsIVKone::SahkoPatterinEnergia>("SahkoPatterinEnergia", 6221),
+    Kuukausitulos<&clsIVKone::VesikiertoisenLampoPatterinEnergia>("VesikiertoisenLampoPatterinEnergia", 6222),
+    Kuukausitulos<[](clsIVKone& k, int m) { return k.PuhallinSahko(m); }>("PuhallinSahko", 3010),
+    Kuukausitulos<[](const clsIVKone& k, int m) { return k.HaviotTilaan(k.Poistoilma(), m); }>("HaviotTilaan", 6223),
+    Vuositulos<&clsIVKone::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", 3010),
+    Vuositulos<&clsIVKone::VuotuinenIVjalkilammitysLampo>("VuotuinenIVjalkilammitysLampo", 3008),
+    Vuositulos<&clsIVKone::Sahko>("Sahko", 6224),
+    Upotustulos<&clsIVKone::AjantasaisetPuhaltimet>(),
+    Osatulos<&clsIVKone::Lto>("Lto"),
+    Kokoelmatulos<&clsIVKone::KayntiAikaYleistiedot>("KayntiAjat"),
+};
+
+const Luokka clsIVKone::kLuokka{"clsIVKone", kJasenet, kTulokset};
 
 clsIVKone::clsIVKone() : KoneenTunnus(Teksti(kUusiKoneTekstinro)) { PaivitaPuhaltimienTiedot(); }
 
@@ -123,7 +141,6 @@ double clsIVKone::IV_LammEnergia(int kuukausi) const try {
   NostaVirhe("clsIVKone:IV_LammEnergia Method");
 }
 
-/// Temperature of the exhaust air, °C.
 double clsIVKone::Poistoilma() const {
   const clsTila* tila = LiittyyTilaansKey.Tyhja() ? nullptr : VaadiRakennus().Tilat.Etsi(LiittyyTilaansKey);
   return tila ? tila->Sisalampotila : PoistoLampotila;

@@ -61,9 +61,13 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   bool OnTalteenotto() const noexcept { return OnTulopuhallin() && OnPoistopuhallin(); }
   /// Gives the fans their copies of the machine's flows, choices and name. Every fan calculation does.
   void PaivitaPuhaltimienTiedot();
+  /// The fans, their copies up to date.
+  clsPuhaltimenSahkonKulutus& AjantasaisetPuhaltimet() { return PaivitaPuhaltimienTiedot(), PuhaltimienSahkonKulutus; }
   /// The same, and the name to the schedule.
   void PaivitaOsienTiedot();
 
+  /// Temperature of the exhaust air, °C: that of the space served, or `PoistoLampotila` when none is.
+  double Poistoilma() const;
   /// What the machine takes from the heat of a space at Tsisa °C: warming the exhaust flow (the supply flow of a supply
   /// machine) from outdoors to Tsisa, less warming the supply flow to the set-points. Negative: a gain of the space.
   double HaviotTilaan(double Tsisa, int kuukausi) const;
@@ -111,7 +115,6 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   void KayttoLiittyma_OkKlikattu();
   void KayttoLiittyma_PeruutaKlikattu();
 
-  double Poistoilma() const;
   double PuhallinSahko(PuhaltimenTeho& tulo, PuhaltimenTeho& poisto, int kuukausi) const;
 
   double sisaanpuhallusLampotila_ = 16.0;

@@ -3,6 +3,7 @@
 
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 
 namespace {
@@ -11,9 +12,16 @@ constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
 };
 
+constexpr Tulos kTulokset[] = {
+    Vuositulos<&clsIVKoneet::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", 6217),
+    Lukutulos<&clsIVKoneet::Tuloilmavirtojen11Summa>("Tuloilmavirtojen11Summa", 6218, "m³/s", "### ##0.00#"),
+    Lukutulos<&clsIVKoneet::Poistoilmavirtojen11Summa>("Poistoilmavirtojen11Summa", 6219, "m³/s", "### ##0.00#"),
+    Lukutulos<&clsIVKoneet::LammitystehonTarve>("LammitystehonTarve", 6220, "kW"),
+};
+
 }  // namespace
 
-const Luokka clsIVKoneet::kLuokka{"clsIVKoneet", kJasenet};
+const Luokka clsIVKoneet::kLuokka{"clsIVKoneet", kJasenet, kTulokset};
 
 double clsIVKoneet::VuotuinenIVjalkilammitysLampo() try {
   if (VuotuinenIVjalkilammitysLampoUpToDate) return jalkilammitys_.arvo;

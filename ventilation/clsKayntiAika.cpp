@@ -5,6 +5,7 @@
 
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
@@ -26,6 +27,11 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsKayntiAika::dTPuhallin>("dTPuhallin", "K"),
 };
 
+constexpr Tulos kTulokset[] = {
+    Avaintulos(),
+    Lukutulos<&clsKayntiAika::KayntiTunnit>("KayntiTunnit", 6230, "h"),
+};
+
 constexpr int kMinuuttejaVuorokaudessa = 1440;
 constexpr double kMinuuttejaTunnissa = 60, kTuntejaVuorokaudessa = 24, kTuntejaViikossa = 168, kPaiviaViikossa = 7;
 constexpr double kKesanLtoRaja = 5;  // %
@@ -33,7 +39,7 @@ constexpr int kLampotilavirhe = 1015, kJaksovirhe = 1018;
 
 }  // namespace
 
-const Luokka clsKayntiAika::kLuokka{"clsKayntiAika", kJasenet};
+const Luokka clsKayntiAika::kLuokka{"clsKayntiAika", kJasenet, kTulokset};
 
 double clsKayntiAika::KayntiTunnit() const {
   int minuutit = Paattyy.minuutit - Alkaa.minuutit;

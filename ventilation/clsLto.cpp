@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/clsLto.h"
 
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 
 namespace {
@@ -12,9 +13,13 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsLto::Tlto>("Tlto", "°C"),
 };
 
+constexpr Tulos kTulokset[] = {
+    Lukutulos<[](clsLto& l) { return l.LtoHyotysuhde(l.Tp); }>("LtoHyotysuhde", 6229, ""),
+};
+
 }  // namespace
 
-const Luokka clsLto::kLuokka{"clsLto", kJasenet};
+const Luokka clsLto::kLuokka{"clsLto", kJasenet, kTulokset};
 
 double clsLto::LtoHyotysuhde(double poistoilma) try {
   Tp = poistoilma;

@@ -2,6 +2,7 @@
 #include "ventilation/clsPuhaltimenSahkonKulutus.h"
 
 #include "kernel/Laskenta.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "ventilation/clsIVKone.h"
 
@@ -36,6 +37,14 @@ constexpr Jasen kJasenet[] = {
     Lapsi<&Kulutus::PoistoPuhParam>("PoistoPuhParam"),
 };
 
+constexpr Tulos kTulokset[] = {
+    Lukutulos<&clsPuhaltimenSahkonKulutus::TuloSahkoOminaisteho>("TuloSahkoOminaisteho", 6225, "kW/(m³/s)"),
+    Lukutulos<&clsPuhaltimenSahkonKulutus::PoistoSahkoOminaisteho>("PoistoSahkoOminaisteho", 6226, "kW/(m³/s)"),
+    Lukutulos<[](const clsPuhaltimenSahkonKulutus& p) { return p.TuloSahkoOsaTeho(); }>("TuloSahkoOsaTeho", 6227, "kW"),
+    Lukutulos<[](const clsPuhaltimenSahkonKulutus& p) { return p.PoistoSahkoOsaTeho(); }>("PoistoSahkoOsaTeho", 6228,
+                                                                                          "kW"),
+};
+
 constexpr double kTaysVirta = 100;          // %
 constexpr std::int32_t kOsuudenAskel = 10;  // % for each row of the choice of constant pressure
 
@@ -45,7 +54,7 @@ double Ominaisteho(PuhaltimenTeho puhallin, double virta) {
 
 }  // namespace
 
-const Luokka clsPuhaltimenSahkonKulutus::kLuokka{"clsPuhaltimenSahkonKulutus", kJasenet};
+const Luokka clsPuhaltimenSahkonKulutus::kLuokka{"clsPuhaltimenSahkonKulutus", kJasenet, kTulokset};
 
 bool clsPuhaltimenSahkonKulutus::OnTulopuhallin() const noexcept { return IVPeriaateID != clsIVKone::Poistoilmakone; }
 

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <functional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "kernel/Olio.h"
+
+/// An object whose results are read, and the objects that it stands in, nearest first.
+struct Tuloskohde {
+  Olio& olio;
+  const Tuloskohde* omistaja = nullptr;
+
+  /// The nearest owner of class C. Raises std::logic_error when there is none.
+  template <class C>
+  C& Omistaja() const {
+    for (const Tuloskohde* k = omistaja; k; k = k->omistaja)
+      if (&k->olio.LuokanTiedot() == &C::kLuokka) return static_cast<C&>(k->olio);
+    throw std::logic_error(std::string("kohteella ei ole omistajaa ") + std::string(C::kLuokka.Nimi()));
+  }
+};
+
+enum class Tuloslaji : std::uint8_t {
+  Kuukausi,  ///< a number for each month
+  Vuosi,     ///< a number of the year
+  Luku,      ///< a number that belongs to no time
+  Teksti,    ///< a name or a key
+  Osa,       ///< the results of a part
+  Upotettu,  ///< the results of a part, shown as if they were the object's own
+  Osat,      ///< the results of the items of a collection
+  Kartta,    ///< a number by key
+};
+
+/// One row of a class's table of results, beside its table of members: what is computed of an object, under what name,
+/// in what unit and with what accuracy it is shown. Whatever shows results reads these rows: lists and summaries, the
+/// monthly balance, the batch calculator's JSON, reports and charts. The getters raise what the calculation raises.
+struct Tulos {
+  std::string_view nimi;
+  Tuloslaji laji;
+  std::string_view yksikko = {};
+  int teksti = 0;                    ///< number of the Finnish name, without unit; 0: has none
+  const char* kuvio = "### ##0.00";  ///< how the number is shown (kernel/Luvut.h)
+  int rinnakkain = 1;                ///< values of one month side by side, such as the directions of radiation
+  double (*luku)(const Tuloskohde&, int kuukausi, int sarake) = nullptr;
+  std::string (*sana)(const Tuloskohde&) = nullptr;
+  void (*osat)(const Tuloskohde&, const std::function<void(Olio&)>& kasittele) = nullptr;
+  void (*kartta)(const Tuloskohde&,
+                 const std::function<void(std::string_view avain, double arvo)>& kasittele) = nullptr;
+
+  bool OnLuku() const noexcept { return luku != nullptr; }
+  /// The number of the year, or of one month 0 to 11.
+  double Arvo(const Tuloskohde& kohde, int kuukausi = 0) const { return luku(kohde, kuukausi, 0); }
+};
+
+namespace tulos {
+
+// The class of the object that a getter takes: a member, or a lambda of the object.
+template <class T>
+struct Haku : Haku<decltype(&T::operator())> {};
+template <class T, class C>
+struct Haku<T C::*> {
+  using Luokka = C;
+};
+template <class R, class L, class C, class... A>
+struct Haku<R (L::*)(C&, A...) const> {
+  using Luokka = C;
+};
+template <auto F>
+auto& Olioksi(const Tuloskohde& k) {
+  return static_cast<typename Haku<std::remove_const_t<decltype(F)>>::Luokka&>(k.olio);
+}
+
+template <auto F, class... A>
+decltype(auto) Kutsu(const Tuloskohde& k, A... arvot) {
+  auto& olio = Olioksi<F>(k);
+  if constexpr (std::is_invocable_v<decltype(F), decltype(olio), const Tuloskohde&, A...>)
+    return std::invoke(F, olio, k, arvot...);
+  else
+    return std::invoke(F, olio, arvot...);
+}
+
+}  // namespace tulos
+
+// Makers of rows. A getter is a member function or a lambda of the object (and, where it needs an owner, of the
+// Tuloskohde), and for months of the month 0 to 11.
+
+template <auto F>
+constexpr Tulos Kuukausitulos(std::string_view nimi, int teksti = 0, std::string_view yksikko = "kWh",
+                              const char* kuvio = "### ##0") {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Kuukausi, .yksikko = yksikko, .teksti = teksti, .kuvio = kuvio};
+  t.luku = [](const Tuloskohde& k, int m, int) -> double { return tulos::Kutsu<F>(k, m); };
+  return t;
+}
+
+/// Months with several values side by side; the getter takes the month and the column from 0.
+template <auto F>
+constexpr Tulos Kuukausitaulukko(std::string_view nimi, int rinnakkain, int teksti, std::string_view yksikko,
+                                 const char* kuvio) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Kuukausi, .yksikko = yksikko, .teksti = teksti, .kuvio = kuvio};
+  t.rinnakkain = rinnakkain;
+  t.luku = [](const Tuloskohde& k, int m, int i) -> double { return tulos::Kutsu<F>(k, m, i); };
+  return t;
+}
+
+template <auto F>
+constexpr Tulos Vuositulos(std::string_view nimi, int teksti = 0, std::string_view yksikko = "MWh/a",
+                           const char* kuvio = "### ##0.00") {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Vuosi, .yksikko = yksikko, .teksti = teksti, .kuvio = kuvio};
+  t.luku = [](const Tuloskohde& k, int, int) -> double { return tulos::Kutsu<F>(k); };
+  return t;
+}
+
+template <auto F>
+constexpr Tulos Lukutulos(std::string_view nimi, int teksti, std::string_view yksikko,
+                          const char* kuvio = "### ##0.00") {
+  Tulos t = Vuositulos<F>(nimi, teksti, yksikko, kuvio);
+  t.laji = Tuloslaji::Luku;
+  return t;
+}
+
+template <auto F>
+constexpr Tulos Tekstitulos(std::string_view nimi, int teksti = 0) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Teksti, .teksti = teksti};
+  t.sana = [](const Tuloskohde& k) { return std::string(tulos::Kutsu<F>(k)); };
+  return t;
+}
+/// The object's key.
+constexpr Tulos Avaintulos() {
+  return Tekstitulos<[](const Alkio& a) { return a.sKey.Teksti(); }>("sKey");
+}
+
+/// A part: the getter gives the object.
+template <auto F>
+constexpr Tulos Osatulos(std::string_view nimi) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Osa};
+  t.osat = [](const Tuloskohde& k, const std::function<void(Olio&)>& kasittele) { kasittele(tulos::Kutsu<F>(k)); };
+  return t;
+}
+template <auto F>
+constexpr Tulos Upotustulos() {
+  Tulos t = Osatulos<F>("");
+  t.laji = Tuloslaji::Upotettu;
+  return t;
+}
+/// The items of a collection: the getter gives the collection.
+template <auto F>
+constexpr Tulos Kokoelmatulos(std::string_view nimi) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Osat};
+  t.osat = [](const Tuloskohde& k, const std::function<void(Olio&)>& kasittele) {
+    for (auto& alkio : tulos::Kutsu<F>(k)) kasittele(alkio);
+  };
+  return t;
+}
+/// Numbers by key: the getter takes the object and what is to be called with each key and number.
+template <auto F>
+constexpr Tulos Karttatulos(std::string_view nimi, int teksti, std::string_view yksikko) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Kartta, .yksikko = yksikko, .teksti = teksti};
+  t.kartta = [](const Tuloskohde& k, const std::function<void(std::string_view, double)>& kasittele) {
+    F(tulos::Olioksi<F>(k), kasittele);
+  };
+  return t;
+}
