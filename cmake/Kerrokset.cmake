@@ -24,6 +24,7 @@ function(lumi_kerros nimi)
   add_library(${nimi} STATIC ${lahteet})
   target_include_directories(${nimi} PUBLIC "${CMAKE_SOURCE_DIR}")
   target_link_libraries(${nimi} PUBLIC ${A_LINKIT})
+  lumi_tekstinumerot(${nimi})
   if(A_QT)
     set_target_properties(${nimi} PROPERTIES AUTOMOC ON)
     target_link_libraries(${nimi} PUBLIC qt)
@@ -62,11 +63,12 @@ function(lumi_testiymparisto)
   set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${CMAKE_BINARY_DIR}/testiymparisto.cmake")
 endfunction()
 
-# lumi_testi(<name> [QT] KANSIOT <folders under tests/> LINKIT <targets>): a GoogleTest program.
+# lumi_testi(<name> [QT] [DIALOGIT] KANSIOT <folders under tests/> LINKIT <targets>): a GoogleTest program, with DIALOGIT
+# one whose dialog scripts may fail.
 # tests/<folder>/main.cpp, if any, takes the place of gtest_main.
 # A test finds the built data in $LUMIVIRTA_KOTI and files of the tree under $LUMIVIRTA_LAHDE.
 function(lumi_testi nimi)
-  cmake_parse_arguments(A "QT" "" "KANSIOT;LINKIT" ${ARGN})
+  cmake_parse_arguments(A "QT;DIALOGIT" "" "KANSIOT;LINKIT" ${ARGN})
   list(TRANSFORM A_KANSIOT PREPEND "tests/")
   lumi_lahteet(lahteet ${A_KANSIOT})
   if(NOT lahteet)
@@ -79,6 +81,9 @@ function(lumi_testi nimi)
       set(paaohjelma)
     endif()
   endforeach()
+  if(A_DIALOGIT)
+    list(APPEND lahteet "${CMAKE_SOURCE_DIR}/tests/tuki/Dialogivirheet.cpp")
+  endif()
   add_executable(${nimi} ${lahteet})
   target_include_directories(${nimi} PRIVATE "${CMAKE_SOURCE_DIR}")
   target_link_libraries(${nimi} PRIVATE ${A_LINKIT} ${paaohjelma} GTest::gtest GTest::gmock)

@@ -5,7 +5,8 @@
     rakenna_kanta.py RESULT STEP...
 
 A step is an SQL script (name.sql) or the rows of a table (Table=rows.csv); steps run in the order given.
-The heading of a CSV file names the columns, an empty cell takes the column's default. A fault in a source
+The heading of a CSV file names the columns, an empty cell takes the column's default. The column Vakio, which names a
+row for the code, goes to no database; a row without a name may end before it. A fault in a source
 ends the build with the file and line; the result appears whole or not at all, and equal sources give equal bytes.
 """
 import csv
@@ -13,6 +14,8 @@ import os
 import sqlite3
 import sys
 import unicodedata
+
+NIMISARAKE = "Vakio"
 
 
 class Lahdevirhe(Exception):
@@ -28,7 +31,7 @@ def lue(tiedosto):
 
 
 def lisaa_rivi(kanta, taulu, rivi):
-    annetut = {sarake: arvo for sarake, arvo in rivi.items() if arvo != ""}
+    annetut = {sarake: arvo for sarake, arvo in rivi.items() if arvo != "" and sarake != NIMISARAKE}
     sarakkeet = ", ".join(f'"{sarake}"' for sarake in annetut)
     kysymykset = ", ".join("?" * len(annetut))
     kanta.execute(f'INSERT INTO "{taulu}" ({sarakkeet}) VALUES ({kysymykset})', tuple(annetut.values()))
@@ -37,7 +40,7 @@ def lisaa_rivi(kanta, taulu, rivi):
 def lisaa_rivit(kanta, taulu, tiedosto):
     rivit = csv.DictReader(lue(tiedosto).splitlines(keepends=True), strict=True)
     for rivi in rivit:
-        if None in rivi or None in rivi.values():
+        if None in rivi or None in (arvo for sarake, arvo in rivi.items() if sarake != NIMISARAKE):
             raise Lahdevirhe(f"{tiedosto}:{rivit.line_num}: wrong number of fields")
         try:
             lisaa_rivi(kanta, taulu, rivi)

@@ -88,6 +88,13 @@ std::vector<std::string> Valittavat(const Ohjain& ohjain) {
   return otsikot;
 }
 
+[[noreturn]] void LopetaVirheeseen(const std::string& virhe) {
+  std::fprintf(stderr, "%s\n", virhe.c_str());
+  std::abort();
+}
+
+void (*g_virheenKertoja)(const std::string& virhe) = LopetaVirheeseen;
+
 int ValittavanPaikka(const Ohjain& ohjain, std::string_view teksti) {
   const auto otsikot = Valittavat(ohjain);
   const auto it = std::ranges::find(otsikot, teksti);
@@ -142,10 +149,10 @@ Ikkunattomat::Ikkunattomat(std::string kansio) : kansio_(std::move(kansio)) {
 
 Ikkunattomat::~Ikkunattomat() {
   AsetaLomakesovitin(nullptr);
-  if (virheet_.empty()) return;
-  for (const std::string& virhe : virheet_) std::fprintf(stderr, "%s\n", virhe.c_str());
-  std::abort();
+  for (const std::string& virhe : virheet_) g_virheenKertoja(virhe);
 }
+
+void Ikkunattomat::AsetaVirheenKertoja(void (*kertoja)(const std::string& virhe)) { g_virheenKertoja = kertoja; }
 
 void Ikkunattomat::KunNaytetaan(const std::string& nimi, Kasikirjoitus kasikirjoitus) {
   kasikirjoitukset_[nimi] = std::move(kasikirjoitus);

@@ -56,10 +56,13 @@ class Ikkunattomat {
  public:
   using Kasikirjoitus = std::function<void(Ikkunaton&)>;
 
+  /// Who is told of the faults; without one the first fault ends the program.
+  static void AsetaVirheenKertoja(void (*kertoja)(const std::string& virhe));
+
   /// `kansio`: folder of the .ui files.
   explicit Ikkunattomat(std::string kansio);
-  /// A script that failed, or a modal form that had no script or didn't close, ends the program here with a message
-  /// unless Virheet has been read: such a fault lies in the test, and the program's own handlers would hide it.
+  /// Tells of a script that failed, or of a modal form that had no script or didn't close, unless Virheet has been
+  /// read: such a fault lies in the test, and the program's own handlers would hide it.
   ~Ikkunattomat();
   Ikkunattomat(const Ikkunattomat&) = delete;
   Ikkunattomat& operator=(const Ikkunattomat&) = delete;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <random>
-
 #include "tests/building/Koerakennus.h"
+#include "tests/tuki/Arpa.h"
 
 namespace {
 
@@ -97,10 +96,8 @@ TEST_F(clsTilaTesti, ElectricLoadComesFromGroupsOrFromTheMeasuredYear) {
 }
 
 TEST_F(clsTilaTesti, UtilisedGainsNeverExceedGainsNorPositiveLosses) {
-  const unsigned siemen = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(siemen));
-  std::mt19937 arpa(siemen);
-  const auto luku = [&arpa](double alku, double loppu) { return std::uniform_real_distribution(alku, loppu)(arpa); };
+  Arpa arpa;
+  const auto luku = [&arpa](double alku, double loppu) { return arpa.Luku(alku, loppu); };
   for (int kerta = 0; kerta < 20; ++kerta) {
     clsTila& tila = LisaaTila(luku(0, 5000), luku(1, 2000));
     tila.Sisalampotila = luku(5, 25);

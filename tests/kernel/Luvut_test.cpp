@@ -7,6 +7,8 @@
 #include <limits>
 #include <random>
 
+#include "tests/tuki/Arpa.h"
+
 namespace {
 
 TEST(Luvut, MuotoileeSuomeksi) {
@@ -76,7 +78,7 @@ TEST(Luvut, LyhinMuotoLukeutuuTakaisinSamana) {
   EXPECT_EQ(LyhinMuoto(0.1), "0.1");
   EXPECT_EQ(LyhinMuoto(-0.0), "0");
   EXPECT_EQ(LyhinMuoto(1e-7), "0.0000001");
-  std::mt19937_64 arpa(20260307);
+  Arpa arpa;
   std::uniform_real_distribution<double> eksponentti(-300, 300);
   for (int i = 0; i < 2000; ++i) {
     const double arvo = std::pow(10.0, eksponentti(arpa)) * (i % 2 == 0 ? 1 : -1);
@@ -85,7 +87,7 @@ TEST(Luvut, LyhinMuotoLukeutuuTakaisinSamana) {
 }
 
 TEST(Luvut, NaytettyLukuLukeutuuTakaisinPuolenViimeisenDesimaalinTarkkuudella) {
-  std::mt19937_64 arpa(7);
+  Arpa arpa;
   std::uniform_real_distribution<double> jakauma(-1e7, 1e7);
   for (int i = 0; i < 2000; ++i) {
     const double arvo = jakauma(arpa);

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "tests/tuki/Arpa.h"
+
 namespace {
 
 Kerros Yhtenainen(double paksuus_m, double lambda) { return {.paksuus_m = paksuus_m, .lambda = lambda}; }
@@ -103,7 +105,7 @@ TEST(Lammonlapaisy, IlmavaliRunkopuidenValissaKayttaaKiinteaaVastustaVainIlmalle
 
 /// Random structures of many inhomogeneous layers, more than the sections are spread out for.
 TEST(Lammonlapaisy, VastusOnAinaAlaJaYlarajanValissa) {
-  std::mt19937 arpa(832);
+  Arpa arpa;
   std::uniform_real_distribution<double> luku(0.01, 1.0);
   for (int kierros = 0; kierros < 60; ++kierros) {
     std::vector<Kerros> rakenne;
