@@ -3,9 +3,11 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "ui/Lomakeikkuna.h"
+#include "ui/qt/Vieritysalue.h"
 
 namespace {
 
@@ -24,6 +26,14 @@ Dialogikehys::Dialogikehys(Lomakeikkuna& lomake, QWidget* sisalto, QWidget* vanh
   asettelu->addWidget(sisalto);
   sisalto->show();
   setWindowTitle(sisalto->windowTitle());
+}
+
+void Dialogikehys::Mahduta(const QSize& naytto) {
+  // The window manager's frame isn't known before the window is shown: as the toolkit's own style has it.
+  const int reuna = 2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+  const QSize kehys(reuna, reuna + style()->pixelMetric(QStyle::PM_TitleBarHeight));
+  ensurePolished();
+  resize(Mahtuva(sizeHint(), naytto - kehys));
 }
 
 void Dialogikehys::reject() { lomake_.KayttajaPeruuttaa(); }

@@ -10,6 +10,8 @@ class Lomakeikkuna;
 class Dialogikehys : public QDialog {
  public:
   Dialogikehys(Lomakeikkuna& lomake, QWidget* sisalto, QWidget* vanhempi);
+  /// Takes the size of its contents, but no more than a screen of this size has room for.
+  void Mahduta(const QSize& naytto);
   void reject() override;
 
  protected:

@@ -15,6 +15,7 @@
 #include "ui/qt/Kehys.h"
 #include "ui/qt/Osoitin.h"
 #include "ui/qt/QtOhjain.h"
+#include "ui/qt/Vieritysalue.h"
 #include "ui/qt/Viimeistely.h"
 
 namespace {
@@ -66,6 +67,7 @@ QtIkkuna::QtIkkuna(QWidget* juuri, QMdiArea* alue) : juuri_(juuri), alue_(alue) 
   KeraaOhjaimet(*juuri, [this](QWidget& widget) {
     if (auto ohjain = TeeOhjain(*this, widget)) Lisaa(std::move(ohjain));
   });
+  VieritaLomaketta(*juuri);
 }
 
 QtIkkuna::~QtIkkuna() {
@@ -104,6 +106,7 @@ Dialogikehys* QtIkkuna::TeeDialogi() {
   Irrota();
   Viimeistele();
   dialogi_ = new Dialogikehys(*this, juuri_, Vanhempi());
+  dialogi_->Mahduta(dialogi_->screen()->availableSize());
   Aloita();
   return dialogi_;
 }
