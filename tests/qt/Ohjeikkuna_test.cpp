@@ -133,6 +133,10 @@ TEST_F(Opas, HakuLoytaaSivutJoillaOnKaikkiSanat) {
   haku_->setText(QStringLiteral("kulutuksen normitus"));
   osumat_->setCurrentRow(0);
   EXPECT_EQ(Sivu(), "normitus.html") << "otsikon osuma on ensimmäisenä";
+  haku_->setText(QStringLiteral("kylmäsilloitta"));  // a form that no page has
+  ASSERT_NE(osumat_->item(0)->flags(), Qt::NoItemFlags);
+  osumat_->setCurrentRow(0);
+  EXPECT_TRUE(selain_->textCursor().selectedText().startsWith(QStringLiteral("kylmäsil"), Qt::CaseInsensitive));
   haku_->setText(QStringLiteral("xyzzy"));
   EXPECT_EQ(osumat_->count(), 1);
   EXPECT_EQ(osumat_->item(0)->flags(), Qt::NoItemFlags);

@@ -10,17 +10,17 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "tekstit/ohje.h"
 #include "ui/Ohje.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/qt/Vektorikuva.h"
 
 namespace {
 
-constexpr int kSivuRooli = Qt::UserRole;
+constexpr int kSivuRooli = Qt::UserRole, kSanaRooli = Qt::UserRole + 1;
 constexpr int kPuunLeveys = 270, kIkkunanLeveys = 1020, kIkkunanKorkeus = 720;
-constexpr qsizetype kOtteenAlku = 40, kOtteenPituus = 120;
 
-QString Q(int tunnus) { return QString::fromStdString(Teksti(tunnus)); }
+QString Q(Tekstinumero tunnus) { return QString::fromStdString(Teksti(tunnus)); }
 QString Q(const std::string& teksti) { return QString::fromStdString(teksti); }
 
 std::string LueKaikki(const QString& polku) {
@@ -28,27 +28,14 @@ std::string LueKaikki(const QString& polku) {
   return tiedosto.open(QIODevice::ReadOnly) ? tiedosto.readAll().toStdString() : std::string();
 }
 
-/// Words of a search, all of which must be on a page.
-QStringList Sanat(const QString& haku) { return haku.simplified().split(' ', Qt::SkipEmptyParts); }
-
-bool OnKaikki(const QString& teksti, const QStringList& sanat) {
-  return std::ranges::all_of(sanat, [&](const QString& s) { return teksti.contains(s, Qt::CaseInsensitive); });
-}
-
-/// What stands on the page around the first of the words.
-QString Ote(const QString& teksti, const QString& sana) {
-  const qsizetype paikka = std::max<qsizetype>(teksti.indexOf(sana, 0, Qt::CaseInsensitive), 0);
-  const qsizetype alku = paikka <= kOtteenAlku ? 0 : teksti.lastIndexOf(' ', paikka - kOtteenAlku) + 1;
-  return (alku > 0 ? QStringLiteral("… ") : QString()) + teksti.mid(alku, kOtteenPituus).simplified() +
-         QStringLiteral(" …");
-}
-
 }  // namespace
 
 Ohjeikkuna::Ohjeikkuna(const QString& kansio)
-    : sivukansio_(kansio + "Ohje/"), luettelo_(LueKaikki(kansio + "Lumivirta 2.hlp")) {
+    : sivukansio_(kansio + "Ohje/"),
+      luettelo_(LueKaikki(kansio + "Lumivirta 2.hlp")),
+      haku_(luettelo_, [this](const QString& sivu) { return LueKaikki(KokoPolku(sivu)); }) {
   setObjectName("frmOhje");
-  setWindowTitle(Q(6101));
+  setWindowTitle(Q(tekstit::kKayttoopas));
   setAttribute(Qt::WA_QuitOnClose, false);
   resize(kIkkunanLeveys, kIkkunanKorkeus);
   LuoPuu();
@@ -61,7 +48,7 @@ Ohjeikkuna::Ohjeikkuna(const QString& kansio)
   jakaja->setStretchFactor(1, 1);
   setCentralWidget(jakaja);
   selain_.setObjectName("sivu");
-  selain_.setAccessibleName(Q(6101));
+  selain_.setAccessibleName(Q(tekstit::kKayttoopas));
   selain_.setOpenExternalLinks(true);
   selain_.document()->setDocumentMargin(14);
   connect(&selain_, &QTextBrowser::sourceChanged, this, &Ohjeikkuna::SivuVaihtui);
@@ -73,15 +60,15 @@ void Ohjeikkuna::LuoTyokalut() {
   rivi.setMovable(false);
   rivi.setContextMenuPolicy(Qt::PreventContextMenu);
   rivi.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  const auto lisaa = [&](int teksti, const char* kuvake, const char* nappaimet, const auto& toiminto) {
+  const auto lisaa = [&](Tekstinumero teksti, const char* kuvake, const char* nappaimet, const auto& toiminto) {
     QAction* nappi = rivi.addAction(Vektorikuvake(kuvake), Q(teksti), this, toiminto);
     nappi->setShortcut(QKeySequence(nappaimet));
     nappi->setToolTip(Q(teksti).remove('&') + " (" + nappi->shortcut().toString(QKeySequence::NativeText) + ')');
     return nappi;
   };
-  QAction* takaisin = lisaa(6102, "Back", "Alt+Left", [this] { selain_.backward(); });
-  QAction* eteenpain = lisaa(6103, "Forward", "Alt+Right", [this] { selain_.forward(); });
-  lisaa(6104, "Contents", "Alt+Home", [this] { Avaa(kOhjeSisallys); });
+  QAction* takaisin = lisaa(tekstit::kTakaisin, "Back", "Alt+Left", [this] { selain_.backward(); });
+  QAction* eteenpain = lisaa(tekstit::kEteenpain, "Forward", "Alt+Right", [this] { selain_.forward(); });
+  lisaa(tekstit::kOppaanSisallys, "Contents", "Alt+Home", [this] { Avaa(kOhjeSisallys); });
   for (QAction* nappi : {takaisin, eteenpain}) nappi->setEnabled(false);
   connect(&selain_, &QTextBrowser::backwardAvailable, takaisin, &QAction::setEnabled);
   connect(&selain_, &QTextBrowser::forwardAvailable, eteenpain, &QAction::setEnabled);
@@ -103,7 +90,7 @@ void Ohjeikkuna::LuoTyokalut() {
 void Ohjeikkuna::LuoPuu() {
   puu_.setObjectName("sisallys");
   puu_.setHeaderHidden(true);
-  puu_.setAccessibleName(Q(6104).remove('&'));
+  puu_.setAccessibleName(Q(tekstit::kOppaanSisallys).remove('&'));
   std::vector<QTreeWidgetItem*> ylemmat{puu_.invisibleRootItem()};
   for (const Ohjeluettelo::Rivi& rivi : luettelo_.Rivit()) {
     const auto taso = static_cast<std::size_t>(std::clamp(rivi.taso, 0, static_cast<int>(ylemmat.size()) - 1));
@@ -122,14 +109,14 @@ void Ohjeikkuna::LuoPuu() {
 
 void Ohjeikkuna::LuoHaku() {
   osumat_.setObjectName("osumat");
-  osumat_.setAccessibleName(Q(6109));
+  osumat_.setAccessibleName(Q(tekstit::kHaunTulokset));
   osumat_.setWordWrap(true);
   osumat_.setSpacing(2);
   vasen_.addWidget(&osumat_);
   hakukentta_.setObjectName("haku");
-  hakukentta_.setPlaceholderText(Q(6105));
-  hakukentta_.setAccessibleName(Q(6105));
-  hakukentta_.setToolTip(Q(6108));
+  hakukentta_.setPlaceholderText(Q(tekstit::kEtsiOppaasta));
+  hakukentta_.setAccessibleName(Q(tekstit::kEtsiOppaasta));
+  hakukentta_.setToolTip(Q(tekstit::kOppaanHakuohje));
   hakukentta_.setClearButtonEnabled(true);
   connect(&hakukentta_, &QLineEdit::textChanged, this, &Ohjeikkuna::Hae);
   connect(&hakukentta_, &QLineEdit::returnPressed, this, [this] { osumat_.setFocus(); });
@@ -164,32 +151,16 @@ void Ohjeikkuna::SivuVaihtui(const QUrl& osoite) {
   puu_.setCurrentItem(loytynyt);
 }
 
-/// The pages as plain text, read when the first search needs them.
-const std::vector<Ohjeikkuna::Sivuteksti>& Ohjeikkuna::Tekstit() {
-  if (!tekstit_.empty()) return tekstit_;
-  for (const Ohjeluettelo::Rivi& rivi : luettelo_.Rivit()) {
-    const QString sivu = Q(rivi.sivu);
-    if (sivu.contains('#')) continue;
-    QTextDocument asiakirja;
-    asiakirja.setHtml(Q(LueKaikki(KokoPolku(sivu))));
-    tekstit_.push_back({sivu, Q(rivi.otsikko), asiakirja.toPlainText().remove(QChar::ObjectReplacementCharacter)});
-  }
-  return tekstit_;
-}
-
 void Ohjeikkuna::Hae() {
-  const QStringList sanat = Sanat(hakukentta_.text());
-  if (sanat.isEmpty()) return LopetaHaku();
+  if (hakukentta_.text().trimmed().isEmpty()) return LopetaHaku();
   const QSignalBlocker hiljaa(osumat_);
   osumat_.clear();
-  int otsikossa = 0;
-  for (const Sivuteksti& sivu : Tekstit()) {
-    if (!OnKaikki(sivu.teksti, sanat)) continue;
-    auto* osuma = new QListWidgetItem(sivu.otsikko + '\n' + Ote(sivu.teksti, sanat.front()));
-    osuma->setData(kSivuRooli, sivu.sivu);
-    osumat_.insertItem(OnKaikki(sivu.otsikko, sanat) ? otsikossa++ : osumat_.count(), osuma);
+  for (const Ohjehaku::Osuma& osuma : haku_.Hae(hakukentta_.text())) {
+    auto* rivi = new QListWidgetItem(osuma.otsikko + '\n' + osuma.ote, &osumat_);
+    rivi->setData(kSivuRooli, osuma.sivu);
+    rivi->setData(kSanaRooli, osuma.sana);
   }
-  if (osumat_.count() == 0) (new QListWidgetItem(Q(6106), &osumat_))->setFlags(Qt::NoItemFlags);
+  if (osumat_.count() == 0) (new QListWidgetItem(Q(tekstit::kEiOsumia), &osumat_))->setFlags(Qt::NoItemFlags);
   vasen_.setCurrentWidget(&osumat_);
 }
 
@@ -205,7 +176,7 @@ void Ohjeikkuna::AvaaOsuma(const QListWidgetItem* osuma) {
   if (!osuma || osuma->data(kSivuRooli).isNull()) return;
   AvaaSivu(osuma->data(kSivuRooli).toString());
   selain_.moveCursor(QTextCursor::Start);
-  selain_.find(Sanat(hakukentta_.text()).value(0));
+  selain_.find(osuma->data(kSanaRooli).toString());
 }
 
 void Ohjeikkuna::AloitaHaku() {

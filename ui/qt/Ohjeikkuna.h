@@ -8,6 +8,7 @@
 #include <QTreeWidget>
 
 #include "ui/Ohjeluettelo.h"
+#include "ui/qt/Ohjehaku.h"
 
 /// The window of the user's guide: contents tree or search results on the left, the page on the right.
 /// The program ends when its other windows are closed, whether this one is open or not.
@@ -27,9 +28,6 @@ class Ohjeikkuna : public QMainWindow {
   void Nosta();
 
  private:
-  struct Sivuteksti {
-    QString sivu, otsikko, teksti;
-  };
   void LuoTyokalut();
   void LuoPuu();
   void LuoHaku();
@@ -39,11 +37,10 @@ class Ohjeikkuna : public QMainWindow {
   void LopetaHaku();
   void AvaaOsuma(const QListWidgetItem* osuma);
   QString KokoPolku(const QString& sivu) const;
-  const std::vector<Sivuteksti>& Tekstit();
 
   QString sivukansio_;
   Ohjeluettelo luettelo_;
-  std::vector<Sivuteksti> tekstit_;
+  Ohjehaku haku_;
   QTextBrowser selain_;
   QStackedWidget vasen_;
   QTreeWidget puu_;

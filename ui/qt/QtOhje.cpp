@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 
 #include "kernel/Hakemistot.h"
+#include "tekstit/ohje.h"
+#include "tekstit/viestit.h"
 #include "ui/Komento.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
@@ -22,7 +24,8 @@ Ohjeikkuna* QtOhje::Ikkuna() {
   if (!ikkuna_) ikkuna_ = std::make_unique<Ohjeikkuna>(QString::fromStdString(AppPath()));
   if (ikkuna_->Kelvollinen()) return ikkuna_.get();
   ikkuna_.reset();
-  Ilmoita(Teksti(6107) + "\n" + AppPath() + "Lumivirta 2.hlp", Teksti(9101), Vakavuus::Varoitus);
+  Ilmoita(Teksti(tekstit::kOpasPuuttuu) + "\n" + AppPath() + "Lumivirta 2.hlp", Teksti(tekstit::kHuomautus),
+          Vakavuus::Varoitus);
   return nullptr;
 }
 
