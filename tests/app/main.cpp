@@ -4,11 +4,12 @@
 #include <QApplication>
 
 #include "app/Kuvake.h"
+#include "tests/tuki/Koenaytto.h"
 #include "ui/qt/QtViestit.h"
 
-/// Tests that need real widgets: the platform is "offscreen" unless the caller sets another.
+/// Tests that need real widgets.
 int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  AsetaKoenaytto();
   QApplication sovellus(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(Ohjelmakuvake());

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <functional>
 
@@ -21,6 +23,7 @@
 #include "ui/frmPerustiedot.h"
 #include "ui/frmRakenteet.h"
 #include "ui/frmSplash.h"
+#include "ui/qt/Kehys.h"
 
 namespace {
 
@@ -111,8 +114,8 @@ TEST_F(Taytetyt, PienetLomakkeetMahtuvatKenttiinsa) {
                                   {123456.78, 34567.89, 23456.78, 1234.5, 0});
 }
 
-/// As tall as the screen of a small laptop leaves room for.
-constexpr int kKorkeinIkkuna = 800;
+/// The screen of a small laptop.
+constexpr QSize kPieniNaytto{1050, 840};
 
 TEST_F(Taytetyt, RakenteidenIkkunaMahtuuKunKerroksiaOnMonta) {
   frmRakenteet lomake;
@@ -134,8 +137,10 @@ TEST_F(Taytetyt, RakenteidenIkkunaMahtuuKunKerroksiaOnMonta) {
                                               std::vector<double>(nimet.size(), 1), lampotilat));
   lomake.Nayta();
   OdotaMahtuvan(lomake);
-  EXPECT_LE(Juuri(lomake).width(), 1000);
-  EXPECT_LE(Juuri(lomake).height(), kKorkeinIkkuna);
+  dynamic_cast<Dialogikehys&>(*Juuri(lomake).window()).Mahduta(kPieniNaytto);
+  QCoreApplication::processEvents();
+  const auto* alue = Juuri(lomake).findChild<QScrollArea*>("qt_vieritysalue");
+  EXPECT_FALSE(alue->verticalScrollBar()->isVisible() || alue->horizontalScrollBar()->isVisible());
 }
 
 TEST_F(Taytetyt, MuutostenLuetteloMahtuuIkkunaansa) {

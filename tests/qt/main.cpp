@@ -4,12 +4,13 @@
 #include <QApplication>
 
 #include "kernel/Hakemistot.h"
+#include "tests/tuki/Koenaytto.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/qt/QtViestit.h"
 
-/// Tests that need real widgets: the platform is "offscreen" unless the caller sets another.
+/// Tests that need real widgets.
 int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  AsetaKoenaytto();
   QApplication sovellus(argc, argv);
   AsennaSuomennos();
   AlustaTekstit();
