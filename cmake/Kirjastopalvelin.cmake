@@ -22,7 +22,5 @@ lumi_etaolio(kirjastopalvelin source)
 lumi_ohjelma(RakKirjSrv QT LAHDE library/server/main.cpp LINKIT kirjastopalvelin)
 
 lumi_testi(palvelin_test QT DIALOGIT KANSIOT palvelin LINKIT kirjastopalvelin)
-if(TARGET palvelin_test)
-  add_dependencies(palvelin_test RakKirjSrv)
-  set_property(TARGET palvelin_test PROPERTY RUNTIME_OUTPUT_DIRECTORY "${LUMIVIRTA_KOTI}")  # beside the server
-endif()
+add_dependencies(palvelin_test RakKirjSrv)
+set_property(TARGET palvelin_test PROPERTY RUNTIME_OUTPUT_DIRECTORY "${LUMIVIRTA_KOTI}")  # beside the server

@@ -3,10 +3,6 @@
 # "Lomaketaulu.h": std::span<const LomakeRivi> Lomaketaulu(), rows in order of name.
 function(lumi_lomakkeet kohde kansio)
   file(GLOB lomakkeet CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${kansio}/*.ui")
-  get_target_property(laji ${kohde} TYPE)
-  if(laji STREQUAL "INTERFACE_LIBRARY")
-    return()
-  endif()
   set(ulos "${CMAKE_BINARY_DIR}/lomakkeet")
   set(esittelyt)
   set(rivit)

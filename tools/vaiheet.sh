@@ -48,11 +48,12 @@ asenna_paketit() {
   vaihe "Installing the missing packages" "${apt[@]}" install --no-install-recommends "${paketit[@]}"
 }
 
+# konfiguroi_ja_rakenna <preset> [target...]: without targets the whole tree
 konfiguroi_ja_rakenna() {
-  cmake --preset "$1" && cmake --build --preset "$1" --parallel "$(nproc)"
+  cmake --preset "$1" && cmake --build --preset "$1" --parallel "$(nproc)" ${2:+--target "${@:2}"}
 }
 
-# rakenna <preset> <what it is>
+# rakenna <preset> <what it is> [target...]
 rakenna() {
-  vaihe "Building $2" konfiguroi_ja_rakenna "$1"
+  vaihe "Building $2" konfiguroi_ja_rakenna "$1" "${@:3}"
 }
