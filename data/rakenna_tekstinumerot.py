@@ -18,7 +18,7 @@ def lue(tiedosto):
     """Rows of a file of texts as (number, name), the name "" when the row has none."""
     with open(tiedosto, encoding="utf-8", newline="") as virta:
         rivit = csv.DictReader(virta)
-        return rivit.fieldnames[0], [(int(r[rivit.fieldnames[0]]), r["Vakio"] or "") for r in rivit]
+        return rivit.fieldnames[0], [(int(r[rivit.fieldnames[0]]), r.get("Vakio") or "") for r in rivit]
 
 
 def otsikko(tiedosto):

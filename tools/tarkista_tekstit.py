@@ -50,7 +50,7 @@ for tiedosto in sorted((JUURI / "data/tekstit").glob("*.csv")) + [JUURI / "data/
             if lomakkeessa:
                 virheet.append(f"{nimi}: {numero} is no longer to come: {LOMAKKEISSA[numero]} shows it")
             continue
-        if vakio and SIIRTYMASSA:
+        if SIIRTYMASSA and (vakio or re.search(rf"(?<![\w.]){numero}(?![\w.])", KOODI)):
             pass
         elif not lomakkeessa and not koodissa:
             virheet.append(f"{nimi}: {numero} has no user" + (f" ({avaruus}::k{vakio})" if vakio else ""))
