@@ -43,10 +43,10 @@ frmMain::frmMain(Istunto& istunto)
   setCentralWidget(&alue_);
   alue_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   alue_.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  statusBar()->setObjectName("sbStatusBar");
-  statusBar()->addWidget(&paneeli_, 1);
   LuoValikot();
   LuoTyokalut();
+  statusBar()->setObjectName("sbStatusBar");  // the first to measure text: the fonts are read meanwhile
+  statusBar()->addWidget(&paneeli_, 1);
   connect(menuBar()->findChild<QMenu*>("mnuFile"), &QMenu::aboutToShow, this, &frmMain::PaivitaViimeisimmat);
   connect(&alue_, &QMdiArea::subWindowActivated, this, &frmMain::PaivitaValikot);
   PalautaPaikka(*this);

@@ -3,11 +3,13 @@
 // is then opened for it.
 #include <QApplication>
 
+#include "app/Fontit.h"
 #include "app/Kuvake.h"
 #include "app/Ohjelma.h"
 #include "ui/qt/QtViestit.h"
 
 int main(int argc, char** argv) {
+  const std::jthread fontit = LueFontitTaustalla();
   QApplication sovellus(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lumivirta"));
   QApplication::setWindowIcon(Ohjelmakuvake());

@@ -33,6 +33,7 @@ KIRJASTOT = [
     (r"sqlite3\.h", {"kernel", "library", "bench"}),
     (r"SQLiteCpp/.*", {"kernel", "library", "ui", "building", "ui/qt", *TESTIT}),
     (r"pugixml\.hpp", {"ui"}),
+    (r"fontconfig/fontconfig\.h", {"app"}),
     (r"libvoikko/voikko\.h", {"ui"}),
     (r"xlsxwriter\.h", {"results"}),
     (r"(Q\w+|Lomaketaulu\.h)", {*QT, "tests/qt", "tests/app", "tests/palvelin"}),

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "app/Fontit.h"
 #include "bench/Parit.h"
 #include "bench/Taulukko.h"
 #include "bench/qt/Ikkunat.h"
@@ -85,6 +86,7 @@ int main(int argc, char** argv) try {
   KerataanViestit viestit;
   AsetaViestit(&viestit);
   if (argc != 2 || !std::string_view(argv[1]).starts_with("--rooli")) return AjaMittaukset(argc, argv);
+  const std::jthread fontit = argv[1] == std::string_view(mittaus::kPaljas) ? std::jthread() : LueFontitTaustalla();
   QApplication sovellus(argc, argv);
   return mittaus::AjaRooli(argv[1]);
 } catch (const std::exception& virhe) {
