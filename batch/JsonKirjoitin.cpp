@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "kernel/Tekstitiedosto.h"
+
 void JsonKirjoitin::Avain(std::string_view nimi) {
   Erotin();
   KirjoitaTeksti(nimi);
@@ -31,6 +33,7 @@ void JsonKirjoitin::Arvo(std::string_view teksti) {
 void JsonKirjoitin::Tyhja() {
   Erotin();
   tulos_ << "null";
+  ++tyhjia_;
 }
 
 void JsonKirjoitin::Avaa(char merkki) {
@@ -62,7 +65,9 @@ void JsonKirjoitin::Rivi() {
   for (int i = 0; i < syvyys_; ++i) tulos_ << "  ";
 }
 
-void JsonKirjoitin::KirjoitaTeksti(std::string_view teksti) {
+void JsonKirjoitin::KirjoitaTeksti(std::string_view raaka) {
+  const std::string teksti = KorvaaVirheelliset(raaka);
+  korjattuja_ += teksti != raaka;
   tulos_ << '"';
   for (const char merkki : teksti) {
     if (merkki == '"' || merkki == '\\') {
@@ -81,6 +86,7 @@ void JsonKirjoitin::KirjoitaTeksti(std::string_view teksti) {
 void JsonKirjoitin::KirjoitaLuku(double luku) {
   if (!std::isfinite(luku)) {
     tulos_ << "null";
+    ++tyhjia_;
     return;
   }
   std::array<char, 32> teksti{};

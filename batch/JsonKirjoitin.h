@@ -4,10 +4,11 @@
 #include <string_view>
 
 /// Writes JSON (RFC 8259) to a stream as it comes: UTF-8, two blanks of indentation, an array of numbers on one line.
-/// Doubles bear 17 significant digits; infinity and not-a-number are null.
+/// Doubles bear 17 significant digits; infinity and not-a-number are null; bytes that aren't UTF-8 become U+FFFD.
 class JsonKirjoitin {
  public:
-  explicit JsonKirjoitin(std::ostream& tulos) : tulos_(tulos) {}
+  /// `syvyys`: how deep in a document the values stand.
+  explicit JsonKirjoitin(std::ostream& tulos, int syvyys = 0) : tulos_(tulos), syvyys_(syvyys) {}
 
   void AlaOlio() { Avaa('{'); }
   void LopetaOlio() { Sulje('}'); }
@@ -40,6 +41,11 @@ class JsonKirjoitin {
     LopetaTaulukko();
   }
 
+  /// Values written as null, for want of a finite number.
+  int Tyhjia() const { return tyhjia_; }
+  /// Texts of which something was replaced.
+  int KorjattujaTeksteja() const { return korjattuja_; }
+
  private:
   void Avaa(char merkki);
   void Sulje(char merkki);
@@ -49,7 +55,8 @@ class JsonKirjoitin {
   void KirjoitaLuku(double luku);
 
   std::ostream& tulos_;
-  int syvyys_ = 0;
+  int syvyys_;
   bool ensimmainen_ = true;  // of the open object or array
   bool avainKirjoitettu_ = false;
+  int tyhjia_ = 0, korjattuja_ = 0;
 };

@@ -6,6 +6,8 @@
 #include "building/clsRakennus.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/tulokset.h"
+#include "ui/Tekstivarasto.h"
 
 namespace {
 
@@ -98,8 +100,10 @@ class Tuloskirjoitin {
 void KirjoitaViestit(JsonKirjoitin& json, const Tuloskirjoitin& tulokset, const KerataanViestit& viestit) {
   json.Avain("Viestit");
   json.AlaTaulukko();
-  for (const Viesti& viesti : viestit.Naytetyt()) json.Arvo(viesti.teksti);
+  for (const std::string& rivi : Viestirivit(viestit)) json.Arvo(rivi);
   for (const std::string& virhe : tulokset.Virheet()) json.Arvo(virhe);
+  if (json.KorjattujaTeksteja() > 0)
+    json.Arvo(Teksti(tekstit::kMerkkejaKorvattiin) + " " + std::to_string(json.KorjattujaTeksteja()));
   json.LopetaTaulukko();
 }
 
@@ -115,7 +119,7 @@ std::unique_ptr<Tasehaarukka> AvaaHaarukka(clsRakennus& rakennus, Tuloskirjoitin
 
 }  // namespace
 
-void KirjoitaJson(JsonKirjoitin& json, const std::string& tiedosto, clsRakennus& rakennus,
+bool KirjoitaJson(JsonKirjoitin& json, const std::string& tiedosto, clsRakennus& rakennus,
                   const KerataanViestit& viestit) {
   Tuloskirjoitin tulokset(json);
   const auto haarukka = AvaaHaarukka(rakennus, tulokset);
@@ -125,4 +129,5 @@ void KirjoitaJson(JsonKirjoitin& json, const std::string& tiedosto, clsRakennus&
   tulokset.Rivit({rakennus}, kJuuri);
   KirjoitaViestit(json, tulokset, viestit);
   json.LopetaOlio();
+  return json.Tyhjia() == 0 && tulokset.Virheet().empty();
 }

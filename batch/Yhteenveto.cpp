@@ -1,54 +1,98 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
+#include "kernel/Tulos.h"
+#include "tekstit/tulokset.h"
+#include "tekstit/viestit.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Viestikooste.h"
 
 namespace {
 
-constexpr std::size_t kNimisarake = 34, kLukusarake = 12;
+constexpr const char* kValissa = "  ";
+constexpr const char* kEnergia = "### ##0.00";
+constexpr const char* kOminaiskulutus = "### ##0.00";
 constexpr double kkWhperMWh = 1000;
+
+constexpr std::string_view kLasketut[] = {"VuotuinenLampoEnergianTarveTilat", "VuotuinenIVjalkilammitysLampo",
+                                          "VuotuisetLKVHaviot", "VuotuisetProsessiVesiHaviot"};
+constexpr std::string_view kMitattu = "ToteutunutNormitettuLampo";
+constexpr std::string_view kHaviotJaBrutto[] = {"VuotuisetSaatohaviot", "VuotuisetLammonKonversiohaviot",
+                                                "VuotuinenBruttoLampoEnergia"};
 
 /// Characters of a UTF-8 text: its bytes less the continuation bytes.
 std::size_t Merkkeja(std::string_view teksti) {
-  std::size_t n = 0;
-  for (const char tavu : teksti) n += (static_cast<unsigned char>(tavu) & 0xC0) != 0x80;
-  return n;
+  return static_cast<std::size_t>(
+      std::ranges::count_if(teksti, [](char tavu) { return (static_cast<unsigned char>(tavu) & 0xC0) != 0x80; }));
 }
 
-std::string Vasemmalle(std::string teksti, std::size_t leveys) {
-  teksti.append(leveys - std::min(leveys, Merkkeja(teksti)), ' ');
-  return teksti;
+std::string Taytto(std::string_view teksti, std::size_t leveys) {
+  return std::string(leveys - std::min(leveys, Merkkeja(teksti)), ' ');
 }
 
-std::string Oikealle(const std::string& teksti, std::size_t leveys) {
-  return std::string(leveys - std::min(leveys, Merkkeja(teksti)), ' ') + teksti;
-}
+/// The number as it is shown: what sums are taken of, so that the column adds up.
+double Naytetty(double mwh) { return LueLuku(Muotoile(mwh, kEnergia)).value_or(mwh); }
 
+/// Rows of a name and numbers; as wide as its longest texts, a rule where a row is empty.
 class Taulu {
  public:
-  Taulu(std::ostream& tulos, double ala, double tilavuus) : tulos_(tulos), ala_(ala), tilavuus_(tilavuus) {
-    Rivi("", "MWh/a", "kWh/m²,a", "kWh/m³,a");
+  Taulu(double ala, double tilavuus) : ala_(ala), tilavuus_(tilavuus) {
+    rivit_.push_back({"", "MWh/a", "kWh/m²,a", "kWh/m³,a"});
   }
   void Luku(const std::string& nimi, double mwh) {
-    Rivi(nimi, Muotoile(mwh, "### ##0.00"), Ominaisarvo(mwh, ala_), Ominaisarvo(mwh, tilavuus_));
+    rivit_.push_back({nimi, Muotoile(mwh, kEnergia), Ominaisarvo(mwh, ala_), Ominaisarvo(mwh, tilavuus_)});
   }
-  void Viiva() { tulos_ << "  " << std::string(kNimisarake + 3 * kLukusarake, '-') << '\n'; }
+  void Viiva() { rivit_.emplace_back(); }
+  void Tulosta(std::ostream& tulos) const {
+    Rivi leveydet{};
+    std::array<std::size_t, kSarakkeita> merkkeja{};
+    for (const Rivi& rivi : rivit_)
+      for (std::size_t i = 0; i < kSarakkeita; ++i) merkkeja[i] = std::max(merkkeja[i], Merkkeja(rivi[i]));
+    for (const Rivi& rivi : rivit_) TulostaRivi(tulos, rivi, merkkeja);
+  }
 
  private:
+  static constexpr std::size_t kSarakkeita = 4;
+  using Rivi = std::array<std::string, kSarakkeita>;
+
   static std::string Ominaisarvo(double mwh, double jakaja) {
-    return jakaja > 0 ? Muotoile(mwh * kkWhperMWh / jakaja, "0.00") : "-";
+    return jakaja > 0 ? Muotoile(mwh * kkWhperMWh / jakaja, kOminaiskulutus) : "-";
   }
-  void Rivi(const std::string& nimi, const std::string& a, const std::string& b, const std::string& c) {
-    tulos_ << "  " << Vasemmalle(nimi, kNimisarake) << Oikealle(a, kLukusarake) << Oikealle(b, kLukusarake)
-           << Oikealle(c, kLukusarake) << '\n';
+  static void TulostaRivi(std::ostream& tulos, const Rivi& rivi, const std::array<std::size_t, kSarakkeita>& leveydet) {
+    const bool viiva = rivi == Rivi{};
+    for (std::size_t i = 0; i < kSarakkeita; ++i) {
+      const std::string taytto = viiva ? std::string(leveydet[i], '-') : Taytto(rivi[i], leveydet[i]);
+      tulos << kValissa << (i == 0 ? rivi[i] + taytto : taytto + rivi[i]);
+    }
+    tulos << '\n';
   }
 
-  std::ostream& tulos_;
   double ala_, tilavuus_;
+  std::vector<Rivi> rivit_;
 };
 
+/// A message on one line.
+std::string Rivina(const Viesti& viesti) {
+  std::string rivi;
+  for (const char merkki : viesti.teksti)
+    if (merkki != '\n')
+      rivi += merkki;
+    else if (!rivi.ends_with(' '))
+      rivi += ' ';
+  return rivi;
+}
+
 }  // namespace
+
+std::vector<std::string> Viestirivit(const KerataanViestit& viestit) {
+  std::vector<std::string> rivit;
+  for (const Viestikooste& kooste : Koosta(viestit.Naytetyt())) rivit.push_back(Rivina(kooste.Koottu()));
+  return rivit;
+}
 
 void KirjoitaYhteenveto(std::ostream& tulos, const std::string& tiedosto, clsRakennus& rakennus,
                         const KerataanViestit& viestit) {
@@ -59,26 +103,23 @@ void KirjoitaYhteenveto(std::ostream& tulos, const std::string& tiedosto, clsRak
         << Muotoile(tiedot.BruttoAla, "### ##0") << " m², " << Muotoile(tiedot.Kokonaistilavuus, "### ##0")
         << " m³\n\n";
 
-  const double tilat = rakennus.VuotuinenLampoEnergianTarveTilat();
-  const double koneet = rakennus.VuotuinenIVjalkilammitysLampo();
-  const double kayttovesi = rakennus.VuotuisetLKVHaviot();
-  const double prosessivesi = rakennus.VuotuisetProsessiVesiHaviot();
-  const double yhteensa = tilat + koneet + kayttovesi + prosessivesi + rakennus.MuuLampo;
-  const double mitattu = rakennus.ToteutunutNormitettuLampo();
-
-  Taulu taulu(tulos, tiedot.BruttoAla, tiedot.Kokonaistilavuus);
-  taulu.Luku("Tilojen lämmitys", tilat);
-  taulu.Luku("Ilmanvaihdon jälkilämmitys", koneet);
-  taulu.Luku("Käyttöveden lämmitys", kayttovesi);
-  taulu.Luku("Prosessiveden lämmitys", prosessivesi);
-  taulu.Luku("Muu lämpö", rakennus.MuuLampo);
+  Taulu taulu(tiedot.BruttoAla, tiedot.Kokonaistilavuus);
+  const auto luku = [&](std::string_view nimi) {
+    const Tulos& rivi = clsRakennus::kLuokka.TulosNimella(nimi);
+    const double arvo = Naytetty(rivi.Arvo({rakennus}));
+    taulu.Luku(Teksti(rivi.teksti), arvo);
+    return arvo;
+  };
+  double yhteensa = Naytetty(rakennus.MuuLampo);
+  for (const std::string_view nimi : kLasketut) yhteensa += luku(nimi);
+  taulu.Luku(Teksti(tekstit::kMuuLampoYhteensa), Naytetty(rakennus.MuuLampo));
   taulu.Viiva();
-  taulu.Luku("Laskettu lämpö yhteensä", yhteensa);
-  taulu.Luku("Mitattu, normeerattu lämpö", mitattu);
-  taulu.Luku("Erotus (mitattu − laskettu)", mitattu - yhteensa);
-  taulu.Luku("Säätöhäviöt", rakennus.VuotuisetSaatohaviot());
-  taulu.Luku("Lämmöntuotannon häviöt", rakennus.VuotuisetLammonKonversiohaviot());
-  taulu.Luku("Ostettava lämpö (brutto)", rakennus.VuotuinenBruttoLampoEnergia());
-  for (const Viesti& viesti : viestit.Naytetyt()) tulos << "\n  Huom. " << viesti.teksti << '\n';
+  taulu.Luku(Teksti(tekstit::kLaskettuKulutus), yhteensa);
+  const double mitattu = luku(kMitattu);
+  taulu.Luku(Teksti(tekstit::kMitattuVahennettynaLasketulla), mitattu - yhteensa);
+  for (const std::string_view nimi : kHaviotJaBrutto) luku(nimi);
+  taulu.Tulosta(tulos);
+  for (const std::string& rivi : Viestirivit(viestit))
+    tulos << "\n  " << Teksti(tekstit::kHuomautus) << ": " << rivi << '\n';
   tulos << '\n';
 }

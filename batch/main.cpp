@@ -1,90 +1,89 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // lumivirta-laske: the calculation of project files without windows, for scripts and whole portfolios.
+#include <charconv>
 #include <iostream>
+#include <optional>
 #include <span>
 
-#include "batch/Tulokset.h"
-#include "building/Yhteiset.h"
-#include "building/clsRakennus.h"
-#include "kernel/Virhe.h"
+#include "batch/Kohdelaskenta.h"
+#include "batch/Rinnakkain.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
 constexpr const char* kOhje =
-    "Käyttö: lumivirta-laske [--json] KOHDE.lvt...\n"
+    "Käyttö: lumivirta-laske [--json] [--saikeita=N] KOHDE.lvt...\n"
     "Laskee kohdetiedostojen lämpötaseen. Tiedostoja ei muuteta.\n"
-    "  --json   tulokset JSON-muodossa: yksi olio, usealle tiedostolle taulukko\n"
-    "  --help   tämä ohje\n";
+    "  --json         tulokset JSON-muodossa: yksi olio, usealle tiedostolle taulukko\n"
+    "  --saikeita=N   montako tiedostoa lasketaan yhtä aikaa; oletus on suorittimien määrä\n"
+    "  --help         tämä ohje\n"
+    "Paluuarvo on 0, kun kaikki on laskettu, 1, kun jotain ei voitu laskea, ja 2, kun komento on virheellinen.\n";
+constexpr std::string_view kSaikeita = "--saikeita=";
 
-/// Computes one file and lets `kirjoita` write its results. False when the file can't be read: told on standard error.
-template <class F>
-bool Laske(const std::string& tiedosto, F&& kirjoita) {
-  KerataanViestit viestit;
-  AsetaViestit(&viestit);
-  bool onnistui = false;
-  try {
-    clsRakennus rakennus;
-    AsetaGlobaaliRakennus(&rakennus);
-    rakennus.Hae(tiedosto);
-    kirjoita(rakennus, viestit);
-    onnistui = true;
-  } catch (const std::exception& virhe) {
-    std::cerr << "lumivirta-laske: " << tiedosto << ": " << SyynKuvaus(virhe) << '\n';
+struct Komento {
+  std::vector<std::string> tiedostot;
+  Tulostusmuoto muoto = Tulostusmuoto::Yhteenveto;
+  unsigned saikeita = std::max(1u, std::thread::hardware_concurrency());
+  bool ohje = false;
+};
+
+/// Reads one option; false when there is none such.
+bool LueValitsin(std::string_view sana, Komento& komento) {
+  if (sana == "--json") return komento.muoto = Tulostusmuoto::Json, true;
+  if (sana == "--help") return komento.ohje = true;
+  if (!sana.starts_with(kSaikeita)) return false;
+  sana.remove_prefix(kSaikeita.size());
+  const auto [loppu, virhe] = std::from_chars(sana.data(), sana.data() + sana.size(), komento.saikeita);
+  return virhe == std::errc() && loppu == sana.data() + sana.size() && komento.saikeita > 0;
+}
+
+/// The command line; nothing when it is faulty, which is told.
+std::optional<Komento> LueKomento(std::span<char*> sanat) {
+  Komento komento;
+  for (const std::string_view sana : sanat)
+    if (!sana.starts_with("--")) {
+      komento.tiedostot.emplace_back(sana);
+    } else if (!LueValitsin(sana, komento)) {
+      std::cerr << "lumivirta-laske: tuntematon valitsin " << sana << '\n' << kOhje;
+      return std::nullopt;
+    }
+  if (!komento.ohje && komento.tiedostot.empty()) {
+    std::cerr << kOhje;
+    return std::nullopt;
   }
-  AsetaViestit(nullptr);
-  return onnistui;
+  return komento;
 }
 
-bool TulostaJson(std::span<const std::string> tiedostot) {
-  JsonKirjoitin json(std::cout);
-  bool kaikki = true;
-  if (tiedostot.size() > 1) json.AlaTaulukko();
-  for (const std::string& tiedosto : tiedostot)
-    kaikki &= Laske(tiedosto, [&](clsRakennus& rakennus, const KerataanViestit& viestit) {
-      KirjoitaJson(json, tiedosto, rakennus, viestit);
-    });
-  if (tiedostot.size() > 1) json.LopetaTaulukko();
-  if (kaikki || tiedostot.size() > 1) std::cout << '\n';
-  return kaikki;
-}
-
-bool TulostaYhteenvedot(std::span<const std::string> tiedostot) {
-  bool kaikki = true;
-  for (const std::string& tiedosto : tiedostot)
-    kaikki &= Laske(tiedosto, [&](clsRakennus& rakennus, const KerataanViestit& viestit) {
-      KirjoitaYhteenveto(std::cout, tiedosto, rakennus, viestit);
-    });
-  return kaikki;
+/// Computes the files and writes their results in their order. True when everything could be computed.
+bool Laske(const Komento& komento) {
+  const bool taulukko = komento.muoto == Tulostusmuoto::Json && komento.tiedostot.size() > 1;
+  bool kaikki = true, kirjoitettu = false;
+  if (taulukko) std::cout << '[';
+  LaskeRinnakkain(
+      komento.tiedostot.size(), komento.saikeita,
+      [&](std::size_t i) { return LaskeKohde(komento.tiedostot[i], komento.muoto, taulukko ? 1 : 0); },
+      [&](const Laskettu& laskettu) {
+        kaikki &= laskettu.onnistui;
+        std::cerr << laskettu.virheet;
+        if (laskettu.tulos.empty()) return;
+        if (taulukko && kirjoitettu) std::cout << ',';
+        std::cout << laskettu.tulos;
+        kirjoitettu = true;
+      });
+  if (taulukko) std::cout << (kirjoitettu ? "\n]" : "]");
+  if (komento.muoto == Tulostusmuoto::Json && (taulukko || kirjoitettu)) std::cout << '\n';
+  std::cout.flush();
+  return kaikki && std::cout;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::vector<std::string> tiedostot;
-  bool json = false;
-  for (const char* arvo : std::span(argv, static_cast<std::size_t>(argc)).subspan(1)) {
-    const std::string_view sana = arvo;
-    if (sana == "--json") {
-      json = true;
-    } else if (sana == "--help") {
-      std::cout << kOhje;
-      return 0;
-    } else if (sana.starts_with("--")) {
-      std::cerr << "lumivirta-laske: tuntematon valitsin " << sana << '\n' << kOhje;
-      return 2;
-    } else {
-      tiedostot.emplace_back(sana);
-    }
-  }
-  if (tiedostot.empty()) {
-    std::cerr << kOhje;
-    return 2;
-  }
+  const auto komento = LueKomento(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+  if (!komento) return 2;
+  if (komento->ohje) return std::cout << kOhje, 0;
   AlustaTekstit();
   Asetukset().HaeRekisteristä();
-  const bool kaikki = json ? TulostaJson(tiedostot) : TulostaYhteenvedot(tiedostot);
-  std::cout.flush();
-  return kaikki && std::cout ? 0 : 1;
+  return Laske(*komento) ? 0 : 1;
 }

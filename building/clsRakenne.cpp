@@ -9,6 +9,8 @@
 #include "library/Rakennetietokanta.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "solar/AurinkoLaskin.h"
+#include "tekstit/lomakkeet_asetukset.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
@@ -144,11 +146,11 @@ constexpr Jasen clsRakenne::kJasenet[] = {
 
 constexpr Tulos kTulokset[] = {
     Avaintulos(),
-    Lukutulos<[](const clsRakenne& r) { return r.U_arvo(); }>("U_arvo", 6202, "W/m²K"),
+    Lukutulos<[](const clsRakenne& r) { return r.U_arvo(); }>("U_arvo", tekstit::kUArvo, "W/m²K"),
     Kuukausitulos<[](const clsRakenne& r, const Tuloskohde& kohde, int m) {
       return r.LampoHaviot(kohde.Omistaja<clsTila>().Sisalampotila, m);
-    }>("LampoHaviot", 2960),
-    Kuukausitulos<&clsRakenne::AurinkoKuorma>("AurinkoKuorma", 2966),
+    }>("LampoHaviot", tekstit::kTasetermit[0]),
+    Kuukausitulos<&clsRakenne::AurinkoKuorma>("AurinkoKuorma", tekstit::kTasetermit[6]),
 };
 
 const Luokka clsRakenne::kLuokka{"clsRakenne", kJasenet, kTulokset};

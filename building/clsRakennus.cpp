@@ -9,6 +9,8 @@
 #include "kernel/Versio.h"
 #include "kernel/Vertailu.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_asetukset.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ui/frmLampoYhteenveto.h"
@@ -38,31 +40,40 @@ constexpr Jasen kJasenet[] = {
 };
 
 constexpr Tulos kTulokset[] = {
-    Vuositulos<&clsRakennus::VuotuinenIVjalkilammitysLampo>("VuotuinenIVjalkilammitysLampo", 2231),
-    Vuositulos<&clsRakennus::VuotuinenAurinkoKuorma>("VuotuinenAurinkoKuorma", 2509),
-    Vuositulos<&clsRakennus::VuotuisetLKVHaviot>("VuotuisetLKVHaviot", 2232),
-    Vuositulos<&clsRakennus::VuotuisetProsessiVesiHaviot>("VuotuisetProsessiVesiHaviot", 2233),
-    Lukutulos<&clsRakennus::LaskeYleisSahkoKuorma>("LaskeYleisSahkoKuorma", 6208, "kWh/m²,kk"),
-    Vuositulos<&clsRakennus::VuotuinenLampoEnergianTarveTilat>("VuotuinenLampoEnergianTarveTilat", 2230),
-    Vuositulos<&clsRakennus::VuotuisetLampoHaviot>("VuotuisetLampoHaviot", 2963),
-    Vuositulos<&clsRakennus::VuotuisetHyodynnetytLampoKuormat>("VuotuisetHyodynnetytLampoKuormat", 2970),
-    Vuositulos<&clsRakennus::VuotuisetSaatohaviot>("VuotuisetSaatohaviot", 6201),
-    Vuositulos<&clsRakennus::VuotuisetLammonKonversiohaviot>("VuotuisetLammonKonversiohaviot", 6209),
-    Vuositulos<&clsRakennus::VuotuisetSahkoKonversiohaviot>("VuotuisetSahkoKonversiohaviot", 6210),
-    Vuositulos<&clsRakennus::VuotuisetLaiteSahkoKonversiohaviot>("VuotuisetLaiteSahkoKonversiohaviot", 6211),
-    Vuositulos<&clsRakennus::VuotuisetSahkoLammonKonversiohaviot>("VuotuisetSahkoLammonKonversiohaviot", 6212),
-    Vuositulos<&clsRakennus::VuotuinenBruttoLampoEnergia>("VuotuinenBruttoLampoEnergia", 6213),
-    Vuositulos<&clsRakennus::VuotuinenBruttoSahkoEnergia>("VuotuinenBruttoSahkoEnergia", 6214),
-    Vuositulos<&clsRakennus::VuotuinenBruttoLaiteSahkoEnergia>("VuotuinenBruttoLaiteSahkoEnergia", 6215),
-    Vuositulos<&clsRakennus::ToteutunutNormitettuLampo>("ToteutunutNormitettuLampo", 2237),
-    Kuukausitulos<&clsRakennus::LampoHaviotTilatKk>("LampoHaviotTilatKk", 2963),
-    Kuukausitulos<&clsRakennus::LampoEnergianTarveTilatKk>("LampoEnergianTarveTilatKk", 2971),
-    Kuukausitulos<&clsRakennus::AurinkoKuorma>("AurinkoKuorma", 2966),
-    Kuukausitulos<&clsRakennus::LampoHaviotIVKk>("LampoHaviotIVKk", 6216),
-    Kuukausitulos<&clsRakennus::HyodynnetytLampoKuormatKk>("HyodynnetytLampoKuormatKk", 2970),
-    Kuukausitulos<&clsRakennus::LammonTuotonHaviotKk>("LammonTuotonHaviotKk", 6209),
-    Kuukausitulos<&clsRakennus::LKVHaviotKk>("LKVHaviotKk", 2232),
-    Kuukausitulos<&clsRakennus::ProsessiVesiHaviotKk>("ProsessiVesiHaviotKk", 2233),
+    Vuositulos<&clsRakennus::VuotuinenIVjalkilammitysLampo>("VuotuinenIVjalkilammitysLampo",
+                                                            tekstit::kKoneidenJalkilammitys),
+    Vuositulos<&clsRakennus::VuotuinenAurinkoKuorma>("VuotuinenAurinkoKuorma", tekstit::kTasetermit[6]),
+    Vuositulos<&clsRakennus::VuotuisetLKVHaviot>("VuotuisetLKVHaviot", tekstit::kKayttovedenLammitys),
+    Vuositulos<&clsRakennus::VuotuisetProsessiVesiHaviot>("VuotuisetProsessiVesiHaviot",
+                                                          tekstit::kProsessivedenLammitys),
+    Lukutulos<&clsRakennus::LaskeYleisSahkoKuorma>("LaskeYleisSahkoKuorma", tekstit::kYleisSahkokuorma, "kWh/m²,kk"),
+    Vuositulos<&clsRakennus::VuotuinenLampoEnergianTarveTilat>("VuotuinenLampoEnergianTarveTilat",
+                                                               tekstit::kTilojenLammitys),
+    Vuositulos<&clsRakennus::VuotuisetLampoHaviot>("VuotuisetLampoHaviot", tekstit::kTasetermit[3]),
+    Vuositulos<&clsRakennus::VuotuisetHyodynnetytLampoKuormat>("VuotuisetHyodynnetytLampoKuormat",
+                                                               tekstit::kTasetermit[10]),
+    Vuositulos<&clsRakennus::VuotuisetSaatohaviot>("VuotuisetSaatohaviot", tekstit::kSaatohaviot),
+    Vuositulos<&clsRakennus::VuotuisetLammonKonversiohaviot>("VuotuisetLammonKonversiohaviot",
+                                                             tekstit::kLammontuotannonHaviot),
+    Vuositulos<&clsRakennus::VuotuisetSahkoKonversiohaviot>("VuotuisetSahkoKonversiohaviot",
+                                                            tekstit::kSahkonHankinnanHaviot),
+    Vuositulos<&clsRakennus::VuotuisetLaiteSahkoKonversiohaviot>("VuotuisetLaiteSahkoKonversiohaviot",
+                                                                 tekstit::kLaitesahkonHankinnanHaviot),
+    Vuositulos<&clsRakennus::VuotuisetSahkoLammonKonversiohaviot>("VuotuisetSahkoLammonKonversiohaviot",
+                                                                  tekstit::kLammityssahkonHankinnanHaviot),
+    Vuositulos<&clsRakennus::VuotuinenBruttoLampoEnergia>("VuotuinenBruttoLampoEnergia", tekstit::kOstettavaLampo),
+    Vuositulos<&clsRakennus::VuotuinenBruttoSahkoEnergia>("VuotuinenBruttoSahkoEnergia", tekstit::kOstettavaSahko),
+    Vuositulos<&clsRakennus::VuotuinenBruttoLaiteSahkoEnergia>("VuotuinenBruttoLaiteSahkoEnergia",
+                                                               tekstit::kOstettavaLaitesahko),
+    Vuositulos<&clsRakennus::ToteutunutNormitettuLampo>("ToteutunutNormitettuLampo", tekstit::kMitattuNormitettu),
+    Kuukausitulos<&clsRakennus::LampoHaviotTilatKk>("LampoHaviotTilatKk", tekstit::kTasetermit[3]),
+    Kuukausitulos<&clsRakennus::LampoEnergianTarveTilatKk>("LampoEnergianTarveTilatKk", tekstit::kTasetermit[11]),
+    Kuukausitulos<&clsRakennus::AurinkoKuorma>("AurinkoKuorma", tekstit::kTasetermit[6]),
+    Kuukausitulos<&clsRakennus::LampoHaviotIVKk>("LampoHaviotIVKk", tekstit::kIlmanvaihdonHaviot),
+    Kuukausitulos<&clsRakennus::HyodynnetytLampoKuormatKk>("HyodynnetytLampoKuormatKk", tekstit::kTasetermit[10]),
+    Kuukausitulos<&clsRakennus::LammonTuotonHaviotKk>("LammonTuotonHaviotKk", tekstit::kLammontuotannonHaviot),
+    Kuukausitulos<&clsRakennus::LKVHaviotKk>("LKVHaviotKk", tekstit::kKayttovedenLammitys),
+    Kuukausitulos<&clsRakennus::ProsessiVesiHaviotKk>("ProsessiVesiHaviotKk", tekstit::kProsessivedenLammitys),
     Upotustulos<&clsRakennus::IVKoneet>(),
 };
 

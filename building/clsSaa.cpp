@@ -8,6 +8,7 @@
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "solar/Aurinkotaulukot.h"
+#include "tekstit/tulokset.h"
 
 namespace {
 
@@ -20,11 +21,13 @@ constexpr Jasen kJasenet[] = {
 };
 
 constexpr Tulos kTulokset[] = {
-    Tekstitulos<&clsSaa::Nimi>("Nimi", 6203),
-    Lukutulos<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", 6204, "°C", "0.0"),
-    Lukutulos<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", 6205, "°Cd", "### ##0"),
-    Kuukausitulos<&clsSaa::Keskilampotila>("Keskilampotila", 6206, "°C", "0.0"),
-    Kuukausitaulukko<&clsSaa::AuringonSateily>("AuringonSateily", kSuuntia, 6207, "kWh/m²", "0.0"),
+    Tekstitulos<&clsSaa::Nimi>("Nimi", tekstit::kSaanNimi),
+    Lukutulos<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", tekstit::kMitoittavaUlkolampotila, "°C",
+                                                  "0.0"),
+    Lukutulos<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", tekstit::kVyohykkeenTarveluku, "°Cd",
+                                                "### ##0"),
+    Kuukausitulos<&clsSaa::Keskilampotila>("Keskilampotila", tekstit::kUlkoilmanKeskilampotila, "°C", "0.0"),
+    Kuukausitaulukko<&clsSaa::AuringonSateily>("AuringonSateily", kSuuntia, tekstit::kAuringonSateily, "kWh/m²", "0.0"),
 };
 
 constexpr double kMJperkWh = 3.6;

@@ -8,6 +8,8 @@
 #include "building/clsRakennus.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_asetukset.h"
+#include "tekstit/tulokset.h"
 #include "ui/Edistyminen.h"
 #include "ui/Tekstivarasto.h"
 
@@ -40,27 +42,29 @@ constexpr Jasen kJasenet[] = {
 
 constexpr Tulos kTulokset[] = {
     Avaintulos(),
-    Tekstitulos<&clsTila::TilanNimi>("TilanNimi", 2502),
-    Kuukausitulos<&clsTila::JohtumisHaviot>("JohtumisHaviot", 2960),
-    Kuukausitulos<&clsTila::IVHaviotTilassa>("IVHaviotTilassa", 2508),
-    Kuukausitulos<&clsTila::LampoHaviot>("LampoHaviot", 2963),
-    Kuukausitulos<&clsTila::SahkoKuorma>("SahkoKuorma", 2964),
-    Kuukausitulos<&clsTila::HenkiloKuorma>("HenkiloKuorma", 2965),
-    Kuukausitulos<&clsTila::AurinkoKuorma>("AurinkoKuorma", 2966),
-    Kuukausitulos<&clsTila::IVKoneLampoKuorma>("IVKoneLampoKuorma", 2967),
-    Kuukausitulos<&clsTila::IdeaalinenHyvaksiKayttoAste>("IdeaalinenHyvaksiKayttoAste", 6200, "", "0.00"),
-    Kuukausitulos<&clsTila::HyodynnetytLampoKuormat>("HyodynnetytLampoKuormat", 2970),
-    Kuukausitulos<&clsTila::LampoEnergianTarve>("LampoEnergianTarve", 2971),
-    Vuositulos<&clsTila::VuotuisetJohtumisHaviot>("VuotuisetJohtumisHaviot", 2507),
-    Vuositulos<&clsTila::VuotuisetIVHaviotTilassa>("VuotuisetIVHaviotTilassa", 2508),
-    Vuositulos<&clsTila::VuotuisetLampoHaviot>("VuotuisetLampoHaviot", 2963),
-    Vuositulos<&clsTila::VuotuinenSahkoKuorma>("VuotuinenSahkoKuorma", 2964),
-    Vuositulos<&clsTila::VuotuinenHenkiloKuorma>("VuotuinenHenkiloKuorma", 2965),
-    Vuositulos<&clsTila::VuotuinenAurinkoKuorma>("VuotuinenAurinkoKuorma", 2509),
-    Vuositulos<&clsTila::VuotuinenIVKoneLampoKuorma>("VuotuinenIVKoneLampoKuorma", 2967),
-    Vuositulos<&clsTila::VuotuisetHyodynnetytLampoKuormat>("VuotuisetHyodynnetytLampoKuormat", 2970),
-    Vuositulos<&clsTila::VuotuinenLampoEnergianTarve>("VuotuinenLampoEnergianTarve", 2510),
-    Vuositulos<&clsTila::VuotuisetSaatohaviot>("VuotuisetSaatohaviot", 6201),
+    Tekstitulos<&clsTila::TilanNimi>("TilanNimi", tekstit::kTilanNimi),
+    Kuukausitulos<&clsTila::JohtumisHaviot>("JohtumisHaviot", tekstit::kTasetermit[0]),
+    Kuukausitulos<&clsTila::IVHaviotTilassa>("IVHaviotTilassa", tekstit::kTilanIlmanvaihto),
+    Kuukausitulos<&clsTila::LampoHaviot>("LampoHaviot", tekstit::kTasetermit[3]),
+    Kuukausitulos<&clsTila::SahkoKuorma>("SahkoKuorma", tekstit::kTasetermit[4]),
+    Kuukausitulos<&clsTila::HenkiloKuorma>("HenkiloKuorma", tekstit::kTasetermit[5]),
+    Kuukausitulos<&clsTila::AurinkoKuorma>("AurinkoKuorma", tekstit::kTasetermit[6]),
+    Kuukausitulos<&clsTila::IVKoneLampoKuorma>("IVKoneLampoKuorma", tekstit::kTasetermit[7]),
+    Kuukausitulos<&clsTila::IdeaalinenHyvaksiKayttoAste>("IdeaalinenHyvaksiKayttoAste", tekstit::kHyodyntamisaste, "",
+                                                         "0.00"),
+    Kuukausitulos<&clsTila::HyodynnetytLampoKuormat>("HyodynnetytLampoKuormat", tekstit::kTasetermit[10]),
+    Kuukausitulos<&clsTila::LampoEnergianTarve>("LampoEnergianTarve", tekstit::kTasetermit[11]),
+    Vuositulos<&clsTila::VuotuisetJohtumisHaviot>("VuotuisetJohtumisHaviot", tekstit::kTasetermit[0]),
+    Vuositulos<&clsTila::VuotuisetIVHaviotTilassa>("VuotuisetIVHaviotTilassa", tekstit::kTilanIlmanvaihto),
+    Vuositulos<&clsTila::VuotuisetLampoHaviot>("VuotuisetLampoHaviot", tekstit::kTasetermit[3]),
+    Vuositulos<&clsTila::VuotuinenSahkoKuorma>("VuotuinenSahkoKuorma", tekstit::kTasetermit[4]),
+    Vuositulos<&clsTila::VuotuinenHenkiloKuorma>("VuotuinenHenkiloKuorma", tekstit::kTasetermit[5]),
+    Vuositulos<&clsTila::VuotuinenAurinkoKuorma>("VuotuinenAurinkoKuorma", tekstit::kTasetermit[6]),
+    Vuositulos<&clsTila::VuotuinenIVKoneLampoKuorma>("VuotuinenIVKoneLampoKuorma", tekstit::kTasetermit[7]),
+    Vuositulos<&clsTila::VuotuisetHyodynnetytLampoKuormat>("VuotuisetHyodynnetytLampoKuormat",
+                                                           tekstit::kTasetermit[10]),
+    Vuositulos<&clsTila::VuotuinenLampoEnergianTarve>("VuotuinenLampoEnergianTarve", tekstit::kTasetermit[11]),
+    Vuositulos<&clsTila::VuotuisetSaatohaviot>("VuotuisetSaatohaviot", tekstit::kSaatohaviot),
     Kokoelmatulos<&clsTila::Rakenteet>("Rakenteet"),
 };
 

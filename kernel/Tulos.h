@@ -7,6 +7,8 @@
 
 #include "kernel/Olio.h"
 
+enum Tekstinumero : int;
+
 /// An object whose results are read, and the objects that it stands in, nearest first.
 struct Tuloskohde {
   Olio& olio;
@@ -39,7 +41,7 @@ struct Tulos {
   std::string_view nimi;
   Tuloslaji laji;
   std::string_view yksikko = {};
-  int teksti = 0;                    ///< number of the Finnish name, without unit; 0: has none
+  Tekstinumero teksti{};             ///< of the Finnish name, without unit; 0: has none
   const char* kuvio = "### ##0.00";  ///< how the number is shown (kernel/Luvut.h)
   int rinnakkain = 1;                ///< values of one month side by side, such as the directions of radiation
   double (*luku)(const Tuloskohde&, int kuukausi, int sarake) = nullptr;
@@ -86,7 +88,7 @@ decltype(auto) Kutsu(const Tuloskohde& k, A... arvot) {
 // Tuloskohde), and for months of the month 0 to 11.
 
 template <auto F>
-constexpr Tulos Kuukausitulos(std::string_view nimi, int teksti = 0, std::string_view yksikko = "kWh",
+constexpr Tulos Kuukausitulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko = "kWh",
                               const char* kuvio = "### ##0") {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Kuukausi, .yksikko = yksikko, .teksti = teksti, .kuvio = kuvio};
   t.luku = [](const Tuloskohde& k, int m, int) -> double { return tulos::Kutsu<F>(k, m); };
@@ -95,7 +97,7 @@ constexpr Tulos Kuukausitulos(std::string_view nimi, int teksti = 0, std::string
 
 /// Months with several values side by side; the getter takes the month and the column from 0.
 template <auto F>
-constexpr Tulos Kuukausitaulukko(std::string_view nimi, int rinnakkain, int teksti, std::string_view yksikko,
+constexpr Tulos Kuukausitaulukko(std::string_view nimi, int rinnakkain, Tekstinumero teksti, std::string_view yksikko,
                                  const char* kuvio) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Kuukausi, .yksikko = yksikko, .teksti = teksti, .kuvio = kuvio};
   t.rinnakkain = rinnakkain;
@@ -104,7 +106,7 @@ constexpr Tulos Kuukausitaulukko(std::string_view nimi, int rinnakkain, int teks
 }
 
 template <auto F>
-constexpr Tulos Vuositulos(std::string_view nimi, int teksti = 0, std::string_view yksikko = "MWh/a",
+constexpr Tulos Vuositulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko = "MWh/a",
                            const char* kuvio = "### ##0.00") {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Vuosi, .yksikko = yksikko, .teksti = teksti, .kuvio = kuvio};
   t.luku = [](const Tuloskohde& k, int, int) -> double { return tulos::Kutsu<F>(k); };
@@ -112,7 +114,7 @@ constexpr Tulos Vuositulos(std::string_view nimi, int teksti = 0, std::string_vi
 }
 
 template <auto F>
-constexpr Tulos Lukutulos(std::string_view nimi, int teksti, std::string_view yksikko,
+constexpr Tulos Lukutulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko,
                           const char* kuvio = "### ##0.00") {
   Tulos t = Vuositulos<F>(nimi, teksti, yksikko, kuvio);
   t.laji = Tuloslaji::Luku;
@@ -120,7 +122,7 @@ constexpr Tulos Lukutulos(std::string_view nimi, int teksti, std::string_view yk
 }
 
 template <auto F>
-constexpr Tulos Tekstitulos(std::string_view nimi, int teksti = 0) {
+constexpr Tulos Tekstitulos(std::string_view nimi, Tekstinumero teksti = {}) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Teksti, .teksti = teksti};
   t.sana = [](const Tuloskohde& k) { return std::string(tulos::Kutsu<F>(k)); };
   return t;
@@ -154,7 +156,7 @@ constexpr Tulos Kokoelmatulos(std::string_view nimi) {
 }
 /// Numbers by key: the getter takes the object and what is to be called with each key and number.
 template <auto F>
-constexpr Tulos Karttatulos(std::string_view nimi, int teksti, std::string_view yksikko) {
+constexpr Tulos Karttatulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Kartta, .yksikko = yksikko, .teksti = teksti};
   t.kartta = [](const Tuloskohde& k, const std::function<void(std::string_view, double)>& kasittele) {
     F(tulos::Olioksi<F>(k), kasittele);

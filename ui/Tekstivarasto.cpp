@@ -128,12 +128,6 @@ std::string Teksti(int id) {
   return loydetty == g_tekstit.end() ? "[String " + std::to_string(id) + " is missing]" : loydetty->second;
 }
 
-std::string Nimike(int id) {
-  std::string teksti = Teksti(id);
-  if (teksti.ends_with(':')) teksti.pop_back();
-  return teksti;
-}
-
 void NaytaVirhe(int koodi, std::string_view lisateksti) {
   Viesti viesti = HaeViesti(koodi).value_or(Viesti{"Virhe " + std::to_string(koodi), {}, Vakavuus::Virhe});
   viesti.teksti.append(" ").append(lisateksti);

@@ -23,8 +23,6 @@ void LataaTekstit(const std::string& tiedosto, const std::string& kieli,
                   const std::string& taulu = "LumivirtaResurssit");
 /// The text of the number; "[String <id> is missing]" when there is none.
 std::string Teksti(int id);
-/// The same without the colon at its end: what a field's label says is the name of its quantity elsewhere.
-std::string Nimike(int id);
 
 /// Shows a row of the message table: its text, a blank and `lisateksti`, titled by its level (1 error, 2 notice).
 /// Without the store or the row the message is "Virhe <code> <lisateksti>". Never raises.

@@ -15,6 +15,7 @@ struct Viesti {
   Vakavuus vakavuus = Vakavuus::Tieto;
   Napit napit = Napit::Ok;
   Vastaus oletus = Vastaus::Ok;  ///< button that Enter presses
+  std::string kohde{};           ///< name of what it is about: of a space, of a machine
 };
 
 /// True when the box has a button for this answer.

@@ -7,6 +7,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -67,16 +68,19 @@ constexpr Jasen clsIVKone::kJasenet[] = {
 
 constexpr Tulos kTulokset[] = {
     Avaintulos(),
-    Tekstitulos<&clsIVKone::KoneenTunnus>("KoneenTunnus", 3002),
-    Kuukausitulos<[](const clsIVKone& k, int m) { return k.IV_LammEnergia(m); }>("IV_LammEnergia", 3008),
-    Kuukausitulos<[](const clsIVKone& k, int m) { return k.LtoEnergia(m); }>("LtoEnergia", 3009),
-    Kuukausitulos<&clsIVKone::SahkoPatterinEnergia>("SahkoPatterinEnergia", 6221),
-    Kuukausitulos<&clsIVKone::VesikiertoisenLampoPatterinEnergia>("VesikiertoisenLampoPatterinEnergia", 6222),
-    Kuukausitulos<[](clsIVKone& k, int m) { return k.PuhallinSahko(m); }>("PuhallinSahko", 3010),
-    Kuukausitulos<[](const clsIVKone& k, int m) { return k.HaviotTilaan(k.Poistoilma(), m); }>("HaviotTilaan", 6223),
-    Vuositulos<&clsIVKone::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", 3010),
-    Vuositulos<&clsIVKone::VuotuinenIVjalkilammitysLampo>("VuotuinenIVjalkilammitysLampo", 3008),
-    Vuositulos<&clsIVKone::Sahko>("Sahko", 6224),
+    Tekstitulos<&clsIVKone::KoneenTunnus>("KoneenTunnus", tekstit::kKoneenTunnus),
+    Kuukausitulos<[](const clsIVKone& k, int m) { return k.IV_LammEnergia(m); }>("IV_LammEnergia",
+                                                                                 tekstit::kJalkilammitys),
+    Kuukausitulos<[](const clsIVKone& k, int m) { return k.LtoEnergia(m); }>("LtoEnergia", tekstit::kTalteenotto),
+    Kuukausitulos<&clsIVKone::SahkoPatterinEnergia>("SahkoPatterinEnergia", tekstit::kSahkopatterinEnergia),
+    Kuukausitulos<&clsIVKone::VesikiertoisenLampoPatterinEnergia>("VesikiertoisenLampoPatterinEnergia",
+                                                                  tekstit::kVesipatterinEnergia),
+    Kuukausitulos<[](clsIVKone& k, int m) { return k.PuhallinSahko(m); }>("PuhallinSahko", tekstit::kPuhaltimienSahko),
+    Kuukausitulos<[](const clsIVKone& k, int m) { return k.HaviotTilaan(k.Poistoilma(), m); }>(
+        "HaviotTilaan", tekstit::kKoneenHavioTilassa),
+    Vuositulos<&clsIVKone::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", tekstit::kPuhaltimienSahko),
+    Vuositulos<&clsIVKone::VuotuinenIVjalkilammitysLampo>("VuotuinenIVjalkilammitysLampo", tekstit::kJalkilammitys),
+    Vuositulos<&clsIVKone::Sahko>("Sahko", tekstit::kPatterinJaPuhaltimienSahko),
     Upotustulos<&clsIVKone::AjantasaisetPuhaltimet>(),
     Osatulos<&clsIVKone::Lto>("Lto"),
     Kokoelmatulos<&clsIVKone::KayntiAikaYleistiedot>("KayntiAjat"),

@@ -5,6 +5,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/tulokset.h"
 
 namespace {
 
@@ -13,10 +14,12 @@ constexpr Jasen kJasenet[] = {
 };
 
 constexpr Tulos kTulokset[] = {
-    Vuositulos<&clsIVKoneet::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", 6217),
-    Lukutulos<&clsIVKoneet::Tuloilmavirtojen11Summa>("Tuloilmavirtojen11Summa", 6218, "m³/s", "### ##0.00#"),
-    Lukutulos<&clsIVKoneet::Poistoilmavirtojen11Summa>("Poistoilmavirtojen11Summa", 6219, "m³/s", "### ##0.00#"),
-    Lukutulos<&clsIVKoneet::LammitystehonTarve>("LammitystehonTarve", 6220, "kW"),
+    Vuositulos<&clsIVKoneet::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", tekstit::kPuhaltimienSahko),
+    Lukutulos<&clsIVKoneet::Tuloilmavirtojen11Summa>("Tuloilmavirtojen11Summa", tekstit::kTuloilmavirtojenSumma, "m³/s",
+                                                     "### ##0.00#"),
+    Lukutulos<&clsIVKoneet::Poistoilmavirtojen11Summa>("Poistoilmavirtojen11Summa", tekstit::kPoistoilmavirtojenSumma,
+                                                       "m³/s", "### ##0.00#"),
+    Lukutulos<&clsIVKoneet::LammitystehonTarve>("LammitystehonTarve", tekstit::kLammitystehonTarve, "kW"),
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ventilation/LammitysTaulukko.h"
@@ -29,7 +30,7 @@ constexpr Jasen kJasenet[] = {
 
 constexpr Tulos kTulokset[] = {
     Avaintulos(),
-    Lukutulos<&clsKayntiAika::KayntiTunnit>("KayntiTunnit", 6230, "h"),
+    Lukutulos<&clsKayntiAika::KayntiTunnit>("KayntiTunnit", tekstit::kKaynninPituus, "h"),
 };
 
 constexpr int kMinuuttejaVuorokaudessa = 1440;

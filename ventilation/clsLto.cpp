@@ -3,6 +3,7 @@
 
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/tulokset.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ constexpr Jasen kJasenet[] = {
 };
 
 constexpr Tulos kTulokset[] = {
-    Lukutulos<[](clsLto& l) { return l.LtoHyotysuhde(l.Tp); }>("LtoHyotysuhde", 6229, ""),
+    Lukutulos<[](clsLto& l) { return l.LtoHyotysuhde(l.Tp); }>("LtoHyotysuhde", tekstit::kHyotysuhdeMitatuista, ""),
 };
 
 }  // namespace

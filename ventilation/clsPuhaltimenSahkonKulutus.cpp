@@ -4,6 +4,7 @@
 #include "kernel/Laskenta.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/tulokset.h"
 #include "ventilation/clsIVKone.h"
 
 namespace {
@@ -38,11 +39,14 @@ constexpr Jasen kJasenet[] = {
 };
 
 constexpr Tulos kTulokset[] = {
-    Lukutulos<&clsPuhaltimenSahkonKulutus::TuloSahkoOminaisteho>("TuloSahkoOminaisteho", 6225, "kW/(m³/s)"),
-    Lukutulos<&clsPuhaltimenSahkonKulutus::PoistoSahkoOminaisteho>("PoistoSahkoOminaisteho", 6226, "kW/(m³/s)"),
-    Lukutulos<[](const clsPuhaltimenSahkonKulutus& p) { return p.TuloSahkoOsaTeho(); }>("TuloSahkoOsaTeho", 6227, "kW"),
-    Lukutulos<[](const clsPuhaltimenSahkonKulutus& p) { return p.PoistoSahkoOsaTeho(); }>("PoistoSahkoOsaTeho", 6228,
-                                                                                          "kW"),
+    Lukutulos<&clsPuhaltimenSahkonKulutus::TuloSahkoOminaisteho>("TuloSahkoOminaisteho",
+                                                                 tekstit::kTulopuhaltimenOminaisteho, "kW/(m³/s)"),
+    Lukutulos<&clsPuhaltimenSahkonKulutus::PoistoSahkoOminaisteho>("PoistoSahkoOminaisteho",
+                                                                   tekstit::kPoistopuhaltimenOminaisteho, "kW/(m³/s)"),
+    Lukutulos<[](const clsPuhaltimenSahkonKulutus& p) { return p.TuloSahkoOsaTeho(); }>(
+        "TuloSahkoOsaTeho", tekstit::kTulopuhaltimenOsateho, "kW"),
+    Lukutulos<[](const clsPuhaltimenSahkonKulutus& p) { return p.PoistoSahkoOsaTeho(); }>(
+        "PoistoSahkoOsaTeho", tekstit::kPoistopuhaltimenOsateho, "kW"),
 };
 
 constexpr double kTaysVirta = 100;          // %

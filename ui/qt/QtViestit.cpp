@@ -73,8 +73,6 @@ Vastaus NaytaLaatikko(const Viesti& viesti) {
                                  : kNapit[static_cast<std::size_t>(painettu - napit.begin())].vastaus;
 }
 
-bool Samat(const Viesti& x, const Viesti& y) { return x.teksti == y.teksti && x.otsikko == y.otsikko; }
-
 /// "*.lvt" becomes "*.[lL][vV][tT]": a file is found whatever the case of its extension.
 QString KirjainkoostaRiippumaton(const QString& suodatin) {
   const auto sulku = suodatin.indexOf('(');
@@ -114,26 +112,15 @@ void QtViestit::AsetaPaneelinNaytto(std::function<void(const std::string&)> nayt
 
 Vastaus QtViestit::Nayta(const Viesti& viesti) {
   if (viesti.napit == Napit::Ok && KomentoKaynnissa()) {
-    PidataViesti(viesti);
+    LisaaKoosteisiin(odottavat_, viesti);
     return Vastaus::Ok;
   }
   NaytaOdottavat();
-  return NaytaLaatikko(viesti);
-}
-
-void QtViestit::PidataViesti(const Viesti& viesti) {
-  const auto sama = std::ranges::find_if(odottavat_, [&](const Odottava& o) { return Samat(o.viesti, viesti); });
-  if (sama == odottavat_.end())
-    odottavat_.push_back({viesti, 1});
-  else
-    ++sama->maara;
+  return NaytaLaatikko(Viestikooste(viesti).Koottu());
 }
 
 void QtViestit::NaytaOdottavat() {
-  for (auto& [viesti, maara] : std::exchange(odottavat_, {})) {
-    if (maara > 1) viesti.teksti += "\n\n(Sama ilmoitus tuli " + std::to_string(maara) + " kertaa.)";
-    NaytaLaatikko(viesti);
-  }
+  for (const Viestikooste& kooste : std::exchange(odottavat_, {})) NaytaLaatikko(kooste.Koottu());
 }
 
 std::optional<std::string> QtViestit::KysyTeksti(std::string_view kehote, std::string_view otsikko,

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/Viestit.h"
+#include "ui/Viestikooste.h"
 
 /// The way to the person by real windows. While a command runs, messages with only an OK button are held back; equal
 /// ones become one with its count, and they are shown in order at the end of the command, before a question, or before
@@ -28,14 +28,9 @@ class QtViestit : public Viestit {
   void AnnaPiirtaa() override;
 
  private:
-  struct Odottava {
-    Viesti viesti;
-    int maara;
-  };
-  void PidataViesti(const Viesti& viesti);
   void NaytaOdottavat();
 
-  std::vector<Odottava> odottavat_;
+  std::vector<Viestikooste> odottavat_;
   std::string paneeli_;
   std::function<void(const std::string&)> naytaPaneeli_;
 };
