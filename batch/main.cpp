@@ -16,7 +16,7 @@ constexpr const char* kOhje =
     "Käyttö: lumivirta-laske [--json] [--saikeita=N] KOHDE.lvt...\n"
     "Laskee kohdetiedostojen lämpötaseen. Tiedostoja ei muuteta.\n"
     "  --json         tulokset JSON-muodossa: yksi olio, usealle tiedostolle taulukko\n"
-    "  --saikeita=N   montako tiedostoa lasketaan yhtä aikaa; oletus on suorittimien määrä\n"
+    "  --saikeita=N   montako tiedostoa lasketaan yhtä aikaa; oletus on 1\n"
     "  --help         tämä ohje\n"
     "Paluuarvo on 0, kun kaikki on laskettu, 1, kun jotain ei voitu laskea, ja 2, kun komento on virheellinen.\n";
 constexpr std::string_view kSaikeita = "--saikeita=";
@@ -24,7 +24,7 @@ constexpr std::string_view kSaikeita = "--saikeita=";
 struct Komento {
   std::vector<std::string> tiedostot;
   Tulostusmuoto muoto = Tulostusmuoto::Yhteenveto;
-  unsigned saikeita = std::max(1u, std::thread::hardware_concurrency());
+  unsigned saikeita = 1;
   bool ohje = false;
 };
 
