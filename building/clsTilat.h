@@ -4,7 +4,6 @@
 
 #include "building/Muutosilmoitus.h"
 #include "building/clsTila.h"
-#include "ui/Avainluettelo.h"
 
 class frmTilaYhteenveto;
 
@@ -57,6 +56,5 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
   Lippu tarveUpToDate_;
   Oma<double> tarve_;  // MWh/a
   Oma<std::shared_ptr<frmTilaYhteenveto>> kayttoLiittyma_;
-  Oma<Avainluettelo> rivit_;
   Oma<Muutostilaus> tilaus_;
 };

@@ -37,11 +37,10 @@ constexpr Sarake kSarakkeet[] = {
     {[](clsTila& t) { return t.VuotuinenLampoEnergianTarve(); }, "### ##0.00", true, true},
 };
 
-/// Rows of the list and, in the last one, the sums. Without the balance its figures are left open.
-Taulukko TilojenRivit(const clsTilat& tilat, bool tase) {
-  Taulukko rivit;
-  for (const clsTila& tila : tilat) rivit.push_back({tila.TilanNimi});
-  rivit.push_back({Teksti(kYhteensa)});
+/// Rows of the list and their sums. Without the balance its figures are left open.
+Luettelosisalto TilojenRivit(const clsTilat& tilat, bool tase) {
+  Luettelosisalto sisalto{{}, {Teksti(kYhteensa)}};
+  for (const clsTila& tila : tilat) sisalto.rivit.push_back({{tila.TilanNimi}, tila.sKey});
   for (const Sarake& sarake : kSarakkeet) {
     const bool tunnetaan = tase || !sarake.taseesta;
     double summa = 0;
@@ -49,15 +48,15 @@ Taulukko TilojenRivit(const clsTilat& tilat, bool tase) {
     for (clsTila& tila : tilat) {
       const double arvo = tunnetaan ? sarake.arvo(tila) : 0;
       summa += arvo;
-      rivit[i++].push_back(tunnetaan ? Muotoile(arvo, sarake.kuvio) : kEiLukua);
+      sisalto.rivit[i++].solut.push_back(tunnetaan ? Muotoile(arvo, sarake.kuvio) : kEiLukua);
     }
-    rivit[i].push_back(!sarake.summataan ? "" : tunnetaan ? Muotoile(summa, sarake.kuvio) : kEiLukua);
+    sisalto.summat.push_back(!sarake.summataan ? "" : tunnetaan ? Muotoile(summa, sarake.kuvio) : kEiLukua);
   }
-  return rivit;
+  return sisalto;
 }
 
 /// The list must open also over a building whose balance can't be calculated: it is where the fault is mended.
-Taulukko LasketutRivit(clsRakennus& rakennus, const clsTilat& tilat) {
+Luettelosisalto LasketutRivit(clsRakennus& rakennus, const clsTilat& tilat) {
   try {
     const Tasehaarukka haarukka(rakennus);
     return TilojenRivit(tilat, true);
@@ -116,19 +115,17 @@ void clsTilat::ListaaTilat() try {
 
 void clsTilat::TaytaLuettelo() {
   Odotus odotus;
-  std::vector<Tunniste> avaimet;
-  for (const clsTila& tila : *this) avaimet.push_back(tila.sKey);
-  rivit_.arvo.Tayta(kayttoLiittyma_.arvo->lvwTilat, std::move(avaimet), LasketutRivit(VaadiRakennus(), *this));
+  kayttoLiittyma_.arvo->lvwTilat.Tayta(LasketutRivit(VaadiRakennus(), *this));
   PaivitaNapit();
 }
 
 void clsTilat::PaivitaNapit() { kayttoLiittyma_.arvo->PaivitaNapit(VaadiRakennus().Saastotoimenpiteet.Count() > 0); }
 
-clsTila& clsTilat::ValittuTila() const { return Item(rivit_.arvo.Valittu(kayttoLiittyma_.arvo->lvwTilat)); }
+clsTila& clsTilat::ValittuTila() const { return Item(kayttoLiittyma_.arvo->lvwTilat.Valittu()); }
 
 void clsTilat::LuetteloMuuttui(int toiminto, const Tunniste& valittava) {
   VaadiRakennus().Muuttui(Teksti(toiminto));
-  rivit_.arvo.Valitse(kayttoLiittyma_.arvo->lvwTilat, valittava);
+  kayttoLiittyma_.arvo->lvwTilat.Valitse(valittava);
   PaivitaNapit();
 }
 

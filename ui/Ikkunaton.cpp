@@ -41,8 +41,9 @@ std::vector<Osa> LueOsat(const pugi::xml_node& widget, Ohjaintyyppi tyyppi) {
     for (const pugi::xml_node sivu : widget.children("widget"))
       osat.push_back({{}, {}, Ominaisuus(sivu, "Tag"), Ominaisuus(sivu, "ToolTipText")});
   if (tyyppi == Ohjaintyyppi::ListView)
-    for (const pugi::xml_node sarake : widget.children("column"))
-      osat.push_back({{}, {}, Ominaisuus(sarake, "text"), {}});
+    for (const pugi::xml_node sarake :
+         widget.find_child_by_attribute("property", "name", "Sarakkeet").child("stringlist").children("string"))
+      osat.push_back(Sarakkeeksi(sarake.text().get()));
   return osat;
 }
 
@@ -133,7 +134,37 @@ void Ikkunaton::KayttajaPoistuu(std::string_view nimi) { Kaytettava(nimi).Kaytta
 
 void Ikkunaton::KayttajaValitsee(std::string_view nimi, std::string_view rivi) {
   Ohjain& ohjain = Kaytettava(nimi);
-  ohjain.KayttajaValitsee(ValittavanPaikka(ohjain, rivi));
+  ohjain.KayttajaValitsee(ohjain.Tyyppi() == Ohjaintyyppi::ListView ? Rivi(ohjain, rivi)
+                                                                    : ValittavanPaikka(ohjain, rivi));
+}
+
+/// A row of a list that the person can see.
+int Ikkunaton::Rivi(const Ohjain& lista, std::string_view rivi) const {
+  const int paikka = ValittavanPaikka(lista, rivi);
+  if (!lista.Lista().Nakyvissa(paikka))
+    throw std::logic_error(nimi_ + ": rivi " + std::string(rivi) + " on suljetussa haarassa");
+  return paikka;
+}
+
+void Ikkunaton::KayttajaAvaa(std::string_view nimi, std::string_view rivi, bool auki) {
+  Ohjain& lista = Kaytettava(nimi);
+  lista.KayttajaAvaa(Rivi(lista, rivi), auki);
+}
+
+void Ikkunaton::KayttajaMuokkaa(std::string_view nimi, std::string_view rivi, int sarake, const std::string& teksti) {
+  Ohjain& lista = Kaytettava(nimi);
+  const int paikka = Rivi(lista, rivi);
+  if (!lista.Lista().Muokattava(paikka, sarake))
+    throw std::logic_error(nimi_ + ": rivin " + std::string(rivi) + " solu on lukittu");
+  lista.KayttajaMuokkaa(paikka, sarake, teksti);
+}
+
+void Ikkunaton::KayttajaSiirtaa(std::string_view nimi, std::string_view rivi, std::string_view ylempi) {
+  Ohjain& lista = Kaytettava(nimi);
+  const int paikka = Rivi(lista, rivi), kohde = ylempi.empty() ? Luettelo::kEiRivia : Rivi(lista, ylempi);
+  if (!lista.VoiSiirtaa(paikka, kohde))
+    throw std::logic_error(nimi_ + ": riviä " + std::string(rivi) + " ei voi siirtää");
+  lista.KayttajaSiirtaa(paikka, kohde);
 }
 
 void Ikkunaton::KayttajaPainaa(std::string_view nimi) { Kaytettava(nimi).KayttajaPainaa(); }

@@ -32,6 +32,11 @@ class Ikkunaton : public Lomakeikkuna {
   /// `rivi`: first cell of a row, or caption of a page.
   void KayttajaValitsee(std::string_view nimi, std::string_view rivi);
   void KayttajaPainaa(std::string_view nimi);
+  // Of a list, its rows by their first cells.
+  void KayttajaAvaa(std::string_view nimi, std::string_view rivi, bool auki);
+  void KayttajaMuokkaa(std::string_view nimi, std::string_view rivi, int sarake, const std::string& teksti);
+  /// Drags a row under another one; to the top for "".
+  void KayttajaSiirtaa(std::string_view nimi, std::string_view rivi, std::string_view ylempi);
 
   void Otsikko(const std::string& otsikko) override { otsikko_ = otsikko; }
   void Nayta() override { auki_ = true; }
@@ -42,6 +47,7 @@ class Ikkunaton : public Lomakeikkuna {
  private:
   friend class IkkunatonOhjain;
   Ohjain& Kaytettava(std::string_view nimi) const;
+  int Rivi(const Ohjain& lista, std::string_view rivi) const;
 
   Ikkunattomat& omistaja_;
   std::string nimi_;

@@ -37,6 +37,12 @@ void TabStrip::SivuKaytossa(int indeksi, bool kaytossa) const {
   ohjain_->Osat(std::move(sivut));
 }
 
+void ListView::Valitse(const Tunniste& avain) const {
+  const Luettelo& lista = ohjain_->Lista();
+  const int rivi = lista.Etsi(avain);
+  Indeksi(rivi < 0 && lista.Maara() > 0 ? lista.Alemmat(Luettelo::kEiRivia).front() : rivi);
+}
+
 bool LueArvo(const TextBox& kentta, double& kohde) {
   const bool muuttunut = kentta.Muuttunut();
   const auto luku = muuttunut ? LueLuku(kentta.Teksti()) : kentta.Kohde().TaytettyLuku();

@@ -119,21 +119,45 @@ class TabStrip : public TyypitettyKahva<Ohjaintyyppi::TabStrip> {
   void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
 };
 
-/// List with columns. The person sorts it by its headings and copies its rows (Ctrl+C).
+/// List with columns, or a tree of rows. The person sorts it by its headings and copies its rows (Ctrl+C).
 class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
  public:
   using TyypitettyKahva::TyypitettyKahva;
+  /// Rows without keys; nothing is chosen afterwards.
   void Rivit(Taulukko rivit) const { ohjain_->Rivit(std::move(rivit)); }
   const Taulukko& Rivit() const { return ohjain_->Rivit(); }
+  /// Rows with keys, and the sums. The row chosen before stays chosen; when it is no more, the one that has come to its
+  /// place.
+  void Tayta(Luettelosisalto sisalto) const { ohjain_->Tayta(std::move(sisalto)); }
+  /// Other cells for one row, at the cost of that row.
   void Rivi(int indeksi, std::vector<std::string> solut) const { ohjain_->Rivi(indeksi, std::move(solut)); }
+  void Rivi(int indeksi, std::vector<std::string> solut, Rivipiirteet piirteet) const {
+    ohjain_->Rivi(indeksi, std::move(solut), std::move(piirteet));
+  }
   void Summarivi(std::vector<std::string> solut) const { ohjain_->Summarivi(std::move(solut)); }
   int Indeksi() const { return ohjain_->Indeksi(); }
   void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
+  /// Key of the chosen row, empty when none is.
+  Tunniste Valittu() const { return ohjain_->Lista().Avain(Indeksi()); }
+  /// Chooses the row of that key; the first one on the screen when there is no such row.
+  void Valitse(const Tunniste& avain) const;
   void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
   /// Enter or a double click on a row.
   void KunKlikataan(std::function<void()> f) const { ohjain_->Klikattu = std::move(f); }
   /// Rows pasted from the clipboard (Ctrl+V).
   void KunLiitetaan(std::function<void(const Taulukko&)> f) const { ohjain_->Liitetty = std::move(f); }
+  /// Insert, and Delete on a chosen row.
+  void KunLisataan(std::function<void()> f) const { ohjain_->Lisattava = std::move(f); }
+  void KunPoistetaan(std::function<void()> f) const { ohjain_->Poistettava = std::move(f); }
+  /// The person has written in a cell of Rivipiirteet::muokattavat. What the cell shows then is up to `f`.
+  void KunMuokataan(std::function<void(int rivi, int sarake, const std::string& teksti)> f) const {
+    ohjain_->Muokattu = std::move(f);
+  }
+  /// Rows with Rivipiirteet::siirrettava can be dragged under another row (-1: to the top) where `saa` allows it.
+  void KunSiirretaan(std::function<bool(int rivi, int ylempi)> saa, std::function<void(int rivi, int ylempi)> f) const {
+    ohjain_->SaaSiirtaa = std::move(saa);
+    ohjain_->Siirretty = std::move(f);
+  }
   bool KopioiLeikepoydalle() const { return ohjain_->KopioiLeikepoydalle(); }
 };
 

@@ -24,7 +24,7 @@ constexpr Tyyppirivi kTyypit[] = {
     {"QPushButton", "CommandButton", Ohjaintyyppi::CommandButton},
     {"QGroupBox", "Frame", Ohjaintyyppi::Frame},
     {"QTabWidget", "TabStrip", Ohjaintyyppi::TabStrip},
-    {"QTreeWidget", "ListView", Ohjaintyyppi::ListView},
+    {"QTreeView", "ListView", Ohjaintyyppi::ListView},
     {"Piirakka", "MSChart", Ohjaintyyppi::MSChart},
     {"Pylvaikko", "MSChart", Ohjaintyyppi::MSChart},
     {"Lampotilakuva", "MSChart", Ohjaintyyppi::MSChart},
@@ -48,6 +48,16 @@ bool TyyppiLuokasta(std::string_view luokka, Ohjaintyyppi& tyyppi) {
     return true;
   }
   return false;
+}
+
+Osa Sarakkeeksi(std::string_view kuvaus) {
+  const auto pilkku = kuvaus.find(',');
+  const std::string_view tasaus = pilkku == kuvaus.npos ? std::string_view() : kuvaus.substr(pilkku + 1);
+  return {.otsikko = {},
+          .tag = std::string(kuvaus.substr(0, pilkku)),
+          .tasaus = tasaus == "oikea"   ? Tasaus::Oikea
+                    : tasaus == "keski" ? Tasaus::Keski
+                                        : Tasaus::Vasen};
 }
 
 Ohjain::Ohjain(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus)
@@ -96,35 +106,52 @@ void Ohjain::TyhjennaMuutRyhmassa() {
 }
 
 int Ohjain::RajattuIndeksi(int indeksi) const {
-  const std::size_t maara = Tyyppi() == Ohjaintyyppi::TabStrip ? Osat().size() : rivit_.size();
+  const std::size_t maara = Tyyppi() == Ohjaintyyppi::TabStrip ? Osat().size() : Rivit().size();
   return indeksi >= 0 && static_cast<std::size_t>(indeksi) < maara ? indeksi : -1;
 }
 
 void Ohjain::Rivit(Taulukko rivit) {
-  rivit_ = std::move(rivit);
+  lista_.Tayta(std::move(rivit));
   indeksi_ = -1;
-  jarjestys_ = Jarjestyksessa(rivit_, lajittelu_.sarake, lajittelu_.laskeva);
   Paivita(Piirre::Rivit);
+}
+
+void Ohjain::Tayta(Luettelosisalto sisalto) {
+  const Tunniste valittu = lista_.Avain(indeksi_);
+  const std::vector<int> ennen = lista_.Nakyvat();
+  const auto paikka = std::ranges::find(ennen, indeksi_) - ennen.begin();
+  const auto muuttuneet = lista_.Tayta(std::move(sisalto.rivit));
+  lista_.Summat(std::move(sisalto.summat));
+  if (!muuttuneet) {
+    const std::vector<int> nyt = lista_.Nakyvat();
+    indeksi_ = lista_.Etsi(valittu);
+    if (indeksi_ < 0 && !nyt.empty())
+      indeksi_ = nyt[valittu.Tyhja() ? 0 : std::min(static_cast<std::size_t>(paikka), nyt.size() - 1)];
+    return Paivita(Piirre::Rivit);
+  }
+  for (const int rivi : *muuttuneet) PaivitaRivi(rivi);
+  Paivita(Piirre::Summat);
 }
 
 void Ohjain::Rivi(int indeksi, std::vector<std::string> solut) {
-  rivit_.at(static_cast<std::size_t>(indeksi)) = std::move(solut);
-  Paivita(Piirre::Rivit);
+  lista_.Rivi(indeksi, std::move(solut));
+  PaivitaRivi(indeksi);
+}
+
+void Ohjain::Rivi(int indeksi, std::vector<std::string> solut, Rivipiirteet piirteet) {
+  lista_.Rivi(indeksi, std::move(solut), std::move(piirteet));
+  PaivitaRivi(indeksi);
 }
 
 void Ohjain::Summarivi(std::vector<std::string> solut) {
-  summarivi_ = std::move(solut);
-  Paivita(Piirre::Rivit);
+  lista_.Summat(std::move(solut));
+  Paivita(Piirre::Summat);
 }
 
 std::string Ohjain::RivitTekstina(const std::vector<int>& rivit) const {
-  Taulukko tulos(1);
-  for (const Osa& sarake : Osat()) tulos.front().push_back(sarake.otsikko);
-  for (const int rivi : jarjestys_)
-    if (rivit.empty() || std::ranges::find(rivit, rivi) != rivit.end())
-      tulos.push_back(rivit_[static_cast<std::size_t>(rivi)]);
-  if (rivit.empty() && !summarivi_.empty()) tulos.push_back(summarivi_);
-  return TaulukkoTekstina(tulos);
+  std::vector<std::string> otsikot;
+  for (const Osa& sarake : Osat()) otsikot.push_back(sarake.otsikko);
+  return lista_.Tekstina(std::move(otsikot), rivit);
 }
 
 void Ohjain::Indeksi(int indeksi) {
@@ -172,13 +199,36 @@ void Ohjain::KayttajaPainaa() {
 }
 
 void Ohjain::KayttajaLajittelee(int sarake) {
-  lajittelu_ = {sarake, lajittelu_.sarake == sarake && !lajittelu_.laskeva};
-  jarjestys_ = Jarjestyksessa(rivit_, lajittelu_.sarake, lajittelu_.laskeva);
+  lista_.Lajittele(sarake);
   Paivita(Piirre::Rivit);
 }
 
 void Ohjain::KayttajaLiittaa(std::string_view leikepoyta) {
   if (Liitetty) Nosta([this, rivit = TaulukkoTekstista(leikepoyta)] { Liitetty(rivit); });
+}
+
+void Ohjain::KayttajaPoistaa() {
+  if (indeksi_ >= 0) Nosta(Poistettava);
+}
+
+void Ohjain::KayttajaAvaa(int rivi, bool auki) {
+  lista_.Suljettu(rivi, !auki);
+  Paivita(Piirre::Avattu);
+}
+
+void Ohjain::KayttajaMuokkaa(int rivi, int sarake, const std::string& teksti) {
+  if (Muokattu && lista_.Muokattava(rivi, sarake)) Nosta([&] { Muokattu(rivi, sarake, teksti); });
+}
+
+bool Ohjain::VoiSiirtaa(int rivi, int ylempi) const {
+  if (rivi < 0 || rivi >= lista_.Maara() || !SaaSiirtaa || !lista_.Piirteet(rivi).siirrettava) return false;
+  for (int y = ylempi; y >= 0; y = lista_.Ylempi(y))
+    if (y == rivi) return false;
+  return ylempi != lista_.Ylempi(rivi) && SaaSiirtaa(rivi, ylempi);
+}
+
+void Ohjain::KayttajaSiirtaa(int rivi, int ylempi) {
+  if (VoiSiirtaa(rivi, ylempi)) Nosta([&] { Siirretty(rivi, ylempi); });
 }
 
 void Ohjain::KayttajaPoistuu() {

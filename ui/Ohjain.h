@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/Taulukko.h"
+#include "ui/Luettelo.h"
 
 class Lomakeikkuna;
 
@@ -39,6 +39,8 @@ enum class Piirre {
   Nakyva,
   Valittu,
   Rivit,
+  Summat,
+  Avattu,
   Indeksi,
   Osat,
   Kaavio,
@@ -65,20 +67,21 @@ struct Kaaviotiedot {
   std::string yksikko{};
 };
 
-/// The column by which a list is sorted; -1: rows stand in the order given.
-struct Lajittelu {
-  int sarake = -1;
-  bool laskeva = false;
-};
+/// Where the texts of a column stand; a column of numbers stands at the right edge in any case.
+enum class Tasaus { Vasen, Keski, Oikea };
 
 /// A page of a tab control or a column of a list.
 struct Osa {
   std::string otsikko;
-  std::string vihje;
-  std::string tag;       ///< design-time text: id of the caption
-  std::string vihjetag;  ///< design-time text: id of the tool tip
-  bool kaytossa = true;  ///< the person can open the page
+  std::string vihje{};
+  std::string tag{};       ///< design-time text: id of the caption
+  std::string vihjetag{};  ///< design-time text: id of the tool tip
+  bool kaytossa = true;    ///< the person can open the page
+  Tasaus tasaus = Tasaus::Vasen;
 };
+
+/// A column as a form file tells it in the list's property Sarakkeet: "id" or "id,oikea" or "id,keski".
+Osa Sarakkeeksi(std::string_view kuvaus);
 
 /// What a form file tells of a control.
 struct Ohjainkuvaus {
@@ -134,21 +137,24 @@ class Ohjain {
   bool Valittu() const { return valittu_; }
   void Valittu(bool valittu);
 
-  /// Rows of a choice list (one cell) or of a list (a cell per column).
-  const Taulukko& Rivit() const { return rivit_; }
+  /// Rows of a choice list (one cell) or of a list (a cell per column), and how they stand on the screen.
+  const Luettelo& Lista() const { return lista_; }
+  const Taulukko& Rivit() const { return lista_.Solut(); }
+  /// Rows without keys; nothing is chosen afterwards.
   void Rivit(Taulukko rivit);
+  /// Rows with keys, and the sums. The row chosen before stays chosen; when it is no more, the one that has come to its
+  /// place.
+  void Tayta(Luettelosisalto sisalto);
   /// Other cells for one row, which stays where it is.
   void Rivi(int indeksi, std::vector<std::string> solut);
+  void Rivi(int indeksi, std::vector<std::string> solut, Rivipiirteet piirteet);
   /// Chosen row, or page of a tab control; -1 none. Outside the rows it becomes -1. A row keeps its number wherever a
   /// sorted list shows it.
   int Indeksi() const { return indeksi_; }
   void Indeksi(int indeksi);
   /// Sums below the rows of a list: always last, never chosen. Empty: none.
-  const std::vector<std::string>& Summarivi() const { return summarivi_; }
+  const std::vector<std::string>& Summarivi() const { return lista_.Summat(); }
   void Summarivi(std::vector<std::string> solut);
-  /// How the list is sorted, and its rows in the order in which they stand on the screen.
-  const Lajittelu& Lajiteltu() const { return lajittelu_; }
-  const std::vector<int>& Jarjestys() const { return jarjestys_; }
   /// Headings and these rows of the list in the order of the screen, for the clipboard; all rows and the sums when none
   /// is told.
   std::string RivitTekstina(const std::vector<int>& rivit) const;
@@ -172,22 +178,39 @@ class Ohjain {
   /// Selects the whole text.
   void ValitseTeksti() { Paivita(Piirre::Tekstivalinta); }
 
-  std::function<void()> Muuttui;                  ///< text written, row or page chosen
-  std::function<void()> Klikattu;                 ///< button pressed, box ticked, row double-clicked
-  std::function<void()> Poistuttu;                ///< focus left the control
-  std::function<void(const Taulukko&)> Liitetty;  ///< rows pasted into a list
+  std::function<void()> Muuttui;    ///< text written, row or page chosen
+  std::function<void()> Klikattu;   ///< button pressed, box ticked, row double-clicked
+  std::function<void()> Poistuttu;  ///< focus left the control
+  // Of a list:
+  std::function<void(const Taulukko&)> Liitetty;                                  ///< rows pasted
+  std::function<void()> Lisattava;                                                ///< key for a new row
+  std::function<void()> Poistettava;                                              ///< key that removes the chosen row
+  std::function<void(int rivi, int sarake, const std::string& teksti)> Muokattu;  ///< written in a cell
+  std::function<bool(int rivi, int ylempi)> SaaSiirtaa;                           ///< a row may hang under another one
+  std::function<void(int rivi, int ylempi)> Siirretty;                            ///< the person has dragged it there
 
   void KayttajaKirjoittaa(std::string teksti);
   void KayttajaValitsee(int indeksi);
   void KayttajaPainaa();
   void KayttajaPoistuu();
-  /// Sorts a list by the column; once more the other way round.
+  /// Sorts a list by the column; once more the other way round, a third time back to the order given.
   void KayttajaLajittelee(int sarake);
   void KayttajaLiittaa(std::string_view leikepoyta);
+  void KayttajaLisaa() { Nosta(Lisattava); }
+  void KayttajaPoistaa();
+  /// Opens or closes the branch under a row.
+  void KayttajaAvaa(int rivi, bool auki);
+  /// Writes in a cell. The cell shows what the listener makes of the text.
+  void KayttajaMuokkaa(int rivi, int sarake, const std::string& teksti);
+  /// True when the row can be dragged under the other one, or to the top for -1.
+  bool VoiSiirtaa(int rivi, int ylempi) const;
+  void KayttajaSiirtaa(int rivi, int ylempi);
 
  protected:
   /// Shows the trait on the screen; nothing to show without windows.
   virtual void Paivita(Piirre piirre);
+  /// Shows the cells and traits of one row.
+  virtual void PaivitaRivi(int) {}
 
  private:
   void Nosta(const std::function<void()>& tapahtuma);
@@ -203,10 +226,7 @@ class Ohjain {
   bool odottaa_ = false;    // filled while being written in
   std::string vihje_;
   bool valittu_ = false;
-  Taulukko rivit_;
-  std::vector<std::string> summarivi_;
-  Lajittelu lajittelu_;
-  std::vector<int> jarjestys_;
+  Luettelo lista_;
   int indeksi_ = -1;
   Kaaviotiedot kaavio_;
   std::string kuva_;

@@ -122,30 +122,34 @@ std::string_view Solu(const std::vector<std::string>& rivi, std::size_t sarake) 
   return sarake < rivi.size() ? std::string_view(rivi[sarake]) : std::string_view();
 }
 
-bool OnLukusarake(const Taulukko& rivit, std::size_t sarake) {
-  bool lukuja = false;
-  for (const auto& rivi : rivit) {
-    const std::string_view solu = Solu(rivi, sarake);
-    if (OnTyhja(solu)) continue;
-    if (!LueLuku(solu)) return false;
-    lukuja = true;
-  }
-  return lukuja;
+Sarakesisalto::Sarakesisalto(const Taulukko& rivit, std::size_t sarake) {
+  for (const auto& rivi : rivit) Laske(Solu(rivi, sarake), 1);
+}
+
+void Sarakesisalto::Vaihda(std::string_view entinen, std::string_view uusi) {
+  Laske(entinen, -1);
+  Laske(uusi, 1);
+}
+
+void Sarakesisalto::Laske(std::string_view solu, int maara) {
+  if (!OnTyhja(solu)) (LueLuku(solu) ? lukuja_ : muita_) += maara;
 }
 
 std::vector<int> Jarjestyksessa(const Taulukko& rivit, int sarake, bool laskeva) {
   if (sarake < 0) return JarjestaAvaimilla(rivit, 0, false, [](std::string_view) { return 0; });
   const auto s = static_cast<std::size_t>(sarake);
-  return OnLukusarake(rivit, s) ? JarjestaAvaimilla(rivit, s, laskeva, Lukuarvo)
-                                : JarjestaAvaimilla(rivit, s, laskeva, Aakkosavain);
+  return Sarakesisalto(rivit, s).OnLukuja() ? JarjestaAvaimilla(rivit, s, laskeva, Lukuarvo)
+                                            : JarjestaAvaimilla(rivit, s, laskeva, Aakkosavain);
 }
 
 std::string TaulukkoTekstina(const Taulukko& rivit) {
   const Taulukko luvut(rivit.begin() + (rivit.empty() ? 0 : 1), rivit.end());  // below the headings
+  std::vector<Sarakesisalto> sarakkeet;
   std::string teksti;
   for (const auto& rivi : rivit)
     for (std::size_t s = 0; s < rivi.size(); ++s) {
-      teksti += Siistitty(rivi[s], OnLukusarake(luvut, s) && LueLuku(rivi[s]));
+      while (sarakkeet.size() <= s) sarakkeet.emplace_back(luvut, sarakkeet.size());
+      teksti += Siistitty(rivi[s], sarakkeet[s].OnLukuja() && LueLuku(rivi[s]));
       teksti += s + 1 < rivi.size() ? '\t' : '\n';
     }
   return teksti;

@@ -10,8 +10,22 @@ using Taulukko = std::vector<std::vector<std::string>>;
 /// The cell, or an empty text beyond the row's end.
 std::string_view Solu(const std::vector<std::string>& rivi, std::size_t sarake);
 
-/// True when the column has a number and nothing but numbers; empty cells and "---" don't count.
-bool OnLukusarake(const Taulukko& rivit, std::size_t sarake);
+/// What a column holds: how many of its cells are numbers and how many something else; empty cells and "---" are
+/// neither.
+class Sarakesisalto {
+ public:
+  Sarakesisalto(const Taulukko& rivit, std::size_t sarake);
+  /// A cell of the column has another text.
+  void Vaihda(std::string_view entinen, std::string_view uusi);
+  /// The column has a number and nothing but numbers.
+  bool OnLukuja() const { return lukuja_ > 0 && muita_ == 0; }
+
+ private:
+  void Laske(std::string_view solu, int maara);
+
+  int lukuja_ = 0;
+  int muita_ = 0;
+};
 
 /// Places of the rows in order of a column, from 0: a column of numbers by value, any other in Finnish alphabetical
 /// order (å, ä, ö last, letter case aside, "Luokka 2" before "Luokka 10"). Equal rows keep their order. A column that

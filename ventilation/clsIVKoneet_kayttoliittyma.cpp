@@ -64,27 +64,25 @@ std::string Luku(std::optional<double> arvo, const Sarake& sarake) {
   return arvo ? Muotoile(*arvo, sarake.kuvio) : kEiLukua;
 }
 
-/// Rows of the list and, in the last one, the sums; without one figure the sum isn't known either.
-Taulukko KoneidenRivit(const clsIVKoneet& koneet) {
-  Taulukko rivit;
-  std::vector<std::string> summarivi{Teksti(kYhteensa), "", ""};
+/// Rows of the list and their sums; without one figure the sum isn't known either.
+Luettelosisalto KoneidenRivit(const clsIVKoneet& koneet) {
+  Luettelosisalto sisalto{{}, {Teksti(kYhteensa), "", ""}};
   std::array<std::optional<double>, std::size(kSarakkeet)> summat;
   summat.fill(0.0);
   for (clsIVKone& kone : koneet) {
     const clsTila* tila = VaadiRakennus().Tilat.Etsi(kone.LiittyyTilaansKey);
     const Koneluvut luvut{kone, LasketutLuvut(kone)};
-    std::vector<std::string>& rivi = rivit.emplace_back(
-        std::vector<std::string>{kone.KoneenTunnus, kone.IVPeriaate, tila ? tila->TilanNimi : Teksti(kEiTilaa)});
+    std::vector<std::string> rivi{kone.KoneenTunnus, kone.IVPeriaate, tila ? tila->TilanNimi : Teksti(kEiTilaa)};
     for (std::size_t i = 0; i < summat.size(); ++i) {
       const auto arvo = kSarakkeet[i].arvo(luvut);
       summat[i] = arvo && summat[i] ? std::optional(*summat[i] + *arvo) : std::nullopt;
       rivi.push_back(Luku(arvo, kSarakkeet[i]));
     }
+    sisalto.rivit.push_back({std::move(rivi), kone.sKey});
   }
   for (std::size_t i = 0; i < summat.size(); ++i)
-    summarivi.push_back(kSarakkeet[i].summataan ? Luku(summat[i], kSarakkeet[i]) : "");
-  rivit.push_back(std::move(summarivi));
-  return rivit;
+    sisalto.summat.push_back(kSarakkeet[i].summataan ? Luku(summat[i], kSarakkeet[i]) : "");
+  return sisalto;
 }
 
 }  // namespace
@@ -111,9 +109,7 @@ void clsIVKoneet::LiitaTapahtumat() {
 
 void clsIVKoneet::LueDataluokka() try {
   Odotus odotus;
-  std::vector<Tunniste> avaimet;
-  for (const clsIVKone& kone : *this) avaimet.push_back(kone.sKey);
-  rivit_.arvo.Tayta(kayttoLiittyma_.arvo->lvwKoneet, std::move(avaimet), KoneidenRivit(*this));
+  kayttoLiittyma_.arvo->lvwKoneet.Tayta(KoneidenRivit(*this));
   PaivitaNapit();
 } catch (...) {
   NostaVirhe("clsIVKoneet:LueDataluokka Method");
@@ -127,7 +123,7 @@ void clsIVKoneet::ListaaKoneet() try {
 
 void clsIVKoneet::PaivitaNapit() { kayttoLiittyma_.arvo->PaivitaNapit(VaadiRakennus().Saastotoimenpiteet.Count() > 0); }
 
-clsIVKone& clsIVKoneet::ValittuKone() const { return Item(rivit_.arvo.Valittu(kayttoLiittyma_.arvo->lvwKoneet)); }
+clsIVKone& clsIVKoneet::ValittuKone() const { return Item(kayttoLiittyma_.arvo->lvwKoneet.Valittu()); }
 
 bool clsIVKoneet::Muokkaa(clsIVKone& kone) try {
   kone.LampoSahkoKulutusMuuttui.arvo = [this] { IVKone_LampoSahkoKulutusMuuttui(); };
@@ -139,7 +135,7 @@ bool clsIVKoneet::Muokkaa(clsIVKone& kone) try {
 void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() { VaadiRakennus().Muuttui(Teksti(kKoneenTiedot)); }
 
 void clsIVKoneet::Valitse(const Tunniste& avain) {
-  rivit_.arvo.Valitse(kayttoLiittyma_.arvo->lvwKoneet, avain);
+  kayttoLiittyma_.arvo->lvwKoneet.Valitse(avain);
   PaivitaNapit();
 }
 

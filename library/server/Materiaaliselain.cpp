@@ -94,7 +94,7 @@ void Materiaaliselain::Suodata() {
 
 void Materiaaliselain::Valitse(const std::string& id) {
   const auto it = std::ranges::find(naytetyt_, id, &Kirjastomateriaali::Id);
-  const int ensimmainen = naytetyt_.empty() ? -1 : KayttoLiittyma.lvwMateriaalit.Kohde().Jarjestys().front();
+  const int ensimmainen = naytetyt_.empty() ? -1 : KayttoLiittyma.lvwMateriaalit.Kohde().Lista().Jarjestys().front();
   KayttoLiittyma.lvwMateriaalit.Indeksi(it == naytetyt_.end() ? ensimmainen : static_cast<int>(it - naytetyt_.begin()));
   NaytaMateriaali();
 }

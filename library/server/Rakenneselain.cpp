@@ -105,7 +105,7 @@ void Rakenneselain::Suodata() {
 
 void Rakenneselain::Valitse(const std::string& id) {
   const auto it = std::ranges::find(naytetyt_, id, &Kirjastorakenne::Id);
-  const int ensimmainen = naytetyt_.empty() ? -1 : KayttoLiittyma.lvwRakenteet.Kohde().Jarjestys().front();
+  const int ensimmainen = naytetyt_.empty() ? -1 : KayttoLiittyma.lvwRakenteet.Kohde().Lista().Jarjestys().front();
   KayttoLiittyma.lvwRakenteet.Indeksi(it == naytetyt_.end() ? ensimmainen : static_cast<int>(it - naytetyt_.begin()));
   NaytaRakenne();
 }

@@ -16,7 +16,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <csignal>
 #include <filesystem>
 #include <functional>
@@ -233,7 +233,7 @@ TEST_F(Leikepoytatesti, FieldsThatCannotBeWrittenInAndListsAreCopiedOnly) {
   auto& summa = Ohjain<QLineEdit>("mnuLampo", "txtYhteensa");
   summa.selectAll();
   EXPECT_EQ(Voi(), "K");
-  Ohjain<QTreeWidget>("mnuRakennuksen_tilat", "lvwTilat");
+  Ohjain<QTreeView>("mnuRakennuksen_tilat", "lvwTilat");
   EXPECT_EQ(Voi(), "K");
   PainaTyokalua("mnuEditCopy");
   EXPECT_EQ(Leikepoyta().substr(0, 5), "Tila\t");
@@ -246,7 +246,7 @@ TEST_F(Leikepoytatesti, FieldsThatCannotBeWrittenInAndListsAreCopiedOnly) {
 TEST_F(Leikepoytatesti, WhatAFormCommitsCanBeUndoneByItsKeyAtOnce) {
   Ohjain<QPushButton>("mnuRakennuksen_tilat", "cmdKopioiTila").click();
   ASSERT_EQ(istunto.Rakennus()->Tilat.Count(), 2);
-  auto& luettelo = *ikkuna->findChild<QTreeWidget*>("lvwTilat");
+  auto& luettelo = *ikkuna->findChild<QTreeView*>("lvwTilat");
   luettelo.setFocus();
   QTest::keyClick(&luettelo, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(istunto.Rakennus()->Tilat.Count(), 1);

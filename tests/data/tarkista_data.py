@@ -100,9 +100,11 @@ class Tekstivarasto(unittest.TestCase):
         kaikki = tekstit()
         for tiedosto in lahdekoodit(".ui"):
             for ominaisuus in xml.parse(tiedosto).iter("property"):
-                tunnus = "".join(ominaisuus.itertext()).strip().split(",")[0]
-                if ominaisuus.get("name") in ("Tag", "ToolTipText") and re.fullmatch(r"[1-9]\d{3}", tunnus):
-                    self.assertIn(int(tunnus), kaikki, tiedosto)
+                if ominaisuus.get("name") not in ("Tag", "ToolTipText", "Sarakkeet"):
+                    continue
+                for teksti in ominaisuus.iter("string"):
+                    if tunnus := re.match(r"[1-9]\d{3}\b", teksti.text or ""):
+                        self.assertIn(int(tunnus[0]), kaikki, tiedosto)
 
     def test_choice_lists_have_their_rows(self):
         rivit = hae("StrVarasto.mdb", "SELECT frmName || '.' || cmbName, COUNT(*) FROM Combotaulu GROUP BY 1")

@@ -6,9 +6,10 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
-#include <QTreeWidget>
+#include <QTreeView>
 
 #include "tests/qt/Ikkunatesti.h"
 #include "ui/frmRakenteet.h"
@@ -18,33 +19,35 @@
 
 namespace {
 
-class Luettelo : public Ikkunatesti {
+class Luettelotesti : public Ikkunatesti {
  protected:
   static void Nayta(Lomake& lomake) {
     lomake.Nayta();
     ASSERT_TRUE(QTest::qWaitForWindowActive(Juuri(lomake).window()));
   }
-  static void Napsauta(QTreeWidget& lista, int rivi, Qt::KeyboardModifiers muunnin = {}) {
+  static void Napsauta(QTreeView& lista, int rivi, Qt::KeyboardModifiers muunnin = {}) {
     QTest::mouseClick(lista.viewport(), Qt::LeftButton, muunnin,
-                      lista.visualItemRect(lista.topLevelItem(rivi)).center());
+                      lista.visualRect(lista.model()->index(rivi, 0)).center());
     QCoreApplication::processEvents();
   }
-  static void NapsautaOtsikkoa(QTreeWidget& lista, int sarake) {
+  static void NapsautaOtsikkoa(QTreeView& lista, int sarake) {
     QHeaderView& otsikot = *lista.header();
     QTest::mouseClick(otsikot.viewport(), Qt::LeftButton, {},
                       QPoint(otsikot.sectionViewportPosition(sarake) + 10, otsikot.height() / 2));
   }
-  static QStringList Sarake(const QTreeWidget& lista, int sarake) {
+  static QStringList Sarake(const QTreeView& lista, int sarake) {
     QStringList solut;
-    for (int i = 0; i < lista.topLevelItemCount(); ++i) solut << lista.topLevelItem(i)->text(sarake);
+    for (QModelIndex i = lista.model()->index(0, sarake); i.isValid(); i = lista.indexBelow(i).siblingAtColumn(sarake))
+      solut << i.data().toString();
     return solut;
   }
+  static QString Valittu(const QTreeView& lista) { return lista.currentIndex().siblingAtColumn(0).data().toString(); }
   static QString Leikepoyta() { return QGuiApplication::clipboard()->text(); }
 
   QtViestit viestit_;
 };
 
-class Tilaluettelo : public Luettelo {
+class Tilaluettelo : public Luettelotesti {
  protected:
   Tilaluettelo() {
     lomake_.lvwTilat.Rivit({{"Öljyvarasto", "90"}, {"Sali", "1 000"}, {"Aula", "200"}});
@@ -54,7 +57,7 @@ class Tilaluettelo : public Luettelo {
     lomake_.PaivitaNapit(false);
     Nayta(lomake_);
   }
-  QTreeWidget& Lista() { return Etsi<QTreeWidget>(lomake_, "lvwTilat"); }
+  QTreeView& Lista() { return Etsi<QTreeView>(lomake_, "lvwTilat"); }
 
   frmTilaYhteenveto lomake_;
 };
@@ -63,7 +66,7 @@ TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
   NapsautaOtsikkoa(Lista(), 0);
   EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Aula", "Sali", "Öljyvarasto", "Yhteensä"}));
   EXPECT_EQ(lomake_.lvwTilat.Indeksi(), 0);
-  EXPECT_EQ(Lista().currentItem()->text(0), "Öljyvarasto") << "the chosen row moves with its number";
+  EXPECT_EQ(Valittu(Lista()), "Öljyvarasto") << "the chosen row moves with its number";
   NapsautaOtsikkoa(Lista(), 1);
   NapsautaOtsikkoa(Lista(), 1);
   EXPECT_EQ(Sarake(Lista(), 1), QStringList({"1 000", "200", "90", "1 290"}));
@@ -72,7 +75,7 @@ TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
   Napsauta(Lista(), 3);
   EXPECT_NE(lomake_.lvwTilat.Indeksi(), 3) << "the sums can't be chosen";
   QTest::keyClick(&Lista(), Qt::Key_End);
-  EXPECT_EQ(Lista().currentItem()->text(0), "Öljyvarasto");
+  EXPECT_EQ(Valittu(Lista()), "Öljyvarasto");
   lomake_.lvwTilat.Rivit({{"A", "1"}, {"B", "2"}});
   EXPECT_EQ(Sarake(Lista(), 1), QStringList({"2", "1", "1 290"})) << "new rows are sorted as the former were";
 }
@@ -80,12 +83,12 @@ TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
 TEST_F(Tilaluettelo, LajiteltuOtsikkoMahtuuNuolineenJaMuutSaavatTilansaTakaisin) {
   const auto leveydet = [this] {
     QList<int> kaikki;
-    for (int s = 0; s < Lista().columnCount(); ++s) kaikki << Lista().columnWidth(s);
+    for (int s = 0; s < Lista().model()->columnCount(); ++s) kaikki << Lista().columnWidth(s);
     return kaikki;
   };
   NapsautaOtsikkoa(Lista(), 0);
   const QList<int> alussa = leveydet();
-  for (int s = 1; s < Lista().columnCount(); ++s) {
+  for (int s = 1; s < Lista().model()->columnCount(); ++s) {
     NapsautaOtsikkoa(Lista(), s);
     EXPECT_GE(Lista().columnWidth(s), Lista().header()->sectionSizeHint(s)) << s;
   }
@@ -95,7 +98,7 @@ TEST_F(Tilaluettelo, LajiteltuOtsikkoMahtuuNuolineenJaMuutSaavatTilansaTakaisin)
 }
 
 TEST_F(Tilaluettelo, TeemanVaihtuessaSummaJaLukitutKentatSaavatSenVarit) {
-  const auto vari = [this] { return Lista().topLevelItem(3)->foreground(0).color(); };
+  const auto vari = [this] { return Lista().model()->index(3, 0).data(Qt::ForegroundRole).value<QBrush>().color(); };
   frmTila tila;
   Nayta(tila);
   QLineEdit& lukittu = Etsi<QLineEdit>(tila, "txtAikavakio");
@@ -131,12 +134,98 @@ TEST_F(Tilaluettelo, EnterJaKaksoisnapsautusMuokkaavatEivatkaSulje) {
   EXPECT_EQ(muokattu, 1);
   EXPECT_TRUE(lomake_.Auki());
   Napsauta(Lista(), 2);
-  QTest::mouseDClick(Lista().viewport(), Qt::LeftButton, {}, Lista().visualItemRect(Lista().topLevelItem(2)).center());
+  QTest::mouseDClick(Lista().viewport(), Qt::LeftButton, {}, Lista().visualRect(Lista().model()->index(2, 0)).center());
   EXPECT_EQ(muokattu, 2);
   EXPECT_EQ(lomake_.lvwTilat.Indeksi(), 2);
 }
 
-class Rakenneluettelo : public Luettelo {
+/// The same list as a tree: what comes with a row, and what the person does to it.
+class Puuluettelo : public Tilaluettelo {
+ protected:
+  Puuluettelo() { lomake_.lvwTilat.Tayta(Sisalto()); }
+  static Luettelosisalto Sisalto() {
+    return {{{{"Koulu", "1 200"}, "koulu", {}, {.lihava = true}},
+             {{"Sali", "1 000"}, "sali", "koulu", {.siirrettava = true, .muokattavat = {1}}},
+             {{"Aula", "200"}, "aula", "koulu", {.merkitys = Merkitys::Huomio, .merkitty = 1, .selite = "Liian pieni"}},
+             {{"Muut", "90"}, "muut", {}, {.suljettu = true}},
+             {{"Varasto", "90"}, "varasto", "muut"}},
+            {"Yhteensä", "1 290"}};
+  }
+  QModelIndex Paikka(const char* nimi, int sarake = 0) {
+    const auto loydetyt = Lista().model()->match(Lista().model()->index(0, 0), Qt::DisplayRole, QString(nimi), 1,
+                                                 Qt::MatchExactly | Qt::MatchRecursive);
+    return loydetyt.isEmpty() ? QModelIndex() : loydetyt[0].siblingAtColumn(sarake);
+  }
+};
+
+TEST_F(Puuluettelo, HaaratAukeavatNappaimillaJaPysyvatTaytettaessa) {
+  EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Koulu", "Sali", "Aula", "Muut", "Yhteensä"}));
+  TallennaKuva(lomake_, "_puu");
+  Lista().setCurrentIndex(Paikka("Muut"));
+  QTest::keyClick(&Lista(), Qt::Key_Right);
+  EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Koulu", "Sali", "Aula", "Muut", "Varasto", "Yhteensä"}));
+  QTest::keyClick(&Lista(), Qt::Key_K);
+  EXPECT_EQ(lomake_.lvwTilat.Valittu(), Tunniste("koulu")) << "a letter takes to the row";
+  QTest::keyClick(&Lista(), Qt::Key_Left);
+  Luettelosisalto sisalto = Sisalto();
+  sisalto.rivit.push_back({{"Uusi", "1"}, "uusi", "muut"});
+  lomake_.lvwTilat.Tayta(std::move(sisalto));
+  EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Koulu", "Muut", "Varasto", "Uusi", "Yhteensä"}));
+  EXPECT_EQ(Valittu(Lista()), "Koulu");
+}
+
+TEST_F(Puuluettelo, MerkitysNakyyMerkkinaJaSelitteenaEikaVainVarina) {
+  const QModelIndex aula = Paikka("Aula", 1);
+  EXPECT_FALSE(aula.data(Qt::DecorationRole).value<QIcon>().isNull());
+  EXPECT_EQ(aula.data(Qt::AccessibleDescriptionRole), "Liian pieni");
+  EXPECT_EQ(aula.data(Qt::ToolTipRole), "Liian pieni");
+  EXPECT_TRUE(aula.data(Qt::ForegroundRole).isValid());
+  EXPECT_FALSE(aula.siblingAtColumn(0).data(Qt::ForegroundRole).isValid()) << "the other cells are ordinary";
+  EXPECT_TRUE(Paikka("Koulu").data(Qt::FontRole).value<QFont>().bold());
+}
+
+TEST_F(Puuluettelo, SoluaMuokataanF2llaJaOhjelmaPaattaaMitaSiinaNakyy) {
+  lomake_.lvwTilat.KunMuokataan([this](int rivi, int sarake, const std::string& teksti) {
+    lomake_.lvwTilat.Rivi(rivi, {"Sali", std::to_string(sarake) + "/" + teksti});
+  });
+  Lista().setCurrentIndex(Paikka("Sali"));
+  QTest::keyClick(&Lista(), Qt::Key_F2);
+  auto* muokkain = Lista().findChild<QLineEdit*>();
+  ASSERT_TRUE(muokkain);
+  muokkain->selectAll();
+  QTest::keyClicks(muokkain, "950");
+  QTest::keyClick(muokkain, Qt::Key_Return);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Paikka("Sali", 1).data(), "1/950");
+  EXPECT_FALSE(Paikka("Aula", 1).flags().testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(Puuluettelo, RiviRaahataanSallitunRivinAlle) {
+  Tunniste siirretty, kohde;
+  const Luettelo& lista = lomake_.lvwTilat.Kohde().Lista();
+  lomake_.lvwTilat.KunSiirretaan([&](int, int ylempi) { return lista.Avain(ylempi) == Tunniste("muut"); },
+                                 [&](int rivi, int ylempi) {
+                                   siirretty = lista.Avain(rivi);
+                                   kohde = lista.Avain(ylempi);
+                                 });
+  Lista().setCurrentIndex(Paikka("Sali"));
+  QAbstractItemModel& malli = *Lista().model();
+  const std::unique_ptr<QMimeData> data(malli.mimeData({Paikka("Sali")}));
+  EXPECT_FALSE(malli.dropMimeData(data.get(), Qt::MoveAction, -1, -1, Paikka("Aula")));
+  EXPECT_TRUE(malli.dropMimeData(data.get(), Qt::MoveAction, -1, -1, Paikka("Muut")));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(siirretty, Tunniste("sali"));
+  EXPECT_EQ(kohde, Tunniste("muut"));
+  EXPECT_FALSE(Paikka("Aula").flags().testFlag(Qt::ItemIsDragEnabled));
+}
+
+TEST_F(Puuluettelo, NimisarakeSaaTilanJaKapeneeVasta) {
+  int muut = 0;
+  for (int s = 1; s < Lista().model()->columnCount(); ++s) muut += Lista().columnWidth(s);
+  EXPECT_EQ(Lista().columnWidth(0), Lista().viewport()->width() - muut);
+}
+
+class Rakenneluettelo : public Luettelotesti {
  protected:
   Rakenneluettelo() {
     lomake_.lvwRakenteet.Rivit({{"Seinä", "Ulkoseinä", "12"}, {"Ovi", "Ovi", "2"}});
@@ -145,7 +234,7 @@ class Rakenneluettelo : public Luettelo {
       if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("1");
     lomake_.PaivitaKentat({.valittu = true});
   }
-  QTreeWidget& Lista() { return Etsi<QTreeWidget>(lomake_, "lvwRakenteet"); }
+  QTreeView& Lista() { return Etsi<QTreeView>(lomake_, "lvwRakenteet"); }
 
   frmRakenteet lomake_;
 };
@@ -163,9 +252,10 @@ TEST_F(Rakenneluettelo, VirheellinenKenttaPalauttaaValinnan) {
   Napsauta(Lista(), 0);
   QCoreApplication::processEvents();
   EXPECT_EQ(valintoja, 1);
-  EXPECT_EQ(Lista().currentItem()->text(0), "Ovi");
-  EXPECT_EQ(Lista().selectedItems().size(), 1);
-  EXPECT_TRUE(Lista().topLevelItem(1)->isSelected()) << "what is shown as chosen is what the fields tell of";
+  EXPECT_EQ(Valittu(Lista()), "Ovi");
+  const QModelIndexList valitut = Lista().selectionModel()->selectedRows();
+  ASSERT_EQ(valitut.size(), 1);
+  EXPECT_EQ(valitut[0].row(), 1) << "what is shown as chosen is what the fields tell of";
 }
 
 TEST_F(Rakenneluettelo, LiitetytRivitTulevatLomakkeelle) {

@@ -34,7 +34,7 @@ constexpr const char* kKoelomake = R"(<?xml version="1.0" encoding="UTF-8"?>
 <widget class="QWidget" name="sivu2"><property name="Tag" stdset="0"><string>2143</string></property>
 <layout class="QVBoxLayout"><item><widget class="QLineEdit" name="txtPiilossa"><property name="Tag" stdset="0"><string>,n,0,</string></property></widget></item></layout>
 </widget></widget></item>
-<item><widget class="QTreeWidget" name="lvwRivit"><column><property name="text"><string>9183</string></property></column></widget></item>
+<item><widget class="QTreeView" name="lvwRivit"><property name="Sarakkeet"><stringlist><string>9183</string></stringlist></property></widget></item>
 <item><widget class="QPushButton" name="cmdLisaaRivi"><property name="Tag" stdset="0"><string>2144</string></property><property name="ToolTipText" stdset="0"><string>9179</string></property></widget></item>
 <item><widget class="QPushButton" name="cmdMuuta"/></item>
 </layout></widget></ui>)";

@@ -6,7 +6,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QScreen>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <algorithm>
 #include <stdexcept>
 
@@ -57,7 +57,7 @@ void Laajenna(QWidget& paaikkuna, const QSize& puuttuu) {
 /// Lists are made as wide as their columns; on a small screen they scroll.
 void KutistaLuettelot(const QWidget& lomake) {
   constexpr QSize kPienin{240, 100};
-  for (QTreeWidget* lista : lomake.findChildren<QTreeWidget*>()) lista->setMinimumSize(kPienin);
+  for (QTreeView* lista : lomake.findChildren<QTreeView*>()) lista->setMinimumSize(kPienin);
 }
 
 }  // namespace

@@ -6,18 +6,15 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QProxyStyle>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr int kRivinumero = Qt::UserRole;  // of a display row: the number of the row, -1 for the sums
-constexpr int kLeveinSarake = 40;          // at first, in letters
-constexpr int kKapeinNimi = 16;            // of the first column, when the others need the room
-
-QString Q(std::string_view teksti) { return QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())); }
+constexpr auto kRivinValinta = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 
 bool OnOmaNappain(const QKeyEvent& tapahtuma) {
   return tapahtuma.matches(QKeySequence::Copy) || tapahtuma.matches(QKeySequence::Paste);
@@ -44,39 +41,57 @@ class Ilmavasti : public QProxyStyle {
 
 }  // namespace
 
-QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista)
-    : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista) {
-  for (int s = 0; s < lista.columnCount(); ++s)
-    tasaukset_.push_back(Qt::Alignment(lista.headerItem()->textAlignment(s)));
+QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeView& lista)
+    : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista), malli_(*this, lista), leveydet_(lista, Lista()) {
+  Asetukset();
+  Kuuntele();
+}
+
+/// The widget outlives the control a moment.
+QtListView::~QtListView() {
+  if (Widget()) lista_.setModel(nullptr);
+}
+
+void QtListView::Asetukset() {
   auto* tyyli = new Ilmavasti(QApplication::style()->name());
-  tyyli->setParent(&lista);
-  for (QWidget* osa : std::initializer_list<QWidget*>{&lista, lista.header()}) osa->setStyle(tyyli);
-  lista.setRootIsDecorated(false);
-  lista.setUniformRowHeights(true);
-  lista.setAllColumnsShowFocus(true);
-  lista.setSelectionMode(QAbstractItemView::ExtendedSelection);
-  const bool lajiteltava = lista.property("Lajiteltava") != QVariant(false);
-  lista.header()->setSectionsClickable(lajiteltava);
-  connect(&lista, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rivi) { RiviValittu(rivi); });
-  connect(&lista, &QTreeWidget::itemDoubleClicked, this, [this] {
-    if (Indeksi() >= 0) KayttajaPainaa();
-  });
-  connect(lista.header(), &QHeaderView::sectionClicked, this, [this](int sarake) { KayttajaLajittelee(sarake); });
-  lista.installEventFilter(this);
+  tyyli->setParent(&lista_);
+  for (QWidget* osa : std::initializer_list<QWidget*>{&lista_, lista_.header()}) osa->setStyle(tyyli);
+  lista_.setModel(&malli_);
+  lista_.setRootIsDecorated(false);
+  lista_.setUniformRowHeights(true);
+  lista_.setAllColumnsShowFocus(true);
+  lista_.setSelectionMode(QAbstractItemView::ExtendedSelection);
+  lista_.setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
+  lista_.setExpandsOnDoubleClick(false);
+  lista_.setDragDropMode(QAbstractItemView::InternalMove);
+  lista_.setDragEnabled(true);
+  lista_.header()->setSectionsClickable(lista_.property("Lajiteltava") != QVariant(false));
+}
+
+void QtListView::Kuuntele() {
+  connect(lista_.selectionModel(), &QItemSelectionModel::currentRowChanged, this, &QtListView::RiviValittu);
+  connect(&lista_, &QTreeView::doubleClicked, this, &QtListView::RiviaPainettu);
+  for (const auto& [merkki, auki] : {std::pair{&QTreeView::expanded, true}, {&QTreeView::collapsed, false}})
+    connect(&lista_, merkki, this, [this, auki = auki](const QModelIndex& paikka) {
+      if (!hiljaa_) KayttajaAvaa(malli_.Rivi(paikka), auki);
+    });
+  connect(lista_.header(), &QHeaderView::sectionClicked, this, [this](int sarake) { KayttajaLajittelee(sarake); });
+  lista_.installEventFilter(this);
 }
 
 bool QtListView::KopioiLeikepoydalle() {
-  QGuiApplication::clipboard()->setText(Q(RivitTekstina({})));
+  QGuiApplication::clipboard()->setText(QString::fromStdString(RivitTekstina({})));
   return true;
 }
 
-void QtListView::KopioiValitut() const { QGuiApplication::clipboard()->setText(Q(RivitTekstina(ValitutRivit()))); }
+void QtListView::KopioiValitut() const {
+  QGuiApplication::clipboard()->setText(QString::fromStdString(RivitTekstina(ValitutRivit())));
+}
 
 void QtListView::Liita() { KayttajaLiittaa(QGuiApplication::clipboard()->text().toStdString()); }
 
-/// The main window's menu has the same keys: the list asks for them first. The sums have the colour of the theme.
+/// The main window's menu has the same keys: the list asks for them first.
 bool QtListView::eventFilter(QObject* kohde, QEvent* tapahtuma) {
-  if (tapahtuma->type() == QEvent::PaletteChange) NaytaSummarivi();
   const bool esto = tapahtuma->type() == QEvent::ShortcutOverride;
   if (!esto && tapahtuma->type() != QEvent::KeyPress) return QtOhjain::eventFilter(kohde, tapahtuma);
   const auto& nappain = static_cast<const QKeyEvent&>(*tapahtuma);
@@ -86,151 +101,108 @@ bool QtListView::eventFilter(QObject* kohde, QEvent* tapahtuma) {
 }
 
 bool QtListView::Nappain(const QKeyEvent& tapahtuma) {
-  const bool enter = tapahtuma.key() == Qt::Key_Return || tapahtuma.key() == Qt::Key_Enter;
-  if (enter && Indeksi() >= 0)
+  const int nappi = tapahtuma.key();
+  const bool ilman = tapahtuma.modifiers() == Qt::NoModifier;
+  if ((nappi == Qt::Key_Return || nappi == Qt::Key_Enter) && Indeksi() >= 0)
     KayttajaPainaa();
   else if (tapahtuma.matches(QKeySequence::Copy))
     KopioiValitut();
   else if (tapahtuma.matches(QKeySequence::Paste))
     Liita();
+  else if (nappi == Qt::Key_Insert && ilman && Lisattava)
+    KayttajaLisaa();
+  else if (nappi == Qt::Key_Delete && ilman && Poistettava)
+    KayttajaPoistaa();
   else
-    return false;
+    return nappi == Qt::Key_F2 && MuokkaaSolua();
+  return true;
+}
+
+/// Begins the editing of the current cell, or of the first one of its row that can be written in.
+bool QtListView::MuokkaaSolua() {
+  const QModelIndex nykyinen = lista_.currentIndex();
+  if (Indeksi() < 0 || Lista().Piirteet(Indeksi()).muokattavat.empty()) return false;
+  if (!Lista().Muokattava(Indeksi(), nykyinen.column()))
+    lista_.setCurrentIndex(nykyinen.siblingAtColumn(Lista().Piirteet(Indeksi()).muokattavat.front()));
+  lista_.edit(lista_.currentIndex());
   return true;
 }
 
 /// A form may refuse the row and go back to the former one. The toolkit is still selecting then: the choice is shown
 /// afterwards.
-void QtListView::RiviValittu(const QTreeWidgetItem* rivi) {
-  const int valittu = rivi ? rivi->data(0, kRivinumero).toInt() : -1;
+void QtListView::RiviValittu(const QModelIndex& paikka) {
+  if (hiljaa_) return;
+  const int valittu = malli_.Rivi(paikka);
   KayttajaValitsee(valittu);
-  if (Indeksi() == valittu) return;
-  QTimer::singleShot(0, this, [this] {
-    const QSignalBlocker esto(lista_);
-    lista_.setCurrentItem(RivinPaikka(Indeksi()), 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  });
+  if (Indeksi() != valittu) QTimer::singleShot(0, this, [this] { NaytaPiirre(Piirre::Indeksi); });
+}
+
+/// A cell that can be written in is being edited now.
+void QtListView::RiviaPainettu(const QModelIndex& paikka) {
+  if (Indeksi() >= 0 && !Lista().Muokattava(malli_.Rivi(paikka), paikka.column())) KayttajaPainaa();
 }
 
 void QtListView::NaytaPiirre(Piirre piirre) {
-  const QSignalBlocker esto(lista_);
-  if (piirre == Piirre::Osat) NaytaOtsikot();
-  if (piirre == Piirre::Rivit) NaytaRivit();
-  if (piirre == Piirre::Indeksi || piirre == Piirre::Rivit) NaytaIndeksi();
+  const QScopedValueRollback esto(hiljaa_, true);
+  switch (piirre) {
+    case Piirre::Osat:
+      malli_.OtsikotMuuttuivat();
+      return leveydet_.Jaa();
+    case Piirre::Rivit:
+      return NaytaRivit();
+    case Piirre::Summat:
+      malli_.SummatMuuttuivat();
+      return leveydet_.MittaaRivi(Lista().Maara());
+    case Piirre::Avattu:
+      return NaytaHaarat();
+    case Piirre::Indeksi:
+      return NaytaIndeksi();
+    default:
+      return;
+  }
 }
 
-void QtListView::NaytaOtsikot() {
-  QStringList otsikot;
-  for (const Osa& sarake : Osat()) otsikot << Q(sarake.otsikko);
-  lista_.setHeaderLabels(otsikot);
+void QtListView::PaivitaRivi(int rivi) {
+  if (!Widget()) return;
+  malli_.RiviMuuttui(rivi);
+  leveydet_.MittaaRivi(rivi);
 }
 
-/// Display rows are reused: the form may fill the list while the person is choosing a row.
+/// The list stays scrolled where the person had it, unless the chosen row would lie outside.
 void QtListView::NaytaRivit() {
-  const auto rivia = static_cast<int>(Jarjestys().size()) + (Summarivi().empty() ? 0 : 1);
-  while (lista_.topLevelItemCount() > rivia) delete lista_.takeTopLevelItem(rivia);
-  while (lista_.topLevelItemCount() < rivia) lista_.addTopLevelItem(new QTreeWidgetItem);
-  for (int s = 0; s < lista_.columnCount(); ++s) lista_.headerItem()->setTextAlignment(s, Tasaus(s));
-  int paikka = 0;
-  for (const int rivi : Jarjestys()) {
-    lista_.topLevelItem(paikka)->setData(0, kRivinumero, rivi);
-    NaytaRivi(paikka++, Rivit()[static_cast<std::size_t>(rivi)]);
-  }
-  NaytaSummarivi();
-  lista_.header()->setSortIndicatorShown(Lajiteltu().sarake >= 0);
-  lista_.header()->setSortIndicator(Lajiteltu().sarake, Lajiteltu().laskeva ? Qt::DescendingOrder : Qt::AscendingOrder);
-  if (rivia > 0) MitoitaSarakkeet();
-  if (Lajiteltu().sarake >= 0) SovitaNuoli(Lajiteltu().sarake);
+  const int vieritys = lista_.verticalScrollBar()->value();
+  malli_.RivitVaihtuivat();
+  lista_.setRootIsDecorated(Lista().OnPuu());
+  NaytaHaarat();
+  NaytaIndeksi();
+  NaytaLajittelu();
+  leveydet_.Mittaa();
+  if (vieritys == 0 || Indeksi() < 0) return;
+  lista_.verticalScrollBar()->setValue(vieritys);
+  lista_.scrollTo(lista_.currentIndex());
 }
 
-void QtListView::NaytaRivi(int paikka, const std::vector<std::string>& solut) {
-  QTreeWidgetItem& rivi = *lista_.topLevelItem(paikka);
-  rivi.setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-  for (int s = 0; s < lista_.columnCount(); ++s) {
-    const QString teksti = Q(Solu(solut, static_cast<std::size_t>(s)));
-    rivi.setText(s, teksti);
-    rivi.setToolTip(s, teksti);
-    rivi.setTextAlignment(s, Tasaus(s));
-    rivi.setData(s, Qt::FontRole, {});
-    rivi.setData(s, Qt::ForegroundRole, {});
-  }
+void QtListView::NaytaHaarat() {
+  if (!Lista().OnPuu()) return;
+  for (int rivi = 0; rivi < Lista().Maara(); ++rivi)
+    if (!Lista().Alemmat(rivi).empty()) lista_.setExpanded(malli_.Paikka(rivi), !Lista().Suljettu(rivi));
 }
 
-void QtListView::NaytaSummarivi() {
-  const int paikka = static_cast<int>(Jarjestys().size());
-  QTreeWidgetItem* rivi = lista_.topLevelItem(paikka);
-  if (Summarivi().empty() || !rivi) return;
-  NaytaRivi(paikka, Summarivi());
-  QFont lihava = lista_.font();
-  lihava.setBold(true);
-  rivi->setData(0, kRivinumero, -1);
-  rivi->setFlags(Qt::NoItemFlags);
-  for (int s = 0; s < lista_.columnCount(); ++s) {
-    rivi->setFont(s, lihava);
-    rivi->setForeground(s, lista_.palette().brush(QPalette::Active, QPalette::Text));
-  }
-}
-
-Qt::Alignment QtListView::Tasaus(int sarake) const {
-  const auto s = static_cast<std::size_t>(sarake);
-  return (OnLukusarake(Rivit(), s) ? Qt::AlignRight : tasaukset_[s]) | Qt::AlignVCenter;
+void QtListView::NaytaLajittelu() {
+  const Lajittelu& lajittelu = Lista().Lajiteltu();
+  lista_.header()->setSortIndicatorShown(lajittelu.sarake >= 0);
+  lista_.header()->setSortIndicator(lajittelu.sarake, lajittelu.laskeva ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void QtListView::NaytaIndeksi() {
-  QTreeWidgetItem* rivi = RivinPaikka(Indeksi());
-  if (lista_.currentItem() != rivi || (rivi && !rivi->isSelected()))
-    lista_.setCurrentItem(rivi, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-}
-
-/// Once for the first rows, and once more for the first sums, which are longer and bold; then the widths are the
-/// person's.
-void QtListView::MitoitaSarakkeet() {
-  if (mitoitettu_ && (summatMitoitettu_ || Summarivi().empty())) return;
-  mitoitettu_ = true;
-  summatMitoitettu_ = !Summarivi().empty();
-  const int merkki = lista_.fontMetrics().averageCharWidth();
-  for (int s = 0; s < lista_.columnCount(); ++s) {
-    lista_.resizeColumnToContents(s);
-    lista_.setColumnWidth(s, std::min(lista_.columnWidth(s), kLeveinSarake * merkki));
-  }
-  KavennaNimi();
-}
-
-/// Room for the heading with the arrow; the column that had it before gives its room back.
-void QtListView::SovitaNuoli(int sarake) {
-  if (nuoli_.sarake >= 0) lista_.setColumnWidth(nuoli_.sarake, lista_.columnWidth(nuoli_.sarake) - nuoli_.lisa);
-  lista_.setColumnWidth(0, lista_.columnWidth(0) + nuoli_.nimesta);
-  const int lisa = std::max(lista_.header()->sectionSizeHint(sarake) - lista_.columnWidth(sarake), 0);
-  const int nimi = lista_.columnWidth(0);
-  lista_.setColumnWidth(sarake, lista_.columnWidth(sarake) + lisa);
-  if (sarake > 0) KavennaNimi();
-  nuoli_ = {sarake, lisa, sarake > 0 ? nimi - lista_.columnWidth(0) : 0};
-}
-
-/// Width that the columns need. The last one is drawn wider, to the end of the list.
-int QtListView::Tarve() const {
-  const int viimeinen = lista_.columnCount() - 1;
-  const int sisalto = static_cast<const QAbstractItemView&>(lista_).sizeHintForColumn(viimeinen);
-  int tarve = std::max(sisalto, lista_.header()->sectionSizeHint(viimeinen));
-  for (int s = 0; s < viimeinen; ++s) tarve += lista_.columnWidth(s);
-  return tarve;
-}
-
-/// The first column gives room to the others, as far as it can.
-void QtListView::KavennaNimi() {
-  const int merkki = lista_.fontMetrics().averageCharWidth();
-  const int tilaa = std::max(lista_.viewport()->width(), lista_.minimumWidth() - 2 * lista_.frameWidth());
-  const int kapein = std::min(lista_.columnWidth(0), kKapeinNimi * merkki);
-  if (const int ylitys = Tarve() - tilaa; ylitys > 0)
-    lista_.setColumnWidth(0, std::max(lista_.columnWidth(0) - ylitys, kapein));
-}
-
-QTreeWidgetItem* QtListView::RivinPaikka(int indeksi) const {
-  for (int i = 0; i < lista_.topLevelItemCount() && indeksi >= 0; ++i)
-    if (lista_.topLevelItem(i)->data(0, kRivinumero).toInt() == indeksi) return lista_.topLevelItem(i);
-  return nullptr;
+  const QModelIndex paikka = malli_.Paikka(Indeksi());
+  const bool sama = malli_.Rivi(lista_.currentIndex()) == Indeksi();
+  if (!sama || (paikka.isValid() && !lista_.selectionModel()->isSelected(paikka)))
+    lista_.selectionModel()->setCurrentIndex(paikka, kRivinValinta);
 }
 
 std::vector<int> QtListView::ValitutRivit() const {
   std::vector<int> rivit;
-  for (const QTreeWidgetItem* rivi : lista_.selectedItems()) rivit.push_back(rivi->data(0, kRivinumero).toInt());
+  for (const QModelIndex& paikka : lista_.selectionModel()->selectedRows()) rivit.push_back(malli_.Rivi(paikka));
   return rivit;
 }

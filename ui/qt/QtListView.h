@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include <QTreeWidget>
+#include <QTreeView>
 
+#include "ui/qt/Luettelomalli.h"
 #include "ui/qt/QtOhjain.h"
+#include "ui/qt/Sarakeleveydet.h"
 
-/// A list with columns. A click on a heading sorts it, Ctrl+C copies the selected rows (all when none is), Ctrl+V gives
-/// rows to the form, Enter and a double click press it.
+/// A list or a tree with columns. A click on a heading sorts it, Ctrl+C copies the selected rows (all when none is),
+/// Ctrl+V gives rows to the form, Enter and a double click press it, F2 and a double click on a cell that can be
+/// written in edit it, Insert and Delete ask for a new row and for the chosen one's removal.
 class QtListView : public QtOhjain {
  public:
-  QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeWidget& lista);
+  QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeView& lista);
+  ~QtListView() override;
 
   bool KopioiLeikepoydalle() override;
   /// Puts the selected rows on the clipboard; all rows and the sums when none is selected.
@@ -19,30 +23,23 @@ class QtListView : public QtOhjain {
 
  protected:
   void NaytaPiirre(Piirre piirre) override;
+  void PaivitaRivi(int rivi) override;
 
  private:
-  void NaytaOtsikot();
+  void Asetukset();
+  void Kuuntele();
   void NaytaRivit();
-  void NaytaRivi(int paikka, const std::vector<std::string>& solut);
+  void NaytaHaarat();
+  void NaytaLajittelu();
   void NaytaIndeksi();
-  void NaytaSummarivi();
-  void MitoitaSarakkeet();
-  void SovitaNuoli(int sarake);
-  int Tarve() const;
-  void KavennaNimi();
-  void RiviValittu(const QTreeWidgetItem* rivi);
+  void RiviValittu(const QModelIndex& paikka);
+  void RiviaPainettu(const QModelIndex& paikka);
   bool Nappain(const QKeyEvent& tapahtuma);
-  QTreeWidgetItem* RivinPaikka(int indeksi) const;
+  bool MuokkaaSolua();
   std::vector<int> ValitutRivit() const;
-  Qt::Alignment Tasaus(int sarake) const;
 
-  QTreeWidget& lista_;
-  std::vector<Qt::Alignment> tasaukset_;  // of the columns of texts, as the form file has them
-  bool mitoitettu_ = false;               // later the widths are the person's
-  bool summatMitoitettu_ = false;
-  struct {
-    int sarake = -1;
-    int lisa = 0;     // what the sort arrow has widened the column by
-    int nimesta = 0;  // and what of it came from the first column
-  } nuoli_;
+  QTreeView& lista_;
+  Luettelomalli malli_;
+  Sarakeleveydet leveydet_;
+  bool hiljaa_ = false;  // the program is changing what the view shows
 };

@@ -12,7 +12,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <utility>
 
 #include "kernel/Kirjainkoko.h"
@@ -227,9 +227,8 @@ std::vector<Osa> LueOsat(QWidget& widget) {
   if (auto* sivut = dynamic_cast<QTabWidget*>(&widget))
     for (int i = 0; i < sivut->count(); ++i)
       osat.push_back({{}, {}, Ominaisuus(*sivut->widget(i), "Tag"), Ominaisuus(*sivut->widget(i), "ToolTipText")});
-  if (auto* lista = dynamic_cast<QTreeWidget*>(&widget))
-    for (int i = 0; i < lista->columnCount(); ++i)
-      osat.push_back({{}, {}, lista->headerItem()->text(i).toStdString(), {}});
+  for (const QString& sarake : widget.property("Sarakkeet").toStringList())
+    osat.push_back(Sarakkeeksi(sarake.toStdString()));
   return osat;
 }
 
@@ -301,7 +300,7 @@ std::unique_ptr<QtOhjain> TeeOhjain(Lomakeikkuna& ikkuna, QWidget& widget) {
     case Ohjaintyyppi::TabStrip:
       return Tee<QtTabStrip, QTabWidget>(ikkuna, widget, tyyppi);
     case Ohjaintyyppi::ListView:
-      return Tee<QtListView, QTreeWidget>(ikkuna, widget, tyyppi);
+      return Tee<QtListView, QTreeView>(ikkuna, widget, tyyppi);
     case Ohjaintyyppi::MSChart:
       return Tee<QtMSChart, Kaaviokuva>(ikkuna, widget, tyyppi);
     case Ohjaintyyppi::Image:

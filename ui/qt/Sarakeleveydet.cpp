@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/qt/Sarakeleveydet.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <algorithm>
+#include <vector>
+
+#include "ui/Luettelo.h"
+
+namespace {
+
+constexpr int kLeveinSarake = 40;        // of any but the first column, in letters
+constexpr int kKapeinNimi = 16;          // of the first column, when the others need the room
+constexpr std::size_t kMitattavia = 12;  // cells of a column, the longest ones
+
+std::size_t Koko(int luku) { return static_cast<std::size_t>(luku); }
+
+/// Rows with the longest texts of the column: one of them is the widest, or nearly.
+std::vector<int> PisimmatSolut(const Taulukko& solut, std::size_t sarake) {
+  std::vector<int> rivit(solut.size());
+  for (std::size_t i = 0; i < rivit.size(); ++i) rivit[i] = static_cast<int>(i);
+  const auto loppu = rivit.begin() + static_cast<std::ptrdiff_t>(std::min(kMitattavia, rivit.size()));
+  std::ranges::partial_sort(rivit, loppu, std::greater(),
+                            [&](int rivi) { return Solu(solut[Koko(rivi)], sarake).size(); });
+  rivit.erase(loppu, rivit.end());
+  return rivit;
+}
+
+}  // namespace
+
+Sarakeleveydet::Sarakeleveydet(QTreeView& nakyma, const Luettelo& lista) : nakyma_(nakyma), lista_(lista) {
+  nakyma.header()->setStretchLastSection(false);
+  connect(nakyma.header(), &QHeaderView::sectionResized, this, [this] { omat_ = omat_ || !jaetaan_; });
+  nakyma.viewport()->installEventFilter(this);
+}
+
+/// A list that hasn't been shown has no width of its own yet.
+bool Sarakeleveydet::eventFilter(QObject* kohde, QEvent* tapahtuma) {
+  if (tapahtuma->type() == QEvent::Resize) Jaa();
+  return QObject::eventFilter(kohde, tapahtuma);
+}
+
+void Sarakeleveydet::Mittaa() {
+  sisallot_.fill(0, nakyma_.header()->count());
+  for (int s = 0; s < sisallot_.size(); ++s) MittaaSarake(s);
+  Jaa();
+}
+
+void Sarakeleveydet::MittaaSarake(int sarake) {
+  for (const int rivi : PisimmatSolut(lista_.Solut(), Koko(sarake)))
+    sisallot_[sarake] = std::max(sisallot_[sarake], SolunLeveys(rivi, sarake));
+  if (!lista_.Summat().empty()) sisallot_[sarake] = std::max(sisallot_[sarake], SolunLeveys(lista_.Maara(), sarake));
+}
+
+void Sarakeleveydet::MittaaRivi(int rivi) {
+  bool leveni = false;
+  for (int s = 0; s < sisallot_.size(); ++s)
+    if (const int leveys = SolunLeveys(rivi, s); leveys > sisallot_[s]) {
+      sisallot_[s] = leveys;
+      leveni = true;
+    }
+  if (leveni) Jaa();
+}
+
+/// Width of the text with the air around it, the sign and the indent of the tree.
+int Sarakeleveydet::SolunLeveys(int rivi, int sarake) const {
+  const bool summa = rivi == lista_.Maara();
+  const auto& solut = summa ? lista_.Summat() : lista_.Solut()[Koko(rivi)];
+  const std::string_view teksti = Solu(solut, Koko(sarake));
+  if (teksti.empty()) return 0;
+  QFont fontti = nakyma_.font();
+  fontti.setBold(summa || lista_.Piirteet(rivi).lihava);
+  const int ilma = 2 * (nakyma_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &nakyma_) + 1);
+  int leveys = ilma + QFontMetrics(fontti).horizontalAdvance(
+                          QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())));
+  if (summa) return leveys;
+  const Rivipiirteet& piirteet = lista_.Piirteet(rivi);
+  if (piirteet.merkitys != Merkitys::Tavallinen && sarake == std::max(piirteet.merkitty, 0))
+    leveys += ilma + nakyma_.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &nakyma_);
+  if (sarake > 0 || !lista_.OnPuu()) return leveys;
+  for (int r = rivi; r >= 0; r = lista_.Ylempi(r)) leveys += nakyma_.indentation();
+  return leveys;
+}
+
+int Sarakeleveydet::Tarve(int sarake) const {
+  const int levein = kLeveinSarake * nakyma_.fontMetrics().averageCharWidth();
+  const int sisalto = sarake < sisallot_.size() ? sisallot_[sarake] : 0;
+  return std::max(sarake == 0 ? sisalto : std::min(sisalto, levein), nakyma_.header()->sectionSizeHint(sarake));
+}
+
+void Sarakeleveydet::Jaa() {
+  const int maara = nakyma_.header()->count();
+  if (omat_ || jaetaan_ || maara == 0) return;
+  jaetaan_ = true;
+  int muut = 0;
+  for (int s = 1; s < maara; ++s) {
+    const int leveys = Tarve(s);
+    nakyma_.setColumnWidth(s, leveys);
+    muut += leveys;
+  }
+  const int kapein = std::min(Tarve(0), kKapeinNimi * nakyma_.fontMetrics().averageCharWidth());
+  nakyma_.setColumnWidth(0, std::max(nakyma_.viewport()->width() - muut, kapein));
+  jaetaan_ = false;
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <QList>
+#include <QTreeView>
+
+class Luettelo;
+
+/// The widths of a list's columns: each as its contents and heading need, the first one, which holds the names, takes
+/// what is left over or gives what is lacking. When the person has dragged a border, the widths are the person's.
+class Sarakeleveydet : public QObject {
+ public:
+  Sarakeleveydet(QTreeView& nakyma, const Luettelo& lista);
+
+  /// After the rows have changed: measures all.
+  void Mittaa();
+  /// After the cells of a row (the number of rows: of the sums) have changed.
+  void MittaaRivi(int rivi);
+  /// Shares out the room; also after a change of the sorting, whose arrow takes room.
+  void Jaa();
+  bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
+
+ private:
+  void MittaaSarake(int sarake);
+  int SolunLeveys(int rivi, int sarake) const;
+  int Tarve(int sarake) const;
+
+  QTreeView& nakyma_;
+  const Luettelo& lista_;
+  QList<int> sisallot_;  // widths of the contents, pixels
+  bool omat_ = false;    // the person's
+  bool jaetaan_ = false;
+};
