@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QStyleOptionHeader>
 #include <algorithm>
 #include <vector>
 
@@ -83,10 +84,21 @@ int Sarakeleveydet::SolunLeveys(int rivi, int sarake) const {
   return leveys;
 }
 
+/// The toolkit's own hint has room for the sort arrow in every heading as soon as one has it.
+int Sarakeleveydet::OtsikonLeveys(int sarake) const {
+  const QHeaderView& otsikot = *nakyma_.header();
+  QStyleOptionHeader option;
+  option.initFrom(&otsikot);
+  option.section = sarake;
+  option.text = nakyma_.model()->headerData(sarake, Qt::Horizontal).toString();
+  if (lista_.Lajiteltu().sarake == sarake) option.sortIndicator = QStyleOptionHeader::SortDown;
+  return otsikot.style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), &otsikot).width();
+}
+
 int Sarakeleveydet::Tarve(int sarake) const {
   const int levein = kLeveinSarake * nakyma_.fontMetrics().averageCharWidth();
   const int sisalto = sarake < sisallot_.size() ? sisallot_[sarake] : 0;
-  return std::max(sarake == 0 ? sisalto : std::min(sisalto, levein), nakyma_.header()->sectionSizeHint(sarake));
+  return std::max(sarake == 0 ? sisalto : std::min(sisalto, levein), OtsikonLeveys(sarake));
 }
 
 void Sarakeleveydet::Jaa() {

@@ -22,6 +22,7 @@ class Sarakeleveydet : public QObject {
  private:
   void MittaaSarake(int sarake);
   int SolunLeveys(int rivi, int sarake) const;
+  int OtsikonLeveys(int sarake) const;
   int Tarve(int sarake) const;
 
   QTreeView& nakyma_;
