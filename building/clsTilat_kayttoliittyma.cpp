@@ -136,7 +136,7 @@ void clsTilat::KayttoLiittyma_LisaaKlikattu() try {
   tila.TilanKayttoaikaStr = Valintalista("frmTila", "cmbTilanKayttoaika").at(0);
   tila.SaatotapaStr = Valintalista("frmTila", "cmbSaatotapa").at(1);
   if (tila.NaytaKayttoliittyma()) {
-    rivit_.arvo.Valitse(kayttoLiittyma_.arvo->lvwTilat, avain);
+    kayttoLiittyma_.arvo->lvwTilat.Valitse(avain);
     return PaivitaNapit();
   }
   Remove(avain);

@@ -60,9 +60,5 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
 
   Oma<double> jalkilammitys_;
   Oma<std::shared_ptr<frmIVKoneYhteenveto>> kayttoLiittyma_;
-<<<<<<< HEAD
-  Oma<Avainluettelo> rivit_;
   Oma<Muutostilaus> tilaus_;
-=======
->>>>>>> e7c1a97 (Rows of lists as a model: keys, a tree, editable cells, dragging; Qt's own tree view shows them and changes one row at a time)
 };

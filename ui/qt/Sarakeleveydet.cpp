@@ -90,6 +90,9 @@ int Sarakeleveydet::OtsikonLeveys(int sarake) const {
   QStyleOptionHeader option;
   option.initFrom(&otsikot);
   option.section = sarake;
+  QFont lihava = otsikot.font();
+  lihava.setBold(true);  // of the column that the current row stands in
+  option.fontMetrics = QFontMetrics(lihava);
   option.text = nakyma_.model()->headerData(sarake, Qt::Horizontal).toString();
   if (lista_.Lajiteltu().sarake == sarake) option.sortIndicator = QStyleOptionHeader::SortDown;
   return otsikot.style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), &otsikot).width();
