@@ -8,6 +8,8 @@
 #include <iostream>
 #include <string>
 
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Versio.h"
 #include "settings/Asetusavaimet.h"
@@ -47,7 +49,12 @@ Kirjastoyhteystiedot KirjastojenPaikat() {
   return {.koti = AppPath(),
           .ohjelma = Kirjastopalvelinohjelma(),
           .kayttajanKanta = [] { return Asetukset().strKayttajanTietokanta; },
-          .vakiokanta = [] { return Asetukset().strVakioTietokanta; }};
+          .vakiokanta = [] { return Asetukset().strVakioTietokanta; },
+          .valmistumisvuosi =
+              [] {
+                const clsRakennus* rakennus = GlobaaliRakennus();
+                return rakennus ? rakennus->Perustiedot.ValmistumisVuosi : 0;
+              }};
 }
 
 /// The welcome page of the guide, once per user.

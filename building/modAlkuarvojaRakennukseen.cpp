@@ -17,6 +17,7 @@
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 
@@ -67,13 +68,7 @@ std::int32_t RajoittuminenTyypista(std::int32_t rakennetyyppi) {
   }
 }
 
-std::unique_ptr<Rakennekirjasto> AvaaKirjasto() {
-  try {
-    return std::make_unique<Rakennekirjasto>(Asetukset().strKayttajanTietokanta, Asetukset().strVakioTietokanta);
-  } catch (const std::exception&) {
-    return nullptr;  // the structures then get the U-values of the table
-  }
-}
+Rakennekirjasto AvaaKirjasto() { return {Asetukset().strKayttajanTietokanta, Asetukset().strVakioTietokanta}; }
 
 /// Text of a choice list's row; "" when the list has no such row.
 std::string Valinnan(std::string_view lomake, std::string_view valinta, std::int32_t indeksi) {
@@ -121,10 +116,14 @@ void Alusta(clsEnergianHankinta& hankinta, clsEnergianHankinta::Laji laji, int t
   hankinta.Kayttotarkoitus = laji;
 }
 
-/// Rows of a query of the default tables, at most two: more isn't asked for.
-std::vector<Oletusarvorivi> HaeRivit(const std::string& sql, int koodi, int vuosi) {
+/// Default rows of a use-type code and a year, at most two: more isn't asked for.
+std::vector<Oletusarvorivi> Oletusarvorivit(int koodi, int vuosi, const std::string& taulu) {
   SQLite::Database kanta(AppPath() + "Oletuskanta.mdb", SQLite::OPEN_READONLY);
-  SQLite::Statement kysely(kanta, sql + " LIMIT 2");
+  SQLite::Statement kysely(kanta, "SELECT " + taulu + ".* FROM " + taulu + ", RakennustyyppienOletusarvot " +
+                                      "WHERE RakennustyyppienOletusarvot.KayttotarkoitusID = ? " +
+                                      "AND RakennustyyppienOletusarvot.RakenneTyyppiRatkaisuID = " + taulu + ".Id " +
+                                      "AND RakennustyyppienOletusarvot.Rakennusv_alk <= ?2 " +
+                                      "AND RakennustyyppienOletusarvot.Rakennusv_lop >= ?2 LIMIT 2");
   kysely.bind(1, koodi);
   kysely.bind(2, vuosi);
   std::vector<Oletusarvorivi> rivit;
@@ -134,6 +133,16 @@ std::vector<Oletusarvorivi> HaeRivit(const std::string& sql, int koodi, int vuos
     rivit.push_back(std::move(rivi));
   }
   return rivit;
+}
+
+constexpr const char* kRakenteidenTaulu = "RakenneTyyppiratkaisut";
+
+/// Some default solution of the model isn't in any library that can be read.
+bool RatkaisujaPuuttuu(Rakennekirjasto& kirjasto, const TilanLahtotiedot& tiedot) {
+  for (const Oletusarvorivi& rivi : Oletusarvorivit(tiedot.kayttotarkoituskoodi, tiedot.vuosi, kRakenteidenTaulu))
+    for (const Oletusrakenne& malli : kOletusrakenteet)
+      if (!kirjasto.Hae(rivi.at(malli.kirjastosarake))) return true;
+  return false;
 }
 
 }  // namespace
@@ -192,7 +201,7 @@ void LuoTilanRakenteet(clsTila& tila, const TilanLahtotiedot& tiedot) try {
   const double ulkoseina = std::max(0.0, UlkoseinaAlaTaiNolla(tila, tiedot.kerroksia) - ikkunat - ovet);
   const double pohja = tiedot.kerroksia > 0 ? tiedot.ala / tiedot.kerroksia : kPohjanAlaIlmanKerroksia;
 
-  const auto kirjasto = AvaaKirjasto();
+  auto kirjasto = AvaaKirjasto();
   const auto oletukset = HaeOletusarvot(tiedot.kayttotarkoituskoodi, tiedot.vuosi, 0);
   Odotus odotus;
   for (const Oletusrakenne& malli : kOletusrakenteet) {
@@ -202,10 +211,25 @@ void LuoTilanRakenteet(clsTila& tila, const TilanLahtotiedot& tiedot) try {
                                                                            : pohja);
     const std::string kirjastoId = oletukset ? oletukset->at(malli.kirjastosarake) : std::string();
     LuoRakenne(tila.Rakenteet.Add(Tunniste::Uusi(clsRakenne::kLuokka.NimiSana())),
-               {malli.nimi, malli.rakennetyyppi, malli.suuntaus, pintaAla, malli.u_arvo, kirjastoId}, kirjasto.get());
+               {malli.nimi, malli.rakennetyyppi, malli.suuntaus, pintaAla, malli.u_arvo, kirjastoId}, &kirjasto);
   }
 } catch (...) {
   NostaVirhe("modAlkuarvojaRakennukseen:LuoTilanRakenteet Method");
+}
+
+bool VahvistaRakennekirjasto(const TilanLahtotiedot& tiedot) try {
+  Rakennekirjasto kirjasto = AvaaKirjasto();
+  const bool puuttuu = RatkaisujaPuuttuu(kirjasto, tiedot);
+  if (!puuttuu && kirjasto.Viat().empty()) return true;
+  std::string teksti = Teksti(puuttuu ? tekstit::kMallinRakenteitaPuuttuu : tekstit::kMalliVakiokirjastosta);
+  for (const Rakennekirjasto::Vika& vika : kirjasto.Viat()) teksti += "\n\n" + vika.kuvaus;
+  if (puuttuu)
+    return ViestitNyt().Nayta({teksti, Teksti(tekstit::kHuomautus), Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei}) ==
+           Vastaus::Kylla;
+  Ilmoita(teksti, Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
+  return true;
+} catch (...) {
+  NostaVirhe("modAlkuarvojaRakennukseen:VahvistaRakennekirjasto Method");
 }
 
 void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakennekirjasto* kirjasto) try {
@@ -232,13 +256,7 @@ void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakenne
 }
 
 std::optional<Oletusarvorivi> HaeOletusarvot(int kayttotarkoituskoodi, int vuosi, int tila) try {
-  const std::string taulu = tila == 0 ? "RakenneTyyppiratkaisut" : "RakenteidenMenekit";
-  auto rivit = HaeRivit("SELECT " + taulu + ".* FROM " + taulu + ", RakennustyyppienOletusarvot " +
-                            "WHERE RakennustyyppienOletusarvot.KayttotarkoitusID = ? " +
-                            "AND RakennustyyppienOletusarvot.RakenneTyyppiRatkaisuID = " + taulu + ".Id " +
-                            "AND RakennustyyppienOletusarvot.Rakennusv_alk <= ?2 " +
-                            "AND RakennustyyppienOletusarvot.Rakennusv_lop >= ?2",
-                        kayttotarkoituskoodi, vuosi);
+  auto rivit = Oletusarvorivit(kayttotarkoituskoodi, vuosi, tila == 0 ? kRakenteidenTaulu : "RakenteidenMenekit");
   if (rivit.size() == 1) return std::move(rivit.front());
   Ilmoita(Teksti(rivit.empty() ? 9164 : 9163), Teksti(9101), Vakavuus::Varoitus);
   return std::nullopt;

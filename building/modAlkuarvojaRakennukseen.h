@@ -42,6 +42,9 @@ struct TilanLahtotiedot {
 /// Adds one space, the whole heated building, with its structures.
 void LuoTilat(clsTilat& tilat, const TilanLahtotiedot& tiedot);
 void LuoTilanRakenteet(clsTila& tila, const TilanLahtotiedot& tiedot);
+/// Before a first model is made: tells which structure library can't be read. When a default solution would be missing
+/// from the model for that, the person decides. False when the model isn't wanted so.
+bool VahvistaRakennekirjasto(const TilanLahtotiedot& tiedot);
 
 /// One structure of the space.
 struct RakenteenLahtotiedot {
@@ -52,7 +55,7 @@ struct RakenteenLahtotiedot {
   double u_arvo;               ///< W/m²K, if the library gives none
   std::string kirjastoId;      ///< identifier in the structure library; empty: no solution
 };
-/// Fills a structure; `kirjasto` may be nothing when the library can't be opened.
+/// Fills a structure; `kirjasto` may be nothing when no solution is named.
 void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakennekirjasto* kirjasto);
 
 /// Values of a row by the name of its column.

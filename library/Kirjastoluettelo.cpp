@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view kRakenteetSql =
     "SELECT Id, Aikakausi, VuosiAlku, VuosiLoppu, Lahde FROM Rakenne "
-    "WHERE ?1 = '' OR Id = ?1 ORDER BY Rakennetyyppi, VuosiAlku, Nimi, Id";
+    "WHERE ?1 = '' OR Id = ?1 ORDER BY Rakennetyyppi, VuosiAlku, Aikakausi, Nimi, Id";
 
 constexpr std::string_view kMateriaalitSql =
     "SELECT Id, Nimi, Ryhma, Lambda, Tiheys, Ominaislampo, MuKuiva, MuMarka, Lahde, Tila FROM Materiaali "

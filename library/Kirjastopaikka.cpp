@@ -17,20 +17,19 @@ namespace {
 
 constexpr std::size_t kTiivistetta = 16;
 
-/// The directory is ours and closed to others; a link or another user's directory of that name is refused.
-void VaadiOma(const fs::path& hakemisto) {
+/// The directory is ours and closed to others; a link or another user's directory of that name isn't.
+bool OnOma(const fs::path& hakemisto) {
   struct stat tiedot {};
-  const bool on = lstat(hakemisto.c_str(), &tiedot) == 0;
-  if (!on || !S_ISDIR(tiedot.st_mode) || tiedot.st_uid != getuid() || (tiedot.st_mode & 0077) != 0)
-    throw std::runtime_error(hakemisto.string() + ": hakemisto ei ole käyttäjän oma");
+  return lstat(hakemisto.c_str(), &tiedot) == 0 && S_ISDIR(tiedot.st_mode) && tiedot.st_uid == getuid() &&
+         (tiedot.st_mode & 0077) == 0;
 }
 
 fs::path AjonaikainenHakemisto() {
   const char* annettu = std::getenv("XDG_RUNTIME_DIR");
-  if (annettu && fs::path(annettu).is_absolute() && fs::is_directory(annettu)) return annettu;
+  if (annettu && fs::path(annettu).is_absolute() && OnOma(annettu)) return annettu;
   const fs::path oma = fs::temp_directory_path() / ("lumivirta-" + std::to_string(getuid()));
   mkdir(oma.c_str(), 0700);
-  VaadiOma(oma);
+  if (!OnOma(oma)) throw std::runtime_error(oma.string() + ": hakemisto ei ole käyttäjän oma");
   return oma;
 }
 

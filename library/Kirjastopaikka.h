@@ -3,8 +3,8 @@
 #include <string>
 
 /// Where the library server of one data directory and the programs that use it meet: files in the user's runtime
-/// directory (XDG_RUNTIME_DIR, else one of the user's own in the directory for temporary files), which nobody else can
-/// enter.
+/// directory, which nobody else can enter: XDG_RUNTIME_DIR if it is the user's and closed to others, else one of the
+/// user's own in the directory for temporary files.
 struct Kirjastopaikka {
   std::string pistoke;  ///< local socket
   std::string lukko;    ///< held by the server while it runs

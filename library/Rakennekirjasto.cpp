@@ -3,19 +3,24 @@
 
 #include "kernel/Virhe.h"
 
-Rakennekirjasto::Rakennekirjasto(const std::string& kayttajanKanta, const std::string& vakiokanta) try
-    : kayttajan_(kayttajanKanta), vakio_(vakiokanta) {
-} catch (...) {
-  NostaVirhe("Rakennekirjasto:Rakennekirjasto Method");
+template <class Tee>
+void Rakennekirjasto::Yrita(Osa& osa, Tee tee) {
+  try {
+    tee();
+  } catch (const Virhe& virhe) {
+    osa.kanta.reset();
+    viat_.push_back({osa.kirjasto, osa.polku + ": " + virhe.SyynKuvaus()});
+  }
 }
 
-std::optional<Rakenneratkaisu> Rakennekirjasto::Hae(const std::string& id) try {
-  auto ratkaisu = kayttajan_.Hae(id);
-  return ratkaisu ? ratkaisu : vakio_.Hae(id);
-} catch (...) {
-  NostaVirhe("Rakennekirjasto:Hae Method");
+Rakennekirjasto::Rakennekirjasto(const std::string& kayttajanKanta, const std::string& vakiokanta)
+    : osat_{{{Kirjasto::Oma, kayttajanKanta}, {Kirjasto::Vakio, vakiokanta}}} {
+  for (Osa& osa : osat_) Yrita(osa, [&osa] { osa.kanta.emplace(osa.polku); });
 }
 
-std::string Rakennekirjasto::Versio() const try { return vakio_.Versio(); } catch (...) {
-  NostaVirhe("Rakennekirjasto:Versio Method");
+std::optional<Rakenneratkaisu> Rakennekirjasto::Hae(const std::string& id) {
+  std::optional<Rakenneratkaisu> ratkaisu;
+  for (Osa& osa : osat_)
+    if (!ratkaisu && osa.kanta) Yrita(osa, [&] { ratkaisu = osa.kanta->Hae(id); });
+  return ratkaisu;
 }

@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr double kEtelaisin = 60, kPohjoisin = 65;               // latitudes of the program's localities
 constexpr std::size_t kSarake[kIlmansuuntia] = {2, 1, 0, 1, 0};  // by orientation; a horizontal surface asks for none
 
 /// The value at x of the line through points with rising places; outside them that of the outermost one.
@@ -36,7 +37,17 @@ Varjostustaulukko::Varjostustaulukko(std::string_view polku) {
   Lukutiedosto tiedosto(polku);
   while (tiedosto.SeuraavaRivi())
     if (!tiedosto.OnTyhja()) LisaaRivi(tiedosto);
+  TarkistaKokonaisuus(tiedosto);
+}
+
+void Varjostustaulukko::TarkistaKokonaisuus(const Lukutiedosto& tiedosto) const {
   if (kayrat_.empty()) tiedosto.Hylkaa("taulukossa ei ole yhtään riviä");
+  const auto samatKulmat = [this](const Kayra& kayra) {
+    return std::ranges::equal(kayra.pisteet, kayrat_.front().pisteet, {}, &Piste::kulma, &Piste::kulma);
+  };
+  if (!std::ranges::all_of(kayrat_, samatKulmat)) tiedosto.Hylkaa("jokaisella leveysasteella pitää olla samat kulmat");
+  if (kayrat_.front().leveysaste > kEtelaisin || kayrat_.back().leveysaste < kPohjoisin)
+    tiedosto.Hylkaa("taulukon pitää kattaa leveysasteet 60–65");
 }
 
 void Varjostustaulukko::LisaaRivi(const Lukutiedosto& tiedosto) {

@@ -12,13 +12,14 @@ class Lukutiedosto;
 /// A table of partial shading factors: by latitude, shading angle and orientation.
 ///
 /// The file's first line is a heading; each further line holds five numbers: latitude, angle (both in degrees), and the
-/// factors of a south, an east or west, and a north surface, 0 to 1. Lines may stand in any order, blank ones are
-/// passed over, and each latitude may have angles of its own.
+/// factors of a south, an east or west, and a north surface, 0 to 1. Lines may stand in any order and blank ones are
+/// passed over. The table is whole: each latitude has the same angles, and the latitudes reach from 60 or less to 65 or
+/// more, so that a file that has been cut short isn't taken for a shorter table.
 /// Source of the method: prEN 832, informative annex on solar gains.
 class Varjostustaulukko {
  public:
   /// Errors: AurinkoVirhe with file and line for a missing, empty or malformed file, a figure out of range and a
-  /// latitude and angle that stand twice.
+  /// latitude and angle that stand twice; with the file alone for a table that isn't whole.
   explicit Varjostustaulukko(std::string_view polku);
 
   /// The factor, 0 to 1: linear in the angle, then in the latitude, and beyond the table its outermost value.
@@ -41,6 +42,7 @@ class Varjostustaulukko {
   };
 
   void LisaaRivi(const Lukutiedosto& tiedosto);
+  void TarkistaKokonaisuus(const Lukutiedosto& tiedosto) const;
 
   std::vector<Kayra> kayrat_;  ///< at least one, by rising latitude
 };

@@ -1,4 +1,4 @@
--- Default structures by use type and year of completion.
+-- Defaults for basic data and the first model.
 CREATE TABLE RakenneTyyppiratkaisut (
     Id INTEGER PRIMARY KEY,
     USRakenneID TEXT NOT NULL,
@@ -23,6 +23,19 @@ CREATE TABLE RakenteidenMenekit (
     YPMenekki REAL NOT NULL,
     OviMenekki REAL NOT NULL
 );
+-- Degree days of measured years, K d. Luku stands at the level of the program's normal-year figures.
+CREATE TABLE Lammitystarveluku (
+    PaikkakuntaID INTEGER NOT NULL,
+    Vuosi INTEGER NOT NULL,
+    Luku REAL NOT NULL,
+    S17 REAL NOT NULL,  -- as measured at the station
+    Lahde TEXT NOT NULL,
+    Tila TEXT NOT NULL,  -- how sure S17 is
+    PRIMARY KEY (PaikkakuntaID, Vuosi)
+);
+CREATE TEMP TABLE Mitattu (PaikkakuntaID INTEGER, Vuosi INTEGER, S17 REAL, Lahde TEXT, Tila TEXT);
+-- Tasokerroin: the locality's normal-year figure of the program / the normal of the same years at the station measured.
+CREATE TEMP TABLE Paikkakunta (Numero INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Tasokerroin REAL NOT NULL);
 CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Ryhma TEXT NOT NULL,
                                    Hakusanat TEXT NOT NULL);
 -- The solutions of a group of use types in an era of the building code.

@@ -6,3 +6,8 @@ SELECT Koodi, Id, Rakennusv_alk, Rakennusv_lop FROM Kayttotarkoitus JOIN Oletusr
 ORDER BY Koodi, Rakennusv_alk;
 -- Means of ten typical Finnish building models of 160 to 5200 m2: an assumption, the same for every era.
 INSERT INTO RakenteidenMenekit SELECT Id, 0.41, 0.13, 0.51, 0.51, 0.01 FROM RakenneTyyppiratkaisut ORDER BY Id;
+INSERT INTO Lammitystarveluku
+SELECT PaikkakuntaID, Vuosi, ROUND(S17 * Tasokerroin), S17,
+       Lahde || CASE Tasokerroin WHEN 1 THEN '' ELSE '; asemalla ' || CAST(S17 AS INTEGER) || ', muunnettu normaalivuoden tasolle' END, Tila
+FROM Mitattu JOIN Paikkakunta ON Numero = PaikkakuntaID
+ORDER BY PaikkakuntaID, Vuosi;

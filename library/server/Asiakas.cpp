@@ -31,13 +31,20 @@ void Asiakas::KunVapaa(std::function<void()> tee) {
 }
 
 void Asiakas::avaa(int pyynto, bool materiaalit, bool valinta, const QString& kayttajanKanta, const QString& vakiokanta,
-                   const QString& alku) {
+                   const QString& alku, int vuosi, const QString& suodatin) {
   Q_EMIT avattu(pyynto, QCoreApplication::applicationPid());
   pyynto_ = pyynto;
   const Kirjastot kirjastot(kayttajanKanta.toStdString(), vakiokanta.toStdString());
-  KunVapaa([=, this, alku = alku.toStdString()] {
+  const Selaimenavaus avaus{kirjastot,
+                            valinta,
+                            alku.toStdString(),
+                            [=, this] { Suljettu(pyynto); },
+                            vuosi,
+                            suodatin.toStdString(),
+                            [=, this](const std::string& ehdot) { Q_EMIT suodatettu(pyynto, Q(ehdot)); }};
+  KunVapaa([=, this] {
     if (pyynto_ != pyynto) return;  // closed meanwhile, or another one came
-    selain_ = TeeSelain(pyynto, materiaalit, {kirjastot, valinta, alku, [=, this] { Suljettu(pyynto); }});
+    selain_ = TeeSelain(pyynto, materiaalit, avaus);
     selain_->Nayta();
   });
 }

@@ -15,10 +15,11 @@ class Asiakas : public RakennekirjastopalveluSource {
   explicit Asiakas(QLocalSocket* pistoke);
 
   QLocalSocket& Pistoke() const { return *pistoke_; }
+  bool OnIkkuna() const { return selain_ != nullptr; }
   bool Yrita() { return !selain_ || selain_->Yrita(); }
 
   void avaa(int pyynto, bool materiaalit, bool valinta, const QString& kayttajanKanta, const QString& vakiokanta,
-            const QString& alku) override;
+            const QString& alku, int vuosi, const QString& suodatin) override;
   void sulje(int pyynto) override;
 
  private:

@@ -50,6 +50,8 @@ void Materiaaliselain::Kuuntele() {
 
 void Materiaaliselain::Nayta() {
   Paivita();
+  if (!avaus_.suodatin.empty()) PalautaEhdot(Ehdot(), avaus_.suodatin);
+  Suodata();
   const auto alku = std::ranges::find(naytetyt_, avaus_.alku, [](const auto* m) { return m->Aine.Nimi; });
   if (alku != naytetyt_.end()) Valitse((*alku)->Id);
   KayttoLiittyma.Nayta();
@@ -76,7 +78,13 @@ void Materiaaliselain::TaytaRyhmat() {
   TaytaEhdot(KayttoLiittyma.cmbRyhma, ryhmat);
 }
 
+std::vector<Ohjain*> Materiaaliselain::Ehdot() const {
+  const frmMateriaalikirjasto& k = KayttoLiittyma;
+  return {&k.cmbRyhma.Kohde(), &k.cmbKirjasto.Kohde(), &k.txtHaku.Kohde()};
+}
+
 void Materiaaliselain::Suodata() {
+  Nosta(avaus_.Suodatettu, EhtojenTeksti(Ehdot()));
   const Materiaalisuodatin ehto{ValittuKirjasto(KayttoLiittyma.cmbKirjasto), ValittuEhto(KayttoLiittyma.cmbRyhma),
                                 KayttoLiittyma.txtHaku.Teksti()};
   Taulukko rivit;

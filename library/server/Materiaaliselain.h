@@ -18,6 +18,7 @@ class Materiaaliselain : public Selain {
   void Kuuntele();
   void Paivita();
   void TaytaRyhmat();
+  std::vector<Ohjain*> Ehdot() const;
   void Suodata();
   void NaytaMateriaali();
   /// The chosen material, or nothing.

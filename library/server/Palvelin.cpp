@@ -12,7 +12,7 @@ constexpr std::chrono::seconds kOdotaEdellista{3};       // an ending server sti
 constexpr std::chrono::seconds kEnsimmainenAsiakas{20};  // that started us may have died
 constexpr std::chrono::milliseconds kSiivousvali{100};
 constexpr std::chrono::seconds kTallennusvali{2};
-constexpr int kTallennusyrityksia = 300;  // by the cleaning's interval: half a minute
+constexpr std::chrono::seconds kTallennusaika{30};  // for what a program that has gone left unstored
 
 }  // namespace
 
@@ -49,18 +49,18 @@ void Palvelin::OtaAsiakkaat() {
 void Palvelin::Poistui(Asiakas& asiakas) {
   const auto it = std::ranges::find(asiakkaat_, &asiakas, &std::unique_ptr<Asiakas>::get);
   if (it == asiakkaat_.end()) return;
-  poistuneet_.push_back(std::move(*it));
+  if (asiakas.OnIkkuna()) poistuneet_.push_back({std::move(*it), QDeadlineTimer(kTallennusaika)});
   asiakkaat_.erase(it);
-  yrityksia_ = kTallennusyrityksia;
-  siivous_.start(kSiivousvali);  // a program that is just connecting gets in
+  // A program that is just connecting gets in; those that come and go don't put the cleaning off.
+  if (!siivous_.isActive() || siivous_.remainingTimeAsDuration() > kSiivousvali) siivous_.start(kSiivousvali);
 }
 
 void Palvelin::Siivoa() {
   if (asiakkaat_.empty())
     if (QWidget* kysymys = QApplication::activeModalWidget()) kysymys->close();
-  const bool tallessa = std::ranges::all_of(poistuneet_, [](const auto& asiakas) { return asiakas->Yrita(); });
-  if (KomentoKaynnissa() || (!tallessa && --yrityksia_ > 0)) return siivous_.start(kSiivousvali);
-  poistuneet_.clear();
+  if (KomentoKaynnissa()) return siivous_.start(kSiivousvali);
+  std::erase_if(poistuneet_, [](const Poistunut& p) { return p.asiakas->Yrita() || p.takaraja.hasExpired(); });
+  if (!poistuneet_.empty()) return siivous_.start(kSiivousvali);
   if (!asiakkaat_.empty()) return;
   kuuntelija_.close();
   QApplication::quit();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <QDeadlineTimer>
 #include <QLocalServer>
 #include <QTimer>
 #include <memory>
@@ -14,7 +15,7 @@
 ///
 /// 1. Whoever holds the lock file is the server of its data directory; a second one ends at once.
 /// 2. A program that goes, or dies, takes its windows along; their edits are stored already. What couldn't be stored is
-///    tried for half a minute.
+///    tried for half a minute, whoever comes and goes meanwhile.
 /// 3. With no program the process ends, though a question may be open.
 class Palvelin : public QObject {
  public:
@@ -33,8 +34,11 @@ class Palvelin : public QObject {
   std::optional<Lukitus> lukko_;
   QLocalServer kuuntelija_;
   std::vector<std::unique_ptr<Asiakas>> asiakkaat_;
-  std::vector<std::unique_ptr<Asiakas>> poistuneet_;  // until no command runs and all is stored
+  struct Poistunut {
+    std::unique_ptr<Asiakas> asiakas;
+    QDeadlineTimer takaraja;
+  };
+  std::vector<Poistunut> poistuneet_;  // until no command runs and all of theirs is stored
   QTimer siivous_;
   QTimer tallennus_;
-  int yrityksia_ = 0;
 };

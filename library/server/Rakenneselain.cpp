@@ -56,6 +56,9 @@ void Rakenneselain::Kuuntele() {
 
 void Rakenneselain::Nayta() {
   Paivita();
+  if (!avaus_.suodatin.empty()) PalautaEhdot(Ehdot(), avaus_.suodatin);
+  Suodata();
+  Valitse(AikakaudenRakenne());
   KayttoLiittyma.Nayta();
   KayttoLiittyma.txtHaku.Kohdista();
   KerroViat(avaus_.kirjastot);
@@ -82,7 +85,14 @@ void Rakenneselain::TaytaAikakaudet() {
   TaytaEhdot(KayttoLiittyma.cmbAikakausi, rivit);
 }
 
+std::vector<Ohjain*> Rakenneselain::Ehdot() const {
+  const frmRakennekirjasto& k = KayttoLiittyma;
+  return {&k.cmbRakennetyyppi.Kohde(), &k.cmbAikakausi.Kohde(),  &k.cmbKirjasto.Kohde(),
+          &k.txtHaku.Kohde(),          &k.txtUvahintaan.Kohde(), &k.txtUenintaan.Kohde()};
+}
+
 void Rakenneselain::Suodata() {
+  Nosta(avaus_.Suodatettu, EhtojenTeksti(Ehdot()));
   const Rakennesuodatin ehto{ValittuKirjasto(KayttoLiittyma.cmbKirjasto),
                              std::string(RakennetyypinSana(KayttoLiittyma.cmbRakennetyyppi.Indeksi() - 1)),
                              ValittuEhto(KayttoLiittyma.cmbAikakausi),
@@ -108,6 +118,18 @@ void Rakenneselain::Valitse(const std::string& id) {
   const int ensimmainen = naytetyt_.empty() ? -1 : KayttoLiittyma.lvwRakenteet.Kohde().Lista().Jarjestys().front();
   KayttoLiittyma.lvwRakenteet.Indeksi(it == naytetyt_.end() ? ensimmainen : static_cast<int>(it - naytetyt_.begin()));
   NaytaRakenne();
+}
+
+/// Of those that the year fits, the one with the fewest years: not one that is told to be of all times.
+std::string Rakenneselain::AikakaudenRakenne() const {
+  const Kirjastorakenne* paras = nullptr;
+  const auto vuosia = [](const Kirjastorakenne& r) { return r.VuosiLoppu - r.VuosiAlku; };
+  for (const int i : KayttoLiittyma.lvwRakenteet.Kohde().Lista().Jarjestys()) {
+    const Kirjastorakenne& rakenne = *naytetyt_[static_cast<std::size_t>(i)];
+    const bool sopii = rakenne.VuosiAlku <= avaus_.vuosi && avaus_.vuosi <= rakenne.VuosiLoppu;
+    if (sopii && (!paras || vuosia(rakenne) < vuosia(*paras))) paras = &rakenne;
+  }
+  return paras ? paras->Id : std::string();
 }
 
 const Kirjastorakenne* Rakenneselain::Valittu() const {

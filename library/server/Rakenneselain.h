@@ -18,11 +18,14 @@ class Rakenneselain : public Selain {
   void Kuuntele();
   void Paivita();
   void TaytaAikakaudet();
+  std::vector<Ohjain*> Ehdot() const;
   void Suodata();
   void NaytaRakenne();
   /// The chosen structure, or nothing.
   const Kirjastorakenne* Valittu() const;
   void Valitse(const std::string& id);
+  /// The first one shown that is typical of the building's year; empty when there is none.
+  std::string AikakaudenRakenne() const;
   void Muokkaa(Kirjastorakenne rakenne);
   bool LisaaOmaan(Kirjastorakenne& rakenne);
   bool SuljeMuokkain();

@@ -2,6 +2,7 @@
 #include "library/server/Selain.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "kernel/Virhe.h"
 #include "library/server/Tekstinumerot.h"
@@ -51,6 +52,30 @@ void TaytaEhdot(const ComboBox& valinta, const std::vector<std::string>& rivit) 
   const auto it = std::ranges::find(kaikki, ennen);
   valinta.Rivit(kaikki);
   valinta.Indeksi(it == kaikki.end() ? 0 : static_cast<int>(it - kaikki.begin()));
+}
+
+std::string EhtojenTeksti(const std::vector<Ohjain*>& ehdot) {
+  std::string teksti;
+  for (const Ohjain* ehto : ehdot) {
+    const auto rivi = static_cast<std::size_t>(ehto->Indeksi());
+    const bool lista = ehto->Tyyppi() == Ohjaintyyppi::ComboBox;
+    teksti += (!lista ? ehto->Teksti() : rivi < ehto->Rivit().size() ? ehto->Rivit()[rivi].front() : "") + '\n';
+  }
+  return teksti;
+}
+
+void PalautaEhdot(const std::vector<Ohjain*>& ehdot, const std::string& teksti) {
+  std::istringstream rivit(teksti);
+  std::string arvo;
+  for (Ohjain* ehto : ehdot) {
+    if (!std::getline(rivit, arvo)) return;
+    if (ehto->Tyyppi() != Ohjaintyyppi::ComboBox) {
+      ehto->Teksti(arvo);
+      continue;
+    }
+    const auto it = std::ranges::find(ehto->Rivit(), arvo, [](const auto& rivi) { return rivi.front(); });
+    if (it != ehto->Rivit().end()) ehto->Indeksi(static_cast<int>(it - ehto->Rivit().begin()));
+  }
 }
 
 std::string ValittuEhto(const ComboBox& valinta) { return valinta.Indeksi() > 0 ? valinta.Teksti() : std::string(); }

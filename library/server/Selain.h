@@ -9,6 +9,9 @@ struct Selaimenavaus {
   bool valinta = false;              ///< opened for picking one entry
   std::string alku{};                ///< kind of structure or name of material to begin at
   std::function<void()> Suljettu{};  ///< the window was closed, with or without a pick; the last one
+  int vuosi = 0;                     ///< of the building's completion, whose structures come to view; 0: not known
+  std::string suodatin{};            ///< conditions to begin with, as Suodatettu told them; empty: none
+  std::function<void(const std::string&)> Suodatettu{};  ///< the conditions are these now
 };
 
 /// A window that browses one kind of entries of both libraries.
@@ -31,5 +34,8 @@ std::optional<Kirjasto> ValittuKirjasto(const ComboBox& valinta);
 std::string KirjastonLyhenne(Kirjasto kirjasto);
 /// Fills a list of conditions, the first row letting all through, and keeps the chosen row if it is still there.
 void TaytaEhdot(const ComboBox& valinta, const std::vector<std::string>& rivit);
+/// What the conditions hold, a line for each, for opening the window again with the same.
+std::string EhtojenTeksti(const std::vector<Ohjain*>& ehdot);
+void PalautaEhdot(const std::vector<Ohjain*>& ehdot, const std::string& teksti);
 /// The chosen condition; empty for the first row.
 std::string ValittuEhto(const ComboBox& valinta);

@@ -114,4 +114,26 @@ TEST_F(AlkuarvotTesti, AMissingLibraryEntryIsNamed) {
   EXPECT_GT(ikkuna.AurinkoKuorma(4), 0) << "a missing window still lets the sun in";
 }
 
+TEST_F(AlkuarvotTesti, AnUnreadableLibraryIsToldBeforeTheModelIsMade) {
+  const TilanLahtotiedot koulu{.tilavuus = 17500, .ala = 4200, .kayttotarkoituskoodi = 51, .vuosi = 1965};
+  EXPECT_TRUE(VahvistaRakennekirjasto(koulu));
+  EXPECT_TRUE(viestit.Naytetyt().empty());
+
+  Asetukset().strKayttajanTietokanta = "/ei/ole/oma.mdb";
+  EXPECT_TRUE(VahvistaRakennekirjasto(koulu));
+  EXPECT_EQ(viestit.Esiintymia("/ei/ole/oma.mdb"), 1);
+  clsTilat tilat;
+  LuoTilat(tilat, koulu);
+  EXPECT_NEAR(tilat.Item(1).Rakenteet.Item(1).U_arvo(), 0.81, 0.005) << "the standard one serves alone";
+  EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "told once";
+
+  Asetukset().strVakioTietokanta = "/ei/ole/vakio.mdb";
+  for (const Vastaus vastaus : {Vastaus::Ei, Vastaus::Kylla}) {
+    viestit.AsetaSeuraavaVastaus(vastaus);
+    EXPECT_EQ(VahvistaRakennekirjasto(koulu), vastaus == Vastaus::Kylla);
+  }
+  EXPECT_EQ(viestit.Esiintymia("/ei/ole/vakio.mdb"), 2);
+  Asetukset().HaeRekisteristä();
+}
+
 }  // namespace

@@ -159,6 +159,18 @@ class Oletuskanta(unittest.TestCase):
                 for x, y in zip(ennen, jalkeen):
                     self.assertLess(u[y], u[x] + 0.015, f"use type {koodi}: {x}, then {y}")
 
+    def test_degree_days_of_years_stand_at_the_level_of_the_normal_year(self):
+        rivit = hae("Oletuskanta.mdb", "SELECT PaikkakuntaID, Vuosi, Luku, S17, Lahde FROM Lammitystarveluku")
+        lahde = (PUU / "building/clsPerustiedot.cpp").read_text(encoding="utf-8")
+        normit = [float(n) for n in re.search(r"kLammitystarveluvut\{([\d,\s]+)\}", lahde)[1].split(",")]
+        for paikka, vuosi, luku, mitattu, lahde in rivit:
+            # The normal years are those of 1961-1990; hardly a year since has been as cold, 2020 was a third milder.
+            self.assertTrue(0.68 < luku / normit[paikka] < 1.1, (paikka, vuosi, luku))
+            self.assertTrue(lahde, (paikka, vuosi))
+            # Helsinki's normal is Vantaa's level, 6.4 % above the station whose years these are.
+            self.assertAlmostEqual(luku / mitattu, 4366 / 4105 if paikka == 1 else 1, delta=0.0003)
+        self.assertEqual({paikka for paikka, *_ in rivit}, set(range(16)))
+
     def test_a_use_type_gets_the_walls_of_its_way_of_building(self):
         def seina(koodi, vuosi):
             kerrokset = hae("Rakennekirjasto/Tietokanta_perus.mdb", "SELECT MateriaaliId FROM Kerros WHERE RakenneId = ?",

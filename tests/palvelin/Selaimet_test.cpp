@@ -18,9 +18,9 @@ namespace {
 
 class Selaimet : public testing::Test {
  protected:
-  void AvaaRakenteet(bool valinta = false, const std::string& alku = {}) {
+  void AvaaRakenteet(bool valinta = false, const std::string& alku = {}, int vuosi = 0) {
     selain_ = std::make_unique<Rakenneselain>(
-        Selaimenavaus{{koe_.Oma(), koe_.Vakio()}, valinta, alku, [this] { ++sulkemisia_; }},
+        Selaimenavaus{{koe_.Oma(), koe_.Vakio()}, valinta, alku, [this] { ++sulkemisia_; }, vuosi},
         [this](const Rakenneratkaisu& r) { valitut_.push_back(r.Nimi); });
     selain_->Nayta();
   }
@@ -68,6 +68,17 @@ TEST_F(Selaimet, ConditionsNarrowTheListAndTheChosenOneShowsItsSourceAndFigures)
   Ikkuna().KayttajaKirjoittaa("txtUenintaan", "0,0");
   EXPECT_EQ(Riveja(), 0U);
   EXPECT_FALSE(Ikkuna().Etsi("cmdKopioi").Kaytossa());
+}
+
+TEST_F(Selaimet, OpensAtTheStructuresOfTheBuildingsYear) {
+  AvaaRakenteet(true, "Ulkoseinä", 1983);
+  EXPECT_EQ(Ikkuna().Etsi("lvwRakenteet").Rivit()[static_cast<std::size_t>(Ikkuna().Etsi("lvwRakenteet").Indeksi())][2],
+            "1979–1984");
+  AvaaRakenteet(true, "KantavaValiseinä", 1983);
+  EXPECT_EQ(Ikkuna().Etsi("lvwRakenteet").Indeksi(), 0) << "one of all times, where there is no other";
+  AvaaRakenteet(true, "Ulkoseinä", 2020);
+  EXPECT_EQ(Ikkuna().Etsi("lvwRakenteet").Rivit()[static_cast<std::size_t>(Ikkuna().Etsi("lvwRakenteet").Indeksi())][2],
+            "2013–");
 }
 
 TEST_F(Selaimet, StandardEntriesArePickedAndCopiedButNeverEdited) {

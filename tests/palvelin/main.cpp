@@ -28,9 +28,13 @@ bool OnIkkuna() { return AvoinLomake("frmRakennekirjasto") || AvoinLomake("frmMa
 
 /// Dies when a window is open; only once, when a file is given to remember it by.
 void Kuole(const QString& muisti) {
+  static bool kuolee = false;
+  if (kuolee) return;
   if (QFile::exists(muisti)) return Paina("cmdOk");
+  kuolee = true;
   if (!muisti.isEmpty()) QFile(muisti).open(QIODevice::WriteOnly);
-  raise(SIGKILL);
+  AvoinLomake("frmRakennekirjasto")->Etsi("txtUenintaan").KayttajaKirjoittaa("1");
+  QTimer::singleShot(200, [] { raise(SIGKILL); });  // the program has heard of the condition
 }
 
 void Nayttele(const QString& kasikirjoitus) {

@@ -38,10 +38,10 @@ TEST_F(VarjostustaulukkoTesti, RivienJarjestysTyhjatRivitJaMerkistoEivatVaikuta)
   const Varjostustaulukko taulukko(
       Kirjoita("a.txt",
                "\xEF\xBB\xBF"
-               "etel\xE4\r\n65, 40 ,0.3,0.5,0.9\r\n\r\n55,0,1,1,1\r\n 65,0,1,1,1\r\n55,20,0.6,0.7,0.8"));
+               "etel\xE4\r\n65, 20 ,0.65,0.5,0.9\r\n\r\n55,0,1,1,1\r\n 65,0,1,1,1\r\n55,20,0.6,0.7,0.8"));
   EXPECT_NEAR(taulukko.Kerroin(65, 20, Etela), 0.65, 1e-12);
   EXPECT_NEAR(taulukko.Kerroin(55, 20, Pohjoinen), 0.8, 1e-12);
-  EXPECT_NEAR(taulukko.Kerroin(60, 20, Etela), 0.625, 1e-12);  // each latitude has angles of its own
+  EXPECT_NEAR(taulukko.Kerroin(60, 20, Etela), 0.625, 1e-12);
 }
 
 TEST_F(VarjostustaulukkoTesti, ViallinenTiedostoKertooTiedostonRivinJaSyyn) {
@@ -54,6 +54,8 @@ TEST_F(VarjostustaulukkoTesti, ViallinenTiedostoKertooTiedostonRivinJaSyyn) {
       {"otsikko\n550,0,1,1,1\n", "rivi 2: leveysasteen pitää olla välillä -90–90."},
       {"otsikko\n55,-1,1,1,1\n", "rivi 2: varjostuskulman pitää olla välillä 0–90."},
       {"otsikko\n55,0,1,1,1\n55,0,1,1,0.5\n", "rivi 3: sama leveysaste ja kulma on jo luettu."},
+      {"otsikko\n55,0,1,1,1\n55,20,1,1,1\n65,0,1,1,1\n", "jokaisella leveysasteella pitää olla samat kulmat."},
+      {"otsikko\n55,0,1,1,1\n55,20,1,1,1\n", "taulukon pitää kattaa leveysasteet 60–65."},
       {"otsikko\n\n", "taulukossa ei ole yhtään riviä."},
       {"", "Tiedostoa ei löydy, se on tyhjä tai sitä ei voi lukea: "},
   };

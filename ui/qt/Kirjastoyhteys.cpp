@@ -10,9 +10,11 @@
 #include "library/Kirjastopaikka.h"
 #include "library/Kirjastosanoma.h"
 #include "rep_Rakennekirjastopalvelu_replica.h"
+#include "tekstit/viestit.h"
 #include "ui/Komento.h"
 #include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
 
 namespace {
 
@@ -74,6 +76,9 @@ class Kirjastoyhteys::Yhteys {
         const auto materiaali = MateriaaliSanomasta(sanoma.toStdString());
         if (materiaali) Nosta(o->Tapahtumat(numero).RakKirjasto_MateriaaliValittu, *materiaali);
       });
+    });
+    Kuuntele(&Palvelu_::suodatettu, [o = &omistaja_](int numero, const QString& suodatin) {
+      if (o->OnKesken(numero)) o->avaus_->suodatin = suodatin;
     });
     Kuuntele(&Palvelu_::suljettu, [o = &omistaja_](int numero) {
       o->Toimita([=] {
@@ -166,7 +171,8 @@ void Kirjastoyhteys::Laheta() {
   if (!yhteys_) return uusiYritys_.start(0);
   if (!avaus_ || !yhteys_->Palvelu()) return;
   yhteys_->Palvelu()->avaa(avaus_->numero, avaus_->materiaalit, avaus_->valinta, Q(tiedot_.kayttajanKanta()),
-                           Q(tiedot_.vakiokanta()), Q(avaus_->alku));
+                           Q(tiedot_.vakiokanta()), Q(avaus_->alku),
+                           tiedot_.valmistumisvuosi ? tiedot_.valmistumisvuosi() : 0, avaus_->suodatin);
 }
 
 void Kirjastoyhteys::Yhdista() {
@@ -195,8 +201,8 @@ void Kirjastoyhteys::YhteysPoikki(int yhteys) {
     if (std::exchange(avaus_->uudelleen, true)) return EiVastannut();
     aikaraja_.start(tiedot_.aikaraja);
   }
-  if (!std::exchange(kaynnistetty_, true)) KaynnistaPalvelin();
   uusiYritys_.start(kYritysvali);
+  if (!std::exchange(kaynnistetty_, true)) KaynnistaPalvelin();
 }
 
 /// The server goes on by itself when this program ends in the middle; it sees that its client has gone.
@@ -207,7 +213,7 @@ void Kirjastoyhteys::KaynnistaPalvelin() {
   palvelin.setStandardInputFile(QProcess::nullDevice());
   palvelin.setStandardOutputFile(QProcess::nullDevice());
   palvelin.setStandardErrorFile(QProcess::nullDevice());
-  palvelin.startDetached();  // a program that can't be started is told by the time-out
+  if (!palvelin.startDetached()) EiKaynnisty();
 }
 
 void Kirjastoyhteys::Kuittaa(int numero, qint64 prosessi) {
@@ -215,16 +221,28 @@ void Kirjastoyhteys::Kuittaa(int numero, qint64 prosessi) {
   if (OnKesken(numero)) aikaraja_.stop();
 }
 
-void Kirjastoyhteys::EiVastannut() {
+/// The opening ends without an answer, `kerro` telling why.
+void Kirjastoyhteys::Luovu(std::function<void()> kerro) {
+  aikaraja_.stop();
   yhteys_.reset();
   uusiYritys_.stop();
   kaynnistetty_ = false;
   prosessi_ = 0;
-  Toimita([this, numero = avaus_ ? avaus_->numero : 0] {
+  Toimita([this, kerro = std::move(kerro), numero = avaus_ ? avaus_->numero : 0] {
     if (!OnKesken(numero)) return;
-    NaytaVirhe(kEiVastannut);
+    kerro();
     Nosta(Tapahtumat(numero).RakKirjasto_TimeOut);
     if (OnKesken(numero)) Paata();
+  });
+}
+
+void Kirjastoyhteys::EiVastannut() {
+  Luovu([] { NaytaVirhe(kEiVastannut); });
+}
+
+void Kirjastoyhteys::EiKaynnisty() {
+  Luovu([ohjelma = tiedot_.ohjelma] {
+    Ilmoita(Teksti(tekstit::kKirjastoEiKaynnisty) + "\n" + ohjelma, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   });
 }
 

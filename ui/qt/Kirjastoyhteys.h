@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <QObject>
+#include <QString>
 #include <QTimer>
 #include <chrono>
 #include <deque>
@@ -15,11 +16,13 @@ struct Kirjastoyhteystiedot {
   std::function<std::string()> kayttajanKanta;  ///< databases, asked for at each opening
   std::function<std::string()> vakiokanta;
   std::chrono::milliseconds aikaraja = std::chrono::seconds(15);  ///< for an opening to be answered, a start included
+  std::function<int()> valmistumisvuosi{};  ///< of the building at work, asked for at each opening; 0: not known
 };
 
 /// The link to the library server process. Starts the server when a dialog is asked for and none runs; when it dies
-/// under an open dialog, it is started anew once and the dialog opens again. Events come through SuoritaKomento; while
-/// a command is at work without waiting for the person they are held back. Makes itself the present link for its life.
+/// under an open dialog, it is started anew once and the dialog opens again with the conditions that it had. Events
+/// come through SuoritaKomento; while a command is at work without waiting for the person they are held back. Makes
+/// itself the present link for its life.
 class Kirjastoyhteys : public QObject, public Rakennekirjastolinkki {
  public:
   explicit Kirjastoyhteys(Kirjastoyhteystiedot tiedot);
@@ -45,6 +48,7 @@ class Kirjastoyhteys : public QObject, public Rakennekirjastolinkki {
     std::string alku;
     Rakennekirjastotapahtumat tapahtumat;
     bool uudelleen = false;  // opened again after the server died
+    QString suodatin{};      // conditions of the window
   };
 
   int Avaa(bool materiaalit, bool valinta, const std::string& alku, Rakennekirjastotapahtumat tapahtumat);
@@ -64,7 +68,9 @@ class Kirjastoyhteys : public QObject, public Rakennekirjastolinkki {
   void YhteysPoikki(int yhteys);
   void Laheta();
   void Kuittaa(int numero, qint64 prosessi);
+  void Luovu(std::function<void()> kerro);
   void EiVastannut();
+  void EiKaynnisty();
 
   Kirjastoyhteystiedot tiedot_;
   std::unique_ptr<Avaus> avaus_;
