@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Recalculation of the whole building against the same formulas over plain arrays.
 #include "bench/Mittaukset.h"
-#include "bench/Vertailulaskenta.h"
+#include "bench/vertailu/Vertailulaskenta.h"
 #include "building/Tasehaarukka.h"
 
 namespace mittaus {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "bench/Mallirakennus.h"
+#include "bench/vertailu/Mallirakennus.h"
 #include "bench/Parit.h"
 
 namespace mittaus {

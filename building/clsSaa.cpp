@@ -22,7 +22,7 @@ constexpr Jasen kJasenet[] = {
 
 constexpr Tulos kTulokset[] = {
     Tekstitulos<&clsSaa::Nimi>("Nimi", tekstit::kSaanNimi),
-    Lukutulos<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", tekstit::kMitoittavaUlkolampotila, "°C",
+    Lukutulos<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", tekstit::kSaanMitoitusUlkolampotila, "°C",
                                                   "0.0"),
     Lukutulos<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", tekstit::kVyohykkeenTarveluku, "°Cd",
                                                 "### ##0"),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bench/Vertailulaskenta.h"
+#include "bench/vertailu/Vertailulaskenta.h"
 
 #include <fstream>
 #include <sstream>

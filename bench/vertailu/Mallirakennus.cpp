@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bench/Mallirakennus.h"
+#include "bench/vertailu/Mallirakennus.h"
 
 #include <unistd.h>
 

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The batch calculator over files good and bad, and the program itself by its exit code and streams.
+#include "batch/Kohdelaskenta.h"
+
+#include <sys/wait.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "batch/Rinnakkain.h"
+#include "batch/Tulokset.h"
+#include "kernel/Luvut.h"
+#include "kernel/Tietokanta.h"
+#include "kernel/Versio.h"
+#include "tekstit/tulokset.h"
+#include "tekstit/viestit.h"
+#include "tests/batch/Malliauditoinnit.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class KohdelaskentaTesti : public MalliauditointiTesti {
+ protected:
+  /// A copy of the first sample, changed by the SQL.
+  std::string Muutettu(const std::string& sql, const std::string& nimi = "koulu.lvt") {
+    const fs::path kopio = hakemisto_ / nimi;
+    fs::copy_file(Tiedostot().front(), kopio, fs::copy_options::overwrite_existing);
+    Tietokanta(kopio.string(), Tietokanta::Tapa::Kirjoitus).Aja(sql);
+    return kopio.string();
+  }
+  struct Ajo {
+    int paluuarvo;
+    std::string tuloste, virheet;
+  };
+  /// Runs the program.
+  Ajo Aja(const std::string& sanat) {
+    const std::string ulos = (hakemisto_ / "ulos").string(), virheet = (hakemisto_ / "virheet").string();
+    const int tila =
+        std::system(("'" + AppPath() + "lumivirta-laske' " + sanat + " >'" + ulos + "' 2>'" + virheet + "'").c_str());
+    return {WEXITSTATUS(tila), Sisalto(ulos), Sisalto(virheet)};
+  }
+  static std::string Sisalto(const std::string& polku) {
+    std::ifstream tiedosto(polku, std::ios::binary);
+    return {std::istreambuf_iterator(tiedosto), {}};
+  }
+  static bool Sisaltaa(const std::string& teksti, const std::string& osa) {
+    return teksti.find(osa) != std::string::npos;
+  }
+
+ private:
+  Koehakemisto hakemisto_;
+};
+
+TEST_F(KohdelaskentaTesti, UudemmanOhjelmanTiedostoJaPuuttuvaTiedostoTorjutaan) {
+  const std::string uudempi = Muutettu("UPDATE clsRakennus SET Major = " + std::to_string(kVersioMajor + 1));
+  for (const Tulostusmuoto muoto : {Tulostusmuoto::Yhteenveto, Tulostusmuoto::Json})
+    for (const std::string& tiedosto : {uudempi, std::string("puuttuu.lvt")}) {
+      const Laskettu laskettu = LaskeKohde(tiedosto, muoto, 0);
+      EXPECT_FALSE(laskettu.onnistui);
+      EXPECT_EQ(laskettu.tulos, "");
+      EXPECT_TRUE(laskettu.virheet.starts_with("lumivirta-laske: " + tiedosto + ": ")) << laskettu.virheet;
+    }
+  const Ajo ajo = Aja("--json '" + uudempi + "'");
+  EXPECT_EQ(ajo.paluuarvo, 1);
+  EXPECT_EQ(ajo.tuloste, "");
+  EXPECT_TRUE(Sisaltaa(ajo.virheet, Teksti(tekstit::kVersioUudempi))) << ajo.virheet;
+}
+
+TEST_F(KohdelaskentaTesti, PuuttuvaTulosOnVirhe) {
+  const std::string tiedosto = Muutettu("UPDATE clsTila SET Kokonaistilavuus = 1e308");
+  const Laskettu json = LaskeKohde(tiedosto, Tulostusmuoto::Json, 0);
+  EXPECT_FALSE(json.onnistui);
+  EXPECT_TRUE(Sisaltaa(json.tulos, "\"VuotuinenLampoEnergianTarveTilat\": null"));
+  EXPECT_FALSE(Sisaltaa(json.tulos, "\"Viestit\": []"));
+  const Laskettu yhteenveto = LaskeKohde(tiedosto, Tulostusmuoto::Yhteenveto, 0);
+  EXPECT_FALSE(yhteenveto.onnistui);
+  EXPECT_EQ(yhteenveto.tulos, "");
+  const Ajo ajo = Aja("--json '" + tiedosto + "' '" + Tiedostot().back().string() + "'");
+  EXPECT_EQ(ajo.paluuarvo, 1);
+  EXPECT_TRUE(ajo.tuloste.starts_with("[\n  {\n") && ajo.tuloste.ends_with("\n  }\n]\n"));
+}
+
+TEST_F(KohdelaskentaTesti, VirheellinenMerkkiKorvataanJaKerrotaan) {
+  const std::string json =
+      LaskeKohde(Muutettu("UPDATE clsTila SET TilanNimi = CAST(x'4BE4790A61C3B6EDA08080' AS TEXT)"),
+                 Tulostusmuoto::Json, 0)
+          .tulos;
+  EXPECT_TRUE(Sisaltaa(json, "\"TilanNimi\": \"K\uFFFDy\\u000aa\u00F6\uFFFD\uFFFD\uFFFD\uFFFD\""))
+      << json.substr(0, 4000);
+  EXPECT_TRUE(Sisaltaa(json, Teksti(tekstit::kMerkkejaKorvattiin) + " 1"));
+}
+
+/// The numbers of a row of the summary, by the row's name.
+std::vector<std::string> Luvut(const std::string& yhteenveto, const std::string& nimi) {
+  const auto alku = yhteenveto.find("\n  " + nimi + "  ") + nimi.size() + 3;
+  std::vector<std::string> luvut;
+  std::string rivi = yhteenveto.substr(alku, yhteenveto.find('\n', alku) - alku);
+  for (std::size_t i; (i = rivi.find_first_not_of(' ')) != std::string::npos;) {
+    const auto loppu = std::min(rivi.find("  ", i), rivi.size());
+    luvut.push_back(rivi.substr(i, loppu - i));
+    rivi.erase(0, loppu);
+  }
+  return luvut;
+}
+
+TEST_F(KohdelaskentaTesti, YhteenvedonSarakeTasmaaJaSuuretLuvutPysyvatErillaan) {
+  // 0.004 and the sums of the machines would give a hundredth more than what is seen
+  const std::string tiedosto = Muutettu("UPDATE clsRakennus SET MuuLampo = 12345678.004");
+  const std::string yhteenveto = LaskeKohde(tiedosto, Tulostusmuoto::Yhteenveto, 0).tulos;
+  double summa = 0;
+  for (const char* osa : {"Tilojen lämmitys", "Ilmanvaihtokoneiden jälkilämmitys", "Käyttöveden lämmitys",
+                          "Prosessiveden lämmitys", "Muu lämpö"}) {
+    ASSERT_EQ(Luvut(yhteenveto, osa).size(), 3u) << osa << "\n" << yhteenveto;
+    summa += LueLuku(Luvut(yhteenveto, osa)[0]).value();
+  }
+  const double yhteensa = LueLuku(Luvut(yhteenveto, "Laskettu kulutus yhteensä")[0]).value();
+  EXPECT_EQ(Muotoile(summa, "0.00"), Muotoile(yhteensa, "0.00"));
+  const double mitattu = LueLuku(Luvut(yhteenveto, "Mitattu kulutus, normitettu")[0]).value();
+  EXPECT_EQ(Luvut(yhteenveto, "Mitattu − laskettu")[0], Muotoile(mitattu - yhteensa, "### ##0.00"));
+}
+
+TEST_F(KohdelaskentaTesti, SamatHuomautuksetOvatYksiRiviJokaKertooKohteet) {
+  const std::string tiedosto = Muutettu(
+      "UPDATE clsIVKone SET SisaanpuhallusLampotila = 5; UPDATE clsKayntiAika SET Tsp = 5, TuloIlmavirtaProsentti = "
+      "100");
+  const std::string json = LaskeKohde(tiedosto, Tulostusmuoto::Json, 0).tulos;
+  const std::string viestit = json.substr(json.find("\"Viestit\""));
+  EXPECT_EQ(std::ranges::count(viestit, '\n'), 3) << viestit;
+  EXPECT_TRUE(Sisaltaa(viestit, "kertaa")) << viestit;
+}
+
+TEST_F(KohdelaskentaTesti, TiedostotLasketaanRinnakkainJarjestyksessa) {
+  std::string sanat;
+  for (const fs::path& tiedosto : Tiedostot()) sanat += " '" + tiedosto.string() + "'";
+  const Ajo yksin = Aja("--json --saikeita=1" + sanat), monta = Aja("--json --saikeita=1" + sanat + sanat);
+  EXPECT_EQ(yksin.paluuarvo, 0) << yksin.virheet;
+  EXPECT_EQ(monta.paluuarvo, 0) << monta.virheet;
+  const std::string oliot = yksin.tuloste.substr(1, yksin.tuloste.size() - 4);  // without "[" and "\n]\n"
+  EXPECT_TRUE(monta.tuloste == "[" + oliot + "," + oliot + "\n]\n") << "the same to the last digit";
+}
+
+TEST_F(KohdelaskentaTesti, VirheellinenKomentoKertooKaytosta) {
+  for (const char* sanat : {"", "--xml a.lvt", "--saikeita=0 a.lvt", "--saikeita=2x a.lvt"}) {
+    const Ajo ajo = Aja(sanat);
+    EXPECT_EQ(ajo.paluuarvo, 2) << sanat;
+    EXPECT_TRUE(Sisaltaa(ajo.virheet, "Käyttö: lumivirta-laske")) << sanat;
+  }
+  EXPECT_EQ(Aja("--help").paluuarvo, 0);
+}
+
+}  // namespace
