@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kKapein = 0.04;  // of the picture's width: also a foil is to be seen
 constexpr double kViivanLeveys = 2.5;
+constexpr int kNimenLeveys = 11;  // of the longest name in the legend, in heights of the font
 
 QString Asteina(double lampotila) { return QString::fromStdString(Muotoile(lampotila, "0.0")) + QStringLiteral(" °C"); }
 
@@ -33,7 +34,7 @@ const std::vector<double>& Lampotilakuva::Sarja(std::size_t i) const {
 QStringList Lampotilakuva::Nimet() const {
   QStringList nimet;
   for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
-    nimet << fontMetrics().elidedText(Teksti(Tiedot().nimet[i]), Qt::ElideRight, 14 * fontMetrics().height());
+    nimet << fontMetrics().elidedText(Teksti(Tiedot().nimet[i]), Qt::ElideRight, kNimenLeveys * fontMetrics().height());
   return nimet;
 }
 
@@ -54,7 +55,8 @@ QStringList Lampotilakuva::Luvut() const {
 QSize Lampotilakuva::sizeHint() const {
   const int rivi = fontMetrics().height();
   const int selite = static_cast<int>(Tiedot().nimet.size()) * rivi * 3 / 2;
-  return {20 * rivi + SelitteenLeveys(), std::max(12 * rivi, 4 * rivi + selite)};
+  // As wide as the longest names, as high as seven layers: the window keeps its size from structure to structure.
+  return {(18 + kNimenLeveys + 4) * rivi, std::max(14 * rivi, 4 * rivi + selite)};
 }
 
 QRectF Lampotilakuva::Kuvaala() const {
