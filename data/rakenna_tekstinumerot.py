@@ -3,7 +3,8 @@
 """Makes the C++ header that names the numbers of one file of texts: rakenna_tekstinumerot.py TEXTS.csv HEADER.
 
 The column Vakio gives a row its name: "Virhe" becomes tekstit::kVirhe, rows in order with the same "Kuukaudet[]" the
-array tekstit::kKuukaudet. A row without a name is used by forms only; "tulossa" marks the text of a module to come.
+array tekstit::kKuukaudet; a row may have both, with a blank between. A row without a name is used by forms only;
+"tulossa" marks the text of a module to come.
 Messages (first column ErrorCode) get names of their own type in the namespace virheet.
 """
 import csv
@@ -25,9 +26,7 @@ def otsikko(tiedosto):
     numerosarake, rivit = lue(tiedosto)
     tyyppi, avaruus = ("Virhenumero", "virheet") if numerosarake == "ErrorCode" else ("Tekstinumero", "tekstit")
     vakiot, sarjat = {}, {}
-    for numero, nimi in rivit:
-        if nimi in ("", TULOSSA):
-            continue
+    for numero, nimi in ((numero, nimi) for numero, nimet in rivit for nimi in nimet.split() if nimi != TULOSSA):
         if not re.fullmatch(r"[A-Z][A-Za-z0-9]*(\[\])?", nimi):
             raise ValueError(f"{numero}: {nimi} is no name of a constant")
         if nimi.endswith("[]"):

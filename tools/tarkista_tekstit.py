@@ -2,9 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Every text has a user, and every number a text.
 
-A text is used by a form (its number begins a text of the form) or by its name in the code. A text marked "tulossa" waits for
-its module and has no user yet. That code doesn't use a number past its name is the compiler's matter: the functions
-that show texts take the named type only.
+A text is used by a form (its number begins a text of the form) or by its name in the code; code has no numbers of texts.
+A text marked "tulossa" waits for its module and has no user yet.
 """
 import collections
 import re
@@ -33,6 +32,7 @@ def koodi():
     return "\n".join(rivi for polku in polut for rivi in rivit(polku))
 
 
+RAAKA = re.compile(r"\b(?:Teksti|NaytaVirhe)\([1-9]")
 SIIRTYMASSA = True  # code still uses numbers: a name without a user is no fault yet
 KOODI = koodi()
 KAYTETYT = set(re.findall(r"\b(tekstit|virheet)::k(\w+)", KOODI))
@@ -41,23 +41,24 @@ virheet, paikat, nimien_paikat = [], collections.defaultdict(list), {}
 for tiedosto in sorted((JUURI / "data/tekstit").glob("*.csv")) + [JUURI / "data/virheet.csv"]:
     nimi = tiedosto.relative_to(JUURI)
     avaruus = "virheet" if tiedosto.stem == "virheet" else "tekstit"
-    for numero, vakio in lue(tiedosto)[1]:
-        vakio = vakio.removesuffix("[]")
+    for numero, vakiot in lue(tiedosto)[1]:
+        nimet = [vakio.removesuffix("[]") for vakio in vakiot.split() if vakio != TULOSSA]
         lomakkeessa = avaruus == "tekstit" and numero in LOMAKKEISSA
-        koodissa = (avaruus, vakio) in KAYTETYT
+        turhat = [vakio for vakio in nimet if (avaruus, vakio) not in KAYTETYT]
         paikat[avaruus, numero].append(nimi)
-        if vakio == TULOSSA:
-            if lomakkeessa:
-                virheet.append(f"{nimi}: {numero} is no longer to come: {LOMAKKEISSA[numero]} shows it")
+        if SIIRTYMASSA and (nimet or re.search(rf"(?<![\w.]){numero}(?![\w.])", KOODI)):
             continue
-        if SIIRTYMASSA and (vakio or re.search(rf"(?<![\w.]){numero}(?![\w.])", KOODI)):
-            pass
-        elif not lomakkeessa and not koodissa:
-            virheet.append(f"{nimi}: {numero} has no user" + (f" ({avaruus}::k{vakio})" if vakio else ""))
-        elif vakio and not koodissa:
-            virheet.append(f"{nimi}: {numero} needs no name, only forms show it")
-        if vakio and nimien_paikat.setdefault((avaruus, vakio), nimi) != nimi:
-            virheet.append(f"{nimi}: {vakio} is also a name in {nimien_paikat[avaruus, vakio]}")
+        if vakiot == TULOSSA and lomakkeessa:
+            virheet.append(f"{nimi}: {numero} is no longer to come: {LOMAKKEISSA[numero]} shows it")
+        elif not vakiot and not lomakkeessa:
+            virheet.append(f"{nimi}: {numero} has no user")
+        virheet += [f"{nimi}: {numero}: nobody uses {avaruus}::k{vakio}" for vakio in turhat]
+        virheet += [f"{nimi}: {vakio} is also a name in {nimien_paikat[avaruus, vakio]}" for vakio in nimet
+                    if nimien_paikat.setdefault((avaruus, vakio), nimi) != nimi]
 virheet += [f"{', '.join(map(str, p))}: {numero} stands twice" for (_, numero), p in paikat.items() if len(p) > 1]
 virheet += [f"{polku}: {numero} has no text" for numero, polku in LOMAKKEISSA.items() if ("tekstit", numero) not in paikat]
+for polku in lahteet(".cpp", ".h"):
+    if polku.parts[0] not in ("tests", "bench"):
+        virheet += [f"{polku}:{nro}: the text's name instead of its number" for nro, rivi in enumerate(rivit(polku), 1)
+                    if RAAKA.search(rivi)]
 lopeta(virheet)
