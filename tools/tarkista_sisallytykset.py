@@ -40,6 +40,7 @@ KIRJASTOT = [
     (r"(gtest|gmock)/.*", TESTIT),
     (r"fuzzer/.*", {"tests/fuzz"}),
     (r"benchmark/.*", {"bench", "bench/qt"}),
+    (r"random", {"kernel", "bench", "tests/tuki"}),  # tests: tests/tuki/Arpa.h, which tells its seed
     (r"[a-z_]+", None),
     (r"(unistd|fcntl|signal|pwd|spawn|malloc|dirent|errno|poll|sys/\w+|linux/\w+)\.h",
      {"kernel", "library", "settings", "app", "batch", "bench", "bench/vertailu", "bench/qt", *TESTIT}),

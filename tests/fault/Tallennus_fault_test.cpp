@@ -10,10 +10,10 @@
 #include <unistd.h>
 
 #include <fstream>
-#include <random>
 
 #include "kernel/Projektitiedosto.h"
 #include "tests/fault/Jarjestelmakutsut.h"
+#include "tests/tuki/Arpa.h"
 #include "tests/tuki/Koepuu.h"
 
 namespace fs = std::filesystem;
@@ -143,7 +143,7 @@ TEST_F(Tallennusvirheet, TappoMissaTahansaKutsussaJattaaEhjanTiedoston) {
 }
 
 TEST_F(Tallennusvirheet, TappoMillaTahansaHetkellaJattaaEhjanTiedoston) {
-  std::minstd_rand satunnainen(20240229);
+  Arpa satunnainen;
   for (int i = 0; i < 200; ++i) {
     SCOPED_TRACE(i);
     const pid_t lapsi = TallennaLapsessa(Isku::Ei, 0);
@@ -257,7 +257,7 @@ TEST_F(VaurioitunutTiedosto, KatkaistuEiKaadaEikaMuutu) {
 }
 
 TEST_F(VaurioitunutTiedosto, VaihtuneetTavutEivatKaadaEivatkaMuutaTiedostoa) {
-  std::minstd_rand satunnainen(1917);
+  Arpa satunnainen;
   int luettiin = 0;
   for (int i = 0; i < 600; ++i) {
     std::string sisalto = ennen;

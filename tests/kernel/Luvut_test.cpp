@@ -5,7 +5,6 @@
 
 #include <cmath>
 #include <limits>
-#include <random>
 
 #include "tests/tuki/Arpa.h"
 

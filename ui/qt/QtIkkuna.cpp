@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTreeView>
-#include <algorithm>
 #include <stdexcept>
 
 #include "kernel/Kirjainkoko.h"
@@ -39,19 +38,6 @@ QWidget* TeeJuuri(const std::string& nimi) {
   for (const LomakeRivi& rivi : Lomaketaulu())
     if (SamaNimi(rivi.nimi, nimi)) return rivi.tee(nullptr);
   throw std::logic_error("lomaketta ei ole: " + nimi);
-}
-
-/// Gives the main window the room that a window inside it lacks, as far as the screen has it.
-void Laajenna(QWidget& paaikkuna, const QSize& puuttuu) {
-  if (paaikkuna.isMaximized() || paaikkuna.isFullScreen()) return;
-  const QRect naytto = paaikkuna.screen()->availableGeometry();
-  const QSize kehys = paaikkuna.frameSize() - paaikkuna.size();
-  const QSize suurin = (naytto.size() - kehys).expandedTo(paaikkuna.size());
-  paaikkuna.resize((paaikkuna.size() + puuttuu).boundedTo(suurin));
-  const QPoint yli = paaikkuna.frameGeometry().bottomRight() - naytto.bottomRight();
-  const QPoint siirto(std::min(std::max(0, yli.x()), paaikkuna.x() - naytto.x()),
-                      std::min(std::max(0, yli.y()), paaikkuna.y() - naytto.y()));
-  if (siirto.x() > 0 || siirto.y() > 0) paaikkuna.move(paaikkuna.pos() - siirto);
 }
 
 /// Lists are made as wide as their columns; on a small screen they scroll.
@@ -119,13 +105,13 @@ Alikehys* QtIkkuna::TeeAlikehys() {
   return alikehys_;
 }
 
-/// A new window no larger than the area, and wholly inside it.
+/// A new window as large as its contents, but wholly inside the area: then its lists scroll, and if that isn't enough,
+/// the form.
 void QtIkkuna::Mahduta() {
-  const QSize puuttuu = (alikehys_->size() - alue_->viewport()->size()).expandedTo({0, 0});
-  if (!puuttuu.isNull()) Laajenna(*alue_->window(), puuttuu);
   const QRect alue = alue_->viewport()->rect();
-  if (alikehys_->size() != alikehys_->size().boundedTo(alue.size())) KutistaLuettelot(*juuri_);
-  alikehys_->resize(alikehys_->size().boundedTo(alue.size()));
+  const QSize koko = alikehys_->sizeHint();
+  if (koko != koko.boundedTo(alue.size())) KutistaLuettelot(*juuri_);
+  alikehys_->resize(Mahtuva(koko, alue.size()));
   if (!alue.contains(alikehys_->geometry())) alikehys_->move(alue.topLeft());
 }
 
