@@ -16,6 +16,8 @@
 #include "kernel/Paivamaara.h"
 #include "kernel/Projektitiedosto.h"
 #include "kernel/Virhe.h"
+#include "tekstit/paaikkuna.h"
+#include "tekstit/viestit.h"
 #include "ui/Lomake.h"
 #include "ui/Odotus.h"
 #include "ui/Paaikkuna.h"
@@ -38,14 +40,14 @@ Vastaus Kysy(std::string teksti, int otsikko, Napit napit, Vastaus oletus, Vakav
 std::string Tuntomerkit(const std::string& tiedosto) {
   const std::string nimi = HaeTiedostonTeksti(tiedosto, "clsPerustiedot", "KohteenNimi");
   const auto [paiva, kello] = Kirjoitusaika(tiedosto);
-  return (nimi.empty() ? nimi : Teksti(9533) + " " + nimi + "\n") + Teksti(9534) + " " + paiva + " " + Teksti(9535) +
-         " " + kello;
+  return (nimi.empty() ? nimi : Teksti(tekstit::kTalteenKohde) + " " + nimi + "\n") + Teksti(tekstit::kTalteenOtettu) +
+         " " + paiva + " " + Teksti(tekstit::kKlo) + " " + kello;
 }
 
 /// Refuses a command while the model is reserved.
 bool EstaaVaraus() {
   if (!MalliVarattu()) return false;
-  Ilmoita(Teksti(9515), Teksti(9101));
+  Ilmoita(Teksti(tekstit::kLaskentaKesken), Teksti(tekstit::kHuomautus));
   return true;
 }
 
@@ -67,10 +69,10 @@ bool VersioKay(const std::string& tiedosto) try {
   const Tiedostoversio versio = HaeTiedostonVersio(tiedosto);
   const bool uudempi = Suhde(versio) == Versiosuhde::Uudempi;
   if (const std::string viesti = Versioviesti(versio); !viesti.empty())
-    Ilmoita(viesti, Teksti(9101), uudempi ? Vakavuus::Varoitus : Vakavuus::Tieto);
+    Ilmoita(viesti, Teksti(tekstit::kHuomautus), uudempi ? Vakavuus::Varoitus : Vakavuus::Tieto);
   return !uudempi;
 } catch (const Projektivirhe& virhe) {
-  Ilmoita(Teksti(9501) + "\n\n" + virhe.what(), Teksti(9100), Vakavuus::Virhe);
+  Ilmoita(Teksti(tekstit::kKohdetiedostoEiKelpaa) + "\n\n" + virhe.what(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   return false;
 }
 
@@ -92,7 +94,7 @@ void Istunto::mnuFileNew_Click() {
   AlustaPerustiedot(rakennus_->Perustiedot);
   AlustaToteutuneetKulutukset(rakennus_->Perustiedot.ToteutuneetKulutukset);
   rakennus_->KatselmoijienTiedot.HaeOletukset();
-  PaaikkunaNyt().AsetaOtsikko(Teksti(1001));
+  PaaikkunaNyt().AsetaOtsikko(Teksti(tekstit::kValikkoUusi));
   rakennus_->Tallennettu = true;
   NaytaPerustiedot();
 }
@@ -101,7 +103,8 @@ void Istunto::mnuFileOpen_Click() {
   if (EstaaVaraus()) return;
   Odotus odotus;
   if (!VoiVaihtaa()) return;
-  const auto tiedosto = ViestitNyt().KysyAvattavaTiedosto(Teksti(1132), Teksti(1130));
+  const auto tiedosto =
+      ViestitNyt().KysyAvattavaTiedosto(Teksti(tekstit::kAvaaOtsikko), Teksti(tekstit::kKohdetiedostosuodatin));
   if (tiedosto && Avaa(*tiedosto)) NaytaPerustiedot();
 }
 
@@ -122,8 +125,9 @@ void Istunto::NaytaPerustiedot() try {
 /// The question of New and Open. After No the forms of the object are closed: nothing is entered into it any more.
 bool Istunto::VoiVaihtaa() {
   const std::string nimi = rakennus_ ? rakennus_->Perustiedot.KohteenNimi : std::string();
-  const bool saa = VoiLuopua({Teksti(9000) + " " + nimi + " " + Teksti(9001), Teksti(9002), Vakavuus::Kysymys,
-                              Napit::KyllaEiPeruuta, Vastaus::Kylla});
+  const bool saa =
+      VoiLuopua({Teksti(tekstit::kTallentamattaAlku) + " " + nimi + " " + Teksti(tekstit::kTallentamattaLoppu),
+                 Teksti(tekstit::kTallentamattaOtsikko), Vakavuus::Kysymys, Napit::KyllaEiPeruuta, Vastaus::Kylla});
   if (saa && rakennus_ && !rakennus_->Tallennettu) SuljeLomakkeet();
   return saa;
 }
@@ -145,13 +149,13 @@ bool Istunto::Avaa(const std::string& tiedosto) {
 
 bool Istunto::VoiAvata(const std::string& tiedosto) const {
   if (!OnKohdetiedostonNimi(tiedosto)) {
-    Ilmoita(Teksti(1156), Teksti(9101), Vakavuus::Varoitus);
+    Ilmoita(Teksti(tekstit::kEiKohdetiedosto), Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
     return false;
   }
-  const std::string kaytossa =
-      Teksti(1153) + " " + LyhennaPolku(tiedosto, kPolkuKysymyksessa) + " " + Teksti(1157) + "\n" + Teksti(1158);
+  const std::string kaytossa = Teksti(tekstit::kTiedosto) + " " + LyhennaPolku(tiedosto, kPolkuKysymyksessa) + " " +
+                               Teksti(tekstit::kKaytossaAvattaessa) + "\n" + Teksti(tekstit::kAvataankoSilti);
   if (OnKirjoitussuojattu(tiedosto) && !OnOmaTiedosto(tiedosto) &&
-      Kysy(kaytossa, 1155, Napit::KyllaEi, Vastaus::Ei, Vakavuus::Varoitus) == Vastaus::Ei)
+      Kysy(kaytossa, tekstit::kKaytossaOtsikko, Napit::KyllaEi, Vastaus::Ei, Vakavuus::Varoitus) == Vastaus::Ei)
     return false;
   return VersioKay(tiedosto);
 }
@@ -175,7 +179,7 @@ bool Istunto::Lataa(const std::string& tiedosto) {
   try {
     rakennus_->Hae(tiedosto);
   } catch (const Virhe& virhe) {
-    Ilmoita(virhe.Kuvaus() + "\n" + virhe.SyynKuvaus(), Teksti(9100), Vakavuus::Virhe);
+    Ilmoita(virhe.Kuvaus() + "\n" + virhe.SyynKuvaus(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
     AsetaTiedosto({});
     rakennus_->Tallennettu = false;
   }
@@ -183,7 +187,7 @@ bool Istunto::Lataa(const std::string& tiedosto) {
   kumous_.Aloita(rakennus_.get());
   talteenOtettu_ = Tila();
   if (rakennus_->Perustiedot.ToteutuneetKulutukset.Count() > 0) return true;
-  Ilmoita(Teksti(9500), Teksti(9100), Vakavuus::Virhe);
+  Ilmoita(Teksti(tekstit::kKohdetiedostoPuutteellinen), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   SuljeKohde();
   return false;
 }
@@ -211,14 +215,17 @@ void Istunto::mnuFileSaveAs_Click() {
 }
 
 void Istunto::TallennaNimella() {
-  const auto valittu = ViestitNyt().KysyTallennettavaTiedosto(Teksti(1131), Teksti(1130));
+  const auto valittu = ViestitNyt().KysyTallennettavaTiedosto(Teksti(tekstit::kTallennaNimellaOtsikko),
+                                                              Teksti(tekstit::kKohdetiedostosuodatin));
   if (!valittu) return;
   const std::string tiedosto = Paatteella(*valittu);
   if (fs::exists(tiedosto)) {
-    if (Kysy(Teksti(1150) + tiedosto + Teksti(1151), 1152, Napit::KyllaEiPeruuta, Vastaus::Ei) != Vastaus::Kylla)
+    if (Kysy(Teksti(tekstit::kKorvataankoAlku) + tiedosto + Teksti(tekstit::kKorvataankoLoppu),
+             tekstit::kKorvataankoOtsikko, Napit::KyllaEiPeruuta, Vastaus::Ei) != Vastaus::Kylla)
       return;
     if (OnKirjoitussuojattu(tiedosto))
-      return Ilmoita(Teksti(1153) + " " + tiedosto + " " + Teksti(1154), Teksti(9101), Vakavuus::Varoitus);
+      return Ilmoita(Teksti(tekstit::kTiedosto) + " " + tiedosto + " " + Teksti(tekstit::kKaytossaEiKorvata),
+                     Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
   }
   const std::string entinen = Tiedosto();
   AsetaTiedosto(tiedosto);
@@ -258,28 +265,31 @@ void Istunto::PoistaMerkki() {
 bool Istunto::QueryUnload(bool istuntoPaattyy) {
   if (EstaaVaraus()) return false;
   const Napit napit = istuntoPaattyy ? Napit::KyllaEi : Napit::KyllaEiPeruuta;
-  if (!VoiLuopua({Teksti(9003), Teksti(9002), Vakavuus::Kysymys, napit, Vastaus::Kylla})) return false;
+  if (!VoiLuopua({Teksti(tekstit::kTallennetaankoLopettaessa), Teksti(tekstit::kTallentamattaOtsikko),
+                  Vakavuus::Kysymys, napit, Vastaus::Kylla}))
+    return false;
   PoistaMerkki();
   return true;
 }
 
 bool Istunto::TarjoaJaaneet() {
   const std::string palautus = PalautuksenPolku();
-  return (fs::exists(palautus) && Tarjoa(palautus, 9518)) || TarjoaVarakopio();
+  return (fs::exists(palautus) && Tarjoa(palautus, tekstit::kAvataankoTalteenOtettu)) || TarjoaVarakopio();
 }
 
 bool Istunto::TarjoaVarakopio() {
   const std::string varakopio = JaanytVarakopio();
-  return !varakopio.empty() && Tarjoa(varakopio, 9502);
+  return !varakopio.empty() && Tarjoa(varakopio, tekstit::kAvataankoVarmuuskopio);
 }
 
 /// Whatever the answer, the file is kept under a name of its own, where no later save replaces it. Until there is an
 /// answer it stays where it was, to be offered anew.
 bool Istunto::Tarjoa(const std::string& tiedosto, int kysymys) {
-  const Vastaus vastaus = Kysy(Teksti(kysymys) + "\n\n" + Tuntomerkit(tiedosto), 9101, Napit::KyllaEi, Vastaus::Kylla);
+  const Vastaus vastaus =
+      Kysy(Teksti(kysymys) + "\n\n" + Tuntomerkit(tiedosto), tekstit::kHuomautus, Napit::KyllaEi, Vastaus::Kylla);
   const std::string talteen = SailytaAjalla(tiedosto);
   if (vastaus == Vastaus::Ei) {
-    Ilmoita(Teksti(9503) + " " + talteen, Teksti(9101));
+    Ilmoita(Teksti(tekstit::kVarmuuskopioTalteen) + " " + talteen, Teksti(tekstit::kHuomautus));
     return false;
   }
   if (!VoiVaihtaa() || !VersioKay(talteen)) return false;
@@ -323,5 +333,5 @@ std::string PaaikkunanOtsikko(const std::string& teksti) {
   std::string loppu = teksti;
   if (loppu.empty() && rakennus)
     loppu = LyhennaPolku(rakennus->ProjektiAsetukset.strCurrentProjectFile, kPolkuOtsikossa);
-  return loppu.empty() ? Teksti(1081) : Teksti(1081) + " - " + loppu;
+  return loppu.empty() ? Teksti(tekstit::kOhjelmanNimi) : Teksti(tekstit::kOhjelmanNimi) + " - " + loppu;
 }

@@ -14,6 +14,8 @@
 #include "kernel/Versio.h"
 #include "settings/Asetusavaimet.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/paaikkuna.h"
+#include "tekstit/viestit.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Komento.h"
 #include "ui/Lomakekaannos.h"
@@ -36,7 +38,8 @@ void LueAineistot() {
   const Siemennys siemennys = SiemennaTiedostot();
   AlustaTekstit();
   if (!siemennys.virhe.empty())
-    Ilmoita(Teksti(9505) + " " + AppPath() + "\n" + siemennys.virhe, Teksti(9100), Vakavuus::Varoitus);
+    Ilmoita(Teksti(tekstit::kTietokansioonEiVoiKirjoittaa) + " " + AppPath() + "\n" + siemennys.virhe,
+            Teksti(tekstit::kVirhe), Vakavuus::Varoitus);
 }
 
 void LueAsetukset() {
@@ -78,7 +81,7 @@ bool KomentoKesken() { return KomentoKaynnissa() && !QApplication::activeModalWi
 
 Ohjelma::Ohjelma() : lopetussignaali_([this] { Lopeta(); }) {
   Lataa();
-  viestit_.AsetaPaneeli(Teksti(1092));
+  viestit_.AsetaPaneeli(Teksti(tekstit::kValmis));
   QObject::connect(qApp, &QGuiApplication::commitDataRequest, paaikkuna_.get(), [this](QSessionManager& istunto) {
     if (istunto.allowsInteraction() && !paaikkuna_->IstuntoPaattyy()) istunto.cancel();
   });
@@ -152,7 +155,7 @@ int KuvaaPaaikkuna(const std::string& kuva, const std::string& avattava) {
     Istunto istunto;
     frmMain ikkuna(istunto);
     LueAsetukset();
-    ikkuna.AsetaPaneeli(Teksti(1092));
+    ikkuna.AsetaPaneeli(Teksti(tekstit::kValmis));
     ikkuna.show();
     if (!avattava.empty() && istunto.Avaa(avattava)) istunto.Rakennus()->NaytaLampoYhteenvetoDlg();
     ikkuna.PaivitaValikot();

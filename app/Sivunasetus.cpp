@@ -4,11 +4,11 @@
 #include <QPageSetupDialog>
 #include <QPrinter>
 
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
-constexpr int kOtsikko = 9536;
 constexpr double kReuna = 20;  // mm
 
 }  // namespace
@@ -21,6 +21,6 @@ void KysySivunAsetukset(QWidget& ikkuna, QPageLayout& sivu) {
   QPrinter tulostin;
   tulostin.setPageLayout(sivu);
   QPageSetupDialog dialogi(&tulostin, &ikkuna);
-  dialogi.setWindowTitle(QString::fromStdString(Teksti(kOtsikko)));
+  dialogi.setWindowTitle(QString::fromStdString(Teksti(tekstit::kSivunAsetusOtsikko)));
   if (dialogi.exec() == QDialog::Accepted) sivu = tulostin.pageLayout();
 }

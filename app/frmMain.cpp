@@ -14,6 +14,8 @@
 #include "app/Sivunasetus.h"
 #include "app/Viimeisimmat.h"
 #include "kernel/Hakemistot.h"
+#include "tekstit/paaikkuna.h"
+#include "tekstit/viestit.h"
 #include "ui/Komento.h"
 #include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
@@ -99,7 +101,7 @@ void frmMain::LuoToiminto(const Valikkorivi& rivi, QMenu& valikko) {
 
 /// The buttons of each menu are a group.
 void frmMain::LuoTyokalut() {
-  tyokalut_ = addToolBar(Q(Teksti(1081)));
+  tyokalut_ = addToolBar(Q(Teksti(tekstit::kOhjelmanNimi)));
   tyokalut_->setObjectName("tbToolBar");
   tyokalut_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   tyokalut_->setMovable(false);
@@ -221,7 +223,7 @@ void frmMain::MDIForm_Unload() {
 /// The window system may ask for closing while a calculation lets the windows paint.
 void frmMain::closeEvent(QCloseEvent* tapahtuma) {
   tapahtuma->ignore();
-  if (KomentoKaynnissa()) return ViestitNyt().AsetaPaneeli(Teksti(9515));
+  if (KomentoKaynnissa()) return ViestitNyt().AsetaPaneeli(Teksti(tekstit::kLaskentaKesken));
   if (!QueryUnload(false)) return;
   MDIForm_Unload();
   tapahtuma->accept();

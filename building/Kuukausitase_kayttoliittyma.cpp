@@ -5,14 +5,12 @@
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "results/Laskentataulukko.h"
+#include "tekstit/lomakkeet_asetukset.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmKuukausitase.h"
 
 namespace {
-
-constexpr int kOtsikko = 2920, kTase = 2923, kVuosi = 2925, kKokoRakennus = 2937, kNormitettu = 2938,
-              kEiNormitettavissa = 2939, kTammi = 2940, kEnsimmainenTermi = 2960, kkWh = 2972;
 
 /// How a term is drawn: losses and gains in columns of their own, the demand as a line. Sums and shares aren't drawn.
 struct Sarja {
@@ -30,14 +28,14 @@ constexpr Tasetermi Termi(std::size_t i) { return static_cast<Tasetermi>(i); }
 
 bool OnSuhde(Tasetermi termi) { return termi == Tasetermi::Hyvaksikayttoaste; }
 
-std::string TerminNimi(Tasetermi termi) { return Teksti(kEnsimmainenTermi + static_cast<int>(termi)); }
+std::string TerminNimi(Tasetermi termi) { return Teksti(tekstit::kTasetermit[static_cast<std::size_t>(termi)]); }
 
 /// A ratio is shown per cent.
 double Naytettava(Tasetermi termi, double arvo) { return OnSuhde(termi) ? arvo * 100 : arvo; }
 
 std::vector<std::string> KuukausienNimet() {
   std::vector<std::string> nimet;
-  for (int m = 0; m < kKuukausia; ++m) nimet.push_back(Teksti(kTammi + m));
+  for (const Tekstinumero kuukausi : tekstit::kKuukaudet) nimet.push_back(Teksti(kuukausi));
   return nimet;
 }
 
@@ -51,23 +49,23 @@ auto TerminRivi(const Kuukausitase& tase, Tasetermi termi, Solu&& solu) {
 }
 
 std::string NormitusTekstina(const Kuukausitase& tase) {
-  if (tase.vyohyke <= 0) return Teksti(kEiNormitettavissa);
-  return Teksti(kNormitettu) + " " + Muotoile(tase.Vuosi(Tasetermi::Tarve), "### ##0") + " kWh × " +
-         Muotoile(tase.paikkakunta, "### ##0") + " °Cd / " + Muotoile(tase.vyohyke, "### ##0") +
+  if (tase.vyohyke <= 0) return Teksti(tekstit::kLammontarveEiNormitettavissa);
+  return Teksti(tekstit::kLammontarveNormitettuna) + " " + Muotoile(tase.Vuosi(Tasetermi::Tarve), "### ##0") +
+         " kWh × " + Muotoile(tase.paikkakunta, "### ##0") + " °Cd / " + Muotoile(tase.vyohyke, "### ##0") +
          " °Cd = " + Muotoile(tase.NormitettuTarve(), "### ##0.00") + " MWh/a";
 }
 
 Kaaviotiedot Kaavio(const Kuukausitase& tase, const std::string& nimi) {
-  Kaaviotiedot kaavio{.otsikko = nimi, .nimet = KuukausienNimet(), .yksikko = Teksti(kkWh)};
+  Kaaviotiedot kaavio{.otsikko = nimi, .nimet = KuukausienNimet(), .yksikko = Teksti(tekstit::kKWh)};
   for (const Sarja& s : kSarjat)
     kaavio.sarjat.push_back({TerminNimi(s.termi), {tase[s.termi].begin(), tase[s.termi].end()}, s.pino});
   return kaavio;
 }
 
 Laskentataulukko Taulukoksi(const Kuukausitase& tase, const std::string& otsikko) {
-  Laskentataulukko taulukko{otsikko, {Teksti(kTase)}, {}};
+  Laskentataulukko taulukko{otsikko, {Teksti(tekstit::kTaseKWh)}, {}};
   for (std::string& nimi : KuukausienNimet()) taulukko.sarakkeet.push_back(std::move(nimi));
-  taulukko.sarakkeet.push_back(Teksti(kVuosi));
+  taulukko.sarakkeet.push_back(Teksti(tekstit::kVuosi));
   for (std::size_t i = 0; i < kTasetermeja; ++i)
     taulukko.rivit.push_back(TerminRivi(tase, Termi(i), [](double arvo) { return Taulukkosolu(arvo); }));
   taulukko.rivit.push_back({});
@@ -87,12 +85,12 @@ void TaytaTaulukko(const frmKuukausitase& lomake, const Kuukausitase& tase) {
 
 void Nayta(const Kuukausitase& tase, const std::string& nimi) {
   frmKuukausitase lomake;
-  lomake.Otsikko(Teksti(kOtsikko) + ": " + nimi);
+  lomake.Otsikko(Teksti(tekstit::kKuukausitase) + ": " + nimi);
   TaytaTaulukko(lomake, tase);
   lomake.chtTase.Kaavio(Kaavio(tase, nimi));
   lomake.lblNormitus.Otsikko(NormitusTekstina(tase));
   lomake.TallennaTaulukko = [&](const std::string& tiedosto) {
-    TallennaLaskentataulukko(Taulukoksi(tase, lomake.Otsikko()), Teksti(kOtsikko), tiedosto);
+    TallennaLaskentataulukko(Taulukoksi(tase, lomake.Otsikko()), Teksti(tekstit::kKuukausitase), tiedosto);
     return true;
   };
   lomake.NaytaModaalisena();
@@ -109,7 +107,7 @@ Kuukausitase Odottaen(Lasku&& lasku) {
 
 void NaytaKuukausitase(clsRakennus& rakennus) try {
   const Kuukausitase tase = Odottaen([&] { return LaskeKuukausitase(rakennus); });
-  Nayta(tase, rakennus.Perustiedot.KohteenNimi + ", " + Teksti(kKokoRakennus));
+  Nayta(tase, rakennus.Perustiedot.KohteenNimi + ", " + Teksti(tekstit::kKokoRakennus));
 } catch (...) {
   NostaVirhe("Kuukausitase:NaytaKuukausitase Function");
 }

@@ -4,12 +4,12 @@
 #include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmMateriaalimuutokset.h"
 
 namespace {
 
-constexpr int kLambda = 5218, kTiheys = 5219, kOminaislampo = 5220, kUarvo = 5221;
 constexpr const char* kUarvonKuvio = "0.00#";
 
 struct Suure {
@@ -18,9 +18,9 @@ struct Suure {
   const char* kuvio;
 };
 constexpr Suure kSuureet[] = {
-    {&Materiaali::Lambda, kLambda, "0.0####"},
-    {&Materiaali::Tiheys, kTiheys, "### ##0.##"},
-    {&Materiaali::Ominaislampo, kOminaislampo, "0.0##"},
+    {&Materiaali::Lambda, tekstit::kLammonjohtavuusYksikoin, "0.0####"},
+    {&Materiaali::Tiheys, tekstit::kTiheysYksikoin, "### ##0.##"},
+    {&Materiaali::Ominaislampo, tekstit::kOminaislampoYksikoin, "0.0##"},
 };
 
 /// Adds the rows of one structure.
@@ -49,7 +49,7 @@ class Vertailu {
   void VertaaUarvoja(const Rakenneratkaisu& uusi) const {
     const auto ennen = nykyinen_.LaskeU_arvo(), jalkeen = uusi.LaskeU_arvo();
     if (ennen && jalkeen && *ennen != *jalkeen)
-      Lisaa({}, {}, kUarvo, Muotoile(*ennen, kUarvonKuvio), Muotoile(*jalkeen, kUarvonKuvio));
+      Lisaa({}, {}, tekstit::kLaskettuUArvoYksikoin, Muotoile(*ennen, kUarvonKuvio), Muotoile(*jalkeen, kUarvonKuvio));
   }
 
   void Lisaa(const std::string& kerros, const std::string& aine, int suure, std::string ennen,

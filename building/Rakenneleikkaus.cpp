@@ -8,12 +8,12 @@
 #include "building/clsSaa.h"
 #include "kernel/Luvut.h"
 #include "library/Lampotilajakauma.h"
+#include "tekstit/lomakkeet_kirjasto.h"
+#include "tekstit/lomakkeet_tilat.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
-
-constexpr int kAsteet = 2552, kSisalampotila = 5207, kUlkolampotila = 5208, kSamaLampotila = 5209;
 
 /// A partition, or a wall, roof or floor towards a space at room temperature.
 bool OnHuoneidenValissa(const clsRakenne& rakenne) {
@@ -22,7 +22,7 @@ bool OnHuoneidenValissa(const clsRakenne& rakenne) {
 }
 
 std::string Lampotila(int teksti, double asteet) {
-  return Teksti(teksti) + " " + Muotoile(asteet, "0.#") + " " + Teksti(kAsteet);
+  return Teksti(teksti) + " " + Muotoile(asteet, "0.#") + " " + Teksti(tekstit::kCelsiusaste);
 }
 
 }  // namespace
@@ -30,8 +30,9 @@ std::string Lampotila(int teksti, double asteet) {
 Kaaviotiedot Rakenneleikkaus(const clsRakenne& rakenne, double Tsisa) {
   const bool huoneidenValissa = OnHuoneidenValissa(rakenne);
   const double Tulko = huoneidenValissa ? Tsisa : VaadiSaa().LammMitoitusUlkolampotila;
-  const std::string takana = huoneidenValissa ? Teksti(kSamaLampotila) : Lampotila(kUlkolampotila, Tulko);
+  const std::string takana =
+      huoneidenValissa ? Teksti(tekstit::kSamaLampotilaToisella) : Lampotila(tekstit::kLeikkauksenUlkolampotila, Tulko);
   Leikkaus leikkaus = rakenne.RakenneRatkaisu ? MuodostaLeikkaus(*rakenne.RakenneRatkaisu, Tsisa, Tulko) : Leikkaus();
-  return Lampotilakuvaus(Lampotila(kSisalampotila, Tsisa) + ", " + takana, std::move(leikkaus.nimet),
+  return Lampotilakuvaus(Lampotila(tekstit::kTilanSisalampotila, Tsisa) + ", " + takana, std::move(leikkaus.nimet),
                          std::move(leikkaus.paksuudet), std::move(leikkaus.vastukset), std::move(leikkaus.lampotilat));
 }

@@ -8,11 +8,10 @@
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
 #include "library/Rakennetyyppi.h"
+#include "tekstit/lomakkeet_tilat.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
-
-constexpr int kOtsikotPuuttuvat = 2776, kVirheellinenArvo = 2777, kTyyppiPuuttuu = 2778;
 
 enum Sarake { kNimi, kTyyppi, kAla, kUarvo, kRajoittuu, kSuuntaus, kSarakkeita };
 constexpr std::array<std::string_view, kSarakkeita> kOtsikot{"Nimi",   "Rakennetyyppi", "Pinta-ala",
@@ -91,7 +90,7 @@ class Rivinlukija {
 Rakenneliitos::Rakenneliitos(const Taulukko& rivit, std::optional<std::int32_t> oletus) {
   const Sarakkeet sarakkeet = rivit.empty() ? Sarakkeet() : EtsiOtsikot(rivit.front());
   if (std::ranges::none_of(sarakkeet, [](const auto& s) { return s.has_value(); })) {
-    virhe = Teksti(kOtsikotPuuttuvat);
+    virhe = Teksti(tekstit::kLiitettavaIlmanOtsikkoa);
     return;
   }
   const Rivinlukija lukija(sarakkeet, oletus);
@@ -101,6 +100,7 @@ Rakenneliitos::Rakenneliitos(const Taulukko& rivit, std::optional<std::int32_t> 
   } catch (const Virheellinen& arvo) {
     rakenteet.clear();
     const std::string paikka = " " + std::to_string(i + 1) + ": ";
-    virhe = *arvo.what() ? Teksti(kVirheellinenArvo) + paikka + arvo.what() : Teksti(kTyyppiPuuttuu);
+    virhe = *arvo.what() ? Teksti(tekstit::kLiitettavassaVirhe) + paikka + arvo.what()
+                         : Teksti(tekstit::kLiitettavaIlmanTyyppia);
   }
 }

@@ -12,13 +12,14 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_kirjasto.h"
+#include "tekstit/lomakkeet_tilat.h"
+#include "tekstit/rakennus.h"
+#include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
-
-constexpr int kKopio = 1998, kUusiRakenne = 2771, kRakenneKaytossa = 2774, kLukittu = 2775, kHaetaan = 5202;
-constexpr int kVirheenOtsikko = 9100;
 
 constexpr const char* kUarvo = "0.00#";
 constexpr const char* kAla = "### ##0.0#";
@@ -306,7 +307,7 @@ void Rakennemuokkaus::RakenteetMuuttuivat(const Tunniste& valittava) {
 
 void Rakennemuokkaus::KayttoLiittyma_LisaaKlikattu() {
   KirjoitaDataluokka();
-  RakenteetMuuttuivat(LisaaRakenne(KayttoLiittyma.Naytettavat(), Teksti(kUusiRakenne)).sKey);
+  RakenteetMuuttuivat(LisaaRakenne(KayttoLiittyma.Naytettavat(), Teksti(tekstit::kTilanUusiRakenne)).sKey);
   KayttoLiittyma.txtNimi.Kohdista();
 }
 
@@ -314,13 +315,13 @@ void Rakennemuokkaus::KayttoLiittyma_KopioiKlikattu() {
   KirjoitaDataluokka();
   const clsRakenne& lahde = rakenteet_.Item(muokattava_);
   clsRakenne& kopio = LisaaKopio(rakenteet_, lahde);
-  if (kopio.RakenneRatkaisu) kopio.RakenneRatkaisu->Nimi = Teksti(kKopio) + lahde.NaytettavaNimi();
+  if (kopio.RakenneRatkaisu) kopio.RakenneRatkaisu->Nimi = Teksti(tekstit::kKopio) + lahde.NaytettavaNimi();
   RakenteetMuuttuivat(kopio.sKey);
 }
 
 void Rakennemuokkaus::KayttoLiittyma_PoistaKlikattu() {
   if (const std::string nimet = ViittaavatToimenpiteet(rakenteet_.Item(muokattava_)); !nimet.empty())
-    return Ilmoita(Teksti(kRakenneKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    return Ilmoita(Teksti(tekstit::kRakennettaEiVoiPoistaa) + " " + nimet, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   if (!KysyPoisto()) return;
   if (haettava_ == muokattava_) RakKirjasto_KantaDlgSuljettu();
   rakenteet_.Remove(muokattava_);
@@ -328,11 +329,11 @@ void Rakennemuokkaus::KayttoLiittyma_PoistaKlikattu() {
 }
 
 void Rakennemuokkaus::KayttoLiittyma_RivitLiitetty(const Taulukko& rivit) {
-  if (Lukittu()) return Ilmoita(Teksti(kLukittu), Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+  if (Lukittu()) return Ilmoita(Teksti(tekstit::kRakenteitaEiVoiLisata), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   const std::int32_t naytettavat = KayttoLiittyma.Naytettavat();
   const Rakenneliitos liitos(
       rivit, naytettavat == frmRakenteet::kKaikki ? std::nullopt : std::optional<std::int32_t>(naytettavat));
-  if (!liitos.virhe.empty()) return Ilmoita(liitos.virhe, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+  if (!liitos.virhe.empty()) return Ilmoita(liitos.virhe, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   KirjoitaDataluokka();
   Tunniste viimeinen = muokattava_;
   for (const LiitettyRakenne& tieto : liitos.rakenteet) {
@@ -353,7 +354,7 @@ void Rakennemuokkaus::KayttoLiittyma_HaeKirjastosta() {
   RakKirjasto_KantaDlgSuljettu();
   const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
   haettava_ = muokattava_;
-  NaytaHaku(Teksti(kHaetaan) + " " + rakenne.NaytettavaNimi());
+  NaytaHaku(Teksti(tekstit::kKirjastostaHaetaan) + " " + rakenne.NaytettavaNimi());
   haku_ = RakennekirjastolinkkiNyt().ValitseRakenne(
       std::string(RakennetyypinSana(rakenne.Rakennetyyppi)),
       {.RakKirjasto_RakenneValittu = [this](const Rakenneratkaisu& r) { RakKirjasto_RakenneValittu(r); },

@@ -7,14 +7,14 @@
 #include "building/Rakennemuokkaus.h"
 #include "kernel/Luvut.h"
 #include "library/Lampotilajakauma.h"
+#include "tekstit/lomakkeet_tilat.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
-constexpr int kKylla = 2772, kEi = 2773;
 constexpr const char* kEiArvoa = "---";
 
-std::string KyllaTaiEi(bool kylla) { return Teksti(kylla ? kKylla : kEi); }
+std::string KyllaTaiEi(bool kylla) { return Teksti(kylla ? tekstit::kKylla : tekstit::kEi); }
 
 /// `vastus`: m²K/W.
 std::vector<std::string> Kerrosrivi(const clsRakennekerros& kerros, std::size_t indeksi, double vastus) {

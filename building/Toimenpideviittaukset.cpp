@@ -6,11 +6,10 @@
 
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "tekstit/rakennus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
-
-constexpr int kEiNimea = 9128;
 
 using Tunnisteet = std::unordered_set<Tunniste>;
 
@@ -38,6 +37,6 @@ std::string ViittaavatToimenpiteet(Olio& olio) {
   std::string nimet;
   for (const clsSaastotoimenpide& toimenpide : VaadiRakennus().Saastotoimenpiteet)
     if (Viittaa(toimenpide.MuuttuneetAttribuutit, tunnisteet))
-      nimet += (nimet.empty() ? "" : ", ") + (toimenpide.Nimi.empty() ? Teksti(kEiNimea) : toimenpide.Nimi);
+      nimet += (nimet.empty() ? "" : ", ") + (toimenpide.Nimi.empty() ? Teksti(tekstit::kViiva) : toimenpide.Nimi);
   return nimet;
 }

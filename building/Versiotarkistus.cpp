@@ -2,6 +2,7 @@
 #include "building/Versiotarkistus.h"
 
 #include "kernel/Versio.h"
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
 
 Versiosuhde Suhde(const Tiedostoversio& versio) noexcept {
@@ -10,13 +11,14 @@ Versiosuhde Suhde(const Tiedostoversio& versio) noexcept {
 }
 
 std::string Versioviesti(const Tiedostoversio& versio) {
-  const std::string alku =
-      Teksti(9222) + " " + std::to_string(versio.Major) + "." + std::to_string(versio.Minor) + ".xx ";
+  const std::string alku = Teksti(tekstit::kOhjelmaversioAlku) + " " + std::to_string(versio.Major) + "." +
+                           std::to_string(versio.Minor) + ".xx ";
   switch (Suhde(versio)) {
     case Versiosuhde::Uudempi:
-      return alku + Teksti(9223);
+      return alku + Teksti(tekstit::kVersioUudempi);
     case Versiosuhde::Vanhempi:
-      return alku + Teksti(9224) + " " + Teksti(9225) + " " + Teksti(9226);
+      return alku + Teksti(tekstit::kVersioVanhempi) + " " + Teksti(tekstit::kVanhaAvataan) + " " +
+             Teksti(tekstit::kVanhaMuuttuuTallennettaessa);
     case Versiosuhde::Sama:
       break;
   }

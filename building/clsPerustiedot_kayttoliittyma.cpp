@@ -5,6 +5,9 @@
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "tekstit/rakennus.h"
+#include "tekstit/virheet.h"
 #include "ui/Odotus.h"
 #include "ui/Paaikkuna.h"
 #include "ui/Tekstivarasto.h"
@@ -13,8 +16,6 @@
 
 namespace {
 
-constexpr int kOtsikko = 1281, kEpakelpoLuku = 1008, kVakioOsuusYlittaa = 1041;
-constexpr int kSisaltaaAlvn = 3030, kAlv = 3903;
 constexpr int kVuosia = 3;
 
 /// Fields of a measured year in the grid, and the figures that they stand for.
@@ -75,9 +76,11 @@ void clsPerustiedot::LiitaTapahtumat() {
 
 void clsPerustiedot::AsetaOtsikot() {
   frmPerustiedot& lomake = *kayttoLiittyma_.arvo;
-  lomake.Otsikko(OletusarvotLaskettu ? KohteenNimi + ": " + Teksti(kOtsikko) : Teksti(kOtsikko));
+  lomake.Otsikko(OletusarvotLaskettu ? KohteenNimi + ": " + Teksti(tekstit::kPerustiedot)
+                                     : Teksti(tekstit::kPerustiedot));
   if (!OletusarvotLaskettu) PaaikkunaNyt().TyokalutKaytossa(3, false);
-  lomake.lblALV.Otsikko(Asetukset().KaytaKohtTulostuksissaALVHintoja ? Teksti(kSisaltaaAlvn) : Teksti(kAlv) + " 0 %");
+  lomake.lblALV.Otsikko(Asetukset().KaytaKohtTulostuksissaALVHintoja ? Teksti(tekstit::kMaksutSisaltavatAlvn)
+                                                                     : Teksti(tekstit::kArvonlisaveroOtsikko) + " 0 %");
 }
 
 void clsPerustiedot::LueDataluokka() try {
@@ -143,7 +146,7 @@ void clsPerustiedot::KayttoLiittyma_DataMuuttui() {
 
 void clsPerustiedot::KayttoLiittyma_KulutustietoMuuttui() {
   KayttoLiittyma_DataMuuttui();
-  if (!KirjoitaKulutukset()) NaytaVirhe(kEpakelpoLuku);
+  if (!KirjoitaKulutukset()) NaytaVirhe(virheet::kEiLuku);
 }
 
 void clsPerustiedot::KayttoLiittyma_SaaPaikkakuntaMuuttui(int paikkakunta) {
@@ -168,7 +171,7 @@ void clsPerustiedot::OtaKayttoon(std::int32_t entinenPaikkakunta) try {
     LaskeOletusarvotPerustietojenMukaan.arvo();
     OletusarvotLaskettu = true;
   }
-  VaadiRakennus().Muuttui(Teksti(kOtsikko));
+  VaadiRakennus().Muuttui(Teksti(tekstit::kPerustiedot));
 } catch (...) {
   NostaVirhe("clsPerustiedot:OtaKayttoon Method");
 }
@@ -176,7 +179,7 @@ void clsPerustiedot::OtaKayttoon(std::int32_t entinenPaikkakunta) try {
 void clsPerustiedot::KayttoLiittyma_OkKlikattu() try {
   Odotus odotus;
   KirjoitaDataluokka();
-  if (!VakioOsuusMahtuuKulutukseen()) return NaytaVirhe(kVakioOsuusYlittaa);
+  if (!VakioOsuusMahtuuKulutukseen()) return NaytaVirhe(virheet::kKulutusAlleVakion);
   PaaikkunaNyt().TyokalutKaytossa(3, true);
   OtaKayttoon(varalla_.arvo->paikkakunta_);
   kayttoLiittyma_.arvo->Sulje();

@@ -11,6 +11,7 @@
 #include "solar/AurinkoLaskin.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/tulokset.h"
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
@@ -20,7 +21,6 @@ constexpr double kPuskuritilanKerroin = 0.8;
 constexpr double kTuntiaVuorokaudessa = 24;
 constexpr double kWhPerkWh = 1000;
 constexpr double kMJperkWh = 3.6;
-constexpr int kLiianKylmaTekstinro = 9212;
 
 /// Loss towards the ground, kWh/m² per month, by room temperature.
 struct Maataulukko {
@@ -70,7 +70,7 @@ double HavioIlmaan(double WperK, double Tsisa, double Tulko, int paivia) {
 
 double HavioMaahan(double pintaAla, double Tsisa, int kuukausi) {
   if (const Kuukausitaulu* haviot = Maahaviot(Tsisa)) return pintaAla * (*haviot)[static_cast<std::size_t>(kuukausi)];
-  Ilmoita(Teksti(kLiianKylmaTekstinro));
+  Ilmoita(Teksti(tekstit::kLiianKylmaMaanvastaiselle));
   return 0;
 }
 

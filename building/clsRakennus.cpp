@@ -11,6 +11,8 @@
 #include "kernel/Virhe.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/tulokset.h"
+#include "tekstit/viestit.h"
+#include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ui/frmLampoYhteenveto.h"
@@ -76,8 +78,6 @@ constexpr Tulos kTulokset[] = {
     Kuukausitulos<&clsRakennus::ProsessiVesiHaviotKk>("ProsessiVesiHaviotKk", tekstit::kProsessivedenLammitys),
     Upotustulos<&clsRakennus::IVKoneet>(),
 };
-
-constexpr int kLammitystarvelukuPuuttuu = 1050;
 
 template <class F>
 double TilojenSumma(const clsTilat& tilat, F&& arvo) {
@@ -350,10 +350,10 @@ double clsRakennus::ToteutunutNormitettuLampo() try {
   const double vakio = Perustiedot.LammKulVakioOsuus.VuosiOsuus;
   const clsToteutunutKulutus vertailuvuosi = Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot();
   if (vakio > vertailuvuosi.Lampo)
-    Ilmoita(Teksti(9217) + " " + Muotoile(vertailuvuosi.Lampo, "0") + " " + Teksti(9218) + " " + Muotoile(vakio, "0") +
-            " " + Teksti(9219));
+    Ilmoita(Teksti(tekstit::kVakioOsuusAlku) + " " + Muotoile(vertailuvuosi.Lampo, "0") + " " +
+            Teksti(tekstit::kVakioOsuusKeski) + " " + Muotoile(vakio, "0") + " " + Teksti(tekstit::kVakioOsuusLoppu));
   if (vertailuvuosi.LammTarveLuku <= 0) {
-    NaytaVirhe(kLammitystarvelukuPuuttuu);
+    NaytaVirhe(virheet::kVuodenLammitystarvelukuPuuttuu);
     return 0;
   }
   return Aarellinen((vertailuvuosi.Lampo - vakio) * norm / vertailuvuosi.LammTarveLuku + vakio);

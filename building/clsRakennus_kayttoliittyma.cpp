@@ -6,6 +6,9 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Virhe.h"
 #include "library/Rakennetyyppi.h"
+#include "tekstit/rakennus.h"
+#include "tekstit/viestit.h"
+#include "tekstit/virheet.h"
 #include "ui/Hiljaa.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
@@ -14,15 +17,15 @@
 namespace {
 
 constexpr double kSuuriMaanvarainenU = 1.0;  // W/m²K
-constexpr int kMuuLampo = 9567;
-constexpr int kSuuriUVaroitus = 1068, kIrrallisetKoneet = 1057, kIrrallinenKone = 1058;
 
 /// "The part, and the rest": how the panel tells that the generation goes on.
 class Vaiheet {
  public:
-  Vaiheet() : odotus_(Teksti(9107)), teksti_(Teksti(9107)) {}
+  Vaiheet()
+      : odotus_(Teksti(tekstit::kLuodaanKohteenOletustietoja)),
+        teksti_(Teksti(tekstit::kLuodaanKohteenOletustietoja)) {}
   void Seuraava() { odotus_.Teksti(teksti_ += "."); }
-  void Valmis() { odotus_.Teksti(Teksti(9108)); }
+  void Valmis() { odotus_.Teksti(Teksti(tekstit::kOletustiedotLuotu)); }
 
  private:
   Odotus odotus_;
@@ -90,7 +93,7 @@ void clsRakennus::NaytaLampoYhteenvetoDlg() try {
     lampoYhteenveto_ = std::make_unique<frmLampoYhteenveto>();
     lampoYhteenveto_->MuuLampoMuuttui = [this](double arvo) {
       MuuLampo = arvo;
-      Muuttui(Teksti(kMuuLampo));
+      Muuttui(Teksti(tekstit::kMuuLampo));
     };
     lampoYhteenveto_->KuukausitaseKlikattu = [this] { NaytaKuukausitase(*this); };
     lampoYhteenveto_->OkKlikattu = [this] { lampoYhteenveto_->Sulje(); };
@@ -120,16 +123,19 @@ void clsRakennus::VaroitaMaanvaraisista() const {
   for (const clsTila& tila : Tilat)
     for (const clsRakenne& rakenne : tila.Rakenteet)
       if (rakenne.TyyppiID == kMaa && rakenne.U_arvo() > kSuuriMaanvarainenU)
-        NaytaVirhe(kSuuriUVaroitus, Teksti(9220) + " " + rakenne.NaytettavaNimi() + ", " + tila.TilanNimi);
+        NaytaVirhe(virheet::kSuuriUArvo,
+                   Teksti(tekstit::kRakenne) + " " + rakenne.NaytettavaNimi() + ", " + tila.TilanNimi);
 }
 
 void clsRakennus::VaroitaIlmavirroista() {
   if (IVKoneet.Tuloilmavirtojen11Summa() > IVKoneet.Poistoilmavirtojen11Summa())
-    Ilmoita(Teksti(9175) + " " + Teksti(9211), Teksti(9101), Vakavuus::Varoitus);
+    Ilmoita(Teksti(tekstit::kTuloilmavirratSuuremmat) + " " + Teksti(tekstit::kTarkistaIlmavirrat),
+            Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
   std::string nimet;
   const auto irralliset = IVKoneet.ListaaTilaanLiittymattomatIVKoneet();
   for (const clsIVKone* kone : irralliset) nimet += (nimet.empty() ? "" : ", ") + kone->KoneenTunnus;
-  if (!irralliset.empty()) NaytaVirhe(irralliset.size() > 1 ? kIrrallisetKoneet : kIrrallinenKone, nimet);
+  if (!irralliset.empty())
+    NaytaVirhe(irralliset.size() > 1 ? virheet::kKoneitaIrrallaan : virheet::kKoneIrrallaan, nimet);
 }
 
 void clsRakennus::TaytaLampoYhteenveto() {

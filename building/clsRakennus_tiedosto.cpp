@@ -13,6 +13,9 @@
 #include "kernel/Virhe.h"
 #include "library/Rakennetietokanta.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "tekstit/viestit.h"
+#include "tekstit/virheet.h"
 #include "ui/Odotus.h"
 #include "ui/Paaikkuna.h"
 #include "ui/Tekstivarasto.h"
@@ -20,7 +23,6 @@
 
 namespace {
 
-constexpr int kTallennusEpaonnistui = 1039;
 constexpr std::size_t kPolunPituusPaneelissa = 70;
 
 /// Text of the part that is being saved or loaded, by class.
@@ -31,19 +33,19 @@ struct Osateksti {
 
 int OsanTeksti(const Luokka& luokka) {
   static const Osateksti kOsatekstit[] = {
-      {clsPerustiedot::kLuokka, 9520},
-      {clsTilat::kLuokka, 9521},
-      {clsRakenteet::kLuokka, 9522},
-      {clsIVKoneet::kLuokka, 9523},
-      {clsSahkonKulutusryhmat::kLuokka, 9524},
-      {clsVedenKulutusryhmat::kLuokka, 9525},
-      {clsEnergianHankinta::kLuokka, 9526},
-      {clsTariffit::kLuokka, 9527},
-      {clsVesitariffit::kLuokka, 9528},
-      {clsSahkoTariffienVertailu::kLuokka, 9529},
-      {clsToimenpiteidenJarjestelija::kLuokka, 9530},
-      {clsSaa::kLuokka, 9531},
-      {clsKatselmoijienTiedot::kLuokka, 9532},
+      {clsPerustiedot::kLuokka, tekstit::kOsaPerustiedot},
+      {clsTilat::kLuokka, tekstit::kOsaTilat},
+      {clsRakenteet::kLuokka, tekstit::kOsaRakenteet},
+      {clsIVKoneet::kLuokka, tekstit::kOsaKoneet},
+      {clsSahkonKulutusryhmat::kLuokka, tekstit::kOsaSahko},
+      {clsVedenKulutusryhmat::kLuokka, tekstit::kOsaVesi},
+      {clsEnergianHankinta::kLuokka, tekstit::kOsaHankinta},
+      {clsTariffit::kLuokka, tekstit::kOsaTariffit},
+      {clsVesitariffit::kLuokka, tekstit::kOsaVesitariffit},
+      {clsSahkoTariffienVertailu::kLuokka, tekstit::kOsaTariffivertailu},
+      {clsToimenpiteidenJarjestelija::kLuokka, tekstit::kOsaJarjestelija},
+      {clsSaa::kLuokka, tekstit::kOsaSaa},
+      {clsKatselmoijienTiedot::kLuokka, tekstit::kOsaKatselmoijat},
   };
   for (const Osateksti& osa : kOsatekstit)
     if (&osa.luokka == &luokka) return osa.teksti;
@@ -60,24 +62,26 @@ Eteneminen NaytaOsat(Odotus& odotus, const std::string& alku) {
 }
 
 void KerroVaurioista(const Latausraportti& raportti) {
-  std::string viesti = Teksti(9504) + " " + std::to_string(raportti.vaurioita);
+  std::string viesti = Teksti(tekstit::kVaurioituneitaArvoja) + " " + std::to_string(raportti.vaurioita);
   for (const std::string& esimerkki : raportti.esimerkit) viesti += "\n" + esimerkki;
-  Ilmoita(viesti, Teksti(9101), Vakavuus::Varoitus);
+  Ilmoita(viesti, Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
 }
 
 }  // namespace
 
 bool clsRakennus::Tallenna(const std::string& tiedosto, const Tiedostotunnus* odotettu) {
-  Odotus odotus(Teksti(9103) + " " + Perustiedot.KohteenNimi + " ");
+  Odotus odotus(Teksti(tekstit::kTallennetaanKohdetta) + " " + Perustiedot.KohteenNimi + " ");
   try {
     PaivitaInstanssiIdLista();
     Major = kVersioMajor;
     Minor = kVersioMinor;
     Revision = kVersioRevision;
     Tallennettu = true;  // as the file says it
-    const Tallennusraportti raportti = TallennaProjekti(
-        *this, tiedosto, {},
-        {.sailytaEnnen = vaurioitunut_, .odotettu = odotettu, .eteneminen = NaytaOsat(odotus, Teksti(9103))});
+    const Tallennusraportti raportti =
+        TallennaProjekti(*this, tiedosto, {},
+                         {.sailytaEnnen = vaurioitunut_,
+                          .odotettu = odotettu,
+                          .eteneminen = NaytaOsat(odotus, Teksti(tekstit::kTallennetaanKohdetta))});
     LuettuTiedosto = raportti.tunnus;
     for (const std::string& luokka : raportti.ilmanTunnistetta)
       Ilmoita("Tänne ei pitäisi tulla. InstanssiId puuttuu! Olion typename: " + luokka);
@@ -85,23 +89,25 @@ bool clsRakennus::Tallenna(const std::string& tiedosto, const Tiedostotunnus* od
     return true;
   } catch (const std::exception& virhe) {
     Tallennettu = false;
-    NaytaVirhe(kTallennusEpaonnistui, SyynKuvaus(virhe) + ". Virhekoodi: " + std::to_string(kTallennusEpaonnistui));
-    Ilmoita(Teksti(9516), Teksti(9100), Vakavuus::Virhe);
+    NaytaVirhe(virheet::kTallennusEpaonnistui,
+               SyynKuvaus(virhe) + ". Virhekoodi: " + std::to_string(virheet::kTallennusEpaonnistui));
+    Ilmoita(Teksti(tekstit::kTallennusEpaonnistui), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
     return false;
   }
 }
 
 void clsRakennus::Hae(const std::string& tiedosto) try {
-  Odotus odotus(Teksti(9106) + LyhennaPolku(tiedosto, kPolunPituusPaneelissa));
+  Odotus odotus(Teksti(tekstit::kAvataanKohdetta) + LyhennaPolku(tiedosto, kPolunPituusPaneelissa));
   Latausraportti raportti;
-  raportti.eteneminen = NaytaOsat(odotus, Teksti(9106) + LyhennaPolku(tiedosto, kPolunPituusPaneelissa));
+  raportti.eteneminen =
+      NaytaOsat(odotus, Teksti(tekstit::kAvataanKohdetta) + LyhennaPolku(tiedosto, kPolunPituusPaneelissa));
   HaeProjekti(*this, tiedosto, raportti);
   VaadiTunnettuVersio({Major, Minor, Revision});
   LuettuTiedosto = raportti.tunnus;
   const bool paivitetty = TarjoaMateriaalienPaivitysta();
   TyyppiTiedot.Nimet.TyhjennaIdListat();
   if (PaivitaIdLista(*this, TyyppiTiedot) > 0 && Saastotoimenpiteet.Count() > 0)
-    Ilmoita(Teksti(9513), Teksti(9101), Vakavuus::Varoitus);
+    Ilmoita(Teksti(tekstit::kMuutoksiaOhitettiin), Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
   Saa.AsetaSaaPaikkakunta(Perustiedot.LammTarveLukuPaikkakuntaID());
   ProjektiAsetukset.strCurrentProjectFile = tiedosto;
   ProjektiAsetukset.strCurrentProjectPath = std::filesystem::path(tiedosto).parent_path().string();
@@ -126,7 +132,7 @@ bool clsRakennus::RakVakioKantaUudempiKuinMinunRakenteet() const try {
 
 void clsRakennus::PaivitaMateriaalitVakiokannasta(const std::string& tiedosto) try {
   Rakennetietokanta kanta(tiedosto);
-  Odotus odotus(Teksti(9229));
+  Odotus odotus(Teksti(tekstit::kPaivitetaanMateriaaleja));
   for (clsTila& tila : Tilat) {
     tila.Rakenteet.PaivitaRakenteetVakiokannasta(kanta);
     odotus.Teksti(ViestitNyt().Paneeli() + "..");
@@ -144,12 +150,17 @@ bool clsRakennus::TarjoaMateriaalienPaivitysta() try {
   Taulukko muutokset = Materiaalimuutokset(Tilat, kanta);
   if (muutokset.empty()) return false;
   const Vastaus vastaus =
-      ViestitNyt().Nayta({Teksti(9227) + " " + Teksti(9228), {}, Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei});
+      ViestitNyt().Nayta({Teksti(tekstit::kVakiokantaUudempi) + " " + Teksti(tekstit::kPaivitetaankoMateriaalit),
+                          {},
+                          Vakavuus::Kysymys,
+                          Napit::KyllaEi,
+                          Vastaus::Ei});
   if (vastaus != Vastaus::Kylla) return false;
   if (!HyvaksyMateriaalimuutokset(std::move(muutokset))) return false;
   PaivitaMateriaalitVakiokannasta(tiedosto);
   return true;
 } catch (const Virhe& virhe) {
-  Ilmoita(Teksti(9551) + "\n" + virhe.SyynKuvaus(), Teksti(9100), Vakavuus::Varoitus);
+  Ilmoita(Teksti(tekstit::kMateriaalejaEiPaivitetty) + "\n" + virhe.SyynKuvaus(), Teksti(tekstit::kVirhe),
+          Vakavuus::Varoitus);
   return false;
 }

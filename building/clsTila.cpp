@@ -10,6 +10,7 @@
 #include "kernel/Virhe.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/tulokset.h"
+#include "tekstit/virheet.h"
 #include "ui/Edistyminen.h"
 #include "ui/Tekstivarasto.h"
 
@@ -74,7 +75,6 @@ constexpr double kIlmanLampokapasiteetti = 1.006;      // kJ/(kg·K)
 constexpr double kSekuntiaTunnissa = 3600;
 constexpr double kTuntiaVuorokaudessa = 24;
 constexpr double kkWhperMWh = 1000;
-constexpr int kBruttoalaVirhe = 1029, kLammitystarvelukuVirhe = 1044;
 
 // The heating season, months 0 to 11: it wraps the turn of the year and takes in every month as it stands.
 constexpr int kLammityskaudenAlku = 6, kLammityskaudenLoppu = 5;
@@ -149,7 +149,7 @@ double clsTila::LampoHaviot(int kuukausi) try {
 void clsTila::PaivitaSahkoOmKuorma() try {
   clsRakennus& rakennus = VaadiRakennus();
   const clsTilat& tilat = rakennus.Tilat;
-  if (BruttoAla <= 0) return NaytaVirhe(kBruttoalaVirhe);
+  if (BruttoAla <= 0) return NaytaVirhe(virheet::kBruttoalaPuuttuu);
   if (tilat.KaytaTotSahkoKuormia) {
     const double sahko = rakennus.Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Sahko;
     sahkoOmKuorma_ = tilat.TotSahkoKuormaPros * kkWhperMWh * sahko / BruttoAla / 100 / kKuukausia;
@@ -285,7 +285,7 @@ double clsTila::VuotuinenLampoEnergianTarve() try {
   if (!ivHaviotUpToDate_) PaivitaIVHaviotTilassa();
   if (!aurKuormatUpToDate_) PaivitaAurKuormatTilassa();
   if (!johtumishaviotUpToDate_) PaivitaJohtumishaviot();
-  if (vyohyke <= 0) return NaytaVirhe(kLammitystarvelukuVirhe), 0;
+  if (vyohyke <= 0) return NaytaVirhe(virheet::kLammitystarvelukuPuuttuu), 0;
   double tarve = 0;
   for (int m = 0; m < kKuukausia; ++m)
     if (OnLammityskautta(m)) tarve += KuukaudenTarve(m);

@@ -8,14 +8,14 @@
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_tilat.h"
+#include "tekstit/rakennus.h"
+#include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmTilaYhteenveto.h"
 
 namespace {
-
-constexpr int kSahkokuormat = 2523, kTilanKopiointi = 2525, kTilanPoisto = 2526;
-constexpr int kKopio = 1998, kUusiTila = 2770, kYhteensa = 2779, kVirheenOtsikko = 9100, kTilaKaytossa = 9512;
 
 constexpr const char* kEiLukua = "---";
 
@@ -39,7 +39,7 @@ constexpr Sarake kSarakkeet[] = {
 
 /// Rows of the list and their sums. Without the balance its figures are left open.
 Luettelosisalto TilojenRivit(const clsTilat& tilat, bool tase) {
-  Luettelosisalto sisalto{{}, {Teksti(kYhteensa)}};
+  Luettelosisalto sisalto{{}, {Teksti(tekstit::kRakenteetYhteensa)}};
   for (const clsTila& tila : tilat) sisalto.rivit.push_back({{tila.TilanNimi}, tila.sKey});
   for (const Sarake& sarake : kSarakkeet) {
     const bool tunnetaan = tase || !sarake.taseesta;
@@ -61,7 +61,7 @@ Luettelosisalto LasketutRivit(clsRakennus& rakennus, const clsTilat& tilat) {
     const Tasehaarukka haarukka(rakennus);
     return TilojenRivit(tilat, true);
   } catch (const Virhe& virhe) {
-    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
     return TilojenRivit(tilat, false);
   }
 }
@@ -132,7 +132,7 @@ void clsTilat::LuetteloMuuttui(int toiminto, const Tunniste& valittava) {
 void clsTilat::KayttoLiittyma_LisaaKlikattu() try {
   const Tunniste avain = Tunniste::Uusi(clsTila::kLuokka.NimiSana());
   clsTila& tila = Add(avain);
-  tila.TilanNimi = Teksti(kUusiTila);
+  tila.TilanNimi = Teksti(tekstit::kUusiTila);
   tila.TilanKayttoaikaStr = Valintalista("frmTila", "cmbTilanKayttoaika").at(0);
   tila.SaatotapaStr = Valintalista("frmTila", "cmbSaatotapa").at(1);
   if (tila.NaytaKayttoliittyma()) {
@@ -151,8 +151,8 @@ void clsTilat::KayttoLiittyma_MuokkaaKlikattu() try { ValittuTila().NaytaKayttol
 
 void clsTilat::KayttoLiittyma_KopioiKlikattu() try {
   clsTila& kopio = LisaaKopio(*this, ValittuTila());
-  kopio.TilanNimi = Teksti(kKopio) + kopio.TilanNimi;
-  LuetteloMuuttui(kTilanKopiointi, kopio.sKey);
+  kopio.TilanNimi = Teksti(tekstit::kKopio) + kopio.TilanNimi;
+  LuetteloMuuttui(tekstit::kTilanKopiointi, kopio.sKey);
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_KopioiKlikattu Method");
 }
@@ -160,17 +160,17 @@ void clsTilat::KayttoLiittyma_KopioiKlikattu() try {
 void clsTilat::KayttoLiittyma_PoistaKlikattu() try {
   clsTila& tila = ValittuTila();
   if (const std::string nimet = ViittaavatToimenpiteet(tila); !nimet.empty())
-    return Ilmoita(Teksti(kTilaKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    return Ilmoita(Teksti(tekstit::kTilaaEiVoiPoistaa) + " " + nimet, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   if (!KysyPoisto()) return;
   Remove(Tunniste(tila.sKey));
-  LuetteloMuuttui(kTilanPoisto, {});
+  LuetteloMuuttui(tekstit::kTilanPoisto, {});
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_PoistaKlikattu Method");
 }
 
 void clsTilat::KayttoLiittyma_SahkokuormatMuuttuivat() try {
   KirjoitaDataluokka();
-  VaadiRakennus().Muuttui(Teksti(kSahkokuormat));
+  VaadiRakennus().Muuttui(Teksti(tekstit::kTilojenSahkokuormat));
   LueDataluokka();
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_SahkokuormatMuuttuivat Method");

@@ -17,7 +17,10 @@
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
+#include "tekstit/virheet.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 
@@ -45,13 +48,15 @@ struct Oletusrakenne {
   int paneeliteksti;
 };
 constexpr Oletusrakenne kOletusrakenteet[] = {
-    {"Ulkoseinät", "USRakenneID", Pinta::Ulkoseina, 1, 0.29, kIta, Rakennelaji::Ulkoseina, 9109},
-    {"Ikkuna, länsi", "IkkRakenneID", Pinta::Ikkuna, 0.15, 1.8, kLansi, Rakennelaji::Ikkuna, 9110},
-    {"Ikkuna, etelä", "IkkRakenneID", Pinta::Ikkuna, 0.4, 1.8, kEtela, Rakennelaji::Ikkuna, 9110},
-    {"Ikkuna, itä", "IkkRakenneID", Pinta::Ikkuna, 0.15, 1.8, kIta, Rakennelaji::Ikkuna, 9110},
-    {"Ikkuna, pohj", "IkkRakenneID", Pinta::Ikkuna, 0.3, 1.8, kPohjoinen, Rakennelaji::Ikkuna, 9110},
-    {"Maanvarainen alapohja", "APRakenneID", Pinta::Pohja, 1, 0.36, kVaakasuora, Rakennelaji::Alapohja, 9111},
-    {"Yläpohja", "YPRakenneID", Pinta::Pohja, 1, 0.22, kVaakasuora, Rakennelaji::Ylapohja, 9112},
+    {"Ulkoseinät", "USRakenneID", Pinta::Ulkoseina, 1, 0.29, kIta, Rakennelaji::Ulkoseina, tekstit::kLuodaanUlkoseinat},
+    {"Ikkuna, länsi", "IkkRakenneID", Pinta::Ikkuna, 0.15, 1.8, kLansi, Rakennelaji::Ikkuna, tekstit::kLuodaanIkkunat},
+    {"Ikkuna, etelä", "IkkRakenneID", Pinta::Ikkuna, 0.4, 1.8, kEtela, Rakennelaji::Ikkuna, tekstit::kLuodaanIkkunat},
+    {"Ikkuna, itä", "IkkRakenneID", Pinta::Ikkuna, 0.15, 1.8, kIta, Rakennelaji::Ikkuna, tekstit::kLuodaanIkkunat},
+    {"Ikkuna, pohj", "IkkRakenneID", Pinta::Ikkuna, 0.3, 1.8, kPohjoinen, Rakennelaji::Ikkuna,
+     tekstit::kLuodaanIkkunat},
+    {"Maanvarainen alapohja", "APRakenneID", Pinta::Pohja, 1, 0.36, kVaakasuora, Rakennelaji::Alapohja,
+     tekstit::kLuodaanAlapohja},
+    {"Yläpohja", "YPRakenneID", Pinta::Pohja, 1, 0.22, kVaakasuora, Rakennelaji::Ylapohja, tekstit::kLuodaanYlapohja},
 };
 
 /// What a structure of each kind borders on at first.
@@ -161,9 +166,15 @@ void AlustaPerustiedot(clsPerustiedot& perustiedot) try {
   NostaVirhe("modAlkuarvojaRakennukseen:AlustaPerustiedot Method");
 }
 
-void AlustaLammonHankinta(clsEnergianHankinta& hankinta) { Alusta(hankinta, clsEnergianHankinta::Lampo, 9130); }
-void AlustaSahkonHankinta(clsEnergianHankinta& hankinta) { Alusta(hankinta, clsEnergianHankinta::Sahko, 9131); }
-void AlustaVedenHankinta(clsEnergianHankinta& hankinta) { Alusta(hankinta, clsEnergianHankinta::Vesi, 9132); }
+void AlustaLammonHankinta(clsEnergianHankinta& hankinta) {
+  Alusta(hankinta, clsEnergianHankinta::Lampo, tekstit::kLammonHankinta);
+}
+void AlustaSahkonHankinta(clsEnergianHankinta& hankinta) {
+  Alusta(hankinta, clsEnergianHankinta::Sahko, tekstit::kSahkonHankinta);
+}
+void AlustaVedenHankinta(clsEnergianHankinta& hankinta) {
+  Alusta(hankinta, clsEnergianHankinta::Vesi, tekstit::kVedenHankinta);
+}
 
 void AlustaToteutuneetKulutukset(clsToteutuneetKulutukset& kulutukset) try {
   for (int i = 1; i <= 3; ++i) {
@@ -177,7 +188,7 @@ void AlustaToteutuneetKulutukset(clsToteutuneetKulutukset& kulutukset) try {
 }
 
 void LuoTilat(clsTilat& tilat, const TilanLahtotiedot& tiedot) try {
-  Odotus odotus(Teksti(9125));
+  Odotus odotus(Teksti(tekstit::kLuodaanTilat));
   clsTila& tila = tilat.Add(Tunniste::Uusi(clsTila::kLuokka.NimiSana()));
   TilanLahtotiedot lammin = tiedot;
   lammin.ala = (1 - tiedot.kylmanAlanOsuus / kProsentti) * tiedot.ala;
@@ -188,8 +199,8 @@ void LuoTilat(clsTilat& tilat, const TilanLahtotiedot& tiedot) try {
 }
 
 void LuoTilanRakenteet(clsTila& tila, const TilanLahtotiedot& tiedot) try {
-  tila.TilanNimi = Teksti(9140);
-  tila.Kuvausteksti = Teksti(9141);
+  tila.TilanNimi = Teksti(tekstit::kLammitettyTila);
+  tila.Kuvausteksti = Teksti(tekstit::kRakennuksenKokoLammitettyOsa);
   tila.TilanHenkilomaara = tiedot.henkiloita;
   tila.BruttoAla = tiedot.ala;
   tila.Kokonaistilavuus = tiedot.tilavuus;
@@ -258,35 +269,38 @@ void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakenne
 std::optional<Oletusarvorivi> HaeOletusarvot(int kayttotarkoituskoodi, int vuosi, int tila) try {
   auto rivit = Oletusarvorivit(kayttotarkoituskoodi, vuosi, tila == 0 ? kRakenteidenTaulu : "RakenteidenMenekit");
   if (rivit.size() == 1) return std::move(rivit.front());
-  Ilmoita(Teksti(rivit.empty() ? 9164 : 9163), Teksti(9101), Vakavuus::Varoitus);
+  Ilmoita(Teksti(rivit.empty() ? tekstit::kEiOletusrakenteita : tekstit::kMontaOletusrakennetta),
+          Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
   return std::nullopt;
 } catch (...) {
   NostaVirhe("modAlkuarvojaRakennukseen:HaeOletusarvot Method");
 }
 
 void LuoSahkoRyhmat(clsSahkonKulutusryhmat& ryhmat) try {
-  Odotus odotus(Teksti(9120));
-  LisaaSahkorivi(ryhmat, "sKeySahkoYhteensa", "", 9121);
-  LisaaSahkorivi(ryhmat, "sKeyMuuSahko", "sKeySahkoYhteensa", 9122);
-  LisaaSahkorivi(ryhmat, "sKeyLVISahko", "sKeySahkoYhteensa", 9123);
-  LisaaSahkorivi(ryhmat, "sKeyValaistus", "sKeySahkoYhteensa", 9124);
+  Odotus odotus(Teksti(tekstit::kLuodaanSahkonKulutusryhmat));
+  LisaaSahkorivi(ryhmat, "sKeySahkoYhteensa", "", tekstit::kSahkoYhteensa);
+  LisaaSahkorivi(ryhmat, "sKeyMuuSahko", "sKeySahkoYhteensa", tekstit::kMuuSahko);
+  LisaaSahkorivi(ryhmat, "sKeyLVISahko", "sKeySahkoYhteensa", tekstit::kLviSahko);
+  LisaaSahkorivi(ryhmat, "sKeyValaistus", "sKeySahkoYhteensa", tekstit::kSahkonValaistus);
 } catch (...) {
   NostaVirhe("modAlkuarvojaRakennukseen:LuoSahkoRyhmat Method");
 }
 
 void LuoVesiRyhmat(clsVedenKulutusryhmat& ryhmat) try {
-  Odotus odotus(Teksti(9113));
+  Odotus odotus(Teksti(tekstit::kLuodaanVedenKulutusryhmat));
   ryhmat.LKVTiedot.KylmanLampotila = kKylmaVesi;
   ryhmat.LKVTiedot.LamminLampotila = kKuumaKayttovesi;
   ryhmat.LKVTiedot.Sahkolammitys = false;
   ryhmat.ProsessiVedenTiedot.KylmanLampotila = kKylmaVesi;
   ryhmat.ProsessiVedenTiedot.LamminLampotila = kKuumaProsessivesi;
   ryhmat.LKVKiertoKayttoAika = kTuntiaVuodessa;
-  ryhmat.AddListaItem("sKeyVesiYhteensa", "", 1, Teksti(4062), true);
-  ryhmat.AddListaItem("sKeyLkvKierto", "sKeyVesiYhteensa", 1, Teksti(9114), true);
-  ryhmat.AddListaItem("sKeyProsessivesi", "sKeyVesiYhteensa", 1, Teksti(9115), true).OnProsessiVesi = true;
-  ryhmat.AddListaItem("sKeyNormaaliVesi", "sKeyVesiYhteensa", 1, Teksti(9116), true);
-  for (const int teksti : {9117, 9118, 9119}) LisaaVesiryhma(ryhmat, teksti);
+  ryhmat.AddListaItem("sKeyVesiYhteensa", "", 1, Teksti(tekstit::kYhteensa), true);
+  ryhmat.AddListaItem("sKeyLkvKierto", "sKeyVesiYhteensa", 1, Teksti(tekstit::kLkvKierto), true);
+  ryhmat.AddListaItem("sKeyProsessivesi", "sKeyVesiYhteensa", 1, Teksti(tekstit::kProsessivesi), true).OnProsessiVesi =
+      true;
+  ryhmat.AddListaItem("sKeyNormaaliVesi", "sKeyVesiYhteensa", 1, Teksti(tekstit::kKayttovesi), true);
+  for (const int teksti : {tekstit::kKayttovesiAsukkaat, tekstit::kKeittio, tekstit::kSiivous})
+    LisaaVesiryhma(ryhmat, teksti);
 } catch (...) {
   NostaVirhe("modAlkuarvojaRakennukseen:LuoVesiRyhmat Method");
 }
@@ -298,20 +312,20 @@ void LuoToimenpideLista(clsSaastotoimenpiteet& toimenpiteet) try {
     const char* avain;
   };
   constexpr Solmu kSolmut[] = {
-      {9151, "", "sKeyKokoKohde"},
-      {9152, "sKeyKokoKohde", "sKeyEnergianJaVedenHankinta"},
-      {9153, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaLampo"},
-      {9154, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaSahko"},
-      {9155, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaVesi"},
-      {9156, "sKeyKokoKohde", "sKeyJohtuminen"},
-      {9157, "sKeyKokoKohde", "sKeyIlmanvaihtokoneet"},
-      {9154, "sKeyKokoKohde", "sKeySahko"},
-      {9158, "sKeySahko", "sKeyValaistus"},
-      {9159, "sKeySahko", "sKeyLVISahko"},
-      {9160, "sKeySahko", "sKeyMuuSahko"},
-      {9155, "sKeyKokoKohde", "sKeyVesi"},
-      {9161, "sKeyVesi", "sKeyNormaaliVesi"},
-      {9162, "sKeyVesi", "sKeyProsessiVesi"},
+      {tekstit::kKokoKohde, "", "sKeyKokoKohde"},
+      {tekstit::kHaaraHankinta, "sKeyKokoKohde", "sKeyEnergianJaVedenHankinta"},
+      {tekstit::kHaaraLampo, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaLampo"},
+      {tekstit::kHaaraSahko, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaSahko"},
+      {tekstit::kHaaraVesi, "sKeyEnergianJaVedenHankinta", "sKeyEnergianJaVedenHankintaVesi"},
+      {tekstit::kHaaraJohtuminen, "sKeyKokoKohde", "sKeyJohtuminen"},
+      {tekstit::kHaaraKoneet, "sKeyKokoKohde", "sKeyIlmanvaihtokoneet"},
+      {tekstit::kHaaraSahko, "sKeyKokoKohde", "sKeySahko"},
+      {tekstit::kHaaraValaistus, "sKeySahko", "sKeyValaistus"},
+      {tekstit::kHaaraLvi, "sKeySahko", "sKeyLVISahko"},
+      {tekstit::kHaaraMuuSahko, "sKeySahko", "sKeyMuuSahko"},
+      {tekstit::kHaaraVesi, "sKeyKokoKohde", "sKeyVesi"},
+      {tekstit::kHaaraKayttovesi, "sKeyVesi", "sKeyNormaaliVesi"},
+      {tekstit::kHaaraProsessivesi, "sKeyVesi", "sKeyProsessiVesi"},
   };
   for (const Solmu& solmu : kSolmut)
     toimenpiteet.AddListaItem(solmu.avain, solmu.vanhempi, Teksti(solmu.teksti), 0).Visible = true;
@@ -323,18 +337,18 @@ void LuoValitutToimenpiteet(clsToimenpiteidenJarjestelija& jarjestelija) try {
   clsValittuToimenpide& rivi = jarjestelija.ValitutToimenpiteet.Add("sKeyValitutYhteensa", "");
   rivi.Tyyppi = clsValittuToimenpide::Yhteensa;
   rivi.ToimenpidesKey = "sKeyValitutYhteensaEiViittausta";
-  rivi.Nimi = Teksti(9150);
+  rivi.Nimi = Teksti(tekstit::kValitutYhteensa);
 } catch (...) {
   NostaVirhe("modAlkuarvojaRakennukseen:LuoValitutToimenpiteet Method");
 }
 
 double LaskeUlkoseinaAla(const clsTila& tila, int muoto, double r, double kerroksia) try {
   if (kerroksia <= 0) {
-    NaytaVirhe(1022);
+    NaytaVirhe(virheet::kKerroksetPuuttuvat);
     return 0;
   }
   if (r <= 0) {
-    NaytaVirhe(1023);
+    NaytaVirhe(virheet::kSivusuhdePuuttuu);
     return 0;
   }
   const double F = tila.BruttoAla / kerroksia;

@@ -3,6 +3,7 @@
 
 #include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
+#include "tekstit/rakennus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -35,13 +36,12 @@ constexpr Jasen kJasenet[] = {
 
 constexpr double kWhPerMWh = 1e6;
 constexpr double kkWhPerMWh = 1e3;
-constexpr int kUusiRyhmaTekstinro = 1997;
 
 }  // namespace
 
 const Luokka clsSahkonKulutusryhma::kLuokka{"clsSahkonKulutusryhma", kJasenet};
 
-clsSahkonKulutusryhma::clsSahkonKulutusryhma() : KulutusRyhma(Teksti(kUusiRyhmaTekstinro)) {}
+clsSahkonKulutusryhma::clsSahkonKulutusryhma() : KulutusRyhma(Teksti(tekstit::kUusiKulutusryhma)) {}
 
 double clsSahkonKulutusryhma::Vuosikulutus() const try {
   if (KulutusSyotetaan()) return Aarellinen(KulutusryhmienLukumaara * SyötettyKulutus);

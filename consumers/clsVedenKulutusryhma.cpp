@@ -5,6 +5,7 @@
 
 #include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
+#include "tekstit/rakennus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -28,7 +29,6 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsVedenKulutusryhma::LammityksessaHyodynnettavaOsuus>("LammityksessaHyodynnettavaOsuus", "%"),
 };
 
-constexpr int kUusiRyhmaTekstinro = 1997;
 constexpr double kMJperkWh = 3.6;
 constexpr double kkWhPerMWh = 1e3;
 
@@ -46,7 +46,7 @@ double Muuntokerroin(std::int16_t laskentaperuste) {
 const Luokka clsVedenKulutusryhma::kLuokka{"clsVedenKulutusryhma", kJasenet};
 
 clsVedenKulutusryhma::clsVedenKulutusryhma()
-    : KulutusRyhma(Teksti(kUusiRyhmaTekstinro)), VedenKayttolampotila(VedenTiedot.KylmanLampotila) {}
+    : KulutusRyhma(Teksti(tekstit::kUusiKulutusryhma)), VedenKayttolampotila(VedenTiedot.KylmanLampotila) {}
 
 double clsVedenKulutusryhma::VedenKulutus() const try {
   return Jaa(Laskentayksikko * LaskentaperusteNumber * KayttokuvausKertaaD * KayttokuvausDpA * Tasauskerroin,

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Virhe.h"
+#include "tekstit/viestit.h"
 
 #include <utility>
 
 namespace {
-
-constexpr int kYleinenVirhe = 9999;
 
 std::string TekstiPuuttuu(int numero) { return "[String " + std::to_string(numero) + " is missing]"; }
 
@@ -31,11 +30,13 @@ Virhe::Virhe(int numero, std::string lahde, const std::string& kuvaus, std::exce
       syynKuvaus_(std::move(syynKuvaus)) {}
 
 void NostaVirhe(const char* lahde) {
-  throw Virhe(kYleinenVirhe, lahde, g_haku(kYleinenVirhe), std::current_exception(), KasiteltavanKuvaus());
+  throw Virhe(tekstit::kOhjelmassaTapahtuiVirhe, lahde, g_haku(tekstit::kOhjelmassaTapahtuiVirhe),
+              std::current_exception(), KasiteltavanKuvaus());
 }
 
 void NostaVirhe(const char* lahde, std::string syy) {
-  throw Virhe(kYleinenVirhe, lahde, g_haku(kYleinenVirhe), nullptr, std::move(syy));
+  throw Virhe(tekstit::kOhjelmassaTapahtuiVirhe, lahde, g_haku(tekstit::kOhjelmassaTapahtuiVirhe), nullptr,
+              std::move(syy));
 }
 
 void AsetaVirhetekstinHaku(std::string (*haku)(int numero)) { g_haku = haku ? haku : TekstiPuuttuu; }

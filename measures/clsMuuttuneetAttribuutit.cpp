@@ -2,6 +2,7 @@
 #include "measures/clsMuuttuneetAttribuutit.h"
 
 #include "kernel/Virhe.h"
+#include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -11,8 +12,6 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsMuuttuneetAttribuutit::TyypinNimi>("TyypinNimi"),
     Arvo<&clsMuuttuneetAttribuutit::LiittyyInstanssiin>("LiittyyInstanssiin"),
 };
-
-constexpr int kLuokatEroavatVirhe = 1046;
 
 }  // namespace
 
@@ -34,5 +33,5 @@ void clsMuuttuneetAttribuutit::Lisaa(const Muutos& muutos) try {
 }
 
 void clsMuuttuneetAttribuutit::LuokatEroavat(const Olio& tama, const Olio& toinen) {
-  NaytaVirhe(kLuokatEroavatVirhe, std::string(tama.LuokanNimi()) + ", " + std::string(toinen.LuokanNimi()));
+  NaytaVirhe(virheet::kLuokatEroavat, std::string(tama.LuokanNimi()) + ", " + std::string(toinen.LuokanNimi()));
 }

@@ -4,12 +4,11 @@
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 #include "settings/clsKatselmoijienTiedot.h"
+#include "tekstit/lomakkeet_asetukset.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmKatselmoijienTiedot.h"
 
 namespace {
-
-constexpr int kOtsikko = 2880;
 
 using Kentat = std::array<TextBox, clsKatselmoijanTiedot::kKenttia>;
 
@@ -32,7 +31,7 @@ void clsKatselmoijienTiedot::NaytaKayttoliittyma() try {
   };
   lomake.OkKlikattu = [this, &lomake] {
     KirjoitaDataluokka(lomake);
-    VaadiRakennus().Muuttui(Teksti(kOtsikko));
+    VaadiRakennus().Muuttui(Teksti(tekstit::kKatselmoijienTiedot));
     lomake.Sulje();
   };
   lomake.PeruutaKlikattu = [&lomake] { lomake.Sulje(); };

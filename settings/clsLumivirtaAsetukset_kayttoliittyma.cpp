@@ -7,14 +7,14 @@
 #include "kernel/Virhe.h"
 #include "settings/Asetusavaimet.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/lomakkeet_asetukset.h"
+#include "tekstit/viestit.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ui/frmOptions.h"
 
 namespace {
-
-constexpr int kTiedostoaEiOle = 2845, kHuomautus = 9101;
 
 struct Kentta {
   Avain avain;
@@ -66,7 +66,7 @@ bool TiedostotLoytyvat(const frmOptions& lomake) {
     const TextBox& kentta = lomake.*k.kentta;
     const bool tarkistetaan = AsetuksenRivi(k.avain).laji == AsetusLaji::DatanTiedosto;
     if (!tarkistetaan || kentta.Teksti() == HaeAsetus(k.avain) || OnTiedosto(kentta.Teksti())) continue;
-    Ilmoita(Teksti(kTiedostoaEiOle) + " " + kentta.Teksti(), Teksti(kHuomautus), Vakavuus::Varoitus);
+    Ilmoita(Teksti(tekstit::kTiedostoaEiOle) + " " + kentta.Teksti(), Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
     kentta.Kohdista();
     return false;
   }

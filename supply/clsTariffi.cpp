@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "supply/clsTariffi.h"
 
+#include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -25,15 +26,13 @@ constexpr Jasen kJasenet[] = {
 };
 
 constexpr int kMaksuja = 6;
-constexpr int kUusiTariffiTekstinro = 3049;
-constexpr int kEnergiamaksuTekstinro = 9136;
 
 }  // namespace
 
 const Luokka clsTariffi::kLuokka{"clsTariffi", kJasenet};
 
-clsTariffi::clsTariffi() : Nimi(Teksti(kUusiTariffiTekstinro)) {
+clsTariffi::clsTariffi() : Nimi(Teksti(tekstit::kUusiTariffi)) {
   for (int i = 1; i <= kMaksuja; ++i)
     Energiamaksut.Add("EnergiaMaksu" + std::to_string(i)).Nimi =
-        std::to_string(i) + " " + Teksti(kEnergiamaksuTekstinro);
+        std::to_string(i) + " " + Teksti(tekstit::kEnergiamaksu);
 }

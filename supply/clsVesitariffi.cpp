@@ -2,6 +2,7 @@
 #include "supply/clsVesitariffi.h"
 
 #include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -22,14 +23,12 @@ constexpr Jasen kJasenet[] = {
     Lapsi<&clsVesitariffi::Energiamaksut>("Energiamaksut"),
 };
 
-constexpr int kUusiTariffiTekstinro = 3049;
-
 }  // namespace
 
 const Luokka clsVesitariffi::kLuokka{"clsVesitariffi", kJasenet};
 
 clsVesitariffi::clsVesitariffi()
-    : Nimi(Teksti(kUusiTariffiTekstinro)),
+    : Nimi(Teksti(tekstit::kUusiTariffi)),
       ALV(Asetukset().dblVesiALV),
       MaksutSisaltavatALVn(Asetukset().KaytaKohtTulostuksissaALVHintoja) {
   Energiamaksut.Add("Maksu1").Kulutusosuus = 100.0;

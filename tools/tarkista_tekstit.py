@@ -32,8 +32,7 @@ def koodi():
     return "\n".join(rivi for polku in polut for rivi in rivit(polku))
 
 
-RAAKA = re.compile(r"\b(?:Teksti|NaytaVirhe)\([1-9]")
-SIIRTYMASSA = True  # code still uses numbers: a name without a user is no fault yet
+RAAKA = re.compile(r"(?<![.>])\b(?:Teksti|NaytaVirhe)\([1-9]\d{3}\b")
 KOODI = koodi()
 KAYTETYT = set(re.findall(r"\b(tekstit|virheet)::k(\w+)", KOODI))
 LOMAKKEISSA = lomakkeiden_numerot()
@@ -46,8 +45,6 @@ for tiedosto in sorted((JUURI / "data/tekstit").glob("*.csv")) + [JUURI / "data/
         lomakkeessa = avaruus == "tekstit" and numero in LOMAKKEISSA
         turhat = [vakio for vakio in nimet if (avaruus, vakio) not in KAYTETYT]
         paikat[avaruus, numero].append(nimi)
-        if SIIRTYMASSA and (nimet or re.search(rf"(?<![\w.]){numero}(?![\w.])", KOODI)):
-            continue
         if vakiot == TULOSSA and lomakkeessa:
             virheet.append(f"{nimi}: {numero} is no longer to come: {LOMAKKEISSA[numero]} shows it")
         elif not vakiot and not lomakkeessa:

@@ -10,13 +10,11 @@
 #include "kernel/Kellonajat.h"
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
+#include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
-constexpr int kEiLuku = 1008;
-constexpr int kRajojenUlkopuolella = 1009;
-constexpr int kEiKellonaika = 1013;
 constexpr std::uint32_t kViestivaliMs = 1000;
 
 std::uint32_t OikeaKello() {
@@ -69,7 +67,7 @@ void NaytaHarvakseltaan(int koodi, const std::string& lisateksti) {
 bool RajoissaTaiIlmoitus(const Tarkistus& t, double arvo) {
   const auto ala = LueLuku(t.alaraja), yla = LueLuku(t.ylaraja);
   if ((!ala || arvo >= *ala) && (!yla || arvo <= *yla)) return true;
-  NaytaHarvakseltaan(kRajojenUlkopuolella, RajatTekstina(t));
+  NaytaHarvakseltaan(virheet::kRajojenUlkopuolella, RajatTekstina(t));
   return false;
 }
 
@@ -83,13 +81,13 @@ bool Hylkaa(Ohjain& kentta, bool valitseTeksti) {
 bool KelpaaLukuna(Ohjain& kentta, const Tarkistus& t) {
   const auto arvo = LueLuku(kentta.Teksti());
   if (arvo && RajoissaTaiIlmoitus(t, *arvo)) return true;
-  if (!arvo) NaytaHarvakseltaan(kEiLuku, {});
+  if (!arvo) NaytaHarvakseltaan(virheet::kEiLuku, {});
   return Hylkaa(kentta, !arvo);
 }
 
 bool KelpaaKellonaikana(Ohjain& kentta) {
   if (LueKellonaika(kentta.Teksti())) return true;
-  NaytaHarvakseltaan(kEiKellonaika, {});
+  NaytaHarvakseltaan(virheet::kEiKellonaika, {});
   return Hylkaa(kentta, true);
 }
 

@@ -6,12 +6,11 @@
 #include <utility>
 
 #include "kernel/Virhe.h"
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
 namespace {
-
-constexpr int kVirheenOtsikko = 9100;
 
 int syvyys = 0;  // commands that are running, each inside the former
 
@@ -27,7 +26,7 @@ std::function<void()>& KomennonJalki() {
 
 void NaytaKeskeytys(const std::string& paneeli, const std::string& teksti) {
   ViestitNyt().AsetaPaneeli(paneeli);
-  Ilmoita(teksti, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+  Ilmoita(teksti, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
 }
 
 void SuoritaVartioituna(const std::function<void()>& komento) {
@@ -37,9 +36,9 @@ void SuoritaVartioituna(const std::function<void()>& komento) {
   } catch (const Virhe& virhe) {
     NaytaKeskeytys(paneeli, virhe.Kuvaus() + "\n" + virhe.Lahde());
   } catch (const std::exception& virhe) {
-    NaytaKeskeytys(paneeli, Teksti(9999) + "\n" + virhe.what());
+    NaytaKeskeytys(paneeli, Teksti(tekstit::kOhjelmassaTapahtuiVirhe) + "\n" + virhe.what());
   } catch (...) {
-    NaytaKeskeytys(paneeli, Teksti(9999));
+    NaytaKeskeytys(paneeli, Teksti(tekstit::kOhjelmassaTapahtuiVirhe));
   }
 }
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Rakennekirjastolinkki.h"
 
+#include "tekstit/virheet.h"
 #include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
-
-constexpr int kEiVastannut = 1034;
 
 /// Stands in where there is no server: the batch program, tests.
 class Puuttuva : public Rakennekirjastolinkki {
@@ -24,7 +23,7 @@ class Puuttuva : public Rakennekirjastolinkki {
 
  private:
   static std::unique_ptr<Rakennekirjastopyynto> EiVastaa(const Rakennekirjastotapahtumat& tapahtumat) {
-    NaytaVirhe(kEiVastannut);
+    NaytaVirhe(virheet::kKirjastoEiVastannut);
     Nosta(tapahtumat.RakKirjasto_TimeOut);
     Nosta(tapahtumat.RakKirjasto_KantaDlgSuljettu);
     return std::make_unique<Rakennekirjastopyynto>();

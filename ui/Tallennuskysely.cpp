@@ -5,12 +5,12 @@
 #include <system_error>
 
 #include "kernel/Kirjainkoko.h"
+#include "tekstit/lomakkeet_asetukset.h"
+#include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
-
-constexpr int kTiedosto = 1150, kOnJoOlemassa = 1151, kOlemassaOtsikko = 1152, kEiVoituTallentaa = 2936, kVirhe = 9100;
 
 std::string Paatteella(const std::string& tiedosto, std::string_view paate) {
   const std::string nykyinen = std::filesystem::path(tiedosto).extension().string();
@@ -20,8 +20,9 @@ std::string Paatteella(const std::string& tiedosto, std::string_view paate) {
 bool SaaKirjoittaa(const std::string& tiedosto) {
   std::error_code virhe;
   if (!std::filesystem::exists(tiedosto, virhe)) return true;
-  return ViestitNyt().Nayta({Teksti(kTiedosto) + tiedosto + Teksti(kOnJoOlemassa), Teksti(kOlemassaOtsikko),
-                             Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei}) == Vastaus::Kylla;
+  return ViestitNyt().Nayta({Teksti(tekstit::kKorvataankoAlku) + tiedosto + Teksti(tekstit::kKorvataankoLoppu),
+                             Teksti(tekstit::kKorvataankoOtsikko), Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei}) ==
+         Vastaus::Kylla;
 }
 
 /// Why it couldn't be saved; "" when it was.
@@ -40,5 +41,6 @@ void KysyJaTallenna(const Tallennettava& mika, const std::function<bool(const st
   const std::string tiedosto = Paatteella(*valittu, mika.paate);
   if (!SaaKirjoittaa(tiedosto)) return;
   if (const std::string syy = Yrita(tallenna, tiedosto); !syy.empty())
-    Ilmoita(Teksti(kEiVoituTallentaa) + " " + tiedosto + syy, Teksti(kVirhe), Vakavuus::Virhe);
+    Ilmoita(Teksti(tekstit::kTiedostoaEiVoituTallentaa) + " " + tiedosto + syy, Teksti(tekstit::kVirhe),
+            Vakavuus::Virhe);
 }

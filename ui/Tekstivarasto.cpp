@@ -11,15 +11,11 @@
 
 #include "kernel/Hakemistot.h"
 #include "kernel/Virhe.h"
+#include "tekstit/viestit.h"
+#include "tekstit/virheet.h"
 #include "ui/Viestit.h"
 
 namespace {
-
-constexpr int kVarastoPuuttuu = 1040;
-constexpr int kVirheenOtsikko = 9100;
-constexpr int kHuomautuksenOtsikko = 9101;
-constexpr int kPoistokysymys = 9510;
-constexpr int kPoistokysymyksenOtsikko = 9511;
 
 std::string g_kielitunnus;
 std::unordered_map<int, std::string> g_tekstit;
@@ -65,9 +61,9 @@ struct Otsake {
 Otsake TasonOtsake(int taso) {
   switch (taso) {
     case 1:
-      return {Teksti(kVirheenOtsikko), Vakavuus::Virhe};
+      return {Teksti(tekstit::kVirhe), Vakavuus::Virhe};
     case 2:
-      return {Teksti(kHuomautuksenOtsikko), Vakavuus::Varoitus};
+      return {Teksti(tekstit::kHuomautus), Vakavuus::Varoitus};
     default:
       return {{}, Vakavuus::Tieto};
   }
@@ -109,7 +105,7 @@ std::string HaeKielitunnus(const std::string& tiedosto) {
   } catch (const std::exception&) {
     // a store that can't be read has no language: told below
   }
-  if (g_kielitunnus.empty()) NaytaVirhe(kVarastoPuuttuu, VarastonPolku(tiedosto));
+  if (g_kielitunnus.empty()) NaytaVirhe(virheet::kTekstivarastoPuuttuu, VarastonPolku(tiedosto));
   return g_kielitunnus;
 }
 
@@ -119,7 +115,7 @@ void LataaTekstit(const std::string& tiedosto, const std::string& kieli, const s
   try {
     g_tekstit = LueTekstit(tiedosto, kieli, taulu);
   } catch (const std::exception& e) {
-    NaytaVirhe(kVarastoPuuttuu, VarastonPolku(tiedosto) + ": " + e.what());
+    NaytaVirhe(virheet::kTekstivarastoPuuttuu, VarastonPolku(tiedosto) + ": " + e.what());
   }
 }
 
@@ -135,8 +131,8 @@ void NaytaVirhe(int koodi, std::string_view lisateksti) {
 }
 
 bool KysyPoisto() {
-  const Viesti kysymys{Teksti(kPoistokysymys), Teksti(kPoistokysymyksenOtsikko), Vakavuus::Kysymys, Napit::KyllaEi,
-                       Vastaus::Ei};
+  const Viesti kysymys{Teksti(tekstit::kPoistetaankoRivi), Teksti(tekstit::kPoistonVahvistus), Vakavuus::Kysymys,
+                       Napit::KyllaEi, Vastaus::Ei};
   return ViestitNyt().Nayta(kysymys) == Vastaus::Kylla;
 }
 

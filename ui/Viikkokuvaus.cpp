@@ -5,13 +5,12 @@
 #include <array>
 #include <utility>
 
+#include "tekstit/lomakkeet_puhaltimet.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
 constexpr int kPaivia = 7, kLauantai = 5, kSunnuntai = 6, kMinuuttejaVuorokaudessa = 1440;
-constexpr int kMaanantainNimi = 3160;  // the other days follow
-constexpr int kPaivaOtsikko = 3112, kAlkaaOtsikko = 3113, kPaattyyOtsikko = 3114, kVirtaOtsikko = 3116;
 
 /// Flow, %, in each minute of the week.
 class Viikko {
@@ -63,13 +62,13 @@ void LisaaPaiva(const Viikko& viikko, int paiva, std::vector<Kaaviosarja>& sarja
 
 Kaaviotiedot Viikkokuvaus(std::string otsikko, const std::vector<Viikkokaynti>& kaynnit) {
   Kaaviotiedot kuva{.otsikko = std::move(otsikko), .nimet = {}, .yksikko = "%"};
-  for (const int nimi : {kPaivaOtsikko, kAlkaaOtsikko, kPaattyyOtsikko, kVirtaOtsikko})
+  for (const Tekstinumero nimi : {tekstit::kPaiva, tekstit::kAlkaa, tekstit::kPaattyy, tekstit::kIlmavirta})
     kuva.sarjat.push_back({Teksti(nimi), {}});
   Viikko viikko;
   for (const Viikkokaynti& kaynti : kaynnit)
     if (kaynti.kertoja > 0 && kaynti.virta > 0) viikko.Lisaa(kaynti);
   for (int paiva = 0; paiva < kPaivia; ++paiva) {
-    kuva.nimet.push_back(Teksti(kMaanantainNimi + paiva));
+    kuva.nimet.push_back(Teksti(tekstit::kViikonpaivat[static_cast<std::size_t>(paiva)]));
     LisaaPaiva(viikko, paiva, kuva.sarjat);
   }
   return kuva;

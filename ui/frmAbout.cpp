@@ -4,11 +4,11 @@
 #include <utility>
 
 #include "kernel/Versio.h"
+#include "tekstit/lomakkeet_asetukset.h"
+#include "tekstit/paaikkuna.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
-
-constexpr int kOhjelma = 1081, kVersio = 2904;
 
 std::string Versio() {
   return std::to_string(kVersioMajor) + "." + std::to_string(kVersioMinor) + "." + std::to_string(kVersioRevision);
@@ -17,7 +17,7 @@ std::string Versio() {
 }  // namespace
 
 frmAbout::frmAbout(Taulukko kirjastot, Taulukko jarjestelma) : Lomake("frmAbout") {
-  lblVersio.Otsikko(Teksti(kVersio) + " " + Versio());
+  lblVersio.Otsikko(Teksti(tekstit::kOhjelmanVersio) + " " + Versio());
   lvwKirjastot.Rivit(std::move(kirjastot));
   lvwJarjestelma.Rivit(std::move(jarjestelma));
   cmdKopioi.Nostaa(KopioiKlikattu);
@@ -25,6 +25,6 @@ frmAbout::frmAbout(Taulukko kirjastot, Taulukko jarjestelma) : Lomake("frmAbout"
 }
 
 std::string frmAbout::Tekstina() const {
-  return Teksti(kOhjelma) + " " + Versio() + "\n\n" + lvwJarjestelma.Kohde().RivitTekstina({}) + "\n" +
+  return Teksti(tekstit::kOhjelmanNimi) + " " + Versio() + "\n\n" + lvwJarjestelma.Kohde().RivitTekstina({}) + "\n" +
          lvwKirjastot.Kohde().RivitTekstina({});
 }

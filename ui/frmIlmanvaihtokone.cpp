@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmIlmanvaihtokone.h"
 
+#include "tekstit/lomakkeet_ilmanvaihto.h"
+#include "tekstit/rakennus.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
-constexpr int kEiTilaa = 9128, kEiTiloja = 3029;
 constexpr int kVakioilmavirta = 0, kMuuttuvaIlmavirta = 2;  // rows of the system
 
 struct Periaate {
@@ -54,7 +55,7 @@ void frmIlmanvaihtokone::NostaTarkistettuna(const std::function<void()>& tapahtu
 }
 
 void frmIlmanvaihtokone::Tilat(const std::vector<std::string>& nimet, int valittu) {
-  std::vector<std::string> rivit{Teksti(nimet.empty() ? kEiTiloja : kEiTilaa)};
+  std::vector<std::string> rivit{Teksti(nimet.empty() ? tekstit::kEiTiloja : tekstit::kViiva)};
   rivit.insert(rivit.end(), nimet.begin(), nimet.end());
   cmbLiittyyTilaan.Rivit(rivit);
   cmbLiittyyTilaan.Indeksi(valittu);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmKuukausitase.h"
 
+#include "tekstit/lomakkeet_asetukset.h"
 #include "ui/Tallennuskysely.h"
 
 namespace {
 
-constexpr Tallennettava kTaulukko{2930, 2934, ".xlsx"};
-constexpr Tallennettava kKuva{2932, 2935, ".png"};
+constexpr Tallennettava kTaulukko{tekstit::kTallennaTaulukko, tekstit::kTaulukkotiedostot, ".xlsx"};
+constexpr Tallennettava kKuva{tekstit::kTallennaKuva, tekstit::kKuvatiedostot, ".png"};
 
 }  // namespace
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmMateriaalimuutokset.h"
 
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Tekstivarasto.h"
 
-namespace {
-constexpr int kMuutoksia = 5217;
-}
+namespace {}
 
 frmMateriaalimuutokset::frmMateriaalimuutokset() : Lomake("frmMateriaalimuutokset") {
   cmdOk.KunKlikataan([this] {
@@ -16,7 +15,7 @@ frmMateriaalimuutokset::frmMateriaalimuutokset() : Lomake("frmMateriaalimuutokse
 }
 
 bool frmMateriaalimuutokset::Kysy(Taulukko muutokset) {
-  lblMaara.Otsikko(Teksti(kMuutoksia) + " " + std::to_string(muutokset.size()));
+  lblMaara.Otsikko(Teksti(tekstit::kMuutoksia) + " " + std::to_string(muutokset.size()));
   lvwMuutokset.Rivit(std::move(muutokset));
   NaytaModaalisena();
   return hyvaksytty_;

@@ -4,14 +4,13 @@
 #include <algorithm>
 
 #include "kernel/Luvut.h"
+#include "tekstit/lomakkeet_asetukset.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
 namespace {
-
-constexpr int kVeroYksikko = 2825, kValitseKanta = 2843, kKannat = 2844;
 
 struct Verokentat {
   TextBox frmOptions::*naytetty;
@@ -25,7 +24,8 @@ constexpr Verokentat kVerot[] = {
 /// The button lets the person choose the file of the field.
 void Selaa(const CommandButton& nappi, const TextBox& kentta) {
   nappi.KunKlikataan([&kentta] {
-    if (const auto tiedosto = ViestitNyt().KysyAvattavaTiedosto(Teksti(kValitseKanta), Teksti(kKannat)))
+    if (const auto tiedosto =
+            ViestitNyt().KysyAvattavaTiedosto(Teksti(tekstit::kValitseTietokanta), Teksti(tekstit::kTietokannat)))
       kentta.Teksti(*tiedosto);
   });
 }
@@ -67,5 +67,5 @@ std::optional<double> frmOptions::Vero(std::size_t luokka) const {
 
 void frmOptions::NaytaRahayksikko(std::string_view yksikko) {
   for (const Label& otsikko : {lblVeroYksikko1, lblVeroYksikko2})
-    otsikko.Otsikko(RahayksikonKanssa(Teksti(kVeroYksikko), yksikko));
+    otsikko.Otsikko(RahayksikonKanssa(Teksti(tekstit::kRahaaMWh), yksikko));
 }

@@ -8,6 +8,7 @@
 #include "kernel/Kellonajat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_puhaltimet.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viikkokuvaus.h"
@@ -15,8 +16,6 @@
 
 namespace {
 
-constexpr int kEkaNeljannes = 3130, kYhteensa = 3135;  // the other seasons' names follow the first
-constexpr int kRivi = 3136, kLampotilaUlkona = 3137, kEiVirtaa = 3138, kYliViikko = 3139;
 constexpr int kPaiviaViikossa = 7;
 
 constexpr const char* kTunnit = "0.0#";
@@ -76,10 +75,10 @@ std::vector<std::string> Summarivi(const std::string& nimi, const Kayntisumma& s
 /// What a person should know of a line that doesn't do what it seems to.
 std::string Huomautus(const clsKayntiAika& jakso) {
   if (jakso.KayntiJaksojenLkm <= 0) return {};
-  if (!jakso.Kaytossa()) return Teksti(kEiVirtaa);
-  if (!jakso.LampotilatTaulukossa()) return Teksti(kLampotilaUlkona);
+  if (!jakso.Kaytossa()) return Teksti(tekstit::kJaksoIlmanIlmavirtaa);
+  if (!jakso.LampotilatTaulukossa()) return Teksti(tekstit::kJaksoIlmanLammitysta);
   if (jakso.KayntiJaksojenLkm > kPaiviaViikossa)
-    return Teksti(kYliViikko) + " " + std::to_string(jakso.KayntiJaksojenLkm) + ".";
+    return Teksti(tekstit::kJaksojaLiikaa) + " " + std::to_string(jakso.KayntiJaksojenLkm) + ".";
   return {};
 }
 
@@ -114,7 +113,9 @@ clsKayntiAika& Kayntiaikamuokkaus::Jakso(std::size_t rivi) const {
   return ajat_.Item(clsKayntiAjat::JaksonAvain(static_cast<int>(rivi) + 1, Vuosijakso()));
 }
 
-std::string Kayntiaikamuokkaus::JaksonNimi() const { return Teksti(kEkaNeljannes + Vuosijakso()); }
+std::string Kayntiaikamuokkaus::JaksonNimi() const {
+  return Teksti(tekstit::kVuodenajat[static_cast<std::size_t>(Vuosijakso())]);
+}
 
 void Kayntiaikamuokkaus::NaytaJaksot() {
   jaksot_ = ajat_.Vuosittainen() ? std::vector<int>{clsKayntiAika::KokoVuosi} : std::vector<int>{0, 1, 2, 3};
@@ -160,10 +161,11 @@ void Kayntiaikamuokkaus::NaytaSummat() {
   Kayntisumma vuosi;
   for (std::size_t i = 0; i < jaksot_.size(); ++i) {
     const Kayntisumma summa = ajat_.Vuosijaksolta(jaksot_[i]);
-    KayttoLiittyma.lvwJaksot.Rivi(static_cast<int>(i), Summarivi(Teksti(kEkaNeljannes + jaksot_[i]), summa));
+    KayttoLiittyma.lvwJaksot.Rivi(static_cast<int>(i),
+                                  Summarivi(Teksti(tekstit::kVuodenajat[static_cast<std::size_t>(jaksot_[i])]), summa));
     vuosi += summa;
   }
-  KayttoLiittyma.lvwJaksot.Summarivi(jaksot_.size() > 1 ? Summarivi(Teksti(kYhteensa), vuosi)
+  KayttoLiittyma.lvwJaksot.Summarivi(jaksot_.size() > 1 ? Summarivi(Teksti(tekstit::kTunnitYhteensa), vuosi)
                                                         : std::vector<std::string>());
 }
 
@@ -180,7 +182,8 @@ void Kayntiaikamuokkaus::NaytaHuomautukset() {
   std::string kaikki;
   for (std::size_t rivi = 0; rivi < KayttoLiittyma.rivit.size(); ++rivi)
     if (const std::string huomautus = Huomautus(Jakso(rivi)); !huomautus.empty())
-      kaikki += (kaikki.empty() ? "" : "\n") + Teksti(kRivi) + " " + std::to_string(rivi + 1) + ": " + huomautus;
+      kaikki +=
+          (kaikki.empty() ? "" : "\n") + Teksti(tekstit::kRivi) + " " + std::to_string(rivi + 1) + ": " + huomautus;
   KayttoLiittyma.lblHuomautus.Otsikko(kaikki);
 }
 

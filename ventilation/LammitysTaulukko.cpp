@@ -4,6 +4,7 @@
 #include <array>
 
 #include "kernel/Laskenta.h"
+#include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -12,7 +13,6 @@ constexpr std::size_t kTunteja = 24;
 constexpr int kMinuuttejaTunnissa = 60;
 constexpr double kAlinLampotila = 15, kYlinLampotila = 30;  // °C
 constexpr double kVertailunLammitystarveluku = 4444;        // °C d
-constexpr int kLampotilavirhe = 1015, kTuntivirhe = 1016, kKuukausivirhe = 1017;
 
 using Taulukko = std::array<std::array<std::int32_t, kTunteja>, kKuukausia>;
 
@@ -113,9 +113,9 @@ double Lampotilassa(double arvo15, double arvo30, double T) {
 
 /// Shows the error of the first condition that fails.
 bool Kelpaa(bool kuukausi, bool tunti, double T) {
-  if (!OnLammitystaulukonLampotila(T)) return NaytaVirhe(kLampotilavirhe), false;
-  if (!tunti) return NaytaVirhe(kTuntivirhe), false;
-  if (!kuukausi) return NaytaVirhe(kKuukausivirhe), false;
+  if (!OnLammitystaulukonLampotila(T)) return NaytaVirhe(virheet::kTuloilmanLampotilaVaara), false;
+  if (!tunti) return NaytaVirhe(virheet::kTuntiVaara), false;
+  if (!kuukausi) return NaytaVirhe(virheet::kKuukausiVaara), false;
   return true;
 }
 

@@ -5,6 +5,7 @@
 
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_puhaltimet.h"
 #include "ui/Hiljaa.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
@@ -14,7 +15,6 @@ namespace {
 using Kulutus = clsPuhaltimenSahkonKulutus;
 using Lomakeluokka = frmIVKoneenPuhaltimienSahkonKaytto;
 
-constexpr int kKayranOtsikko = 3225, kKayranAkseli = 3226, kOsatehoUlkona = 3227, kVakioilmavirta = 3228;
 constexpr int kPieninVirta = 30, kTaysVirta = 100;  // %, ends of the curve
 
 constexpr const char* kTeho = "### ##0.000";  // kW
@@ -38,14 +38,14 @@ struct Puhallintiedot {
   void (Kulutus::*asetaOsateho)(double) noexcept;
 };
 constexpr Puhallintiedot kPuhaltimet[] = {
-    {3203, &Kulutus::TuloIlmavirta11Teho, &Kulutus::TuloSahkoTeho11, &Kulutus::Teho11TiedonLaatuIDTulo,
-     &Kulutus::OsaTehoTiedonLaatuIDTulo, &Kulutus::TuloPuhParam, &Kulutus::OnTulopuhallin, &Kulutus::Tulopuhallin,
-     &Kulutus::TuloSahkoOminaisteho, &Kulutus::TuloSahkoOsaTeho, &Kulutus::TallennettuTuloSahkoOsaTeho,
-     &Kulutus::TuloSahkoOsaTeho},
-    {3204, &Kulutus::PoistoIlmavirta11Teho, &Kulutus::PoistoSahkoTeho11, &Kulutus::Teho11TiedonLaatuIDPoisto,
-     &Kulutus::OsaTehoTiedonLaatuIDPoisto, &Kulutus::PoistoPuhParam, &Kulutus::OnPoistopuhallin,
-     &Kulutus::Poistopuhallin, &Kulutus::PoistoSahkoOminaisteho, &Kulutus::PoistoSahkoOsaTeho,
-     &Kulutus::TallennettuPoistoSahkoOsaTeho, &Kulutus::PoistoSahkoOsaTeho},
+    {tekstit::kTulopuhallin, &Kulutus::TuloIlmavirta11Teho, &Kulutus::TuloSahkoTeho11,
+     &Kulutus::Teho11TiedonLaatuIDTulo, &Kulutus::OsaTehoTiedonLaatuIDTulo, &Kulutus::TuloPuhParam,
+     &Kulutus::OnTulopuhallin, &Kulutus::Tulopuhallin, &Kulutus::TuloSahkoOminaisteho, &Kulutus::TuloSahkoOsaTeho,
+     &Kulutus::TallennettuTuloSahkoOsaTeho, &Kulutus::TuloSahkoOsaTeho},
+    {tekstit::kPoistopuhallin, &Kulutus::PoistoIlmavirta11Teho, &Kulutus::PoistoSahkoTeho11,
+     &Kulutus::Teho11TiedonLaatuIDPoisto, &Kulutus::OsaTehoTiedonLaatuIDPoisto, &Kulutus::PoistoPuhParam,
+     &Kulutus::OnPoistopuhallin, &Kulutus::Poistopuhallin, &Kulutus::PoistoSahkoOminaisteho,
+     &Kulutus::PoistoSahkoOsaTeho, &Kulutus::TallennettuPoistoSahkoOsaTeho, &Kulutus::PoistoSahkoOsaTeho},
 };
 
 std::string LukuTaiViiva(const std::optional<double>& luku, const char* kuvio) {
@@ -149,8 +149,11 @@ void Puhallinmuokkaus::NaytaPuhaltimenTulokset(Puoli puoli) {
 }
 
 void Puhallinmuokkaus::NaytaKayra() {
-  Kaaviotiedot kaavio{
-      .otsikko = Teksti(kKayranOtsikko), .nimet = {Teksti(kKayranAkseli)}, .arvot = {}, .sarjat = {}, .yksikko = "kW"};
+  Kaaviotiedot kaavio{.otsikko = Teksti(tekstit::kPuhallinkuvanOtsikko),
+                      .nimet = {Teksti(tekstit::kPuhallinkuvanIlmavirta)},
+                      .arvot = {},
+                      .sarjat = {},
+                      .yksikko = "kW"};
   for (int x = kPieninVirta; x <= kTaysVirta; ++x) kaavio.arvot.push_back(x);
   for (const Puoli puoli : {Lomakeluokka::kTulo, Lomakeluokka::kPoisto}) {
     const Puhallintiedot& t = kPuhaltimet[puoli];
@@ -163,8 +166,8 @@ void Puhallinmuokkaus::NaytaKayra() {
 
 void Puhallinmuokkaus::NaytaHuomautus() {
   std::string huomautus;
-  if (!OnOsavirta()) huomautus = Teksti(kVakioilmavirta);
-  if (Laskematon()) huomautus = Teksti(kOsatehoUlkona);
+  if (!OnOsavirta()) huomautus = Teksti(tekstit::kVakiokoneVainTaysilla);
+  if (Laskematon()) huomautus = Teksti(tekstit::kOsatehoaEiVoiLaskea);
   KayttoLiittyma.lblHuomautus.Otsikko(huomautus);
 }
 

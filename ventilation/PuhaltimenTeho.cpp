@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "kernel/Virhe.h"
+#include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
 #include "ventilation/Puhallinlaskenta.h"
 #include "ventilation/clsKaksiNopOikosulkuMoottori.h"
@@ -15,7 +16,6 @@ constexpr double kTaysi = 100;                                // %
 constexpr double kPieninOsavirta = 33, kSuurinOsavirta = 66;  // %
 constexpr double kMoottorinYlimitoitus = 1.3;
 constexpr double kOsanopeudenLisa = 1.2;
-constexpr int kOsavirtavirhe = 1014;
 
 bool OnOsanopeudenVirta(double x) { return x >= kPieninOsavirta && x <= kSuurinOsavirta; }
 
@@ -63,7 +63,7 @@ clsMivSaato::Toimintapiste PuhaltimenTeho::KaksinopeuksinenPiste() const {
 }
 
 double PuhaltimenTeho::KaksiNopPuhaltimenOsateho(double x) {
-  if (!OnOsanopeudenVirta(x)) return NaytaVirhe(kOsavirtavirhe), 0;
+  if (!OnOsanopeudenVirta(x)) return NaytaVirhe(virheet::kOsailmavirtaRajojenUlkopuolella), 0;
   if (!(Taysteho() > 0)) return 0;
   if (!piste_) piste_ = KaksinopeuksinenPiste();
   if (piste_->P4 == 0) return 0;

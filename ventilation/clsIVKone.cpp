@@ -7,12 +7,12 @@
 #include "building/clsRakennus.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "tekstit/rakennus.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
 
-constexpr int kUusiKoneTekstinro = 9129;
 constexpr double kkWhperMWh = 1000;
 constexpr double kTaysVirta = 100;  // %
 
@@ -88,7 +88,7 @@ constexpr Tulos kTulokset[] = {
 
 const Luokka clsIVKone::kLuokka{"clsIVKone", kJasenet, kTulokset};
 
-clsIVKone::clsIVKone() : KoneenTunnus(Teksti(kUusiKoneTekstinro)) { PaivitaPuhaltimienTiedot(); }
+clsIVKone::clsIVKone() : KoneenTunnus(Teksti(tekstit::kUusiKone)) { PaivitaPuhaltimienTiedot(); }
 
 void clsIVKone::SisaanpuhallusLampotila(double lampotila) noexcept {
   sisaanpuhallusLampotila_ = lampotila;

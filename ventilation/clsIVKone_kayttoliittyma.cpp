@@ -3,6 +3,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
+#include "tekstit/rakennus.h"
 #include "ui/Hiljaa.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
@@ -10,7 +11,6 @@
 
 namespace {
 
-constexpr int kEiLukua = 9128;
 constexpr const char* kEnergia = "### ##0.00";
 constexpr const char* kHyotysuhde = "0.0#";
 
@@ -181,7 +181,7 @@ void clsIVKone::NaytaVuosi() {
     for (const Vuosikentta& k : kVuosikentat) (lomake.*k.kentta).Luku(luvut.*k.luku, k.kuvio);
     lomake.lblHuomautus.Otsikko(hiljaisuus.EnsimmainenViesti());
   } catch (const Virhe& virhe) {
-    for (const Vuosikentta& k : kVuosikentat) (lomake.*k.kentta).Teksti(Teksti(kEiLukua));
+    for (const Vuosikentta& k : kVuosikentat) (lomake.*k.kentta).Teksti(Teksti(tekstit::kViiva));
     lomake.lblHuomautus.Otsikko(virhe.Kuvaus());
   }
 }

@@ -9,15 +9,16 @@
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_ilmanvaihto.h"
+#include "tekstit/lomakkeet_tilat.h"
+#include "tekstit/rakennus.h"
+#include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmIVKoneYhteenveto.h"
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
-
-constexpr int kKoneenTiedot = 3020, kKoneenKopiointi = 3018, kKoneenPoisto = 3019;
-constexpr int kKopio = 1998, kYhteensa = 2779, kKoneKaytossa = 3016, kVirheenOtsikko = 9100, kEiTilaa = 9128;
 
 constexpr const char* kEiLukua = "---";
 
@@ -55,7 +56,7 @@ std::optional<clsIVKone::Vuosiluvut> LasketutLuvut(clsIVKone& kone) {
   try {
     return kone.VuodenLuvut();
   } catch (const Virhe& virhe) {
-    Ilmoita(kone.KoneenTunnus + ": " + virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    Ilmoita(kone.KoneenTunnus + ": " + virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
     return std::nullopt;
   }
 }
@@ -66,13 +67,13 @@ std::string Luku(std::optional<double> arvo, const Sarake& sarake) {
 
 /// Rows of the list and their sums; without one figure the sum isn't known either.
 Luettelosisalto KoneidenRivit(const clsIVKoneet& koneet) {
-  Luettelosisalto sisalto{{}, {Teksti(kYhteensa), "", ""}};
+  Luettelosisalto sisalto{{}, {Teksti(tekstit::kRakenteetYhteensa), "", ""}};
   std::array<std::optional<double>, std::size(kSarakkeet)> summat;
   summat.fill(0.0);
   for (clsIVKone& kone : koneet) {
     const clsTila* tila = VaadiRakennus().Tilat.Etsi(kone.LiittyyTilaansKey);
     const Koneluvut luvut{kone, LasketutLuvut(kone)};
-    std::vector<std::string> rivi{kone.KoneenTunnus, kone.IVPeriaate, tila ? tila->TilanNimi : Teksti(kEiTilaa)};
+    std::vector<std::string> rivi{kone.KoneenTunnus, kone.IVPeriaate, tila ? tila->TilanNimi : Teksti(tekstit::kViiva)};
     for (std::size_t i = 0; i < summat.size(); ++i) {
       const auto arvo = kSarakkeet[i].arvo(luvut);
       summat[i] = arvo && summat[i] ? std::optional(*summat[i] + *arvo) : std::nullopt;
@@ -132,7 +133,9 @@ bool clsIVKoneet::Muokkaa(clsIVKone& kone) try {
   NostaVirhe("clsIVKoneet:Muokkaa Method");
 }
 
-void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() { VaadiRakennus().Muuttui(Teksti(kKoneenTiedot)); }
+void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() {
+  VaadiRakennus().Muuttui(Teksti(tekstit::kIlmanvaihtokoneenTiedot));
+}
 
 void clsIVKoneet::Valitse(const Tunniste& avain) {
   kayttoLiittyma_.arvo->lvwKoneet.Valitse(avain);
@@ -164,9 +167,9 @@ void clsIVKoneet::KayttoLiittyma_MuokkaaKlikattu() try { Muokkaa(ValittuKone());
 
 void clsIVKoneet::KayttoLiittyma_KopioiKlikattu() try {
   clsIVKone& kopio = LisaaKopio(*this, ValittuKone());
-  kopio.KoneenTunnus = Teksti(kKopio) + kopio.KoneenTunnus;
+  kopio.KoneenTunnus = Teksti(tekstit::kKopio) + kopio.KoneenTunnus;
   kopio.PaivitaOsienTiedot();
-  LuetteloMuuttui(kKoneenKopiointi, kopio.sKey);
+  LuetteloMuuttui(tekstit::kIlmanvaihtokoneenKopiointi, kopio.sKey);
 } catch (...) {
   NostaVirhe("clsIVKoneet:KayttoLiittyma_KopioiKlikattu Method");
 }
@@ -174,10 +177,10 @@ void clsIVKoneet::KayttoLiittyma_KopioiKlikattu() try {
 void clsIVKoneet::KayttoLiittyma_PoistaKlikattu() try {
   clsIVKone& kone = ValittuKone();
   if (const std::string nimet = ViittaavatToimenpiteet(kone); !nimet.empty())
-    return Ilmoita(Teksti(kKoneKaytossa) + " " + nimet, Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    return Ilmoita(Teksti(tekstit::kKonettaEiVoiPoistaa) + " " + nimet, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   if (!KysyPoisto()) return;
   Remove(Tunniste(kone.sKey));
-  LuetteloMuuttui(kKoneenPoisto, {});
+  LuetteloMuuttui(tekstit::kIlmanvaihtokoneenPoisto, {});
 } catch (...) {
   NostaVirhe("clsIVKoneet:KayttoLiittyma_PoistaKlikattu Method");
 }

@@ -8,6 +8,7 @@
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/tulokset.h"
+#include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ventilation/LammitysTaulukko.h"
@@ -36,7 +37,6 @@ constexpr Tulos kTulokset[] = {
 constexpr int kMinuuttejaVuorokaudessa = 1440;
 constexpr double kMinuuttejaTunnissa = 60, kTuntejaVuorokaudessa = 24, kTuntejaViikossa = 168, kPaiviaViikossa = 7;
 constexpr double kKesanLtoRaja = 5;  // %
-constexpr int kLampotilavirhe = 1015, kJaksovirhe = 1018;
 
 }  // namespace
 
@@ -94,10 +94,10 @@ double clsKayntiAika::KayntiJaksonLampo(double q, int kuukausi) const {
 }
 
 double clsKayntiAika::LtoEnergiaHyotySuhde(double Tsp, double LtoHyoty, double Tp, int jakso) try {
-  if (!OnLammitystaulukonLampotila(Tsp)) return NaytaVirhe(kLampotilavirhe), 0;
+  if (!OnLammitystaulukonLampotila(Tsp)) return NaytaVirhe(virheet::kTuloilmanLampotilaVaara), 0;
   if (jakso == KolmasNeljannes) return LtoHyoty > kKesanLtoRaja ? 100 : 0;
   const Pysyvyys ulkoilma = Ulkolampotilat(jakso);
-  if (ulkoilma.tunnit.empty()) return NaytaVirhe(kJaksovirhe), 0;
+  if (ulkoilma.tunnit.empty()) return NaytaVirhe(virheet::kJaksoTuntematon), 0;
   double tarve = 0, talteen = 0;
   int T = ulkoilma.alin;
   for (const double tunnit : ulkoilma.tunnit) {

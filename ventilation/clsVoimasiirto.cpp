@@ -3,12 +3,12 @@
 
 #include <cmath>
 
+#include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
 #include "ventilation/Puhallinlaskenta.h"
 
 namespace {
 
-constexpr int kVoimansiirtovirhe = 1045;
 constexpr double kTaysi = 100;    // %
 constexpr double kPieniTeho = 2;  // kW: belt drives of less have a curve of their own
 
@@ -19,7 +19,7 @@ bool Tunnettu(std::int32_t valitys) {
 }  // namespace
 
 double clsVoimasiirto::Hyotysuhde() const {
-  if (!Tunnettu(ValitysTapa)) return NaytaVirhe(kVoimansiirtovirhe), 0;
+  if (!Tunnettu(ValitysTapa)) return NaytaVirhe(virheet::kVoimansiirtoTuntematon), 0;
   if (P4 <= 0 || ValitysTapa == SuoraVeto) return kTaysi;
   if (ValitysTapa == Kiilahihna) return P4 <= kPieniTeho ? 3.6 * std::log(P4) + 90 : 0.8 * std::log(P4) + 93;
   return P4 <= kPieniTeho ? 2.4 * std::log(P4) + 95 : 0.3 * std::log(P4) + 97;

@@ -2,16 +2,14 @@
 #include "library/server/Elotallennus.h"
 
 #include "kernel/Virhe.h"
-#include "library/server/Tekstinumerot.h"
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
-
-using namespace kirjastotekstit;
 
 namespace {
 
 bool Kysy(int teksti) {
-  return ViestitNyt().Nayta({Teksti(teksti), Teksti(kPoistettuOtsikko), Vakavuus::Kysymys, Napit::KyllaEi,
+  return ViestitNyt().Nayta({Teksti(teksti), Teksti(tekstit::kPoistettuOtsikko), Vakavuus::Kysymys, Napit::KyllaEi,
                              Vastaus::Kylla}) == Vastaus::Kylla;
 }
 
@@ -28,10 +26,10 @@ bool Elotallennus::Kirjoita() {
     if (!tietue_.Tallenna(kirjasto)) return false;
     odottaa_ = false;
   } catch (const Virhe& virhe) {
-    tila_.Otsikko(Teksti(kEiTallennettu) + " " + virhe.SyynKuvaus());
+    tila_.Otsikko(Teksti(tekstit::kEiTallennettu) + " " + virhe.SyynKuvaus());
     return true;
   }
-  tila_.Otsikko(Teksti(kTallennettu));
+  tila_.Otsikko(Teksti(tekstit::kTallennettu));
   IlmoitaMuutos();
   return true;
 }
@@ -51,4 +49,4 @@ bool Elotallennus::Yrita() {
   return !odottaa_;
 }
 
-bool Elotallennus::VoiSulkea() { return Yrita() || Kysy(kHylataanko); }
+bool Elotallennus::VoiSulkea() { return Yrita() || Kysy(tekstit::kHylataanko); }

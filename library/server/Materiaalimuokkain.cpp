@@ -2,14 +2,14 @@
 #include "library/server/Materiaalimuokkain.h"
 
 #include "library/server/Kenttatyot.h"
-#include "library/server/Tekstinumerot.h"
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Kenttatarkistus.h"
 
 Materiaalimuokkain::Materiaalimuokkain(const Kirjastot& kirjastot, Kirjastomateriaali materiaali)
     : materiaali_(std::move(materiaali)),
       tallennus_(kirjastot,
                  {[this](Kayttajankirjasto& kirjasto) { return kirjasto.Tallenna(materiaali_); },
-                  [this] { materiaali_.Id.clear(); }, kirjastotekstit::kMateriaaliPoistettu},
+                  [this] { materiaali_.Id.clear(); }, tekstit::kMateriaaliPoistettu},
                  KayttoLiittyma.lblTila) {
   KayttoLiittyma.MateriaaliMuuttui = [this] { KayttoLiittyma_MateriaaliMuuttui(); };
   KayttoLiittyma.KentastaPoistuttu = [this] { TarkistaLukukentat(KayttoLiittyma); };

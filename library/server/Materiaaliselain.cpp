@@ -5,11 +5,9 @@
 
 #include "kernel/Luvut.h"
 #include "library/Kirjastosuodatin.h"
-#include "library/server/Tekstinumerot.h"
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
-
-using namespace kirjastotekstit;
 
 namespace {
 
@@ -23,7 +21,8 @@ std::vector<std::string> Rivi(const Kirjastomateriaali& materiaali) {
 }
 
 std::string Lahdeteksti(const Kirjastomateriaali& materiaali) {
-  return Teksti(kLahde) + " " + materiaali.Lahde + (materiaali.Tila.empty() ? "" : " (" + materiaali.Tila + ")");
+  return Teksti(tekstit::kLahde) + " " + materiaali.Lahde +
+         (materiaali.Tila.empty() ? "" : " (" + materiaali.Tila + ")");
 }
 
 }  // namespace
@@ -94,8 +93,8 @@ void Materiaaliselain::Suodata() {
     naytetyt_.push_back(&materiaali);
     rivit.push_back(Rivi(materiaali));
   }
-  KayttoLiittyma.lblMaara.Otsikko(Teksti(kMateriaaleja) + " " + std::to_string(rivit.size()) + "    " +
-                                  Teksti(kVersio) + " " + avaus_.kirjastot.Versio());
+  KayttoLiittyma.lblMaara.Otsikko(Teksti(tekstit::kMateriaaleja) + " " + std::to_string(rivit.size()) + "    " +
+                                  Teksti(tekstit::kKirjastonVersio) + " " + avaus_.kirjastot.Versio());
   KayttoLiittyma.lvwMateriaalit.Rivit(std::move(rivit));
   Valitse({});
 }
@@ -134,7 +133,7 @@ void Materiaaliselain::KayttoLiittyma_Valitse() {
 
 void Materiaaliselain::KayttoLiittyma_Uusi() {
   Kirjastomateriaali uusi;
-  uusi.Aine.Nimi = Teksti(kUusiMateriaali);
+  uusi.Aine.Nimi = Teksti(tekstit::kUusiMateriaali);
   uusi.Ryhma = ValittuEhto(KayttoLiittyma.cmbRyhma);
   if (LisaaOmaan(uusi)) Muokkaa(std::move(uusi));
 }
@@ -143,14 +142,15 @@ void Materiaaliselain::KayttoLiittyma_Kopioi() {
   const Kirjastomateriaali* malli = Valittu();
   if (!malli) return;
   Kirjastomateriaali kopio = *malli;
-  kopio.Aine.Nimi = Teksti(kKopio) + " " + kopio.Aine.Nimi;  // two of one name couldn't be told apart in a layer
+  kopio.Aine.Nimi =
+      Teksti(tekstit::kKirjastonKopio) + " " + kopio.Aine.Nimi;  // two of one name couldn't be told apart in a layer
   kopio.Kanta = Kirjasto::Oma;
   kopio.Id.clear();
   LisaaOmaan(kopio);
 }
 
 bool Materiaaliselain::LisaaOmaan(Kirjastomateriaali& materiaali) {
-  if (!KirjoitaKirjastoon(kEiTallennettu, [&] { avaus_.kirjastot.Avaa().Tallenna(materiaali); })) return false;
+  if (!KirjoitaKirjastoon(tekstit::kEiTallennettu, [&] { avaus_.kirjastot.Avaa().Tallenna(materiaali); })) return false;
   Valitse(materiaali.Id);
   return true;
 }
@@ -163,7 +163,7 @@ void Materiaaliselain::KayttoLiittyma_Muokkaa() {
   Paivita();
   const auto tuore = std::ranges::find(avaus_.kirjastot.Materiaalit(), id, &Kirjastomateriaali::Id);
   if (tuore != avaus_.kirjastot.Materiaalit().end()) return Muokkaa(*tuore);
-  Ilmoita(Teksti(kMateriaaliJoPoistettu));
+  Ilmoita(Teksti(tekstit::kMateriaaliJoPoistettu));
 }
 
 void Materiaaliselain::Muokkaa(Kirjastomateriaali materiaali) {
@@ -178,8 +178,9 @@ void Materiaaliselain::KayttoLiittyma_Poista() {
   const std::string id = valittu->Id;
   std::string kayttajat;
   for (const std::string& nimi : avaus_.kirjastot.Avaa().MateriaalinKayttajat(id)) kayttajat += "\n" + nimi;
-  if (!kayttajat.empty()) return Ilmoita(Teksti(kMateriaaliKaytossa) + kayttajat);
-  if (KysyPoisto()) KirjoitaKirjastoon(kPoistoEpaonnistui, [&] { avaus_.kirjastot.Avaa().PoistaMateriaali(id); });
+  if (!kayttajat.empty()) return Ilmoita(Teksti(tekstit::kMateriaaliKaytossa) + kayttajat);
+  if (KysyPoisto())
+    KirjoitaKirjastoon(tekstit::kPoistoEpaonnistui, [&] { avaus_.kirjastot.Avaa().PoistaMateriaali(id); });
 }
 
 /// False when the person keeps the editing window open, since it holds what can't be stored.

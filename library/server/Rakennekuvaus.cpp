@@ -3,11 +3,9 @@
 
 #include "kernel/Luvut.h"
 #include "library/Lampotilajakauma.h"
-#include "library/server/Tekstinumerot.h"
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
-
-using namespace kirjastotekstit;
 
 namespace {
 
@@ -15,7 +13,7 @@ Leikkaus Talvipaivana(const Rakenneratkaisu& ratkaisu) {
   return MuodostaLeikkaus(ratkaisu, kNayttoTsisa, kNayttoTulko);
 }
 
-std::string KyllaTaiEi(bool arvo) { return Teksti(arvo ? kKylla : kEi); }
+std::string KyllaTaiEi(bool arvo) { return Teksti(arvo ? tekstit::kKirjastonKylla : tekstit::kKirjastonEi); }
 
 std::string Materiaalit(const clsRakennekerros& kerros) {
   if (kerros.Yhtenainen || kerros.Lisamateriaali.Nimi.empty()) return KerroksenNimi(kerros);
@@ -27,10 +25,10 @@ std::string Materiaalit(const clsRakennekerros& kerros) {
 
 std::string UarvonTeksti(const Rakenneratkaisu& ratkaisu) {
   const auto U = ratkaisu.VoimassaolevaU_arvo();
-  if (!U) return Teksti(kEiUarvoa);
+  if (!U) return Teksti(tekstit::kEiUarvoa);
   const bool laskettu = !ratkaisu.U_arvoAnnettu && ratkaisu.LaskeU_arvo();
-  return Teksti(kUarvo) + " " + Muotoile(*U, "0.00#") + " " + Teksti(kUarvonYksikko) +
-         (laskettu ? "" : " (" + Teksti(kAnnettu) + ")");
+  return Teksti(tekstit::kUarvo) + " " + Muotoile(*U, "0.00#") + " " + Teksti(tekstit::kUarvonYksikko) +
+         (laskettu ? "" : " (" + Teksti(tekstit::kAnnettu) + ")");
 }
 
 Kaaviotiedot Leikkauskuva(const Rakenneratkaisu& ratkaisu) {

@@ -6,7 +6,7 @@
 #include "library/Kirjastoluettelo.h"
 #include "library/server/Kenttatyot.h"
 #include "library/server/Rakennekuvaus.h"
-#include "library/server/Tekstinumerot.h"
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/Tekstivarasto.h"
 
@@ -53,7 +53,7 @@ Rakennemuokkain::Rakennemuokkain(const Kirjastot& kirjastot, Kirjastorakenne rak
       rakenne_(std::move(rakenne)),
       tallennus_(kirjastot,
                  {[this](Kayttajankirjasto& kirjasto) { return kirjasto.Tallenna(rakenne_); },
-                  [this] { rakenne_.Id.clear(); }, kirjastotekstit::kRakennePoistettu},
+                  [this] { rakenne_.Id.clear(); }, tekstit::kRakennePoistettu},
                  KayttoLiittyma.lblTila) {
   KayttoLiittyma.cmbRakennetyyppi.Rivit(Rakennetyypit());
   TaytaMateriaalit();

@@ -7,12 +7,10 @@
 #include "library/Kirjastoluettelo.h"
 #include "library/Kirjastosuodatin.h"
 #include "library/server/Rakennekuvaus.h"
-#include "library/server/Tekstinumerot.h"
+#include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
-
-using namespace kirjastotekstit;
 
 namespace {
 
@@ -107,8 +105,8 @@ void Rakenneselain::Suodata() {
     naytetyt_.push_back(&rakenne);
     rivit.push_back(Rivi(rakenne, tyypit));
   }
-  KayttoLiittyma.lblMaara.Otsikko(Teksti(kRakenteita) + " " + std::to_string(rivit.size()) + "    " + Teksti(kVersio) +
-                                  " " + avaus_.kirjastot.Versio());
+  KayttoLiittyma.lblMaara.Otsikko(Teksti(tekstit::kRakenteita) + " " + std::to_string(rivit.size()) + "    " +
+                                  Teksti(tekstit::kKirjastonVersio) + " " + avaus_.kirjastot.Versio());
   KayttoLiittyma.lvwRakenteet.Rivit(std::move(rivit));
   Valitse({});
 }
@@ -143,7 +141,7 @@ void Rakenneselain::NaytaRakenne() {
   const Rakenneratkaisu& ratkaisu = valittu ? valittu->Ratkaisu : tyhja;
   KayttoLiittyma.lblNimi.Otsikko(ratkaisu.Nimi);
   KayttoLiittyma.lblKuvaus.Otsikko(ratkaisu.Kuvaus);
-  KayttoLiittyma.lblLahde.Otsikko(valittu ? Teksti(kLahde) + " " + valittu->Lahde : std::string());
+  KayttoLiittyma.lblLahde.Otsikko(valittu ? Teksti(tekstit::kLahde) + " " + valittu->Lahde : std::string());
   KayttoLiittyma.chtLampotilat.Kaavio(valittu ? Leikkauskuva(ratkaisu) : Kaaviotiedot());
   Taulukko kerrokset = Kerrosrivit(ratkaisu);
   for (auto& rivi : kerrokset) rivi = {rivi[0] + " " + rivi[1], rivi[2], rivi[3], rivi[4]};
@@ -168,7 +166,7 @@ void Rakenneselain::KayttoLiittyma_Valitse() {
 
 void Rakenneselain::KayttoLiittyma_Uusi() {
   Kirjastorakenne uusi;
-  uusi.Ratkaisu.Nimi = Teksti(kUusiRakenne);
+  uusi.Ratkaisu.Nimi = Teksti(tekstit::kUusiRakenne);
   uusi.Ratkaisu.Rakennetyyppi = RakennetyypinSana(std::max(KayttoLiittyma.cmbRakennetyyppi.Indeksi() - 1, 0));
   if (LisaaOmaan(uusi)) Muokkaa(std::move(uusi));
 }
@@ -177,14 +175,14 @@ void Rakenneselain::KayttoLiittyma_Kopioi() {
   const Kirjastorakenne* malli = Valittu();
   if (!malli) return;
   Kirjastorakenne kopio = *malli;
-  if (malli->Kanta == Kirjasto::Oma) kopio.Ratkaisu.Nimi = Teksti(kKopio) + " " + kopio.Ratkaisu.Nimi;
+  if (malli->Kanta == Kirjasto::Oma) kopio.Ratkaisu.Nimi = Teksti(tekstit::kKirjastonKopio) + " " + kopio.Ratkaisu.Nimi;
   kopio.Kanta = Kirjasto::Oma;
   kopio.Id.clear();
   LisaaOmaan(kopio);
 }
 
 bool Rakenneselain::LisaaOmaan(Kirjastorakenne& rakenne) {
-  if (!KirjoitaKirjastoon(kEiTallennettu, [&] { avaus_.kirjastot.Avaa().Tallenna(rakenne); })) return false;
+  if (!KirjoitaKirjastoon(tekstit::kEiTallennettu, [&] { avaus_.kirjastot.Avaa().Tallenna(rakenne); })) return false;
   Valitse(rakenne.Id);
   return true;
 }
@@ -196,7 +194,7 @@ void Rakenneselain::KayttoLiittyma_Muokkaa() {
   auto tuore = LueRakenne(avaus_.kirjastot.Polku(Kirjasto::Oma), Kirjasto::Oma, valittu->Id);
   if (tuore) return Muokkaa(std::move(*tuore));
   Paivita();
-  Ilmoita(Teksti(kRakenneJoPoistettu));
+  Ilmoita(Teksti(tekstit::kRakenneJoPoistettu));
 }
 
 void Rakenneselain::Muokkaa(Kirjastorakenne rakenne) {
@@ -209,22 +207,25 @@ void Rakenneselain::KayttoLiittyma_Poista() {
   const Kirjastorakenne* valittu = Valittu();
   if (!valittu || valittu->Kanta != Kirjasto::Oma || !KysyPoisto()) return;
   const std::string id = valittu->Id;
-  KirjoitaKirjastoon(kPoistoEpaonnistui, [&] { avaus_.kirjastot.Avaa().PoistaRakenne(id); });
+  KirjoitaKirjastoon(tekstit::kPoistoEpaonnistui, [&] { avaus_.kirjastot.Avaa().PoistaRakenne(id); });
 }
 
 void Rakenneselain::KayttoLiittyma_Tuo() {
-  const auto tiedosto = ViestitNyt().KysyAvattavaTiedosto(Teksti(kTuoOtsikko), Teksti(kTiedostosuodatin));
+  const auto tiedosto =
+      ViestitNyt().KysyAvattavaTiedosto(Teksti(tekstit::kTuoOtsikko), Teksti(tekstit::kTiedostosuodatin));
   if (!tiedosto) return;
   Tuontitulos tulos;
-  if (!KirjoitaKirjastoon(kTuontiEpaonnistui, [&] { tulos = avaus_.kirjastot.Avaa().Tuo(*tiedosto); })) return;
-  Ilmoita(Teksti(kTuotujaRakenteita) + " " + std::to_string(tulos.rakenteita) + "\n" + Teksti(kTuotujaMateriaaleja) +
-          " " + std::to_string(tulos.materiaaleja) + "\n" + Teksti(kEnnestaan) + " " + std::to_string(tulos.entisia));
+  if (!KirjoitaKirjastoon(tekstit::kTuontiEpaonnistui, [&] { tulos = avaus_.kirjastot.Avaa().Tuo(*tiedosto); })) return;
+  Ilmoita(Teksti(tekstit::kTuotujaRakenteita) + " " + std::to_string(tulos.rakenteita) + "\n" +
+          Teksti(tekstit::kTuotujaMateriaaleja) + " " + std::to_string(tulos.materiaaleja) + "\n" +
+          Teksti(tekstit::kEnnestaan) + " " + std::to_string(tulos.entisia));
 }
 
 void Rakenneselain::KayttoLiittyma_Vie() {
-  const auto tiedosto = ViestitNyt().KysyTallennettavaTiedosto(Teksti(kVieOtsikko), Teksti(kTiedostosuodatin));
-  if (tiedosto && KirjoitaKirjastoon(kVientiEpaonnistui, [&] { avaus_.kirjastot.Avaa().Vie(*tiedosto); }))
-    Ilmoita(Teksti(kViety) + " " + *tiedosto);
+  const auto tiedosto =
+      ViestitNyt().KysyTallennettavaTiedosto(Teksti(tekstit::kVieOtsikko), Teksti(tekstit::kTiedostosuodatin));
+  if (tiedosto && KirjoitaKirjastoon(tekstit::kVientiEpaonnistui, [&] { avaus_.kirjastot.Avaa().Vie(*tiedosto); }))
+    Ilmoita(Teksti(tekstit::kViety) + " " + *tiedosto);
 }
 
 /// False when the person keeps the editing window open, since it holds what can't be stored.

@@ -5,29 +5,25 @@
 #include <sstream>
 
 #include "kernel/Virhe.h"
-#include "library/server/Tekstinumerot.h"
+#include "tekstit/lomakkeet_kirjasto.h"
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
-using namespace kirjastotekstit;
-
-namespace {
-
-constexpr int kVirheenOtsikko = 9100;
-
-}  // namespace
+namespace {}  // namespace
 
 void KerroViat(const Kirjastot& kirjastot) {
-  for (const auto& [kirjasto, teksti] : {std::pair{Kirjasto::Oma, kOmaaEiLueta}, {Kirjasto::Vakio, kVakiotaEiLueta}})
+  for (const auto& [kirjasto, teksti] :
+       {std::pair{Kirjasto::Oma, tekstit::kOmaaEiLueta}, {Kirjasto::Vakio, tekstit::kVakiotaEiLueta}})
     if (const std::string& vika = kirjastot.Vika(kirjasto); !vika.empty())
-      Ilmoita(Teksti(teksti) + "\n" + vika, Teksti(kVirheenOtsikko), Vakavuus::Varoitus);
+      Ilmoita(Teksti(teksti) + "\n" + vika, Teksti(tekstit::kVirhe), Vakavuus::Varoitus);
 }
 
 bool KirjoitaKirjastoon(int epaonnistui, const std::function<void()>& kirjoita) {
   try {
     kirjoita();
   } catch (const Virhe& virhe) {
-    Ilmoita(Teksti(epaonnistui) + " " + virhe.SyynKuvaus(), Teksti(kVirheenOtsikko), Vakavuus::Virhe);
+    Ilmoita(Teksti(epaonnistui) + " " + virhe.SyynKuvaus(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
     return false;
   }
   IlmoitaMuutos();
@@ -35,7 +31,7 @@ bool KirjoitaKirjastoon(int epaonnistui, const std::function<void()>& kirjoita) 
 }
 
 std::vector<std::string> Kirjastorivit() {
-  return {Teksti(kKaikkiKirjastot), Teksti(kOmaKirjasto), Teksti(kVakiokirjasto)};
+  return {Teksti(tekstit::kKaikkiKirjastot), Teksti(tekstit::kOmaKirjasto), Teksti(tekstit::kVakiokirjasto)};
 }
 
 std::optional<Kirjasto> ValittuKirjasto(const ComboBox& valinta) {
@@ -43,11 +39,13 @@ std::optional<Kirjasto> ValittuKirjasto(const ComboBox& valinta) {
   return valinta.Indeksi() == 1 ? Kirjasto::Oma : Kirjasto::Vakio;
 }
 
-std::string KirjastonLyhenne(Kirjasto kirjasto) { return Teksti(kirjasto == Kirjasto::Oma ? kOma : kVakio); }
+std::string KirjastonLyhenne(Kirjasto kirjasto) {
+  return Teksti(kirjasto == Kirjasto::Oma ? tekstit::kOma : tekstit::kVakio);
+}
 
 void TaytaEhdot(const ComboBox& valinta, const std::vector<std::string>& rivit) {
   const std::string ennen = valinta.Indeksi() > 0 ? valinta.Teksti() : std::string();
-  std::vector<std::string> kaikki{Teksti(kKaikki)};
+  std::vector<std::string> kaikki{Teksti(tekstit::kKaikki)};
   kaikki.insert(kaikki.end(), rivit.begin(), rivit.end());
   const auto it = std::ranges::find(kaikki, ennen);
   valinta.Rivit(kaikki);

@@ -11,6 +11,7 @@
 #include "library/Kirjastosanoma.h"
 #include "rep_Rakennekirjastopalvelu_replica.h"
 #include "tekstit/viestit.h"
+#include "tekstit/virheet.h"
 #include "ui/Komento.h"
 #include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr int kEiVastannut = 1034;
 constexpr std::chrono::milliseconds kYritysvali{100};
 
 QString Q(const std::string& teksti) { return QString::fromStdString(teksti); }
@@ -237,7 +237,7 @@ void Kirjastoyhteys::Luovu(std::function<void()> kerro) {
 }
 
 void Kirjastoyhteys::EiVastannut() {
-  Luovu([] { NaytaVirhe(kEiVastannut); });
+  Luovu([] { NaytaVirhe(virheet::kKirjastoEiVastannut); });
 }
 
 void Kirjastoyhteys::EiKaynnisty() {

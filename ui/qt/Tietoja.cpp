@@ -13,13 +13,11 @@
 #include <pugixml.hpp>
 
 #include "kernel/Hakemistot.h"
+#include "tekstit/lomakkeet_asetukset.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmAbout.h"
 
 namespace {
-
-constexpr int kJarjestelma = 2905, kSuoritin = 2906, kIkkunointi = 2907, kKieliymparisto = 2908, kTiedostot = 2909,
-              kAsetukset = 2910, kNaytto = 2911;
 
 /// pugixml tells 1.13 as 1130.
 std::string PugixmlVersio() {
@@ -48,13 +46,14 @@ Taulukko KirjastojenTiedot() {
 
 Taulukko JarjestelmanTiedot() {
   return {
-      {Teksti(kJarjestelma), (QSysInfo::prettyProductName() + ", " + QSysInfo::kernelVersion()).toStdString()},
-      {Teksti(kSuoritin), QSysInfo::currentCpuArchitecture().toStdString()},
-      {Teksti(kIkkunointi), QGuiApplication::platformName().toStdString()},
-      {Teksti(kNaytto), Naytto()},
-      {Teksti(kKieliymparisto), QLocale::system().name().toStdString()},
-      {Teksti(kTiedostot), AppPath()},
-      {Teksti(kAsetukset), AsetusHakemisto().string()},
+      {Teksti(tekstit::kKayttojarjestelma),
+       (QSysInfo::prettyProductName() + ", " + QSysInfo::kernelVersion()).toStdString()},
+      {Teksti(tekstit::kSuoritin), QSysInfo::currentCpuArchitecture().toStdString()},
+      {Teksti(tekstit::kIkkunointi), QGuiApplication::platformName().toStdString()},
+      {Teksti(tekstit::kNaytto), Naytto()},
+      {Teksti(tekstit::kKieliymparisto), QLocale::system().name().toStdString()},
+      {Teksti(tekstit::kOhjelmanTiedostot), AppPath()},
+      {Teksti(tekstit::kAsetustenPaikka), AsetusHakemisto().string()},
   };
 }
 
