@@ -6,7 +6,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Arvo<&clsHorisVarjostus::TyyppiID>("TyyppiID"),
     Arvo<&clsHorisVarjostus::TyyppiStr>("TyyppiStr"),
-    Arvo<&clsHorisVarjostus::Varjostuskulma>("Varjostuskulma", "°"),
+    Arvo<&clsHorisVarjostus::Varjostuskulma>("Varjostuskulma", Suure("°").Rajat(0, 90)),
 };
 }
 

@@ -6,7 +6,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Arvo<&clsLippaVarjostus::TyyppiID>("TyyppiID"),
     Arvo<&clsLippaVarjostus::TyyppiStr>("TyyppiStr"),
-    Arvo<&clsLippaVarjostus::Varjostuskulma>("Varjostuskulma", "°"),
+    Arvo<&clsLippaVarjostus::Varjostuskulma>("Varjostuskulma", Suure("°").Rajat(0, 90)),
 };
 }
 

@@ -37,7 +37,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsRakennus::Major>("Major"),
     Arvo<&clsRakennus::Minor>("Minor"),
     Arvo<&clsRakennus::Revision>("Revision"),
-    Arvo<&clsRakennus::MuuLampo>("MuuLampo", "MWh/a"),
+    Arvo<&clsRakennus::MuuLampo>("MuuLampo", Suure("MWh/a").Tavallisesti(0, 200000)),
     Arvo<&clsRakennus::Tallennettu>("Tallennettu"),
 };
 

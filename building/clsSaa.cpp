@@ -8,6 +8,7 @@
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "solar/Aurinkotaulukot.h"
+#include "solar/Saataulukko.h"
 #include "tekstit/tulokset.h"
 
 namespace {
@@ -16,14 +17,14 @@ constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Arvo<&clsSaa::Nimi>("Nimi"),
     Arvo<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", "°C"),
-    Arvo<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", "K·d"),
+    Arvo<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", "°Cd"),
     Arvo<&clsSaa::SaaFileNimi>("SaaFileNimi"),
 };
 
 constexpr Tulos kTulokset[] = {
     Tekstitulos<&clsSaa::Nimi>("Nimi", tekstit::kSaanNimi),
-    Lukutulos<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", tekstit::kSaanMitoitusUlkolampotila, "°C",
-                                                  "0.0"),
+    Lukutulos<&clsSaa::LammMitoitusUlkolampotila>("LammMitoitusUlkolampotila", tekstit::kSaanMitoitusUlkolampotila,
+                                                  "°C", "0.0"),
     Lukutulos<&clsSaa::NormVuodenLammTarveLuku>("NormVuodenLammTarveLuku", tekstit::kVyohykkeenTarveluku, "°Cd",
                                                 "### ##0"),
     Kuukausitulos<&clsSaa::Keskilampotila>("Keskilampotila", tekstit::kUlkoilmanKeskilampotila, "°C", "0.0"),
@@ -35,11 +36,15 @@ constexpr double kMJperkWh = 3.6;
 /// Zone file of each locality: Hanko, Helsinki, Ivalo, ... Vaasa.
 constexpr std::array<int, 16> kVyohykkeet{1, 1, 4, 3, 3, 3, 3, 2, 2, 1, 3, 1, 4, 2, 1, 2};
 
-/// Where the fields of a month's line go after month number and temperature.
-constexpr std::array<Suunta, kSuuntia> kSarakkeidenSuunnat{kVaakasuora, kEtela, kIta, kLansi, kPohjoinen};
+/// Direction of each orientation of the zone file's reader.
+constexpr std::pair<Suunta, Ilmansuunta> kSuunnat[] = {{kPohjoinen, Ilmansuunta::Pohjoinen},
+                                                       {kIta, Ilmansuunta::Ita},
+                                                       {kEtela, Ilmansuunta::Etela},
+                                                       {kLansi, Ilmansuunta::Lansi},
+                                                       {kVaakasuora, Ilmansuunta::Vaaka}};
 
 // Lines of a zone file, from 1.
-constexpr std::size_t kEkaKuukausirivi = 2, kNimirivi = 17, kMitoitusrivi = 20, kTarvelukurivi = 23;
+constexpr std::size_t kNimirivi = 17, kMitoitusrivi = 20, kTarvelukurivi = 23;
 
 /// The leading number of a line ("-26 °C" gives -26); 0 when there is none.
 double AlkuLuku(std::string_view rivi) {
@@ -50,43 +55,12 @@ double AlkuLuku(std::string_view rivi) {
   return arvo;
 }
 
-class Rivinlukija {
- public:
-  Rivinlukija(const std::string& polku) : polku_(polku), rivit_(LueRivit(polku)) {}
-
-  const std::string& Rivi(std::size_t numero) const {
-    if (numero > rivit_.size()) Hylkaa(numero, "rivi puuttuu");
-    return rivit_[numero - 1];
-  }
-  /// The seven comma-separated numbers of a month's line.
-  std::array<double, 7> Luvut(std::size_t numero) const {
-    std::array<double, 7> luvut{};
-    std::string_view loput = Rivi(numero);
-    for (double& luku : luvut) {
-      const std::size_t pilkku = loput.find(',');
-      luku = Kentta(loput.substr(0, pilkku), numero);
-      loput.remove_prefix(pilkku == std::string_view::npos ? loput.size() : pilkku + 1);
-    }
-    return luvut;
-  }
-  [[noreturn]] void Hylkaa(std::size_t numero, const char* syy) const {
-    throw std::runtime_error("Säätiedosto " + polku_ + ", rivi " + std::to_string(numero) + ": " + syy + ".");
-  }
-
- private:
-  double Kentta(std::string_view kentta, std::size_t numero) const {
-    kentta.remove_prefix(std::min(kentta.find_first_not_of(" \t"), kentta.size()));
-    kentta = kentta.substr(0, kentta.find_last_not_of(" \t") + 1);
-    double arvo = 0;
-    const auto [loppu, virhe] = std::from_chars(kentta.data(), kentta.data() + kentta.size(), arvo);
-    if (virhe != std::errc() || loppu != kentta.data() + kentta.size() || !std::isfinite(arvo))
-      Hylkaa(numero, "odotettiin seitsemää lukua pilkuilla erotettuina");
-    return arvo;
-  }
-
-  std::string polku_;
-  std::vector<std::string> rivit_;
-};
+/// A line of the zone file, from 1, behind the months.
+const std::string& Rivi(const std::vector<std::string>& rivit, std::size_t numero, const std::string& polku) {
+  if (numero > rivit.size())
+    throw std::runtime_error("Säätiedosto " + polku + ", rivi " + std::to_string(numero) + ": rivi puuttuu.");
+  return rivit[numero - 1];
+}
 
 }  // namespace
 
@@ -108,19 +82,17 @@ void clsSaa::AsetaSaaPaikkakunta(int paikkakunta) try {
 void clsSaa::LueSaaTiedosto(const std::string& tiedosto) try {
   SaaFileNimi = tiedosto;
   TyhjennaAurinkotaulukot();
-  const Rivinlukija lukija(AppPath() + tiedosto);
-  for (std::size_t i = 0; i < kKuukausia; ++i) {
-    const auto luvut = lukija.Luvut(kEkaKuukausirivi + i);
-    const double kuukausi = luvut[0];
-    if (!(kuukausi >= 1 && kuukausi <= kKuukausia)) lukija.Hylkaa(kEkaKuukausirivi + i, "kuukausi ei ole väliltä 1-12");
-    const auto k = static_cast<std::size_t>(kuukausi) - 1;
-    taulut_.arvo.lampotila[k] = luvut[1];
-    for (std::size_t s = 0; s < kSuuntia; ++s)
-      taulut_.arvo.sateily[k][kSarakkeidenSuunnat[s]] = luvut[s + 2] / kMJperkWh;
-  }
-  Nimi = lukija.Rivi(kNimirivi);
-  LammMitoitusUlkolampotila = AlkuLuku(lukija.Rivi(kMitoitusrivi));
-  NormVuodenLammTarveLuku = AlkuLuku(lukija.Rivi(kTarvelukurivi));
+  const std::string polku = AppPath() + tiedosto;
+  LueSaarivit(polku, [this](const Saarivi& rivi) {
+    const auto kuukausi = static_cast<std::size_t>(rivi.kuukausi) - 1;
+    taulut_.arvo.lampotila[kuukausi] = rivi.lampotila;
+    for (const auto& [suunta, ilmansuunta] : kSuunnat)
+      taulut_.arvo.sateily[kuukausi][suunta] = rivi.sateily[Indeksi(ilmansuunta)] / kMJperkWh;
+  });
+  const std::vector<std::string> rivit = LueRivit(polku);
+  Nimi = Rivi(rivit, kNimirivi, polku);
+  LammMitoitusUlkolampotila = AlkuLuku(Rivi(rivit, kMitoitusrivi, polku));
+  NormVuodenLammTarveLuku = AlkuLuku(Rivi(rivit, kTarvelukurivi, polku));
 } catch (...) {
   NostaVirhe("clsSaa:LueSaaTiedosto Method");
 }

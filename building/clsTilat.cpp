@@ -10,7 +10,7 @@ namespace {
 
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Arvo<&clsTilat::TotSahkoKuormaPros>("TotSahkoKuormaPros", "%"),
+    Arvo<&clsTilat::TotSahkoKuormaPros>("TotSahkoKuormaPros", Suure("%").Rajat(0, 100)),
     Arvo<&clsTilat::KaytaTotSahkoKuormia>("KaytaTotSahkoKuormia"),
 };
 

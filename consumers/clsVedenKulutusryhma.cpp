@@ -21,7 +21,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsVedenKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber"),
     Arvo<&clsVedenKulutusryhma::Laskentayksikko>("Laskentayksikko"),
     Arvo<&clsVedenKulutusryhma::LaskentayksikonTeksti>("LaskentayksikonTeksti"),
-    Arvo<&clsVedenKulutusryhma::KayttokuvausKertaaD>("KayttokuvausKertaaD"),
+    Arvo<&clsVedenKulutusryhma::KayttokuvausKertaaD>("KayttokuvausKertaaD", "1/d"),
     Arvo<&clsVedenKulutusryhma::KayttokuvausDpA>("KayttokuvausDpA", "d/a"),
     Arvo<&clsVedenKulutusryhma::Tasauskerroin>("Tasauskerroin"),
     Arvo<&clsVedenKulutusryhma::VedenKayttolampotila>("VedenKayttolampotila", "°C"),

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Makes the user's guide: rakenna_ohje.py SOURCE_FOLDER TARGET_FOLDER.
+"""Makes the user's guide: rakenna_ohje.py SOURCE_FOLDER TARGET_FOLDER [PAGE.md...].
 
-Source: Markdown pages, of which sisallys.md (the contents page) names the others in reading order, and kuvat/*.png.
+Source: Markdown pages of the folder and those told, of which sisallys.md (the contents page) names the others in reading order, and kuvat/*.png.
 Target: "Lumivirta 2.hlp", a line "level TAB page TAB title TAB topics" for each chapter, page and section in that
 order, and beside it the folder "Ohje" of HTML pages, pictures and their style.
 
@@ -231,8 +231,8 @@ def sivun_html(sivu, edellinen, seuraava):
             + "\n".join(sivu.osat) + f'\n<p class="selaus">{" &nbsp;|&nbsp; ".join(selaus)}</p>\n</body></html>\n')
 
 
-def rakenna(lahde, kohde):
-    sivut = {p.stem: Sivu(p) for p in sorted(lahde.glob("*.md"))}
+def rakenna(lahde, kohde, *lisasivut):
+    sivut = {p.stem: Sivu(p) for p in [*sorted(lahde.glob("*.md")), *lisasivut]}
     luvut = jarjestys(sivut[SISALLYS])
     kuvat = {f"kuvat/{p.name}" for p in (lahde / "kuvat").glob("*.png")}
     tarkista(sivut, luvut, kuvat)
@@ -253,6 +253,6 @@ def rakenna(lahde, kohde):
 
 if __name__ == "__main__":
     try:
-        rakenna(pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]))
+        rakenna(*map(pathlib.Path, sys.argv[1:]))
     except Virhe as virhe:
         sys.exit(f"rakenna_ohje.py: {virhe}")

@@ -5,8 +5,8 @@ namespace {
 
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Arvo<&clsLammKulutuksenVakioOsuus::kkOsuus>("kkOsuus", "MWh"),
-    Arvo<&clsLammKulutuksenVakioOsuus::VuosiOsuus>("VuosiOsuus", "MWh/a"),
+    Arvo<&clsLammKulutuksenVakioOsuus::kkOsuus>("kkOsuus", Suure("MWh/kk").Rajat(0).Tavallisesti(0, 20000)),
+    Arvo<&clsLammKulutuksenVakioOsuus::VuosiOsuus>("VuosiOsuus", Suure("MWh/a").Rajat(0).Tavallisesti(0, 200000)),
 };
 
 }  // namespace

@@ -23,21 +23,29 @@ int Kuukausi(double luku) {
 
 }  // namespace
 
-Saataulukko::Saataulukko(std::string_view polku) {
+void LueSaarivit(std::string_view polku, const std::function<void(const Saarivi&)>& kasittele) {
   Lukutiedosto tiedosto(polku);
   std::array<bool, Kuukausiarvot::kKuukausia + 1> luettu{};
   std::array<double, kKenttia> luvut{};
   for (int rivi = 0; rivi < Kuukausiarvot::kKuukausia; ++rivi) {
     if (!tiedosto.SeuraavaRivi()) tiedosto.Hylkaa("tiedosto loppuu kesken, kuukausirivejä pitää olla 12");
     tiedosto.Luvut(luvut);
-    const int kuukausi = Kuukausi(luvut[0]);
-    if (!Kuukausiarvot::OnKuukausi(kuukausi)) tiedosto.Hylkaa("kuukauden pitää olla kokonaisluku 1–12");
-    if (luettu[kuukausi]) tiedosto.Hylkaa("kuukausi " + std::to_string(kuukausi) + " on jo luettu");
-    luettu[kuukausi] = true;
+    Saarivi saa{Kuukausi(luvut[0]), luvut[1], {}};
+    if (!Kuukausiarvot::OnKuukausi(saa.kuukausi)) tiedosto.Hylkaa("kuukauden pitää olla kokonaisluku 1–12");
+    if (luettu[saa.kuukausi]) tiedosto.Hylkaa("kuukausi " + std::to_string(saa.kuukausi) + " on jo luettu");
+    luettu[saa.kuukausi] = true;
     for (std::size_t i = 0; i < std::size(kSarakkeet); ++i) {
       const double sateily = luvut[kEnsimmainenSateily + i];
       if (sateily < 0) tiedosto.Hylkaa("säteily ei voi olla negatiivinen");
-      sateily_[Indeksi(kSarakkeet[i])](kuukausi) = sateily;
+      saa.sateily[Indeksi(kSarakkeet[i])] = sateily;
     }
+    kasittele(saa);
   }
+}
+
+Saataulukko::Saataulukko(std::string_view polku) {
+  LueSaarivit(polku, [this](const Saarivi& rivi) {
+    for (std::size_t suunta = 0; suunta < kIlmansuuntia; ++suunta)
+      sateily_[suunta](rivi.kuukausi) = rivi.sateily[suunta];
+  });
 }

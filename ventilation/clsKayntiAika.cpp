@@ -21,12 +21,12 @@ constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Arvo<&Alkio::sKey>("sKey"),
     Arvo<&clsKayntiAika::Jakso>("Jakso"),
-    Arvo<&clsKayntiAika::KayntiJaksojenLkm>("KayntiJaksojenLkm", "1/vko"),
+    Arvo<&clsKayntiAika::KayntiJaksojenLkm>("KayntiJaksojenLkm", Suure("1/vko").Rajat(0).Tavallisesti(0, 28)),
     Arvo<&clsKayntiAika::Alkaa>("Alkaa"),
     Arvo<&clsKayntiAika::Paattyy>("Paattyy"),
-    Arvo<&clsKayntiAika::TuloIlmavirtaProsentti>("TuloIlmavirtaProsentti", "%"),
-    Arvo<&clsKayntiAika::Tsp>("Tsp", "°C"),
-    Arvo<&clsKayntiAika::dTPuhallin>("dTPuhallin", "K"),
+    Arvo<&clsKayntiAika::TuloIlmavirtaProsentti>("TuloIlmavirtaProsentti", Suure("%").Rajat(0).Tavallisesti(0, 100)),
+    Arvo<&clsKayntiAika::Tsp>("Tsp", Suure("°C").Rajat(-50, 60).Tavallisesti(15, 30)),
+    Arvo<&clsKayntiAika::dTPuhallin>("dTPuhallin", Suure("K").Rajat(0, 30).Tavallisesti(0, 5)),
 };
 
 constexpr Tulos kTulokset[] = {

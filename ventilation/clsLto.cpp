@@ -9,9 +9,9 @@ namespace {
 
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Arvo<&clsLto::Tu>("Tu", "°C"),
-    Arvo<&clsLto::Tp>("Tp", "°C"),
-    Arvo<&clsLto::Tlto>("Tlto", "°C"),
+    Arvo<&clsLto::Tu>("Tu", Suure("°C").Rajat(-100, 100).Tavallisesti(-50, 35)),
+    Arvo<&clsLto::Tp>("Tp", Suure("°C").Rajat(-100, 100).Tavallisesti(5, 40)),
+    Arvo<&clsLto::Tlto>("Tlto", Suure("°C").Rajat(-100, 100).Tavallisesti(-30, 40)),
 };
 
 constexpr Tulos kTulokset[] = {

@@ -10,12 +10,12 @@ using Parametrit = clsPuhallinSahkoLaskParametrit;
 
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Arvo<&Parametrit::Ilmavirta>("Ilmavirta", "m³/s"),
-    Arvo<&Parametrit::PaineenKorotus>("PaineenKorotus", "Pa"),
-    Arvo<&Parametrit::PuhaltimenHyotysuhde>("PuhaltimenHyotysuhde", "%"),
-    Arvo<&Parametrit::HihnavalityksenHyotysuhde>("HihnavalityksenHyotysuhde", "%"),
-    Arvo<&Parametrit::MoottorinHyotysuhde>("MoottorinHyotysuhde", "%"),
-    Arvo<&Parametrit::TaajuusmuuttajanHyotysuhde>("TaajuusmuuttajanHyotysuhde", "%"),
+    Arvo<&Parametrit::Ilmavirta>("Ilmavirta", Suure("m³/s").Rajat(0).Tavallisesti(0, 50)),
+    Arvo<&Parametrit::PaineenKorotus>("PaineenKorotus", Suure("Pa").Rajat(0).Tavallisesti(0, 3000)),
+    Arvo<&Parametrit::PuhaltimenHyotysuhde>("PuhaltimenHyotysuhde", Suure("%").Rajat(1, 100)),
+    Arvo<&Parametrit::HihnavalityksenHyotysuhde>("HihnavalityksenHyotysuhde", Suure("%").Rajat(1, 100)),
+    Arvo<&Parametrit::MoottorinHyotysuhde>("MoottorinHyotysuhde", Suure("%").Rajat(1, 100)),
+    Arvo<&Parametrit::TaajuusmuuttajanHyotysuhde>("TaajuusmuuttajanHyotysuhde", Suure("%").Rajat(1, 100)),
 };
 
 constexpr double kProsentti = 100, kWperkW = 1000;

@@ -94,6 +94,20 @@ TEST_F(clsRakennusTesti, NoGrossAreaMeansNoGeneralLoad) {
   EXPECT_EQ(viestit.Esiintymia("Kohteen bruttoala 0 tai pienempi."), 1);
 }
 
+TEST_F(clsRakennusTesti, TheHeatSummaryGivesMeasuresTheFiguresOfTheirOwnBase) {
+  LuoKoulu();
+  clsSahkonKulutusryhma& valot = rakennus->SahkonKulutusryhmat.Add("valot");
+  valot.LaskentatapaEnergiapohjainen(true);
+  valot.LaskentatapaEnergiapohjainenIndex = 0;
+  valot.SyötettyKulutus = 50;
+  clsSaastotoimenpide& toimenpide = rakennus->Saastotoimenpiteet.Add("toimi");
+  rakennus->NaytaLampoYhteenvetoDlg();
+  EXPECT_EQ(toimenpide.LampoEnergiaEnnen(), rakennus->VuotuinenBruttoLampoEnergia());
+  EXPECT_EQ(toimenpide.SahkoEnergiaEnnen(), rakennus->VuotuinenBruttoSahkoEnergia());
+  EXPECT_EQ(toimenpide.VedenkulutusEnnen(), rakennus->VedenKulutusryhmat.VuotuinenVedenKulutus());
+  EXPECT_GT(toimenpide.LampoEnergiaEnnen(), toimenpide.SahkoEnergiaEnnen());
+}
+
 TEST_F(clsRakennusTesti, ACopyComparesEmptyAndSharesNothing) {
   LuoKoulu();
   auto kopio = rakennus->Kopioi();

@@ -77,6 +77,8 @@ TEST_F(SaaTesti, AFaultyLineIsNamedAndWhatWasReadStays) {
   }
   EXPECT_EQ(saa.Keskilampotila(2), -3.5) << "the third month had been read";
   EXPECT_THROW(saa.LueSaaTiedosto("EiOle.txt"), Virhe);
+  Kirjoita("otsikko\n" + Kuukausi(1) + ", 8\n");
+  EXPECT_THROW(saa.AsetaSaaPaikkakunta(1), Virhe) << "an eighth field, as for the solar calculator";
 }
 
 TEST_F(RakennusTesti, LocalitiesOutsideTheListChangeNothingAndCopiesCarryNoTables) {

@@ -40,6 +40,8 @@ TEST(clsVedenKulutusryhma, LammitysSeuraaKayttolampotilaaEikaLampimanOsuutta) {
   EXPECT_EQ(ryhma.VedenLammityksenEnergia(), 0);
   ryhma.VedenKayttolampotila = 55;
   EXPECT_DOUBLE_EQ(ryhma.VedenLammityksenEnergia(), kSuihkujenLampo);
+  ryhma.VedenTiedot.KylmanLampotila = 15;
+  EXPECT_DOUBLE_EQ(ryhma.VedenLammityksenEnergia(), kSuihkujenLampo * 40 / 50) << "from the group's own cold water";
 }
 
 TEST(clsVedenKulutusryhma, TuntematonYksikkoOnVirhe) {
