@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/Kerrosmuokkaus.h"
 
+#include "building/Muokkausistunto.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "ui/Sidonta.h"
 
 namespace {
 
@@ -11,33 +13,27 @@ constexpr const char* kVastus = "0.00##";  // m²K/W
 constexpr const char* kUarvo = "0.00#";    // W/m²K
 constexpr const char* kEiArvoa = "---";
 
-using Aine = frmRakennekerroksenMuokkaaminen::Aine;
+const Sidontataulu kSidonnat{"frmRakennekerroksenMuokkaaminen",
+                             {
+                                 Tekstikentta<&clsRakennekerros::Nimi>("txtKerroksenNimi"),
+                                 Lukukentta<&clsRakennekerros::Paksuus>("txtPaksuus", "### ##0.##"),
+                                 Rastikentta<&clsRakennekerros::UArvoon>("chkUArvoon"),
+                                 Rastikentta<&clsRakennekerros::Yhtenainen>("chkHomogeeninen"),
+                                 Lukukentta<&clsRakennekerros::LisamateriaalinOsuus>("txtLisamateriaalinOsuus", "0.0#"),
+                                 Lukukentta<&clsRakennekerros::Lammonvastus>("txtLammonvastus", kVastus),
+                             }};
 
-struct Ainekentta {
-  TextBox Aine::*kentta;
-  float Materiaali::*luku;
-  const char* kuvio;
-};
-constexpr Ainekentta kAinekentat[] = {
-    {&Aine::lambda, &Materiaali::Lambda, "0.0####"},
-    {&Aine::tiheys, &Materiaali::Tiheys, "### ##0.##"},
-    {&Aine::ominaislampo, &Materiaali::Ominaislampo, "0.0##"},
-};
+constexpr const char *kPaa = "Paa", *kLisa = "Lisa";
 
-/// Fills also the field in which the person is writing.
-void LueAine(const Aine& kentat, const Materiaali& aine) {
-  kentat.nimi.Kohde().PaataMuokkaus();
-  kentat.nimi.Teksti(aine.Nimi);
-  for (const Ainekentta& k : kAinekentat) {
-    (kentat.*k.kentta).Kohde().PaataMuokkaus();
-    (kentat.*k.kentta).Luku(aine.*k.luku, k.kuvio);
-  }
-}
-
-void KirjoitaAine(const Aine& kentat, Materiaali& aine) {
-  aine.Nimi = kentat.nimi.Teksti();
-  for (const Ainekentta& k : kAinekentat) LueArvo(kentat.*k.kentta, aine.*k.luku);
-}
+/// A material of the layer; the word tells which.
+const Sidontataulu kAineenSidonnat{"frmRakennekerroksenMuokkaaminen",
+                                   {
+                                       Tekstikentta<&Materiaali::Nimi>("txt*materiaalinNimi"),
+                                       Lukukentta<&Materiaali::Lambda>("txt*materiaalinLambda", "0.0####"),
+                                       Lukukentta<&Materiaali::Tiheys>("txt*materiaalinTiheys", "### ##0.##"),
+                                       Lukukentta<&Materiaali::Ominaislampo>("txt*materiaalinOminaislampo", "0.0##"),
+                                   },
+                                   {kPaa, kLisa}};
 
 /// The table of air layers when the material is air. A library that can't be read knows of none.
 std::optional<Ilmakerrokset> IlmakerroksetJosIlmaa(const Materiaali& materiaali) try {
@@ -57,13 +53,12 @@ clsRakennekerros& MuokattavaKerros(colMateriaalit& kerrokset, int paikka) {
 Kerrosmuokkaus::Kerrosmuokkaus(Rakenneratkaisu ratkaisu, int paikka)
     : ratkaisu_(std::move(ratkaisu)), kerros_(MuokattavaKerros(ratkaisu_.Kerrokset, paikka)) {
   LiitaTapahtumat();
-  LueDataluokka();
-  NaytaTulokset();
 }
 
 bool Kerrosmuokkaus::Nayta() try {
-  KayttoLiittyma.NaytaModaalisena();
-  return hyvaksytty_;
+  Muokkausistunto istunto(ratkaisu_, KayttoLiittyma,
+                          {.lue = [this] { LueDataluokka(); }, .kirjoita = [this] { KirjoitaDataluokka(); }});
+  return istunto.Nayta();
 } catch (...) {
   NostaVirhe("Kerrosmuokkaus:Nayta Method");
 }
@@ -73,34 +68,20 @@ void Kerrosmuokkaus::LiitaTapahtumat() {
   lomake.DataMuuttui = [this] { KayttoLiittyma_DataMuuttui(); };
   lomake.PaamateriaaliHakuun = [this] { RakenneKayttoliittyma_PaamateriaaliHakuun(); };
   lomake.LisamateriaaliHakuun = [this] { RakenneKayttoliittyma_LisamateriaaliHakuun(); };
-  lomake.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
-  lomake.PeruutaKlikattu = [this] { KayttoLiittyma.Sulje(); };
 }
 
 void Kerrosmuokkaus::LueDataluokka() {
-  const frmRakennekerroksenMuokkaaminen& lomake = KayttoLiittyma;
-  lomake.txtKerroksenNimi.Teksti(kerros_.Nimi);
-  lomake.txtPaksuus.Luku(kerros_.Paksuus, "### ##0.##");
-  lomake.chkUArvoon.Valittu(kerros_.UArvoon);
-  lomake.chkHomogeeninen.Valittu(kerros_.Yhtenainen);
-  LueAine(lomake.paamateriaali, kerros_.Materiaali);
-  LueAine(lomake.lisamateriaali, kerros_.Lisamateriaali);
-  lomake.txtLisamateriaalinOsuus.Luku(kerros_.LisamateriaalinOsuus, "0.0#");
-  lomake.txtLammonvastus.Luku(kerros_.Lammonvastus, kVastus);
+  kSidonnat.Lue(KayttoLiittyma, kerros_);
+  kAineenSidonnat.Lue(KayttoLiittyma, kerros_.Materiaali, kPaa);
+  kAineenSidonnat.Lue(KayttoLiittyma, kerros_.Lisamateriaali, kLisa);
   KayttoLiittyma.PaivitaKentat();
+  NaytaTulokset();
 }
 
-/// A field that holds no number yet leaves its value as it was.
 void Kerrosmuokkaus::KirjoitaDataluokka() {
-  const frmRakennekerroksenMuokkaaminen& lomake = KayttoLiittyma;
-  kerros_.Nimi = lomake.txtKerroksenNimi.Teksti();
-  LueArvo(lomake.txtPaksuus, kerros_.Paksuus);
-  kerros_.UArvoon = lomake.chkUArvoon.Valittu();
-  kerros_.Yhtenainen = lomake.chkHomogeeninen.Valittu();
-  KirjoitaAine(lomake.paamateriaali, kerros_.Materiaali);
-  KirjoitaAine(lomake.lisamateriaali, kerros_.Lisamateriaali);
-  LueArvo(lomake.txtLisamateriaalinOsuus, kerros_.LisamateriaalinOsuus);
-  LueArvo(lomake.txtLammonvastus, kerros_.Lammonvastus);
+  kSidonnat.Kirjoita(KayttoLiittyma, kerros_);
+  kAineenSidonnat.Kirjoita(KayttoLiittyma, kerros_.Materiaali, kPaa);
+  kAineenSidonnat.Kirjoita(KayttoLiittyma, kerros_.Lisamateriaali, kLisa);
 }
 
 /// The layer's own resistance, surfaces left out, and the U-value of the structure with this layer.
@@ -142,10 +123,18 @@ void Kerrosmuokkaus::RakenneKayttoliittyma_LisamateriaaliHakuun() {
   Hae(kerros_.Lisamateriaali, [this](const Materiaali& materiaali) { OtaLisamateriaali(materiaali); });
 }
 
+/// Fills also the field in which the person is writing.
+void Kerrosmuokkaus::NaytaAine(const frmRakennekerroksenMuokkaaminen::Aine& kentat, const Materiaali& aine,
+                               std::string_view sana) {
+  for (const TextBox& kentta : {kentat.nimi, kentat.lambda, kentat.tiheys, kentat.ominaislampo})
+    kentta.Kohde().PaataMuokkaus();
+  kAineenSidonnat.Lue(KayttoLiittyma, aine, sana);
+}
+
 void Kerrosmuokkaus::OtaPaamateriaali(const Materiaali& materiaali) {
   KirjoitaDataluokka();
   kerros_.Materiaali = materiaali;
-  LueAine(KayttoLiittyma.paamateriaali, materiaali);
+  NaytaAine(KayttoLiittyma.paamateriaali, materiaali, kPaa);
   ilma_ = IlmakerroksetJosIlmaa(materiaali);
   EhdotaIlmaraonVastusta();
   NaytaTulokset();
@@ -154,12 +143,6 @@ void Kerrosmuokkaus::OtaPaamateriaali(const Materiaali& materiaali) {
 void Kerrosmuokkaus::OtaLisamateriaali(const Materiaali& materiaali) {
   KirjoitaDataluokka();
   kerros_.Lisamateriaali = materiaali;
-  LueAine(KayttoLiittyma.lisamateriaali, materiaali);
+  NaytaAine(KayttoLiittyma.lisamateriaali, materiaali, kLisa);
   NaytaTulokset();
-}
-
-void Kerrosmuokkaus::KayttoLiittyma_OkKlikattu() {
-  KirjoitaDataluokka();
-  hyvaksytty_ = true;
-  KayttoLiittyma.Sulje();
 }

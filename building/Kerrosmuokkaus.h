@@ -26,17 +26,16 @@ class Kerrosmuokkaus {
   void NaytaTulokset();
   void EhdotaIlmaraonVastusta();
   void Hae(const Materiaali& nykyinen, std::function<void(const Materiaali&)> valittu);
+  void NaytaAine(const frmRakennekerroksenMuokkaaminen::Aine& kentat, const Materiaali& aine, std::string_view sana);
   void OtaPaamateriaali(const Materiaali& materiaali);
   void OtaLisamateriaali(const Materiaali& materiaali);
   void RakenneKayttoliittyma_PaamateriaaliHakuun();
   void RakenneKayttoliittyma_LisamateriaaliHakuun();
   void KayttoLiittyma_DataMuuttui();
-  void KayttoLiittyma_OkKlikattu();
 
   Rakenneratkaisu ratkaisu_;
   clsRakennekerros& kerros_;
   frmRakennekerroksenMuokkaaminen KayttoLiittyma;
   std::optional<Ilmakerrokset> ilma_;  // the main material was picked and is air
   std::unique_ptr<Rakennekirjastopyynto> haku_;
-  bool hyvaksytty_ = false;
 };

@@ -50,12 +50,14 @@ void Muokkausistunto::Hyvaksy() try {
   lomake_.Sulje();
 } catch (...) {
   Palauta();
+  Tee(toimet_.virheenJalkeen);
   NostaVirhe("Muokkausistunto:Hyvaksy Method");
 }
 
 void Muokkausistunto::Peruuta() try {
   Odotus odotus;
   Palauta();
+  Tee(toimet_.peruttu);
   lomake_.Sulje();
 } catch (...) {
   NostaVirhe("Muokkausistunto:Peruuta Method");
@@ -64,7 +66,6 @@ void Muokkausistunto::Peruuta() try {
 void Muokkausistunto::Palauta() {
   kopioiTakaisin_();
   VaadiRakennus().RekisteriVanheni();
-  Tee(toimet_.palautettu);
 }
 
 void Muokkausistunto::Kirjaa() const {

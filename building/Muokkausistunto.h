@@ -20,8 +20,11 @@ struct Muokkaustoimet {
   std::function<void()> voimaan{};
   /// The object's own event for those who listen to it, also outside the living building.
   std::function<void()> tapahtuma{};
-  /// The object is as it was before: after Cancel, or after an error with the dialog still open.
-  std::function<void()> palautettu{};
+  /// After an error: the object is as it was at opening, and the dialog, still open, shows it anew. Left out, the fields
+  /// keep what the person has written.
+  std::function<void()> virheenJalkeen{};
+  /// After Cancel has restored the object.
+  std::function<void()> peruttu{};
 };
 
 /// One modal dialog over an object of the model, from its opening to OK or Cancel. The object itself is edited:

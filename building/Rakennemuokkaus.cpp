@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "building/LisaaKopio.h"
+#include "building/Muokkausistunto.h"
 #include "building/Rakenneleikkaus.h"
 #include "building/Rakenneliitos.h"
 #include "building/Toimenpideviittaukset.h"
@@ -16,8 +17,9 @@
 #include "tekstit/lomakkeet_tilat.h"
 #include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
-#include "ui/Odotus.h"
+#include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
 
 namespace {
 
@@ -26,36 +28,60 @@ constexpr const char* kAla = "### ##0.0#";
 constexpr const char* kKulma = "0.#";
 constexpr const char* kEiArvoa = "---";
 
-struct Tekstikentta {
-  TextBox frmRakenteet::*kentta;
-  std::string Rakenneratkaisu::*teksti;
-};
-constexpr Tekstikentta kTekstikentat[] = {
-    {&frmRakenteet::txtNimi, &Rakenneratkaisu::Nimi},
-    {&frmRakenteet::txtKuvaus, &Rakenneratkaisu::Kuvaus},
-    {&frmRakenteet::txtPaloluokka, &Rakenneratkaisu::Paloluokka},
-};
+const Sidontataulu kRatkaisunSidonnat{
+    "frmRakenteet",
+    {
+        Tekstikentta<&Rakenneratkaisu::Nimi>("txtNimi"),
+        Tekstikentta<&Rakenneratkaisu::Kuvaus>("txtKuvaus"),
+        Tekstikentta<&Rakenneratkaisu::Paloluokka>("txtPaloluokka"),
+        Lukukentta<&Rakenneratkaisu::Paksuus>("txtPaksuus", "### ##0.##"),
+        Lukukentta<&Rakenneratkaisu::Rw>("txtRw", "0.#"),
+        Lukukentta<&Rakenneratkaisu::Pistemaiset>("txtPistemaiset", "### ##0.##"),
+        Lukukentta<&Rakenneratkaisu::PistemaisetWpK>("txtPistemaisetWpK", "0.00##"),
+        Lukukentta<&Rakenneratkaisu::Viivamaiset>("txtViivamaiset", "### ##0.##"),
+        Lukukentta<&Rakenneratkaisu::ViivamaisetWpK>("txtViivamaisetWpK", "0.00##"),
+        Lukukentta<&Rakenneratkaisu::PintavastusSisa>("txtPintavastusSisa", "0.00#"),
+        Lukukentta<&Rakenneratkaisu::PintavastusUlko>("txtPintavastusUlko", "0.00#"),
+        Lukukentta<&Rakenneratkaisu::KerrostenMassaYht>("txtKerrostenMassaYht", "### ##0.#"),
+        Lukukentta<&Rakenneratkaisu::Karmikerroin>("txtKarmikerroin", "0.#"),
+        Lukukentta<&Rakenneratkaisu::Aurinkoenergianlapaisy>("txtAurinkoenergianlapaisy", "0.#"),
+        Lukukentta<&Rakenneratkaisu::Verhokerroin>("txtVerhokerroin", "0.#"),
+        Lukukentta<&Rakenneratkaisu::Kokonaisvarjostuskerroin>("txtKokonaisvarjostuskerroin", "0.#"),
+    }};
 
-struct Lukukentta {
-  TextBox frmRakenteet::*kentta;
-  float Rakenneratkaisu::*luku;
-  const char* kuvio;
-};
-constexpr Lukukentta kLukukentat[] = {
-    {&frmRakenteet::txtPaksuus, &Rakenneratkaisu::Paksuus, "### ##0.##"},
-    {&frmRakenteet::txtRw, &Rakenneratkaisu::Rw, "0.#"},
-    {&frmRakenteet::txtPistemaiset, &Rakenneratkaisu::Pistemaiset, "### ##0.##"},
-    {&frmRakenteet::txtPistemaisetWpK, &Rakenneratkaisu::PistemaisetWpK, "0.00##"},
-    {&frmRakenteet::txtViivamaiset, &Rakenneratkaisu::Viivamaiset, "### ##0.##"},
-    {&frmRakenteet::txtViivamaisetWpK, &Rakenneratkaisu::ViivamaisetWpK, "0.00##"},
-    {&frmRakenteet::txtPintavastusSisa, &Rakenneratkaisu::PintavastusSisa, "0.00#"},
-    {&frmRakenteet::txtPintavastusUlko, &Rakenneratkaisu::PintavastusUlko, "0.00#"},
-    {&frmRakenteet::txtKerrostenMassaYht, &Rakenneratkaisu::KerrostenMassaYht, "### ##0.#"},
-    {&frmRakenteet::txtKarmikerroin, &Rakenneratkaisu::Karmikerroin, "0.#"},
-    {&frmRakenteet::txtAurinkoenergianlapaisy, &Rakenneratkaisu::Aurinkoenergianlapaisy, "0.#"},
-    {&frmRakenteet::txtVerhokerroin, &Rakenneratkaisu::Verhokerroin, "0.#"},
-    {&frmRakenteet::txtKokonaisvarjostuskerroin, &Rakenneratkaisu::Kokonaisvarjostuskerroin, "0.#"},
-};
+double Uarvo(const clsRakenne& rakenne) { return rakenne.U_arvo(); }
+/// A calculated U-value isn't written.
+void AsetaUarvo(clsRakenne& rakenne, double u) {
+  if (!rakenne.LaskeU_arvoMateriaaleista && u != rakenne.U_arvo()) rakenne.U_arvo(u);
+}
+
+const Sidontataulu kSidonnat{"frmRakenteet",
+                             {
+                                 Lukukentta<&clsRakenne::PintaAla>("txtRakenneala", kAla),
+                                 Rastikentta<&clsRakenne::LaskeU_arvoMateriaaleista>("chkLaskeUarvoMateriaaleista"),
+                                 Lukukentta<Funktiot<Uarvo, AsetaUarvo>>("txtUarvo", kUarvo),
+                             }};
+/// What only a structure that borders on something has.
+const Sidontataulu kRajanSidonnat{"frmRakenteet",
+                                  {Valintakentta<&clsRakenne::TyyppiID, &clsRakenne::TyyppiStr>("cmbTyyppi")}};
+/// What only a window has.
+const Sidontataulu kIkkunanSidonnat{
+    "frmRakenteet",
+    {
+        Valintakentta<&clsRakenne::SuuntausID, &clsRakenne::SuuntausStr>("cmbSuuntaus"),
+        Valintakentta<Polku<&clsRakenne::YlaLippa, &clsLippaVarjostus::TyyppiID>,
+                      Polku<&clsRakenne::YlaLippa, &clsLippaVarjostus::TyyppiStr>>("cmbYlalipanTyyppi"),
+        Lukukentta<Polku<&clsRakenne::YlaLippa, &clsLippaVarjostus::Varjostuskulma>>("txtYlalipanVarjostuskulma",
+                                                                                     kKulma),
+        Valintakentta<Polku<&clsRakenne::SivuLippa, &clsLippaVarjostus::TyyppiID>,
+                      Polku<&clsRakenne::SivuLippa, &clsLippaVarjostus::TyyppiStr>>("cmbSivulipanTyyppi"),
+        Lukukentta<Polku<&clsRakenne::SivuLippa, &clsLippaVarjostus::Varjostuskulma>>("txtSivulipanVarjostuskulma",
+                                                                                      kKulma),
+        Valintakentta<Polku<&clsRakenne::HorisVarjostus, &clsHorisVarjostus::TyyppiID>,
+                      Polku<&clsRakenne::HorisVarjostus, &clsHorisVarjostus::TyyppiStr>>("cmbHorisVarjTyyppi"),
+        Lukukentta<Polku<&clsRakenne::HorisVarjostus, &clsHorisVarjostus::Varjostuskulma>>(
+            "txtYmparistonVarjostuskulma", kKulma),
+    }};
 
 /// What a type of shading sets; the types behind leave the angle as it is.
 constexpr std::array<double, 2> kYlalippakulmat{25, 45};  // degrees
@@ -71,18 +97,6 @@ void ValitseVarjostus(V& varjostus, const ComboBox& tyyppi, const TextBox& kulma
   if (rivi >= kulmat.size()) return;
   varjostus.Varjostuskulma = kulmat[rivi];
   kulma.Luku(varjostus.Varjostuskulma, kKulma);
-}
-
-template <class V>
-void LueVarjostus(const V& varjostus, const ComboBox& tyyppi, const TextBox& kulma) {
-  tyyppi.Indeksi(varjostus.TyyppiID);
-  kulma.Luku(varjostus.Varjostuskulma, kKulma);
-}
-
-void AsetaValinta(const ComboBox& valinta, std::int32_t& id, std::string& teksti) {
-  if (valinta.Indeksi() < 0) return;
-  id = valinta.Indeksi();
-  teksti = valinta.Teksti();
 }
 
 std::string ValinnanRivi(const ComboBox& valinta, std::int32_t rivi) {
@@ -107,18 +121,19 @@ Rakenneratkaisu UusiRatkaisu(const std::string& nimi, std::int32_t rakennetyyppi
 
 }  // namespace
 
-Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet, double Tsisa)
-    : rakenteet_(rakenteet), varalla_(rakenteet.Kopioi()), Tsisa_(Tsisa) {
+Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet, double Tsisa) : rakenteet_(rakenteet), Tsisa_(Tsisa) {
   LiitaTapahtumat();
   LiitaKerrostapahtumat();
 }
 
 bool Rakennemuokkaus::Nayta(std::int32_t rakennetyyppi, const std::string& tilanNimi) {
-  if (!tilanNimi.empty()) KayttoLiittyma.Otsikko(tilanNimi + ": " + KayttoLiittyma.Otsikko());
   KayttoLiittyma.Naytettavat(rakennetyyppi);
-  NaytaLuettelo({});
-  KayttoLiittyma.NaytaModaalisena();
-  return hyvaksytty_;
+  Muokkausistunto istunto(rakenteet_, KayttoLiittyma,
+                          {.nimi = tilanNimi,
+                           .lue = [this] { NaytaLuettelo({}); },
+                           .kirjoita = [this] { KirjoitaDataluokka(); },
+                           .virheenJalkeen = [this] { NaytaLuettelo(muokattava_); }});
+  return istunto.Nayta();
 }
 
 void Rakennemuokkaus::LiitaTapahtumat() {
@@ -134,8 +149,6 @@ void Rakennemuokkaus::LiitaTapahtumat() {
   lomake.RajoittuminenValittu = [this] { KayttoLiittyma_RajoittuminenValittu(); };
   lomake.PintavastusMuuttui = [this] { KayttoLiittyma_PintavastusMuuttui(); };
   lomake.VarjostusValittu = [this](frmRakenteet::Varjostus v) { KayttoLiittyma_VarjostusValittu(v); };
-  lomake.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
-  lomake.PeruutaKlikattu = [this] { KayttoLiittyma_PeruutaKlikattu(); };
 }
 
 void Rakennemuokkaus::LueDataluokka() {
@@ -143,13 +156,10 @@ void Rakennemuokkaus::LueDataluokka() {
   if (!rakenne) return TyhjennaKentat();
   const frmRakenteet& l = KayttoLiittyma;
   l.lblRakennetyypinNimi.Otsikko(ValinnanRivi(l.cmbRakennetyyppi, rakenne->Rakennetyyppi + 1));
-  l.cmbTyyppi.Indeksi(rakenne->TyyppiID);
-  l.cmbSuuntaus.Indeksi(rakenne->SuuntausID);
-  l.txtRakenneala.Luku(rakenne->PintaAla, kAla);
-  l.chkLaskeUarvoMateriaaleista.Valittu(rakenne->LaskeU_arvoMateriaaleista);
-  l.txtUarvo.Luku(rakenne->U_arvo(), kUarvo);
+  kSidonnat.Lue(l, *rakenne);
+  kRajanSidonnat.Lue(l, *rakenne);
+  kIkkunanSidonnat.Lue(l, *rakenne);
   LueRatkaisu(rakenne->RakenneRatkaisu ? *rakenne->RakenneRatkaisu : Rakenneratkaisu());
-  LueVarjostukset(*rakenne);
   NaytaUarvo();
   NaytaKerrokset(-1);
 }
@@ -164,47 +174,17 @@ void Rakennemuokkaus::TyhjennaKentat() {
   KayttoLiittyma.chtLampotilat.Kaavio({});
 }
 
-void Rakennemuokkaus::LueRatkaisu(const Rakenneratkaisu& ratkaisu) {
-  for (const Tekstikentta& k : kTekstikentat) (KayttoLiittyma.*k.kentta).Teksti(ratkaisu.*k.teksti);
-  for (const Lukukentta& k : kLukukentat) (KayttoLiittyma.*k.kentta).Luku(ratkaisu.*k.luku, k.kuvio);
-}
-
-void Rakennemuokkaus::LueVarjostukset(const clsRakenne& rakenne) {
-  const frmRakenteet& l = KayttoLiittyma;
-  LueVarjostus(rakenne.YlaLippa, l.cmbYlalipanTyyppi, l.txtYlalipanVarjostuskulma);
-  LueVarjostus(rakenne.SivuLippa, l.cmbSivulipanTyyppi, l.txtSivulipanVarjostuskulma);
-  LueVarjostus(rakenne.HorisVarjostus, l.cmbHorisVarjTyyppi, l.txtYmparistonVarjostuskulma);
-}
+void Rakennemuokkaus::LueRatkaisu(const Rakenneratkaisu& ratkaisu) { kRatkaisunSidonnat.Lue(KayttoLiittyma, ratkaisu); }
 
 void Rakennemuokkaus::KirjoitaDataluokka() {
   clsRakenne* rakenne = Muokattava();
   if (!rakenne) return;
   const frmRakenteet& l = KayttoLiittyma;
-  KirjoitaValinnat(*rakenne);
-  LueArvo(l.txtRakenneala, rakenne->PintaAla);
-  double u = 0;
-  if (!rakenne->LaskeU_arvoMateriaaleista && l.txtUarvo.Muuttunut() && LueArvo(l.txtUarvo, u)) rakenne->U_arvo(u);
-  LueArvo(l.txtYlalipanVarjostuskulma, rakenne->YlaLippa.Varjostuskulma);
-  LueArvo(l.txtSivulipanVarjostuskulma, rakenne->SivuLippa.Varjostuskulma);
-  LueArvo(l.txtYmparistonVarjostuskulma, rakenne->HorisVarjostus.Varjostuskulma);
-  if (rakenne->RakenneRatkaisu || RatkaisuaMuokattu()) KirjoitaRatkaisu();
+  kSidonnat.Kirjoita(l, *rakenne);
+  if (Rajoittuu(*rakenne)) kRajanSidonnat.Kirjoita(l, *rakenne);
+  if (OnIkkuna(*rakenne)) kIkkunanSidonnat.Kirjoita(l, *rakenne);
+  if (rakenne->RakenneRatkaisu || kRatkaisunSidonnat.Muuttunut(l)) kRatkaisunSidonnat.Kirjoita(l, Ratkaisu());
   for (const auto& ohjain : l.Ohjaimet()) ohjain->PaataMuokkaus();
-}
-
-void Rakennemuokkaus::KirjoitaValinnat(clsRakenne& rakenne) const {
-  if (Rajoittuu(rakenne)) AsetaValinta(KayttoLiittyma.cmbTyyppi, rakenne.TyyppiID, rakenne.TyyppiStr);
-  if (OnIkkuna(rakenne)) AsetaValinta(KayttoLiittyma.cmbSuuntaus, rakenne.SuuntausID, rakenne.SuuntausStr);
-}
-
-void Rakennemuokkaus::KirjoitaRatkaisu() {
-  Rakenneratkaisu& ratkaisu = Ratkaisu();
-  for (const Tekstikentta& k : kTekstikentat) ratkaisu.*k.teksti = (KayttoLiittyma.*k.kentta).Teksti();
-  for (const Lukukentta& k : kLukukentat) LueArvo(KayttoLiittyma.*k.kentta, ratkaisu.*k.luku);
-}
-
-bool Rakennemuokkaus::RatkaisuaMuokattu() const {
-  const auto muokattu = [this](const auto& k) { return (KayttoLiittyma.*k.kentta).Muuttunut(); };
-  return std::ranges::any_of(kTekstikentat, muokattu) || std::ranges::any_of(kLukukentat, muokattu);
 }
 
 Rakenneratkaisu Rakennemuokkaus::RatkaisuTaiUusi() const {
@@ -393,18 +373,17 @@ void Rakennemuokkaus::KayttoLiittyma_UarvonLahdeKlikattu() {
   const auto u = LueLuku(kentta.Teksti());
   if (u && (!kerroksista || kentta.Muuttunut())) rakenne.U_arvo(*u);
   rakenne.LaskeU_arvoMateriaaleista = kerroksista;
+  kentta.Luku(rakenne.U_arvo(), kUarvo);
   NaytaUarvo();
 }
 
 void Rakennemuokkaus::KayttoLiittyma_RajoittuminenValittu() {
-  KirjoitaValinnat(rakenteet_.Item(muokattava_));
+  kRajanSidonnat.Kirjoita(KayttoLiittyma, rakenteet_.Item(muokattava_));
   NaytaUarvo();
 }
 
 void Rakennemuokkaus::KayttoLiittyma_PintavastusMuuttui() {
-  Rakenneratkaisu& ratkaisu = Ratkaisu();
-  LueArvo(KayttoLiittyma.txtPintavastusSisa, ratkaisu.PintavastusSisa);
-  LueArvo(KayttoLiittyma.txtPintavastusUlko, ratkaisu.PintavastusUlko);
+  kRatkaisunSidonnat.Kirjoita(KayttoLiittyma, Ratkaisu());
   NaytaUarvo();
 }
 
@@ -419,23 +398,4 @@ void Rakennemuokkaus::KayttoLiittyma_VarjostusValittu(frmRakenteet::Varjostus va
     case frmRakenteet::kHorisontti:
       return ValitseVarjostus(r.HorisVarjostus, l.cmbHorisVarjTyyppi, l.txtYmparistonVarjostuskulma, kHorisonttikulmat);
   }
-}
-
-void Rakennemuokkaus::KayttoLiittyma_OkKlikattu() try {
-  Odotus odotus;
-  KirjoitaDataluokka();
-  hyvaksytty_ = true;
-  KayttoLiittyma.Sulje();
-} catch (...) {
-  varalla_->Kopioi(rakenteet_);
-  NostaVirhe("Rakennemuokkaus:KayttoLiittyma_OkKlikattu Method");
-}
-
-void Rakennemuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
-  Odotus odotus;
-  varalla_->Kopioi(rakenteet_);
-  VaadiRakennus().RekisteriVanheni();
-  KayttoLiittyma.Sulje();
-} catch (...) {
-  NostaVirhe("Rakennemuokkaus:KayttoLiittyma_PeruutaKlikattu Method");
 }

@@ -27,10 +27,6 @@ class Rakennemuokkaus {
   void KirjoitaDataluokka();
   void TyhjennaKentat();
   void LueRatkaisu(const Rakenneratkaisu& ratkaisu);
-  void KirjoitaRatkaisu();
-  void LueVarjostukset(const clsRakenne& rakenne);
-  void KirjoitaValinnat(clsRakenne& rakenne) const;
-  bool RatkaisuaMuokattu() const;
 
   bool Naytetaan(const clsRakenne& rakenne) const;
   void NaytaLuettelo(const Tunniste& valittava);
@@ -72,16 +68,12 @@ class Rakennemuokkaus {
   void KayttoLiittyma_RakKerKopioi();
   void KayttoLiittyma_RakKerPoista();
   void KayttoLiittyma_RakKerSiirraSisaanPain();
-  void KayttoLiittyma_OkKlikattu();
-  void KayttoLiittyma_PeruutaKlikattu();
 
   clsRakenteet& rakenteet_;
-  std::unique_ptr<clsRakenteet> varalla_;  // as they were when the dialog opened
   frmRakenteet KayttoLiittyma;
   std::vector<Tunniste> rivit_;  // keys of the structures in the list
   Tunniste muokattava_;          // key of the chosen one
   Tunniste haettava_;            // key of the one for which the library is open
   std::unique_ptr<Rakennekirjastopyynto> haku_;
   double Tsisa_;  // °C
-  bool hyvaksytty_ = false;
 };

@@ -2,7 +2,6 @@
 #include "building/clsPerustiedot.h"
 
 #include "kernel/Paivamaara.h"
-#include "ui/frmPerustiedot.h"
 
 namespace {
 
@@ -41,7 +40,6 @@ constexpr Jasen clsPerustiedot::kJasenet[] = {
 const Luokka clsPerustiedot::kLuokka{"clsPerustiedot", kJasenet};
 
 clsPerustiedot::clsPerustiedot() : Pvm(TamaPaiva()) {}
-clsPerustiedot::~clsPerustiedot() = default;
 
 clsPerustiedot::clsPerustiedot(const clsPerustiedot&) = default;
 clsPerustiedot& clsPerustiedot::operator=(const clsPerustiedot&) = default;

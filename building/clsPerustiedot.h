@@ -9,14 +9,11 @@
 #include "results/clsToteutuneetKulutukset.h"
 #include "supply/clsEnergianHankinta.h"
 
-class frmPerustiedot;
-
 /// What identifies the audited object, and its measured consumption.
 class clsPerustiedot : public Malli<clsPerustiedot> {
  public:
   static const Luokka kLuokka;
   clsPerustiedot();
-  ~clsPerustiedot() override;
   /// Copies the data; events and dialog stay with the object.
   clsPerustiedot(const clsPerustiedot& toinen);
   clsPerustiedot& operator=(const clsPerustiedot& toinen);
@@ -54,28 +51,12 @@ class clsPerustiedot : public Malli<clsPerustiedot> {
   /// Opens the basic-data dialog, modal. OK writes the values, and at the first OK has the first model generated;
   /// Cancel restores them. False when the object never took shape and is to be dropped.
   bool NaytaKayttoliityma();
-  void LueDataluokka();
-  void KirjoitaDataluokka();
   /// What an OK does once the values are written: tells the weather when the locality differs from
-  /// `entinenPaikkakunta`, has the first model of a new object generated, and marks the building as changed.
+  /// `entinenPaikkakunta`, and has the first model of a new object generated.
   void OtaKayttoon(std::int32_t entinenPaikkakunta);
 
  private:
   static const Jasen kJasenet[];
 
-  void LiitaTapahtumat();
-  void LueKulutukset();
-  bool KirjoitaKulutukset();
-  void AsetaOtsikot();
-  void KayttoLiittyma_DataMuuttui();
-  void KayttoLiittyma_KulutustietoMuuttui();
-  void KayttoLiittyma_SaaPaikkakuntaMuuttui(int paikkakunta);
-  void KayttoLiittyma_VakioOsuusKlikattu();
-  void KayttoLiittyma_OkKlikattu();
-  void KayttoLiittyma_PeruutaKlikattu();
-  bool VakioOsuusMahtuuKulutukseen() const;
-
   std::int32_t paikkakunta_ = 0;
-  Oma<std::unique_ptr<clsPerustiedot>> varalla_;  // as it was when the dialog opened
-  Oma<std::unique_ptr<frmPerustiedot>> kayttoLiittyma_;
 };

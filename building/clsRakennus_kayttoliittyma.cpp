@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The heat summary, and the first model of a new building.
 #include "building/Kuukausitase.h"
+#include "building/Oletusmalli.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsRakennus.h"
-#include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Virhe.h"
 #include "library/Rakennetyyppi.h"
 #include "tekstit/rakennus.h"
@@ -60,18 +60,9 @@ Muutostilaus clsRakennus::TilaaMuutokset(Muutoskuulija naytaUudelleen) {
 
 void clsRakennus::LuoOletusmalli() try {
   TyhjennaOsat();  // what a failed try has left
-  ProjektiAsetukset.strCurrentProjectFile.clear();
   Vaiheet vaiheet;
-  const auto kayttotarkoitus = static_cast<std::size_t>(Perustiedot.KayttoTarkoitusID);
   vaiheet.Seuraava();
-  LuoTilat(Tilat, {.tilavuus = Perustiedot.Kokonaistilavuus,
-                   .ala = Perustiedot.BruttoAla,
-                   .kayttotarkoituskoodi = KayttoTarkoitusKoodit.at(kayttotarkoitus),
-                   .kylmanTilavuudenOsuus = Perustiedot.KylmanTilavuudenOsuus,
-                   .kylmanAlanOsuus = Perustiedot.KylmanAlanOsuus,
-                   .kerroksia = Perustiedot.KerrostenLukumaara,
-                   .vuosi = Perustiedot.ValmistumisVuosi,
-                   .henkiloita = Perustiedot.KohteenHenkiloMaara});
+  LuoTilat(Tilat, OletusmallinLahtotiedot(Perustiedot));
   vaiheet.Seuraava();
   LuoSahkoRyhmat(SahkonKulutusryhmat);
   vaiheet.Seuraava();

@@ -3,7 +3,9 @@
 
 #include <sys/stat.h>
 
+#include <chrono>
 #include <ctime>
+#include <sstream>
 
 namespace {
 
@@ -27,6 +29,17 @@ std::string Kello(const std::tm& aika) {
 std::string TamaPaiva() { return Paiva(Paikallinen(std::time(nullptr))); }
 
 int TamaVuosi() { return Paikallinen(std::time(nullptr)).tm_year + 1900; }
+
+bool OnPaivamaara(std::string_view teksti) {
+  std::istringstream luettava{std::string(teksti)};
+  unsigned paiva = 0, kuukausi = 0;
+  int vuosi = 0;
+  char piste1 = 0, piste2 = 0;
+  luettava >> paiva >> piste1 >> kuukausi >> piste2 >> vuosi >> std::ws;
+  return luettava.eof() && piste1 == '.' && piste2 == '.' &&
+         std::chrono::year_month_day(std::chrono::year(vuosi), std::chrono::month(kuukausi), std::chrono::day(paiva))
+             .ok();
+}
 
 Ajankohta Kirjoitusaika(const std::string& tiedosto) {
   struct stat tiedot {};

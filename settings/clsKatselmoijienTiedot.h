@@ -2,8 +2,6 @@
 #pragma once
 #include "settings/clsKatselmoijanTiedot.h"
 
-class frmKatselmoijienTiedot;
-
 /// The auditors of the building.
 class clsKatselmoijienTiedot : public Malli<clsKatselmoijienTiedot> {
  public:
@@ -17,8 +15,4 @@ class clsKatselmoijienTiedot : public Malli<clsKatselmoijienTiedot> {
 
   /// Lets the person edit the auditors of the global building. The dialog's fields are written at OK, all at once.
   void NaytaKayttoliittyma();
-
- private:
-  void LueDataluokka(frmKatselmoijienTiedot& lomake) const;
-  void KirjoitaDataluokka(const frmKatselmoijienTiedot& lomake);
 };

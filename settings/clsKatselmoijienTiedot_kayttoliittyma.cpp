@@ -1,52 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog of the building's auditors.
-#include "building/Yhteiset.h"
-#include "building/clsRakennus.h"
+#include "building/Muokkausistunto.h"
 #include "kernel/Virhe.h"
+#include "settings/Yhteystietokentat.h"
 #include "settings/clsKatselmoijienTiedot.h"
-#include "tekstit/lomakkeet_asetukset.h"
-#include "ui/Tekstivarasto.h"
 #include "ui/frmKatselmoijienTiedot.h"
 
 namespace {
 
-using Kentat = std::array<TextBox, clsKatselmoijanTiedot::kKenttia>;
+const Sidontataulu<clsKatselmoijanTiedot> kSidonnat{
+    "frmKatselmoijienTiedot", std::span(kYhteystietokentat), {kLVIkatselmoija, kSahkokatselmoija}};
 
-void Lue(const clsKatselmoijanTiedot& tiedot, const Kentat& kentat) {
-  for (std::size_t i = 0; i < kentat.size(); ++i) kentat[i].Teksti(tiedot.*clsKatselmoijanTiedot::Kentta(i));
+void Lue(const frmKatselmoijienTiedot& lomake, const clsKatselmoijienTiedot& tiedot) {
+  kSidonnat.Lue(lomake, tiedot.LVIKatselmoija, kLVIkatselmoija);
+  kSidonnat.Lue(lomake, tiedot.SahkoKatselmoija, kSahkokatselmoija);
 }
 
-void Kirjoita(const Kentat& kentat, clsKatselmoijanTiedot& tiedot) {
-  for (std::size_t i = 0; i < kentat.size(); ++i) tiedot.*clsKatselmoijanTiedot::Kentta(i) = kentat[i].Teksti();
+void Kirjoita(const frmKatselmoijienTiedot& lomake, clsKatselmoijienTiedot& tiedot) {
+  kSidonnat.Kirjoita(lomake, tiedot.LVIKatselmoija, kLVIkatselmoija);
+  kSidonnat.Kirjoita(lomake, tiedot.SahkoKatselmoija, kSahkokatselmoija);
 }
 
 }  // namespace
 
 void clsKatselmoijienTiedot::NaytaKayttoliittyma() try {
   frmKatselmoijienTiedot lomake;
-  lomake.HaeOmatKlikattu = [&lomake] {
+  lomake.HaeOmatKlikattu = [&] {
     clsKatselmoijienTiedot omat;
     omat.HaeOletukset();
-    omat.LueDataluokka(lomake);
+    Lue(lomake, omat);
   };
-  lomake.OkKlikattu = [this, &lomake] {
-    KirjoitaDataluokka(lomake);
-    VaadiRakennus().Muuttui(Teksti(tekstit::kKatselmoijienTiedot));
-    lomake.Sulje();
-  };
-  lomake.PeruutaKlikattu = [&lomake] { lomake.Sulje(); };
-  LueDataluokka(lomake);
-  lomake.NaytaModaalisena();
+  Muokkausistunto(*this, lomake, {.lue = [&] { Lue(lomake, *this); }, .kirjoita = [&] { Kirjoita(lomake, *this); }})
+      .Nayta();
 } catch (...) {
   NostaVirhe("clsKatselmoijienTiedot:NaytaKayttoliittyma Method");
-}
-
-void clsKatselmoijienTiedot::LueDataluokka(frmKatselmoijienTiedot& lomake) const {
-  Lue(LVIKatselmoija, lomake.txtLVI);
-  Lue(SahkoKatselmoija, lomake.txtSah);
-}
-
-void clsKatselmoijienTiedot::KirjoitaDataluokka(const frmKatselmoijienTiedot& lomake) {
-  Kirjoita(lomake.txtLVI, LVIKatselmoija);
-  Kirjoita(lomake.txtSah, SahkoKatselmoija);
 }

@@ -6,6 +6,7 @@
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "settings/Asetusavaimet.h"
+#include "settings/Yhteystietokentat.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/viestit.h"
@@ -16,29 +17,104 @@
 
 namespace {
 
-struct Kentta {
+/// What the form has written that the store hasn't.
+struct Asetusluonnos {
+  void Aseta(Avain avain, std::string arvo) {
+    if (HaeAsetus(avain) != arvo) muutokset.push_back(AsetuksenArvo(avain, std::move(arvo)));
+  }
+  void Aseta(Avain avain, std::optional<double> arvo) {
+    if (arvo) Aseta(avain, MiljoonasosinaTekstina(*arvo));
+  }
+  std::vector<Asetus> muutokset;
+};
+
+template <Avain A>
+struct Tekstiarvo {
+  using Olio = Asetusluonnos;
+  using Arvo = std::string;
+  static std::string Hae(const Asetusluonnos&) { return HaeAsetus(A); }
+  static void Aseta(Asetusluonnos& luonnos, std::string arvo) { luonnos.Aseta(A, std::move(arvo)); }
+};
+
+/// All decimals are shown, so that the text tells the number.
+template <Avain A>
+struct Prosenttiarvo {
+  using Olio = Asetusluonnos;
+  using Arvo = std::string;
+  static std::string Hae(const Asetusluonnos&) { return frmOptions::Tarkkana(HaeMiljoonasosat(A)); }
+  static void Aseta(Asetusluonnos& luonnos, const std::string& teksti) { luonnos.Aseta(A, LueLuku(teksti)); }
+};
+
+struct VerollaHinnoin {
+  using Olio = Asetusluonnos;
+  using Arvo = bool;
+  static bool Hae(const Asetusluonnos&) { return HaeTotuus(Avain::KaytaLVI); }
+  static void Aseta(Asetusluonnos& luonnos, bool verolla) {
+    luonnos.Aseta(Avain::KaytaLVI, TotuusTekstina(verolla));
+    luonnos.Aseta(Avain::IlmanLVI, TotuusTekstina(!verolla));
+  }
+};
+
+/// The first currency when the store names none.
+struct Valuutanvalinta {
+  using Olio = Asetusluonnos;
+  using Arvo = std::int32_t;
+  static std::int32_t Hae(const Asetusluonnos&) {
+    const std::int32_t valuutta = HaeKokonaisluku(Avain::Valuutta);
+    return valuutta >= 0 && valuutta < std::ssize(Valuutat()) ? valuutta : 0;
+  }
+  static void Aseta(Asetusluonnos& luonnos, std::int32_t valuutta) {
+    luonnos.Aseta(Avain::Valuutta, std::to_string(valuutta));
+  }
+};
+
+const Sidontataulu kSidonnat{
+    "frmOptions",
+    {
+        Tekstikentta<Prosenttiarvo<Avain::YleinenALV>{}>("txtYleinenALV"),
+        Tekstikentta<Prosenttiarvo<Avain::TotLampo>{}>("txtTotLampo"),
+        Tekstikentta<Prosenttiarvo<Avain::TotSahko>{}>("txtTotSahko"),
+        Tekstikentta<Prosenttiarvo<Avain::TotVesi>{}>("txtTotVesi"),
+        Nappikentta<VerollaHinnoin{}, true>("optKaytaLVI"),
+        Nappikentta<VerollaHinnoin{}, false>("optIlmanLVI"),
+        Valintakentta<Valuutanvalinta{}>("cmbValuutta"),
+        Tekstikentta<Tekstiarvo<Avain::Vakiokanta>{}>("txtVakiokanta"),
+        Tekstikentta<Tekstiarvo<Avain::Kayttajakohtainen>{}>("txtKayttajakohtainen"),
+        Tekstikentta<Tekstiarvo<Avain::VakiokantaVersio>{}>("txtVakiokantaVersio"),
+        Tekstikentta<Tekstiarvo<Avain::Energia_Vakiokanta>{}>("txtEnergia_Vakiokanta"),
+        Tekstikentta<Tekstiarvo<Avain::Energia_Kayttajakohtainen>{}>("txtEnergia_Kayttajakohtainen"),
+        Tekstikentta<Tekstiarvo<Avain::Oletusosoite>{}>("txtOletusosoite"),
+    }};
+
+const Sidontataulu<clsKatselmoijanTiedot> kYhteystiedot{
+    "frmOptions", std::span(kYhteystietokentat), {kLVIkatselmoija, kSahkokatselmoija}};
+
+/// Fields of files that must exist.
+struct Tiedostokentta {
   Avain avain;
   TextBox frmOptions::*kentta;
 };
-constexpr Kentta kProsentit[] = {
-    {Avain::YleinenALV, &frmOptions::txtYleinenALV},
-    {Avain::TotLampo, &frmOptions::txtTotLampo},
-    {Avain::TotSahko, &frmOptions::txtTotSahko},
-    {Avain::TotVesi, &frmOptions::txtTotVesi},
-};
-constexpr Kentta kTekstit[] = {
+constexpr Tiedostokentta kTiedostot[] = {
     {Avain::Vakiokanta, &frmOptions::txtVakiokanta},
     {Avain::Kayttajakohtainen, &frmOptions::txtKayttajakohtainen},
-    {Avain::VakiokantaVersio, &frmOptions::txtVakiokantaVersio},
     {Avain::Energia_Vakiokanta, &frmOptions::txtEnergia_Vakiokanta},
     {Avain::Energia_Kayttajakohtainen, &frmOptions::txtEnergia_Kayttajakohtainen},
-    {Avain::Oletusosoite, &frmOptions::txtOletusosoite},
 };
 constexpr Avain kVerot[] = {Avain::Veroluokka1, Avain::Veroluokka2};
 
-/// The key of a contact field: the six of an auditor follow each other.
-Avain Yhteystieto(Avain ensimmainen, std::size_t i) {
-  return static_cast<Avain>(static_cast<std::size_t>(ensimmainen) + i);
+void LueYhteystiedot(const frmOptions& lomake, Avain ensimmainen, const char* kenen) {
+  clsKatselmoijanTiedot tiedot;
+  tiedot.HaeOletukset(ensimmainen);
+  kYhteystiedot.Lue(lomake, tiedot, kenen);
+}
+
+/// The keys of an auditor's fields follow each other.
+void KirjoitaYhteystiedot(const frmOptions& lomake, Avain ensimmainen, const char* kenen, Asetusluonnos& luonnos) {
+  clsKatselmoijanTiedot tiedot;
+  kYhteystiedot.Kirjoita(lomake, tiedot, kenen);
+  for (std::size_t i = 0; i < clsKatselmoijanTiedot::kKenttia; ++i)
+    luonnos.Aseta(static_cast<Avain>(static_cast<std::size_t>(ensimmainen) + i),
+                  tiedot.*clsKatselmoijanTiedot::Kentta(i));
 }
 
 const Valuutta& ValuuttaNumero(std::int32_t i) { return Valuutat()[static_cast<std::size_t>(i)]; }
@@ -62,31 +138,15 @@ bool OnTiedosto(const std::string& nimi) {
 
 /// A newly chosen database must exist; else a message, and the field gets the focus.
 bool TiedostotLoytyvat(const frmOptions& lomake) {
-  for (const Kentta& k : kTekstit) {
+  for (const Tiedostokentta& k : kTiedostot) {
     const TextBox& kentta = lomake.*k.kentta;
-    const bool tarkistetaan = AsetuksenRivi(k.avain).laji == AsetusLaji::DatanTiedosto;
-    if (!tarkistetaan || kentta.Teksti() == HaeAsetus(k.avain) || OnTiedosto(kentta.Teksti())) continue;
+    if (kentta.Teksti() == HaeAsetus(k.avain) || OnTiedosto(kentta.Teksti())) continue;
     Ilmoita(Teksti(tekstit::kTiedostoaEiOle) + " " + kentta.Teksti(), Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
     kentta.Kohdista();
     return false;
   }
   return true;
 }
-
-/// Values for the store; those that the store has already are left out.
-class Muutokset {
- public:
-  void Lisaa(Avain avain, std::string arvo) {
-    if (HaeAsetus(avain) != arvo) muutokset_.push_back(AsetuksenArvo(avain, std::move(arvo)));
-  }
-  void Lisaa(Avain avain, std::optional<double> arvo) {
-    if (arvo) Lisaa(avain, MiljoonasosinaTekstina(*arvo));
-  }
-  std::vector<Asetus> Kaikki() && { return std::move(muutokset_); }
-
- private:
-  std::vector<Asetus> muutokset_;
-};
 
 }  // namespace
 
@@ -108,37 +168,25 @@ void clsLumivirtaAsetukset::NaytaKayttoliittyma() try {
 }
 
 void clsLumivirtaAsetukset::LueDataluokka(frmOptions& lomake) {
-  const std::int32_t tallennettu = HaeKokonaisluku(Avain::Valuutta);
-  const std::int32_t valuutta = tallennettu >= 0 && tallennettu < std::ssize(Valuutat()) ? tallennettu : 0;
-  for (const Kentta& k : kProsentit) frmOptions::NaytaTarkka(lomake.*k.kentta, HaeMiljoonasosat(k.avain));
-  for (const Kentta& k : kTekstit) (lomake.*k.kentta).Teksti(HaeAsetus(k.avain));
-  (HaeTotuus(Avain::KaytaLVI) ? lomake.optKaytaLVI : lomake.optIlmanLVI).Valittu(true);
   lomake.cmbValuutta.Rivit(ValuuttojenNimet());
-  lomake.cmbValuutta.Indeksi(valuutta);
-  lomake.NaytaRahayksikko(ValuuttaNumero(valuutta).nimi);
+  kSidonnat.Lue(lomake, Asetusluonnos());
+  const Valuutta& valuutta = ValuuttaNumero(lomake.cmbValuutta.Indeksi());
+  lomake.NaytaRahayksikko(valuutta.nimi);
   for (std::size_t i = 0; i < std::size(kVerot); ++i)
-    lomake.AsetaVero(i, HaeMiljoonasosat(kVerot[i]) * ValuuttaNumero(valuutta).kerroin);
-  for (std::size_t i = 0; i < lomake.txtLVI.size(); ++i) {
-    lomake.txtLVI[i].Teksti(HaeAsetus(Yhteystieto(Avain::LVI0, i)));
-    lomake.txtSah[i].Teksti(HaeAsetus(Yhteystieto(Avain::Sah0, i)));
-  }
+    lomake.AsetaVero(i, HaeMiljoonasosat(kVerot[i]) * valuutta.kerroin);
+  LueYhteystiedot(lomake, Avain::LVI0, kLVIkatselmoija);
+  LueYhteystiedot(lomake, Avain::Sah0, kSahkokatselmoija);
 }
 
 std::vector<Asetus> clsLumivirtaAsetukset::KirjoitaDataluokka(const frmOptions& lomake) {
-  Muutokset muutokset;
-  for (const Kentta& k : kProsentit) muutokset.Lisaa(k.avain, LueLuku((lomake.*k.kentta).Teksti()));
-  for (const Kentta& k : kTekstit) muutokset.Lisaa(k.avain, (lomake.*k.kentta).Teksti());
-  muutokset.Lisaa(Avain::KaytaLVI, TotuusTekstina(lomake.optKaytaLVI.Valittu()));
-  muutokset.Lisaa(Avain::IlmanLVI, TotuusTekstina(lomake.optIlmanLVI.Valittu()));
-  muutokset.Lisaa(Avain::Valuutta, std::to_string(lomake.cmbValuutta.Indeksi()));
+  Asetusluonnos luonnos;
+  kSidonnat.Kirjoita(lomake, luonnos);
   const double kerroin = ValuuttaNumero(lomake.cmbValuutta.Indeksi()).kerroin;
   for (std::size_t i = 0; i < std::size(kVerot); ++i)
-    if (const auto vero = lomake.Vero(i)) muutokset.Lisaa(kVerot[i], *vero / kerroin);
-  for (std::size_t i = 0; i < lomake.txtLVI.size(); ++i) {
-    muutokset.Lisaa(Yhteystieto(Avain::LVI0, i), lomake.txtLVI[i].Teksti());
-    muutokset.Lisaa(Yhteystieto(Avain::Sah0, i), lomake.txtSah[i].Teksti());
-  }
-  return std::move(muutokset).Kaikki();
+    if (const auto vero = lomake.Vero(i)) luonnos.Aseta(kVerot[i], std::optional(*vero / kerroin));
+  KirjoitaYhteystiedot(lomake, Avain::LVI0, kLVIkatselmoija, luonnos);
+  KirjoitaYhteystiedot(lomake, Avain::Sah0, kSahkokatselmoija, luonnos);
+  return std::move(luonnos.muutokset);
 }
 
 void clsLumivirtaAsetukset::KayttoLiittyma_OkKlikattu(frmOptions& lomake) {

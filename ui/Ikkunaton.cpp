@@ -55,6 +55,8 @@ Ohjainkuvaus LueKuvaus(const pugi::xml_node& widget, Ohjaintyyppi tyyppi, const 
   k.vihjetag = Ominaisuus(widget, "ToolTipText");
   k.teksti = Ominaisuus(widget, tyyppi == Ohjaintyyppi::Frame ? "title" : "text");
   k.sailio = sailio;
+  k.kumppani = Ominaisuus(widget, "buddy");
+  k.nimio = Ominaisuus(widget, "Nimio");
   k.lukittu = Ominaisuus(widget, "readOnly") == "true";
   k.kaytossa = EiOleEpatosi(widget, "enabled");
   k.nakyva = EiOleEpatosi(widget, "visible");

@@ -10,8 +10,12 @@
 #include "kernel/Kellonajat.h"
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
+#include "kernel/Paivamaara.h"
+#include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
+#include "ui/Kenttanimi.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
 
 namespace {
 
@@ -26,7 +30,7 @@ std::uint32_t (*kello_)() = OikeaKello;
 std::optional<std::uint32_t> viimeViesti_;
 
 struct Tarkistus {
-  std::string_view tyyppi, alaraja, ylaraja;
+  std::string_view tyyppi, alaraja, ylaraja, epatavallinen;
 };
 
 /// Cuts the text up to the next comma off `loput`.
@@ -40,35 +44,55 @@ std::string_view SeuraavaOsa(std::string_view& loput) {
 Tarkistus LueTag(std::string_view tag) {
   SeuraavaOsa(tag);  // id of the tool tip
   Tarkistus tarkistus;
-  for (std::string_view* osa : {&tarkistus.tyyppi, &tarkistus.alaraja, &tarkistus.ylaraja}) *osa = SeuraavaOsa(tag);
+  for (std::string_view* osa : {&tarkistus.tyyppi, &tarkistus.alaraja, &tarkistus.ylaraja, &tarkistus.epatavallinen})
+    *osa = SeuraavaOsa(tag);
   return tarkistus;
 }
 
-std::string RajaTekstina(std::string_view raja) {
-  std::string teksti(raja);
-  std::ranges::replace(teksti, '.', ',');
-  return teksti;
+std::string LisaaYksikko(std::string teksti, const Ohjain& kentta) {
+  const std::string yksikko = KentanYksikko(kentta.Ikkuna(), kentta);
+  return yksikko.empty() ? teksti : std::move(teksti) + " " + yksikko;
 }
 
-std::string RajatTekstina(const Tarkistus& t) {
-  if (t.ylaraja.empty()) return " >= " + RajaTekstina(t.alaraja);
-  if (t.alaraja.empty()) return " <= " + RajaTekstina(t.ylaraja);
-  return " " + RajaTekstina(t.alaraja) + " - " + RajaTekstina(t.ylaraja);
+/// "Bruttoala (m²)".
+std::string NimiJaYksikko(const Ohjain& kentta) {
+  const std::string nimi = KentanNimi(kentta.Ikkuna(), kentta), yksikko = KentanYksikko(kentta.Ikkuna(), kentta);
+  return yksikko.empty() ? nimi : nimi + " (" + yksikko + ")";
 }
 
-void NaytaHarvakseltaan(int koodi, const std::string& lisateksti) {
+std::string RajaTekstina(Tekstinumero sana, std::string_view raja, const Ohjain& kentta) {
+  if (raja.empty()) return {};
+  std::string luku(raja);
+  std::ranges::replace(luku, '.', ',');
+  if (luku.starts_with('-')) luku.replace(0, 1, "−");
+  return Teksti(sana) + " " + LisaaYksikko(std::move(luku), kentta);
+}
+
+/// "Sisälämpötila, vähintään −50 °C, enintään 60 °C."
+std::string NimiJaRajat(const Ohjain& kentta, const Tarkistus& t) {
+  std::string teksti;
+  for (const std::string& osa :
+       {KentanNimi(kentta.Ikkuna(), kentta), RajaTekstina(tekstit::kVahintaan, t.alaraja, kentta),
+        RajaTekstina(tekstit::kEnintaan, t.ylaraja, kentta)})
+    if (!osa.empty()) teksti += (teksti.empty() ? "" : ", ") + osa;
+  return teksti + ".";
+}
+
+/// False when a message was shown just before.
+bool OnViestinAika() {
   const std::uint32_t nyt = kello_();
   const bool liianPian = viimeViesti_ && nyt >= *viimeViesti_ && nyt - *viimeViesti_ <= kViestivaliMs;
-  if (liianPian) return;
-  viimeViesti_ = nyt;
-  NaytaVirhe(koodi, lisateksti);
+  if (!liianPian) viimeViesti_ = nyt;
+  return !liianPian;
 }
 
-bool RajoissaTaiIlmoitus(const Tarkistus& t, double arvo) {
+void NaytaHarvakseltaan(Virhenumero koodi, const std::string& lisateksti) {
+  if (OnViestinAika()) NaytaVirhe(koodi, lisateksti);
+}
+
+bool Rajoissa(const Tarkistus& t, double arvo) {
   const auto ala = LueLuku(t.alaraja), yla = LueLuku(t.ylaraja);
-  if ((!ala || arvo >= *ala) && (!yla || arvo <= *yla)) return true;
-  NaytaHarvakseltaan(virheet::kRajojenUlkopuolella, RajatTekstina(t));
-  return false;
+  return (!ala || arvo >= *ala) && (!yla || arvo <= *yla);
 }
 
 /// Takes the person to a field whose text doesn't do.
@@ -80,30 +104,70 @@ bool Hylkaa(Ohjain& kentta, bool valitseTeksti) {
 
 bool KelpaaLukuna(Ohjain& kentta, const Tarkistus& t) {
   const auto arvo = LueLuku(kentta.Teksti());
-  if (arvo && RajoissaTaiIlmoitus(t, *arvo)) return true;
-  if (!arvo) NaytaHarvakseltaan(virheet::kEiLuku, {});
+  if (arvo && Rajoissa(t, *arvo)) return true;
+  if (arvo)
+    NaytaHarvakseltaan(virheet::kRajojenUlkopuolella, NimiJaRajat(kentta, t));
+  else
+    NaytaHarvakseltaan(virheet::kEiLuku, NimiJaYksikko(kentta) + ".");
   return Hylkaa(kentta, !arvo);
 }
 
 bool KelpaaKellonaikana(Ohjain& kentta) {
   if (LueKellonaika(kentta.Teksti())) return true;
-  NaytaHarvakseltaan(virheet::kEiKellonaika, {});
+  NaytaHarvakseltaan(virheet::kEiKellonaika, NimiJaYksikko(kentta) + ".");
   return Hylkaa(kentta, true);
 }
 
-bool Kelpaa(Ohjain& kentta) {
-  const Tarkistus t = LueTag(kentta.Tag());
-  if (SamaNimi(t.tyyppi, "N")) return KelpaaLukuna(kentta, t);
-  return !SamaNimi(t.tyyppi, "K") || KelpaaKellonaikana(kentta);
+bool KelpaaPaivamaarana(Ohjain& kentta) {
+  if (kentta.Teksti().empty() || OnPaivamaara(kentta.Teksti())) return true;
+  if (OnViestinAika())
+    Ilmoita(Teksti(tekstit::kEiPaivamaara) + " " + NimiJaYksikko(kentta) + ".", Teksti(tekstit::kVirhe),
+            Vakavuus::Virhe);
+  return Hylkaa(kentta, true);
+}
+
+bool OnEpatavallinen(const Ohjain& kentta) {
+  const auto raja = LueLuku(LueTag(kentta.Tag()).epatavallinen);
+  return raja && kentta.Muuttunut() && LueLuku(kentta.Teksti()).value_or(0) > *raja;
+}
+
+void KerroEpatavallisista(const std::vector<Ohjain*>& kentat) {
+  std::string luettelo;
+  for (const Ohjain* kentta : kentat)
+    if (OnEpatavallinen(*kentta))
+      luettelo += "\n" + KentanNimi(kentta->Ikkuna(), *kentta) + ": " + LisaaYksikko(kentta->Teksti(), *kentta);
+  if (!luettelo.empty())
+    Ilmoita(Teksti(tekstit::kEpatavallinenArvo) + luettelo, Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
+}
+
+/// Fields that the person can see and write in.
+std::vector<Ohjain*> Tarkistettavat(const Lomake& lomake) {
+  std::vector<Ohjain*> kentat;
+  for (const auto& ohjain : lomake.Ohjaimet())
+    if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox && ohjain->Nakyva() && ohjain->Kaytossa())
+      kentat.push_back(ohjain.get());
+  return kentat;
 }
 
 }  // namespace
 
+bool TarkistaKentta(Ohjain& kentta) {
+  const Tarkistus t = LueTag(kentta.Tag());
+  if (SamaNimi(t.tyyppi, "N")) return KelpaaLukuna(kentta, t);
+  if (SamaNimi(t.tyyppi, "P")) return KelpaaPaivamaarana(kentta);
+  return !SamaNimi(t.tyyppi, "K") || KelpaaKellonaikana(kentta);
+}
+
 bool TarkistaLukukentat(const Lomake& lomake) {
-  return std::ranges::all_of(lomake.Ohjaimet(), [](const auto& ohjain) {
-    const bool katsotaan = ohjain->Tyyppi() == Ohjaintyyppi::TextBox && ohjain->Nakyva() && ohjain->Kaytossa();
-    return !katsotaan || Kelpaa(*ohjain);
-  });
+  const auto kentat = Tarkistettavat(lomake);
+  if (!std::ranges::all_of(kentat, [](Ohjain* kentta) { return TarkistaKentta(*kentta); })) return false;
+  KerroEpatavallisista(kentat);
+  return true;
+}
+
+void HylkaaKentta(Ohjain& kentta, const std::string& viesti) {
+  Ilmoita(KentanNimi(kentta.Ikkuna(), kentta) + " " + viesti, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+  Hylkaa(kentta, true);
 }
 
 void AsetaTarkistuksenKello(std::uint32_t (*kello)()) {

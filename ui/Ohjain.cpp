@@ -62,7 +62,7 @@ Osa Sarakkeeksi(std::string_view kuvaus) {
 
 Ohjain::Ohjain(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus)
     : ikkuna_(ikkuna), kuvaus_(std::move(kuvaus)), teksti_(kuvaus_.teksti), taytetty_(teksti_) {
-  if (Tyyppi() == Ohjaintyyppi::TabStrip && !kuvaus_.osat.empty()) indeksi_ = 0;
+  if (Tyyppi() == Ohjaintyyppi::TabStrip && !kuvaus_.osat.empty()) indeksi_ = taytettyIndeksi_ = 0;
 }
 
 void Ohjain::Paivita(Piirre) {}
@@ -76,7 +76,9 @@ void Ohjain::Teksti(std::string teksti, std::optional<double> luku) {
   Paivita(Piirre::Teksti);
 }
 
-bool Ohjain::Muuttunut() const { return odottaa_ || teksti_ != taytetty_; }
+bool Ohjain::Muuttunut() const {
+  return odottaa_ || teksti_ != taytetty_ || indeksi_ != taytettyIndeksi_ || valittu_ != taytettyValinta_;
+}
 
 void Ohjain::Vihje(std::string vihje) {
   vihje_ = std::move(vihje);
@@ -94,6 +96,11 @@ void Ohjain::Nakyva(bool nakyva) {
 }
 
 void Ohjain::Valittu(bool valittu) {
+  AsetaValittu(valittu);
+  taytettyValinta_ = valittu;
+}
+
+void Ohjain::AsetaValittu(bool valittu) {
   valittu_ = valittu;
   if (valittu && Tyyppi() == Ohjaintyyppi::OptionButton) TyhjennaMuutRyhmassa();
   Paivita(Piirre::Valittu);
@@ -102,7 +109,7 @@ void Ohjain::Valittu(bool valittu) {
 void Ohjain::TyhjennaMuutRyhmassa() {
   for (const auto& muu : ikkuna_.Ohjaimet())
     if (muu.get() != this && muu->Tyyppi() == Ohjaintyyppi::OptionButton && muu->Sailio() == Sailio() && muu->Valittu())
-      muu->Valittu(false);
+      muu->AsetaValittu(false);
 }
 
 int Ohjain::RajattuIndeksi(int indeksi) const {
@@ -112,7 +119,7 @@ int Ohjain::RajattuIndeksi(int indeksi) const {
 
 void Ohjain::Rivit(Taulukko rivit) {
   lista_.Tayta(std::move(rivit));
-  indeksi_ = -1;
+  indeksi_ = taytettyIndeksi_ = -1;
   Paivita(Piirre::Rivit);
 }
 
@@ -155,7 +162,7 @@ std::string Ohjain::RivitTekstina(const std::vector<int>& rivit) const {
 }
 
 void Ohjain::Indeksi(int indeksi) {
-  indeksi_ = RajattuIndeksi(indeksi);
+  indeksi_ = taytettyIndeksi_ = RajattuIndeksi(indeksi);
   Paivita(Piirre::Indeksi);
 }
 
@@ -193,8 +200,8 @@ void Ohjain::KayttajaValitsee(int indeksi) {
 }
 
 void Ohjain::KayttajaPainaa() {
-  if (Tyyppi() == Ohjaintyyppi::OptionButton) Valittu(true);
-  if (Tyyppi() == Ohjaintyyppi::CheckBox) Valittu(!Valittu());
+  if (Tyyppi() == Ohjaintyyppi::OptionButton) AsetaValittu(true);
+  if (Tyyppi() == Ohjaintyyppi::CheckBox) AsetaValittu(!Valittu());
   Nosta(Klikattu);
 }
 

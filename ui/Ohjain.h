@@ -91,6 +91,8 @@ struct Ohjainkuvaus {
   std::string vihjetag;  ///< dynamic property ToolTipText
   std::string teksti;    ///< design-time text, for what is shown before the form is translated
   std::string sailio;    ///< name of the container; option buttons of one container exclude each other
+  std::string kumppani;  ///< of a label: name of the control that it names (buddy)
+  std::string nimio;     ///< dynamic property Nimio: names of the controls whose captions name this one
   bool lukittu = false;  ///< the person can't write in it
   bool kaytossa = true;
   bool nakyva = true;
@@ -112,7 +114,10 @@ class Ohjain {
   const std::string& Tag() const { return kuvaus_.tag; }
   const std::string& Vihjetag() const { return kuvaus_.vihjetag; }
   const std::string& Sailio() const { return kuvaus_.sailio; }
+  const std::string& Kumppani() const { return kuvaus_.kumppani; }
+  const std::string& Nimio() const { return kuvaus_.nimio; }
   bool Lukittu() const { return kuvaus_.lukittu; }
+  const Lomakeikkuna& Ikkuna() const { return ikkuna_; }
 
   /// Text of a field, caption of any other control.
   const std::string& Teksti() const { return teksti_; }
@@ -121,7 +126,7 @@ class Ohjain {
   void Teksti(std::string teksti, std::optional<double> luku = {});
   /// The number with which the field was filled last.
   std::optional<double> TaytettyLuku() const { return taytettyLuku_; }
-  /// True when the person has changed the text after it was filled.
+  /// True when the person has changed the text, the choice or the tick after the program set it last.
   bool Muuttunut() const;
   /// What the person has written has been read: the field can be filled at once, though the focus may still be there.
   void PaataMuokkaus() { muokataan_ = false; }
@@ -215,6 +220,7 @@ class Ohjain {
  private:
   void Nosta(const std::function<void()>& tapahtuma);
   void TyhjennaMuutRyhmassa();
+  void AsetaValittu(bool valittu);
   int RajattuIndeksi(int indeksi) const;
 
   Lomakeikkuna& ikkuna_;
@@ -226,8 +232,10 @@ class Ohjain {
   bool odottaa_ = false;    // filled while being written in
   std::string vihje_;
   bool valittu_ = false;
+  bool taytettyValinta_ = false;
   Luettelo lista_;
   int indeksi_ = -1;
+  int taytettyIndeksi_ = -1;
   Kaaviotiedot kaavio_;
   std::string kuva_;
 };

@@ -58,8 +58,6 @@ bool sidonta::Mahduta(double luku, std::int16_t& arvo) {
   return true;
 }
 
-bool sidonta::TekstiMuuttunut(const Ohjain& kentta, const void*) { return kentta.Muuttunut(); }
-
 std::string sidonta::ValittuTeksti(const Ohjain& valinta) {
   return valinta.Rivit()[static_cast<std::size_t>(valinta.Indeksi())].front();
 }
@@ -84,13 +82,19 @@ void Sidontalista::LueOlio(const Lomake& lomake, const void* olio, std::string_v
   for (const Sidonta& rivi : rivit_) rivi.lue(rivi, lomake.Etsi(OhjaimenNimi(rivi, sana)), olio);
 }
 
+void Sidontalista::SiistiOlio(const Lomake& lomake, void* olio, std::string_view sana) const {
+  for (const Sidonta& rivi : rivit_)
+    if (Ohjain& ohjain = lomake.Etsi(OhjaimenNimi(rivi, sana)); rivi.kirjoita(rivi, ohjain, olio))
+      rivi.lue(rivi, ohjain, olio);
+}
+
 bool Sidontalista::KirjoitaOlio(const Lomake& lomake, void* olio, std::string_view sana) const {
   bool kelpaa = true;
   for (const Sidonta& rivi : rivit_) kelpaa &= rivi.kirjoita(rivi, lomake.Etsi(OhjaimenNimi(rivi, sana)), olio);
   return kelpaa;
 }
 
-bool Sidontalista::MuuttunutOlio(const Lomake& lomake, const void* olio, std::string_view sana) const {
-  return std::ranges::any_of(
-      rivit_, [&](const Sidonta& rivi) { return rivi.muuttunut(lomake.Etsi(OhjaimenNimi(rivi, sana)), olio); });
+bool Sidontalista::Muuttunut(const Lomake& lomake, std::string_view sana) const {
+  return std::ranges::any_of(rivit_,
+                             [&](const Sidonta& rivi) { return lomake.Etsi(OhjaimenNimi(rivi, sana)).Muuttunut(); });
 }

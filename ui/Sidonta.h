@@ -23,9 +23,9 @@
 ///
 /// and `Lue`, `Kirjoita` and `Muuttunut` of the table do the rest. What a row binds is a member of the object, one of
 /// an object inside it (`Polku<&clsRakenne::SivuLippa, &clsLippaVarjostus::Varjostuskulma>`), or a property with code
-/// (`Funktiot{Hae, Aseta}`). A '*' in the name of a control stands for a word that is given when the table is used, so
-/// that fields which a form has three or six times are told once. Limits and units of number fields stand in the form
-/// itself (ui/Kenttatarkistus.h).
+/// (`Funktiot<Hae, Aseta>`, or a value of a class of its own with the types Olio and Arvo and static Hae and Aseta). A
+/// '*' in the name of a control stands for a word that is given when the table is used, so that fields which a form has
+/// three or six times are told once. Limits and units of number fields stand in the form itself (ui/Kenttatarkistus.h).
 
 /// Path to a member of an object inside the object.
 template <auto... Jasenet>
@@ -33,19 +33,35 @@ struct Jasenpolku {};
 template <auto... Jasenet>
 inline constexpr Jasenpolku<Jasenet...> Polku{};
 
-/// A property of C with code.
-template <class C, class T>
-struct Funktiot {
-  T (*hae)(const C&);
-  void (*aseta)(C&, T);
+namespace sidonta {
+
+template <class>
+struct Lukija;
+template <class T, class C>
+struct Lukija<T (*)(const C&)> {
+  using Olio = C;
+  using Arvo = std::remove_cvref_t<T>;
 };
-template <class C, class T>
-Funktiot(T (*)(const C&), void (*)(C&, T)) -> Funktiot<C, T>;
+
+/// A property with code.
+template <auto Lue, auto Kirjoita>
+struct Ominaisuus : Lukija<decltype(Lue)> {
+  using typename Lukija<decltype(Lue)>::Olio;
+  using typename Lukija<decltype(Lue)>::Arvo;
+  static decltype(auto) Hae(const Olio& olio) { return Lue(olio); }
+  static void Aseta(Olio& olio, Arvo arvo) { Kirjoita(olio, std::move(arvo)); }
+};
+
+}  // namespace sidonta
+
+/// Two functions: T (const C&) and void (C&, T).
+template <auto Hae, auto Aseta>
+inline constexpr sidonta::Ominaisuus<Hae, Aseta> Funktiot{};
 
 namespace sidonta {
 
 /// What a row of a table binds: the object's class, the value's type, reading and setting.
-template <auto Jasen, class = decltype(Jasen)>
+template <auto Jasen, class = std::remove_cv_t<decltype(Jasen)>>
 struct Kohde;
 
 template <auto Jasen, class C, class T>
@@ -56,13 +72,9 @@ struct Kohde<Jasen, T C::*> {
   static void Aseta(C& olio, T arvo) { olio.*Jasen = std::move(arvo); }
 };
 
-template <auto Pari, class C, class T>
-struct Kohde<Pari, Funktiot<C, T>> {
-  using Olio = C;
-  using Arvo = std::remove_cvref_t<T>;
-  static T Hae(const C& olio) { return Pari.hae(olio); }
-  static void Aseta(C& olio, T arvo) { Pari.aseta(olio, std::move(arvo)); }
-};
+template <auto Jasen, class T>
+requires requires { typename T::Olio; }
+struct Kohde<Jasen, T> : T {};
 
 template <auto Polun, auto Jasen, auto... Loput>
 struct Kohde<Polun, Jasenpolku<Jasen, Loput...>> {
@@ -88,7 +100,6 @@ struct Sidonta {
   Kerroin kerroin = nullptr;
   void (*lue)(const Sidonta&, Ohjain&, const void* olio) = nullptr;
   bool (*kirjoita)(const Sidonta&, const Ohjain&, void* olio) = nullptr;
-  bool (*muuttunut)(const Ohjain&, const void* olio) = nullptr;
 };
 
 /// A row that binds something of C.
@@ -106,7 +117,6 @@ bool Mahduta(double luku, double& arvo);
 bool Mahduta(double luku, float& arvo);
 bool Mahduta(double luku, std::int32_t& arvo);
 bool Mahduta(double luku, std::int16_t& arvo);
-bool TekstiMuuttunut(const Ohjain& kentta, const void*);
 std::string ValittuTeksti(const Ohjain& valinta);
 
 template <class K>
@@ -136,7 +146,6 @@ constexpr auto Lukukentta(std::string_view ohjain, std::string_view kuvio, Sidon
     K::Aseta(kohde, arvo);
     return true;
   };
-  rivi.muuttunut = sidonta::TekstiMuuttunut;
   return rivi;
 }
 
@@ -151,7 +160,6 @@ constexpr auto Tekstikentta(std::string_view ohjain) {
     K::Aseta(sidonta::OlioOf<K>(olio), kentta.Teksti());
     return true;
   };
-  rivi.muuttunut = sidonta::TekstiMuuttunut;
   return rivi;
 }
 
@@ -168,7 +176,6 @@ constexpr auto Aikakentta(std::string_view ohjain) {
     if (aika) K::Aseta(sidonta::OlioOf<K>(olio), *aika);
     return aika.has_value();
   };
-  rivi.muuttunut = sidonta::TekstiMuuttunut;
   return rivi;
 }
 
@@ -184,9 +191,6 @@ constexpr auto Nappi(std::string_view ohjain, Tila, Aseta) {
   rivi.kirjoita = [](const Sidonta&, const Ohjain& nappi, void* olio) {
     Aseta{}(sidonta::OlioOf<K>(olio), nappi.Valittu());
     return true;
-  };
-  rivi.muuttunut = [](const Ohjain& nappi, const void* olio) {
-    return nappi.Valittu() != Tila{}(K::Hae(sidonta::OlioOf<K>(olio)));
   };
   return rivi;
 }
@@ -213,7 +217,7 @@ constexpr auto Nappikentta(std::string_view ohjain) {
 }
 
 /// A choice list: the member holds the row, from 0, and another one, if told, its text. A row that the list doesn't
-/// have (from a foreign file) stays until another one is chosen, and so does a stored text whose row stays.
+/// have (from a foreign file) stays until another one is chosen.
 template <auto Rivi, auto Teksti = nullptr>
 constexpr auto Valintakentta(std::string_view ohjain) {
   using K = sidonta::Kohde<Rivi>;
@@ -224,17 +228,10 @@ constexpr auto Valintakentta(std::string_view ohjain) {
   rivi.kirjoita = [](const Sidonta&, const Ohjain& valinta, void* olio) {
     if (valinta.Indeksi() < 0) return true;
     auto& kohde = sidonta::OlioOf<K>(olio);
-    const auto valittu = static_cast<typename K::Arvo>(valinta.Indeksi());
-    const bool vaihtui = K::Hae(kohde) != valittu;
-    if (vaihtui) K::Aseta(kohde, valittu);
-    if constexpr (!std::is_same_v<decltype(Teksti), std::nullptr_t>) {
-      using Tekstina = sidonta::Kohde<Teksti>;
-      if (vaihtui || Tekstina::Hae(kohde).empty()) Tekstina::Aseta(kohde, sidonta::ValittuTeksti(valinta));
-    }
+    K::Aseta(kohde, static_cast<typename K::Arvo>(valinta.Indeksi()));
+    if constexpr (!std::is_same_v<decltype(Teksti), std::nullptr_t>)
+      sidonta::Kohde<Teksti>::Aseta(kohde, sidonta::ValittuTeksti(valinta));
     return true;
-  };
-  rivi.muuttunut = [](const Ohjain& valinta, const void* olio) {
-    return valinta.Indeksi() >= 0 && valinta.Indeksi() != static_cast<int>(K::Hae(sidonta::OlioOf<K>(olio)));
   };
   return rivi;
 }
@@ -252,6 +249,8 @@ class Sidontalista {
   const std::vector<std::string>& Sanat() const { return sanat_; }
   /// Name of the row's control with the word in the place of '*'.
   static std::string OhjaimenNimi(const Sidonta& rivi, std::string_view sana);
+  /// The person has changed one of the controls.
+  bool Muuttunut(const Lomake& lomake, std::string_view sana = {}) const;
 
   static std::span<const Sidontalista* const> Kaikki();
 
@@ -260,8 +259,8 @@ class Sidontalista {
   ~Sidontalista();
 
   void LueOlio(const Lomake& lomake, const void* olio, std::string_view sana) const;
+  void SiistiOlio(const Lomake& lomake, void* olio, std::string_view sana) const;
   bool KirjoitaOlio(const Lomake& lomake, void* olio, std::string_view sana) const;
-  bool MuuttunutOlio(const Lomake& lomake, const void* olio, std::string_view sana) const;
 
  private:
   std::string lomake_;
@@ -277,6 +276,10 @@ class Sidontataulu : public Sidontalista {
   Sidontataulu(std::string_view lomake, std::initializer_list<OlionSidonta<C>> rivit,
                std::initializer_list<std::string_view> sanat = {""})
       : Sidontalista(lomake, {rivit.begin(), rivit.end()}, sanat) {}
+  /// Rows that several forms have.
+  Sidontataulu(std::string_view lomake, std::span<const OlionSidonta<C>> rivit,
+               std::initializer_list<std::string_view> sanat = {""})
+      : Sidontalista(lomake, {rivit.begin(), rivit.end()}, sanat) {}
 
   /// Fills the controls from the object, silently.
   void Lue(const Lomake& lomake, const C& olio, std::string_view sana = {}) const { LueOlio(lomake, &olio, sana); }
@@ -286,8 +289,6 @@ class Sidontataulu : public Sidontalista {
   bool Kirjoita(const Lomake& lomake, C& olio, std::string_view sana = {}) const {
     return KirjoitaOlio(lomake, &olio, sana);
   }
-  /// The person has changed a field, or a control stands otherwise than the object.
-  bool Muuttunut(const Lomake& lomake, const C& olio, std::string_view sana = {}) const {
-    return MuuttunutOlio(lomake, &olio, sana);
-  }
+  /// Writes, and shows what was written as it was understood; a text that wasn't stays for the person to mend.
+  void Siisti(const Lomake& lomake, C& olio, std::string_view sana = {}) const { SiistiOlio(lomake, &olio, sana); }
 };

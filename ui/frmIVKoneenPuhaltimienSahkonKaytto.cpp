@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmIVKoneenPuhaltimienSahkonKaytto.h"
 
-#include "ui/Kenttatarkistus.h"
 #include "ui/Tekstivarasto.h"
 
 frmIVKoneenPuhaltimienSahkonKaytto::Puhallin::Puhallin(const Lomake& lomake, const std::string& puoli)
@@ -17,14 +16,10 @@ frmIVKoneenPuhaltimienSahkonKaytto::Puhallin::Puhallin(const Lomake& lomake, con
 }
 
 frmIVKoneenPuhaltimienSahkonKaytto::frmIVKoneenPuhaltimienSahkonKaytto()
-    : Lomake("frmIVKoneenPuhaltimienSahkonKaytto") {
+    : Muokkauslomake("frmIVKoneenPuhaltimienSahkonKaytto") {
   for (const Puoli puoli : {kTulo, kPoisto}) Kuuntele(puoli);
-  txtTeho11Prosentti.KunMuuttuu([this] { Nosta(TaysiVirtaMuuttui); });
-  txtOsaTehoProsentti.KunMuuttuu([this] { Nosta(OsavirtaMuuttui); });
-  cmdOk.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
-  });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
+  for (const TextBox& kentta : {txtTeho11Prosentti, txtOsaTehoProsentti})
+    kentta.KunMuuttuu([this] { Nosta(IlmavirtaMuuttui); });
 }
 
 void frmIVKoneenPuhaltimienSahkonKaytto::Kuuntele(Puoli puoli) {

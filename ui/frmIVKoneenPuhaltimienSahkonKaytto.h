@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// Electric powers of a machine's supply and exhaust fan.
-class frmIVKoneenPuhaltimienSahkonKaytto : public Lomake {
+class frmIVKoneenPuhaltimienSahkonKaytto : public Muokkauslomake {
  public:
   enum Puoli : std::size_t { kTulo, kPoisto, kPuolia };
   /// Rows of the choices of quality.
@@ -29,12 +29,8 @@ class frmIVKoneenPuhaltimienSahkonKaytto : public Lomake {
 
   frmIVKoneenPuhaltimienSahkonKaytto();
 
-  /// The fields hold good values.
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   /// The flow of the full powers, or that of the part powers, was edited.
-  std::function<void()> TaysiVirtaMuuttui;
-  std::function<void()> OsavirtaMuuttui;
+  std::function<void()> IlmavirtaMuuttui;
   // Edits and choices of one fan.
   std::function<void(Puoli)> TaysiTehoMuuttui;
   std::function<void(Puoli)> TaydenTehonLaatuValittu;
@@ -50,8 +46,6 @@ class frmIVKoneenPuhaltimienSahkonKaytto : public Lomake {
   TextBox txtOsaTehoProsentti{*this, "txtOsaTehoProsentti"};  // %
   MSChart chtOsateho{*this, "chtOsateho"};
   Label lblHuomautus{*this, "lblHuomautus"};
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 
  private:
   void Kuuntele(Puoli puoli);

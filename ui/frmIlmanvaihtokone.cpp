@@ -3,7 +3,6 @@
 
 #include "tekstit/lomakkeet_ilmanvaihto.h"
 #include "tekstit/rakennus.h"
-#include "ui/Kenttatarkistus.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
 
@@ -25,7 +24,7 @@ constexpr Periaate kTuntematon{"", true, true};
 
 }  // namespace
 
-frmIlmanvaihtokone::frmIlmanvaihtokone() : Lomake("frmIlmanvaihtokone") {
+frmIlmanvaihtokone::frmIlmanvaihtokone() : Muokkauslomake("frmIlmanvaihtokone") {
   for (const ComboBox& valinta : {cmbIVPeriaate, cmbJarjestelmaTyyppi, cmbPuhaltimenVoimansiirtoTapa,
                                   cmbPuhaltimenSaatotapa, cmbVakioPaineOsuus}) {
     TaytaValinta(*this, valinta);
@@ -39,10 +38,8 @@ frmIlmanvaihtokone::frmIlmanvaihtokone() : Lomake("frmIlmanvaihtokone") {
       if (kentta.Muuttunut()) Nosta(DataMuuttui);
     });
   cmdLto.Nostaa(LtoKlikattu);
-  cmdKayntiajat.KunKlikataan([this] { NostaTarkistettuna(KayntiajatKlikattu); });
-  cmdPuhaltimet.KunKlikataan([this] { NostaTarkistettuna(PuhaltimetKlikattu); });
-  cmdOk.KunKlikataan([this] { NostaTarkistettuna(OkKlikattu); });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
+  NostaaKunKelpaa(cmdKayntiajat, KayntiajatKlikattu);
+  NostaaKunKelpaa(cmdPuhaltimet, PuhaltimetKlikattu);
 }
 
 void frmIlmanvaihtokone::Muuttui() {
@@ -50,15 +47,10 @@ void frmIlmanvaihtokone::Muuttui() {
   Nosta(DataMuuttui);
 }
 
-void frmIlmanvaihtokone::NostaTarkistettuna(const std::function<void()>& tapahtuma) {
-  if (TarkistaLukukentat(*this)) Nosta(tapahtuma);
-}
-
-void frmIlmanvaihtokone::Tilat(const std::vector<std::string>& nimet, int valittu) {
+void frmIlmanvaihtokone::Tilat(const std::vector<std::string>& nimet) {
   std::vector<std::string> rivit{Teksti(nimet.empty() ? tekstit::kEiTiloja : tekstit::kViiva)};
   rivit.insert(rivit.end(), nimet.begin(), nimet.end());
   cmbLiittyyTilaan.Rivit(rivit);
-  cmbLiittyyTilaan.Indeksi(valittu);
   cmbLiittyyTilaan.Kaytossa(!nimet.empty());
 }
 

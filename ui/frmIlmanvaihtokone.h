@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// Data of one ventilation machine and, read only, its energy of the year.
-class frmIlmanvaihtokone : public Lomake {
+class frmIlmanvaihtokone : public Muokkauslomake {
  public:
   frmIlmanvaihtokone();
 
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   /// A choice was made, or a field was left: the figures of the year no longer hold.
   std::function<void()> DataMuuttui;
   std::function<void()> LtoKlikattu;
@@ -16,8 +14,8 @@ class frmIlmanvaihtokone : public Lomake {
   std::function<void()> KayntiajatKlikattu;
   std::function<void()> PuhaltimetKlikattu;
 
-  /// Fills the choice of the space: row 0 is none, or the only one when there are no spaces.
-  void Tilat(const std::vector<std::string>& nimet, int valittu);
+  /// Fills the choice of the space, none chosen: row 0 is none, or the only one when there are no spaces.
+  void Tilat(const std::vector<std::string>& nimet);
   /// Shows the picture of the principle and enables what principle, space and system leave to the person. To be called
   /// after the form has been filled.
   void PaivitaKentat();
@@ -46,10 +44,7 @@ class frmIlmanvaihtokone : public Lomake {
   Label lblHuomautus{*this, "lblHuomautus"};
   CommandButton cmdKayntiajat{*this, "cmdKayntiajat"};
   CommandButton cmdPuhaltimet{*this, "cmdPuhaltimet"};
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 
  private:
   void Muuttui();
-  void NostaTarkistettuna(const std::function<void()>& tapahtuma);
 };

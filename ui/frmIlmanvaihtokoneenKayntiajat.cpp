@@ -14,7 +14,7 @@ frmIlmanvaihtokoneenKayntiajat::Rivi::Rivi(const Lomake& lomake, const std::stri
       tunnit(lomake, "txtTunnit" + numero),
       cmdTunteina(lomake, "cmdTunteina" + numero) {}
 
-frmIlmanvaihtokoneenKayntiajat::frmIlmanvaihtokoneenKayntiajat() : Lomake("frmIlmanvaihtokoneenKayntiajat") {
+frmIlmanvaihtokoneenKayntiajat::frmIlmanvaihtokoneenKayntiajat() : Muokkauslomake("frmIlmanvaihtokoneenKayntiajat") {
   TaytaValinta(*this, cmbKayntiAikojenSyottoTapa);
   for (int i = 1; i <= kRiveja; ++i) rivit.emplace_back(*this, std::to_string(i));
   for (std::size_t i = 0; i < rivit.size(); ++i) KuunteleRivia(i);
@@ -29,20 +29,13 @@ frmIlmanvaihtokoneenKayntiajat::frmIlmanvaihtokoneenKayntiajat() : Lomake("frmIl
     Nosta(JaksoValittu);
   });
   lvwJaksot.KunKlikataan([this] { rivit.front().kentat.front().Kohdista(); });
-  cmdKopioiMuihin.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(KopioiMuihinKlikattu);
-  });
-  cmdOk.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
-  });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
+  NostaaKunKelpaa(cmdKopioiMuihin, KopioiMuihinKlikattu);
 }
 
 void frmIlmanvaihtokoneenKayntiajat::KuunteleRivia(std::size_t rivi) {
-  for (std::size_t i = 0; i < kSarakkeita; ++i) {
-    const auto sarake = static_cast<Sarake>(i);
-    rivit[rivi].kentat[i].KunMuuttuu([this, rivi, sarake] { Nosta(KenttaMuuttui, rivi, sarake); });
-    rivit[rivi].kentat[i].KunPoistutaan([this, rivi, sarake] { Nosta(KenttaJatetty, rivi, sarake); });
+  for (const TextBox& kentta : rivit[rivi].kentat) {
+    kentta.KunMuuttuu([this, rivi] { Nosta(KenttaMuuttui, rivi); });
+    kentta.KunPoistutaan([this, rivi] { Nosta(KenttaJatetty, rivi); });
   }
   rivit[rivi].cmdTunteina.KunKlikataan([this, rivi] {
     if (TarkistaLukukentat(*this)) Nosta(TunteinaKlikattu, rivi);

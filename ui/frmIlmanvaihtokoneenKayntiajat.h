@@ -1,32 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// Running times of a ventilation machine: the seasons in use, and below them the seven lines of the chosen one.
-class frmIlmanvaihtokoneenKayntiajat : public Lomake {
+class frmIlmanvaihtokoneenKayntiajat : public Muokkauslomake {
  public:
-  /// Fields of a line in which the person writes.
-  enum Sarake : std::size_t { kKertoja, kAlkaa, kPaattyy, kVirta, kTsp, kdTPuhallin, kSarakkeita };
   static constexpr int kRiveja = 7;
 
   struct Rivi {
     Rivi(const Lomake& lomake, const std::string& numero);
-    std::array<TextBox, kSarakkeita> kentat;  // runs a week, hh:mm, hh:mm, %, °C, K
-    TextBox tunnit;                           // h a day, read only
+    std::array<TextBox, 6> kentat;  // runs a week, hh:mm, hh:mm, %, °C, K
+    TextBox tunnit;                 // h a day, read only
     CommandButton cmdTunteina;
   };
 
   frmIlmanvaihtokoneenKayntiajat();
 
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   std::function<void()> KopioiMuihinKlikattu;
   /// Another way of entering, or another season, was chosen. The lines of the former one hold good values.
   std::function<void()> SyottotapaValittu;
   std::function<void()> JaksoValittu;
   /// A field of the line (from 0) was edited, or left with a good value.
-  std::function<void(std::size_t, Sarake)> KenttaMuuttui;
-  std::function<void(std::size_t, Sarake)> KenttaJatetty;
+  std::function<void(std::size_t)> KenttaMuuttui;
+  std::function<void(std::size_t)> KenttaJatetty;
   /// The line's times are to be given as hours.
   std::function<void(std::size_t)> TunteinaKlikattu;
 
@@ -41,8 +37,6 @@ class frmIlmanvaihtokoneenKayntiajat : public Lomake {
   Frame fraRivit{*this, "fraRivit"};
   std::vector<Rivi> rivit;
   Label lblHuomautus{*this, "lblHuomautus"};
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 
  private:
   void KuunteleRivia(std::size_t rivi);

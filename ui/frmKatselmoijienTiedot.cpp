@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmKatselmoijienTiedot.h"
 
-frmKatselmoijienTiedot::frmKatselmoijienTiedot() : Lomake("frmKatselmoijienTiedot") {
+frmKatselmoijienTiedot::frmKatselmoijienTiedot() : Muokkauslomake("frmKatselmoijienTiedot") {
   cmdHaeOmat.Nostaa(HaeOmatKlikattu);
-  cmdOk.Nostaa(OkKlikattu);
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
 }

@@ -5,7 +5,6 @@
 
 #include "kernel/Luvut.h"
 #include "tekstit/lomakkeet_asetukset.h"
-#include "ui/Kenttatarkistus.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
@@ -32,17 +31,13 @@ void Selaa(const CommandButton& nappi, const TextBox& kentta) {
 
 }  // namespace
 
-frmOptions::frmOptions() : Lomake("frmOptions") {
+frmOptions::frmOptions() : Muokkauslomake("frmOptions") {
   for (const std::size_t luokka : {0u, 1u}) KuunteleVeroa(luokka);
   cmbValuutta.KunMuuttuu([this] { Nosta(ValuuttaMuuttui, cmbValuutta.Indeksi()); });
   Selaa(cmdSelaaVakiokanta, txtVakiokanta);
   Selaa(cmdSelaaKayttajakohtainen, txtKayttajakohtainen);
   Selaa(cmdSelaaEnergia_Vakiokanta, txtEnergia_Vakiokanta);
   Selaa(cmdSelaaEnergia_Kayttajakohtainen, txtEnergia_Kayttajakohtainen);
-  cmdOk.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
-  });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
 }
 
 void frmOptions::KuunteleVeroa(std::size_t luokka) {
@@ -50,15 +45,15 @@ void frmOptions::KuunteleVeroa(std::size_t luokka) {
   naytetty.KunMuuttuu([naytetty, tarkka] { tarkka.Teksti(naytetty.Teksti()); });
 }
 
-void frmOptions::NaytaTarkka(const TextBox& kentta, double arvo) {
+std::string frmOptions::Tarkkana(double arvo) {
   std::string teksti = LyhinMuoto(arvo);
   std::ranges::replace(teksti, '.', ',');
-  kentta.Teksti(std::move(teksti));
+  return teksti;
 }
 
 void frmOptions::AsetaVero(std::size_t luokka, double vero) {
   (this->*kVerot[luokka].naytetty).Luku(vero, "## ##0.00");
-  NaytaTarkka(this->*kVerot[luokka].tarkka, vero);
+  (this->*kVerot[luokka].tarkka).Teksti(Tarkkana(vero));
 }
 
 std::optional<double> frmOptions::Vero(std::size_t luokka) const {

@@ -2,16 +2,13 @@
 #pragma once
 #include <optional>
 
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// The user's settings. Rates are shown per cent, electricity taxes in the display currency per MWh.
-class frmOptions : public Lomake {
+class frmOptions : public Muokkauslomake {
  public:
   frmOptions();
 
-  /// The number fields hold numbers within their limits.
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   /// Index of the chosen currency. The unit labels and the taxes wait for NaytaRahayksikko and AsetaVero.
   std::function<void(int)> ValuuttaMuuttui;
 
@@ -21,8 +18,8 @@ class frmOptions : public Lomake {
   std::optional<double> Vero(std::size_t luokka) const;
   /// Name of the currency in the unit labels.
   void NaytaRahayksikko(std::string_view yksikko);
-  /// Shows a number with all its decimals.
-  static void NaytaTarkka(const TextBox& kentta, double arvo);
+  /// A number with all its decimals.
+  static std::string Tarkkana(double arvo);
 
   TabStrip tabAsetukset{*this, "tabAsetukset"};
 
@@ -55,9 +52,6 @@ class frmOptions : public Lomake {
   std::array<TextBox, 6> txtSah = Kuusi<TextBox>(*this, "txtSah");  // electrical auditor
 
   TextBox txtOletusosoite{*this, "txtOletusosoite"};
-
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 
  private:
   void KuunteleVeroa(std::size_t luokka);

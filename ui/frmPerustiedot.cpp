@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::string_view kOminaiskulutus = "### ##0.0";
+constexpr int kEkaVuosi = 1900;
 constexpr double kTuhat = 1000;  // MWh to kWh, m³ to dm³
 
 void Tayta(const TextBox& kentta, double kulutus, double jakaja) {
@@ -21,7 +22,7 @@ void Tayta(const TextBox& kentta, double kulutus, double jakaja) {
 
 }  // namespace
 
-frmPerustiedot::frmPerustiedot() : Lomake("frmPerustiedot") {
+frmPerustiedot::frmPerustiedot() : Muokkauslomake("frmPerustiedot") {
   TaytaValinta(*this, cmbKayttotarkoitus);
   TaytaValinta(*this, cmbPaikkakunta);
   for (const TextBox& kentta : {txtKokonaistilavuus, txtBruttoAla})
@@ -31,14 +32,12 @@ frmPerustiedot::frmPerustiedot() : Lomake("frmPerustiedot") {
     });
   for (int i = 0; i < 3; ++i) KuunteleVuotta(static_cast<std::size_t>(i));
   cmbPaikkakunta.KunMuuttuu([this] { Nosta(SaaPaikkakuntaMuuttui, cmbPaikkakunta.Indeksi()); });
+  txtKulutusTietojenViimVuosi.KunMuuttuu([this] { NaytaVuodet(); });
+  NostaaKunKelpaa(cmdLuoMalli, LuoMalliKlikattu);
   cmdVakioOsuus.Nostaa(VakioOsuusKlikattu);
   cmdLammonHankinta.Nostaa(LammonHankintaKlikattu);
   cmdSahkonHankinta.Nostaa(SahkonHankintaKlikattu);
   cmdVedenHankinta.Nostaa(VedenHankintaKlikattu);
-  cmdOk.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
-  });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
 }
 
 void frmPerustiedot::KuunteleVuotta(std::size_t i) {
@@ -47,10 +46,15 @@ void frmPerustiedot::KuunteleVuotta(std::size_t i) {
     kentta.KunMuuttuu([this] {
       if (KulutuksetLuettavissa()) KulutusKirjoitettu();
     });
-    kentta.KunPoistutaan([this] {
-      if (!KulutuksetLuettavissa()) Nosta(KulutustietoMuuttui);
-    });
+    kentta.KunPoistutaan([kentta] { TarkistaKentta(kentta.Kohde()); });
   }
+}
+
+/// A year that isn't whole yet leaves the rows as they are.
+void frmPerustiedot::NaytaVuodet() {
+  const int viimeinen = static_cast<int>(txtKulutusTietojenViimVuosi.Luku());
+  for (int i = 0; i < 3 && viimeinen >= kEkaVuosi; ++i)
+    lblVuosi[static_cast<std::size_t>(i)].Otsikko(std::to_string(viimeinen - i));
 }
 
 void frmPerustiedot::KulutusKirjoitettu() {

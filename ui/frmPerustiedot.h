@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// Basic data of the audited object and its measured consumption of three years.
-class frmPerustiedot : public Lomake {
+class frmPerustiedot : public Muokkauslomake {
  public:
   frmPerustiedot();
 
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   /// Volume or area was edited; the specific figures of the form are up to date.
   std::function<void()> DataMuuttui;
   /// A figure of the measured consumption was edited, or another comparison year ticked. While a field of the grid
-  /// holds no whole number yet, the event waits until the focus leaves the field.
+  /// holds no whole number yet, the event waits; left so, the field tells of it.
   std::function<void()> KulutustietoMuuttui;
+  /// The first model is to be made anew from the form's values, which are good.
+  std::function<void()> LuoMalliKlikattu;
   /// Index of the chosen locality, 0 to 15.
   std::function<void(int)> SaaPaikkakuntaMuuttui;
   std::function<void()> VakioOsuusKlikattu;
@@ -25,6 +25,8 @@ class frmPerustiedot : public Lomake {
   /// water dm³/m³ and dm³/m² a year; empty where the volume or area isn't above 0 or no year is ticked. To be called
   /// after the form has been filled.
   void LaskeOminaiskulutukset();
+  /// Shows the years of the rows by the last year in its field. To be called after the form has been filled.
+  void NaytaVuodet();
   /// Row of the comparison year, 0 to 2; -1 when none is ticked.
   int Vertailuvuosi() const;
 
@@ -43,6 +45,7 @@ class frmPerustiedot : public Lomake {
   Label lblALV{*this, "lblALV"};                                            // with or without value added tax
 
   // Measured consumption: row 0 is the newest year.
+  TextBox txtKulutusTietojenViimVuosi{*this, "txtKulutusTietojenViimVuosi"};
   std::array<Label, 3> lblVuosi = Kolme<Label>(*this, "lblVuosi");
   std::array<OptionButton, 3> optVertailuvuosi = Kolme<OptionButton>(*this, "optVertailuvuosi");
   std::array<TextBox, 3> txtLammTarveLuku = Kolme<TextBox>(*this, "txtLammTarveLuku");
@@ -62,8 +65,7 @@ class frmPerustiedot : public Lomake {
   CommandButton cmdLammonHankinta{*this, "cmdLammonHankinta"};
   CommandButton cmdSahkonHankinta{*this, "cmdSahkonHankinta"};
   CommandButton cmdVedenHankinta{*this, "cmdVedenHankinta"};
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
+  CommandButton cmdLuoMalli{*this, "cmdLuoMalli"};
 
  private:
   void KuunteleVuotta(std::size_t i);

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmRakennekerroksenMuokkaaminen.h"
 
-#include "ui/Kenttatarkistus.h"
-
-frmRakennekerroksenMuokkaaminen::frmRakennekerroksenMuokkaaminen() : Lomake("frmRakennekerroksenMuokkaaminen") {
+frmRakennekerroksenMuokkaaminen::frmRakennekerroksenMuokkaaminen() : Muokkauslomake("frmRakennekerroksenMuokkaaminen") {
   for (const TextBox& kentta :
        {txtPaksuus, paamateriaali.lambda, lisamateriaali.lambda, txtLisamateriaalinOsuus, txtLammonvastus})
     kentta.KunMuuttuu([this] { Nosta(DataMuuttui); });
@@ -14,10 +12,6 @@ frmRakennekerroksenMuokkaaminen::frmRakennekerroksenMuokkaaminen() : Lomake("frm
   });
   cmdHaePaamateriaali.Nostaa(PaamateriaaliHakuun);
   cmdHaeLisamateriaali.Nostaa(LisamateriaaliHakuun);
-  cmdOk.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
-  });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
 }
 
 void frmRakennekerroksenMuokkaaminen::PaivitaKentat() {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// One layer of a structure: a material, or two that share its area.
-class frmRakennekerroksenMuokkaaminen : public Lomake {
+class frmRakennekerroksenMuokkaaminen : public Muokkauslomake {
  public:
   /// Name and figures of a material.
   struct Aine {
@@ -20,8 +20,6 @@ class frmRakennekerroksenMuokkaaminen : public Lomake {
 
   frmRakennekerroksenMuokkaaminen();
 
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   /// A material from the library is wanted.
   std::function<void()> PaamateriaaliHakuun;
   std::function<void()> LisamateriaaliHakuun;
@@ -43,6 +41,4 @@ class frmRakennekerroksenMuokkaaminen : public Lomake {
   TextBox txtLammonvastus{*this, "txtLammonvastus"};                  // m²K/W
   TextBox txtKerroksenVastus{*this, "txtKerroksenVastus"};            // m²K/W, read only
   TextBox txtRakenteenUarvo{*this, "txtRakenteenUarvo"};              // W/m²K, read only
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
 };

@@ -16,7 +16,7 @@ void AsetaKaytossa(bool kaytossa, const K& kahva, const L&... muut) {
 
 }  // namespace
 
-frmRakenteet::frmRakenteet() : Lomake("frmRakenteet") {
+frmRakenteet::frmRakenteet() : Muokkauslomake("frmRakenteet") {
   for (const ComboBox& valinta :
        {cmbRakennetyyppi, cmbTyyppi, cmbSuuntaus, cmbYlalipanTyyppi, cmbSivulipanTyyppi, cmbHorisVarjTyyppi})
     TaytaValinta(*this, valinta);
@@ -24,12 +24,6 @@ frmRakenteet::frmRakenteet() : Lomake("frmRakenteet") {
   KuunteleLuetteloa();
   KuunteleRakennetta();
   KuunteleKerroksia();
-  cmdOk.KunKlikataan([this] { NostaKunKelpaa(OkKlikattu); });
-  cmdPeruuta.Nostaa(PeruutaKlikattu);
-}
-
-void frmRakenteet::NostaKunKelpaa(const std::function<void()>& tapahtuma) {
-  if (TarkistaLukukentat(*this)) Nosta(tapahtuma);
 }
 
 void frmRakenteet::KuunteleLuetteloa() {
@@ -47,8 +41,8 @@ void frmRakenteet::KuunteleLuetteloa() {
   lvwRakenteet.KunLiitetaan([this](const Taulukko& rivit) {
     if (TarkistaLukukentat(*this)) Nosta(RivitLiitetty, rivit);
   });
-  cmdLisaaRakenne.KunKlikataan([this] { NostaKunKelpaa(LisaaKlikattu); });
-  cmdKopioiRakenne.KunKlikataan([this] { NostaKunKelpaa(KopioiKlikattu); });
+  NostaaKunKelpaa(cmdLisaaRakenne, LisaaKlikattu);
+  NostaaKunKelpaa(cmdKopioiRakenne, KopioiKlikattu);
   cmdPoistaRakenne.Nostaa(PoistaKlikattu);
   cmdHaeKirjastosta.Nostaa(HaeKirjastostaKlikattu);
 }
@@ -69,11 +63,11 @@ void frmRakenteet::KuunteleRakennetta() {
 void frmRakenteet::KuunteleKerroksia() {
   lvwKerrokset.KunMuuttuu([this] { PaivitaKerrosnapit(); });
   lvwKerrokset.KunKlikataan([this] { NostaKunKelpaa(RakKerMuokkaa); });
-  cmdRakKerLisaa.KunKlikataan([this] { NostaKunKelpaa(RakKerLisaa); });
-  cmdRakKerMuokkaa.KunKlikataan([this] { NostaKunKelpaa(RakKerMuokkaa); });
-  cmdRakKerKopioi.KunKlikataan([this] { NostaKunKelpaa(RakKerKopioi); });
-  cmdRakKerPoista.KunKlikataan([this] { NostaKunKelpaa(RakKerPoista); });
-  cmdRakKerSiirraSisaanPain.KunKlikataan([this] { NostaKunKelpaa(RakKerSiirraSisaanPain); });
+  NostaaKunKelpaa(cmdRakKerLisaa, RakKerLisaa);
+  NostaaKunKelpaa(cmdRakKerMuokkaa, RakKerMuokkaa);
+  NostaaKunKelpaa(cmdRakKerKopioi, RakKerKopioi);
+  NostaaKunKelpaa(cmdRakKerPoista, RakKerPoista);
+  NostaaKunKelpaa(cmdRakKerSiirraSisaanPain, RakKerSiirraSisaanPain);
 }
 
 std::int32_t frmRakenteet::Naytettavat() const { return naytettavatRivi_ > 0 ? naytettavatRivi_ - 1 : kKaikki; }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muokkauslomake.h"
 
 /// The structures of a space: their list, and below it the data, the layers and the shading of the chosen one.
-class frmRakenteet : public Lomake {
+class frmRakenteet : public Muokkauslomake {
  public:
   /// Pages of the window shading.
   enum Varjostus { kYlalippa, kSivulippa, kHorisontti };
@@ -21,8 +21,6 @@ class frmRakenteet : public Lomake {
 
   frmRakenteet();
 
-  std::function<void()> OkKlikattu;
-  std::function<void()> PeruutaKlikattu;
   /// Another structure was chosen, or other kinds are to be shown. The fields of the former one hold good values.
   std::function<void()> RakenneValittu;
   std::function<void()> NaytettavatValittu;
@@ -103,15 +101,11 @@ class frmRakenteet : public Lomake {
   ComboBox cmbHorisVarjTyyppi{*this, "cmbHorisVarjTyyppi"};
   TextBox txtYmparistonVarjostuskulma{*this, "txtYmparistonVarjostuskulma"};  // degrees
 
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
-
  private:
   void KuunteleLuetteloa();
   void KuunteleRakennetta();
   void KuunteleKerroksia();
   void PaivitaKerrosnapit();
-  void NostaKunKelpaa(const std::function<void()>& tapahtuma);
 
   Tilanne tilanne_;
   int rakenneRivi_ = -1;

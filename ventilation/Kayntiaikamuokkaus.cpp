@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/Kayntiaikamuokkaus.h"
 
-#include <stdexcept>
-
+#include "building/Muokkausistunto.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
-#include "kernel/Kellonajat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "tekstit/lomakkeet_puhaltimet.h"
-#include "ui/Odotus.h"
+#include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viikkokuvaus.h"
 #include "ui/frmSyotaTuntiTiedot.h"
@@ -21,51 +19,20 @@ constexpr int kPaiviaViikossa = 7;
 constexpr const char* kTunnit = "0.0#";
 constexpr const char* kVuositunnit = "# ### ##0";
 
-using Lomakeluokka = frmIlmanvaihtokoneenKayntiajat;
+/// A line of the chosen season; the word is its number on the form.
+const Sidontataulu kSidonnat{
+    "frmIlmanvaihtokoneenKayntiajat",
+    {
+        Lukukentta<&clsKayntiAika::KayntiJaksojenLkm>("txtKayntiJaksojenLkm*", "0"),
+        Aikakentta<&clsKayntiAika::Alkaa>("txtAlkaa*"),
+        Aikakentta<&clsKayntiAika::Paattyy>("txtPaattyy*"),
+        Lukukentta<&clsKayntiAika::TuloIlmavirtaProsentti>("txtTuloIlmavirtaProsentti*", "0.0#"),
+        Lukukentta<&clsKayntiAika::Tsp>("txtTsp*", "0.0#"),
+        Lukukentta<&clsKayntiAika::dTPuhallin>("txtdTPuhallin*", "0.0#"),
+    },
+    {"1", "2", "3", "4", "5", "6", "7"}};
 
-/// How a field shows its value, and how it is read: false, and nothing changed, when the text has no such value.
-struct Kentta {
-  std::string (*teksti)(const clsKayntiAika&);
-  bool (*lue)(const std::string&, clsKayntiAika&);
-};
-
-template <double clsKayntiAika::*M>
-constexpr Kentta Mittaluku() {
-  return {[](const clsKayntiAika& k) { return Muotoile(k.*M, "0.0#"); },
-          [](const std::string& teksti, clsKayntiAika& k) {
-            const auto luku = LueLuku(teksti);
-            if (luku) k.*M = *luku;
-            return luku.has_value();
-          }};
-}
-
-template <Kellonaika clsKayntiAika::*M>
-constexpr Kentta Aika() {
-  return {[](const clsKayntiAika& k) { return KellonaikaTekstina(k.*M); },
-          [](const std::string& teksti, clsKayntiAika& k) {
-            const auto aika = LueKellonaika(teksti);
-            if (aika) k.*M = *aika;
-            return aika.has_value();
-          }};
-}
-
-bool LueKertoja(const std::string& teksti, clsKayntiAika& k) try {
-  const auto luku = LueLuku(teksti);
-  if (luku) k.KayntiJaksojenLkm = PyoristaKokonaisluvuksi(*luku);
-  return luku.has_value();
-} catch (const std::out_of_range&) {
-  return false;
-}
-
-/// In the order of Lomakeluokka::Sarake.
-constexpr Kentta kKentat[Lomakeluokka::kSarakkeita] = {
-    {[](const clsKayntiAika& k) { return std::to_string(k.KayntiJaksojenLkm); }, LueKertoja},
-    Aika<&clsKayntiAika::Alkaa>(),
-    Aika<&clsKayntiAika::Paattyy>(),
-    Mittaluku<&clsKayntiAika::TuloIlmavirtaProsentti>(),
-    Mittaluku<&clsKayntiAika::Tsp>(),
-    Mittaluku<&clsKayntiAika::dTPuhallin>(),
-};
+std::string RivinNumero(std::size_t rivi) { return std::to_string(rivi + 1); }
 
 std::vector<std::string> Summarivi(const std::string& nimi, const Kayntisumma& summa) {
   return {nimi, std::to_string(summa.riveja), Muotoile(summa.tunnit, kVuositunnit),
@@ -84,29 +51,34 @@ std::string Huomautus(const clsKayntiAika& jakso) {
 
 }  // namespace
 
-Kayntiaikamuokkaus::Kayntiaikamuokkaus(clsKayntiAjat& ajat) : ajat_(ajat), varalla_(ajat.Kopioi()) {
-  LiitaTapahtumat();
-  if (!ajat.IvKoneenNimi.empty()) KayttoLiittyma.Otsikko(ajat.IvKoneenNimi + ": " + KayttoLiittyma.Otsikko());
-}
+Kayntiaikamuokkaus::Kayntiaikamuokkaus(clsKayntiAjat& ajat) : ajat_(ajat) { LiitaTapahtumat(); }
 
 void Kayntiaikamuokkaus::LiitaTapahtumat() {
   KayttoLiittyma.SyottotapaValittu = [this] { KayttoLiittyma_SyottotapaValittu(); };
   KayttoLiittyma.JaksoValittu = [this] { LueDataluokka(); };
-  KayttoLiittyma.KenttaMuuttui = [this](std::size_t r, Lomakesarake s) { KayttoLiittyma_KenttaMuuttui(r, s); };
-  KayttoLiittyma.KenttaJatetty = [this](std::size_t r, Lomakesarake s) { KayttoLiittyma_KenttaJatetty(r, s); };
+  KayttoLiittyma.KenttaMuuttui = [this](std::size_t rivi) { KayttoLiittyma_KenttaMuuttui(rivi); };
+  KayttoLiittyma.KenttaJatetty = [this](std::size_t rivi) { KayttoLiittyma_KenttaJatetty(rivi); };
   KayttoLiittyma.TunteinaKlikattu = [this](std::size_t rivi) { KayttoLiittyma_TunteinaKlikattu(rivi); };
   KayttoLiittyma.KopioiMuihinKlikattu = [this] { KayttoLiittyma_KopioiMuihinKlikattu(); };
-  KayttoLiittyma.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
-  KayttoLiittyma.PeruutaKlikattu = [this] { KayttoLiittyma_PeruutaKlikattu(); };
 }
 
 bool Kayntiaikamuokkaus::Nayta() {
+  Muokkausistunto istunto(ajat_, KayttoLiittyma,
+                          {.nimi = ajat_.IvKoneenNimi,
+                           .lue = [this] { NaytaSyottotapa(); },
+                           .voimaan = [this] { ajat_.KayntiAikojenSyottoTapa = SyottotavanNimi(); },
+                           .virheenJalkeen = [this] { NaytaSyottotapa(); }});
+  return istunto.Nayta();
+}
+
+std::string Kayntiaikamuokkaus::SyottotavanNimi() const { return KayttoLiittyma.cmbKayntiAikojenSyottoTapa.Teksti(); }
+
+/// A season that lacks lines gets them: they are there to be written in.
+void Kayntiaikamuokkaus::NaytaSyottotapa() {
   const clsKayntiAika oletus;
   if (ajat_.TaydennaJaksot(oletus.Tsp, oletus.dTPuhallin)) VaadiRakennus().RekisteriVanheni();
   KayttoLiittyma.ValitseSyottotapa(ajat_.Vuosittainen() ? 0 : 1);
   NaytaJaksot();
-  KayttoLiittyma.NaytaModaalisena();
-  return hyvaksytty_;
 }
 
 clsKayntiAika& Kayntiaikamuokkaus::Jakso(std::size_t rivi) const {
@@ -134,11 +106,8 @@ void Kayntiaikamuokkaus::LueDataluokka() try {
 }
 
 void Kayntiaikamuokkaus::LueRivi(std::size_t rivi) {
-  for (std::size_t s = 0; s < Lomakeluokka::kSarakkeita; ++s) {
-    const TextBox& kentta = KayttoLiittyma.rivit[rivi].kentat[s];
-    kentta.Kohde().PaataMuokkaus();
-    kentta.Teksti(kKentat[s].teksti(Jakso(rivi)));
-  }
+  for (const TextBox& kentta : KayttoLiittyma.rivit[rivi].kentat) kentta.Kohde().PaataMuokkaus();
+  kSidonnat.Lue(KayttoLiittyma, Jakso(rivi), RivinNumero(rivi));
 }
 
 void Kayntiaikamuokkaus::NaytaTulokset() {
@@ -194,17 +163,15 @@ void Kayntiaikamuokkaus::KayttoLiittyma_SyottotapaValittu() try {
   NostaVirhe("Kayntiaikamuokkaus:KayttoLiittyma_SyottotapaValittu Method");
 }
 
-void Kayntiaikamuokkaus::KayttoLiittyma_KenttaMuuttui(std::size_t rivi, Lomakesarake sarake) try {
-  if (kKentat[sarake].lue(KayttoLiittyma.rivit[rivi].kentat[sarake].Teksti(), Jakso(rivi))) NaytaTulokset();
+void Kayntiaikamuokkaus::KayttoLiittyma_KenttaMuuttui(std::size_t rivi) try {
+  kSidonnat.Kirjoita(KayttoLiittyma, Jakso(rivi), RivinNumero(rivi));
+  NaytaTulokset();
 } catch (...) {
   NostaVirhe("Kayntiaikamuokkaus:KayttoLiittyma_KenttaMuuttui Method");
 }
 
-/// What was written is shown as it was understood; a text that wasn't stays for the person to mend.
-void Kayntiaikamuokkaus::KayttoLiittyma_KenttaJatetty(std::size_t rivi, Lomakesarake sarake) try {
-  const TextBox& kentta = KayttoLiittyma.rivit[rivi].kentat[sarake];
-  clsKayntiAika luettu;
-  if (kentta.Muuttunut() && kKentat[sarake].lue(kentta.Teksti(), luettu)) kentta.Teksti(kKentat[sarake].teksti(luettu));
+void Kayntiaikamuokkaus::KayttoLiittyma_KenttaJatetty(std::size_t rivi) try {
+  kSidonnat.Siisti(KayttoLiittyma, Jakso(rivi), RivinNumero(rivi));
 } catch (...) {
   NostaVirhe("Kayntiaikamuokkaus:KayttoLiittyma_KenttaJatetty Method");
 }
@@ -223,22 +190,4 @@ void Kayntiaikamuokkaus::KayttoLiittyma_KopioiMuihinKlikattu() try {
   LueDataluokka();
 } catch (...) {
   NostaVirhe("Kayntiaikamuokkaus:KayttoLiittyma_KopioiMuihinKlikattu Method");
-}
-
-void Kayntiaikamuokkaus::KayttoLiittyma_OkKlikattu() try {
-  ajat_.KayntiAikojenSyottoTapa = KayttoLiittyma.cmbKayntiAikojenSyottoTapa.Teksti();
-  hyvaksytty_ = true;
-  KayttoLiittyma.Sulje();
-} catch (...) {
-  varalla_->Kopioi(ajat_);
-  NostaVirhe("Kayntiaikamuokkaus:KayttoLiittyma_OkKlikattu Method");
-}
-
-void Kayntiaikamuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
-  Odotus odotus;
-  varalla_->Kopioi(ajat_);
-  VaadiRakennus().RekisteriVanheni();
-  KayttoLiittyma.Sulje();
-} catch (...) {
-  NostaVirhe("Kayntiaikamuokkaus:KayttoLiittyma_PeruutaKlikattu Method");
 }

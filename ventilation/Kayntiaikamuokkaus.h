@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,9 +16,9 @@ class Kayntiaikamuokkaus {
   bool Nayta();
 
  private:
-  using Lomakesarake = frmIlmanvaihtokoneenKayntiajat::Sarake;
-
   void LiitaTapahtumat();
+  void NaytaSyottotapa();
+  std::string SyottotavanNimi() const;
   /// The seasons of the way of entering, the first one chosen.
   void NaytaJaksot();
   /// The chosen season's lines to the fields.
@@ -37,16 +36,12 @@ class Kayntiaikamuokkaus {
   clsKayntiAika& Jakso(std::size_t rivi) const;
 
   void KayttoLiittyma_SyottotapaValittu();
-  void KayttoLiittyma_KenttaMuuttui(std::size_t rivi, Lomakesarake sarake);
-  void KayttoLiittyma_KenttaJatetty(std::size_t rivi, Lomakesarake sarake);
+  void KayttoLiittyma_KenttaMuuttui(std::size_t rivi);
+  void KayttoLiittyma_KenttaJatetty(std::size_t rivi);
   void KayttoLiittyma_TunteinaKlikattu(std::size_t rivi);
   void KayttoLiittyma_KopioiMuihinKlikattu();
-  void KayttoLiittyma_OkKlikattu();
-  void KayttoLiittyma_PeruutaKlikattu();
 
   clsKayntiAjat& ajat_;
-  std::unique_ptr<clsKayntiAjat> varalla_;  // as they were when the dialog opened
   frmIlmanvaihtokoneenKayntiajat KayttoLiittyma;
   std::vector<int> jaksot_;  // seasons in the list
-  bool hyvaksytty_ = false;
 };

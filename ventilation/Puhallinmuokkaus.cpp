@@ -3,11 +3,12 @@
 
 #include <limits>
 
+#include "building/Muokkausistunto.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "tekstit/lomakkeet_puhaltimet.h"
 #include "ui/Hiljaa.h"
-#include "ui/Odotus.h"
+#include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -21,6 +22,26 @@ constexpr const char* kTeho = "### ##0.000";  // kW
 constexpr const char* kVirta = "### ##0.00#";
 constexpr const char* kProsentti = "0.##";
 constexpr const char* kEiArvoa = "---";
+
+double TuloOsateho(const Kulutus& k) { return k.TallennettuTuloSahkoOsaTeho(); }
+double PoistoOsateho(const Kulutus& k) { return k.TallennettuPoistoSahkoOsaTeho(); }
+void AsetaTuloOsateho(Kulutus& k, double teho) { k.TuloSahkoOsaTeho(teho); }
+void AsetaPoistoOsateho(Kulutus& k, double teho) { k.PoistoSahkoOsaTeho(teho); }
+
+const Sidontataulu kSidonnat{
+    "frmIVKoneenPuhaltimienSahkonKaytto",
+    {
+        Lukukentta<&Kulutus::Teho11Prosentti>("txtTeho11Prosentti", kProsentti),
+        Lukukentta<&Kulutus::OsaTehoProsentti>("txtOsaTehoProsentti", kProsentti),
+        Lukukentta<&Kulutus::TuloSahkoTeho11>("txtSahkoTeho11Tulo", kTeho),
+        Lukukentta<&Kulutus::PoistoSahkoTeho11>("txtSahkoTeho11Poisto", kTeho),
+        Valintakentta<&Kulutus::Teho11TiedonLaatuIDTulo>("cmbTeho11TiedonLaatuTulo"),
+        Valintakentta<&Kulutus::Teho11TiedonLaatuIDPoisto>("cmbTeho11TiedonLaatuPoisto"),
+        Lukukentta<Funktiot<TuloOsateho, AsetaTuloOsateho>>("txtSahkoOsaTehoTulo", kTeho),
+        Lukukentta<Funktiot<PoistoOsateho, AsetaPoistoOsateho>>("txtSahkoOsaTehoPoisto", kTeho),
+        Valintakentta<&Kulutus::OsaTehoTiedonLaatuIDTulo>("cmbOsaTehoTiedonLaatuTulo"),
+        Valintakentta<&Kulutus::OsaTehoTiedonLaatuIDPoisto>("cmbOsaTehoTiedonLaatuPoisto"),
+    }};
 
 /// The members of one fan.
 struct Puhallintiedot {
@@ -62,52 +83,35 @@ std::vector<double> Tehokayra(PuhaltimenTeho puhallin) {
 
 }  // namespace
 
-Puhallinmuokkaus::Puhallinmuokkaus(clsPuhaltimenSahkonKulutus& kulutus)
-    : kulutus_(kulutus), varalla_(kulutus.Kopioi()) {
-  LiitaTapahtumat();
-  if (!kulutus.KoneenTunnus.empty()) KayttoLiittyma.Otsikko(kulutus.KoneenTunnus + ": " + KayttoLiittyma.Otsikko());
-}
+Puhallinmuokkaus::Puhallinmuokkaus(clsPuhaltimenSahkonKulutus& kulutus) : kulutus_(kulutus) { LiitaTapahtumat(); }
 
 void Puhallinmuokkaus::LiitaTapahtumat() {
-  KayttoLiittyma.TaysiVirtaMuuttui = [this] {
-    KayttoLiittyma_IlmavirtaMuuttui(KayttoLiittyma.txtTeho11Prosentti, &Kulutus::Teho11Prosentti);
-  };
-  KayttoLiittyma.OsavirtaMuuttui = [this] {
-    KayttoLiittyma_IlmavirtaMuuttui(KayttoLiittyma.txtOsaTehoProsentti, &Kulutus::OsaTehoProsentti);
-  };
+  KayttoLiittyma.IlmavirtaMuuttui = [this] { KayttoLiittyma_IlmavirtaMuuttui(); };
   KayttoLiittyma.TaysiTehoMuuttui = [this](Puoli puoli) { KayttoLiittyma_TaysiTehoMuuttui(puoli); };
   KayttoLiittyma.TaydenTehonLaatuValittu = [this](Puoli puoli) { KayttoLiittyma_TaydenTehonLaatuValittu(puoli); };
   KayttoLiittyma.TarkennettuKlikattu = [this](Puoli puoli) { KayttoLiittyma_TarkennettuKlikattu(puoli); };
   KayttoLiittyma.OsaTehoMuuttui = [this](Puoli puoli) { KayttoLiittyma_OsaTehoMuuttui(puoli); };
   KayttoLiittyma.OsaTehonLaatuValittu = [this](Puoli puoli) { KayttoLiittyma_OsaTehonLaatuValittu(puoli); };
-  KayttoLiittyma.OkKlikattu = [this] { KayttoLiittyma_OkKlikattu(); };
-  KayttoLiittyma.PeruutaKlikattu = [this] { KayttoLiittyma_PeruutaKlikattu(); };
 }
 
 bool Puhallinmuokkaus::Nayta() {
-  LueDataluokka();
-  KayttoLiittyma.NaytaModaalisena();
-  return hyvaksytty_;
+  Muokkausistunto istunto(kulutus_, KayttoLiittyma,
+                          {.nimi = kulutus_.KoneenTunnus,
+                           .lue = [this] { LueDataluokka(); },
+                           .kirjoita = [this] { kSidonnat.Kirjoita(KayttoLiittyma, kulutus_); },
+                           .tarkista = [this] { return OsatehotLaskettavissa(); },
+                           .virheenJalkeen = [this] { LueDataluokka(); }});
+  return istunto.Nayta();
 }
 
 void Puhallinmuokkaus::LueDataluokka() try {
-  KayttoLiittyma.txtTeho11Prosentti.Luku(kulutus_.Teho11Prosentti, kProsentti);
-  KayttoLiittyma.txtOsaTehoProsentti.Luku(kulutus_.OsaTehoProsentti, kProsentti);
-  for (const Puoli puoli : {Lomakeluokka::kTulo, Lomakeluokka::kPoisto}) LuePuhallin(puoli);
+  kSidonnat.Lue(KayttoLiittyma, kulutus_);
+  for (const Puoli puoli : {Lomakeluokka::kTulo, Lomakeluokka::kPoisto})
+    KayttoLiittyma.puhaltimet[puoli].txtIlmavirta11Teho.Luku(kulutus_.*kPuhaltimet[puoli].virta, kVirta);
   PaivitaKentat();
   NaytaTulokset();
 } catch (...) {
   NostaVirhe("Puhallinmuokkaus:LueDataluokka Method");
-}
-
-void Puhallinmuokkaus::LuePuhallin(Puoli puoli) {
-  const Puhallintiedot& t = kPuhaltimet[puoli];
-  const Lomakeluokka::Puhallin& kentat = KayttoLiittyma.puhaltimet[puoli];
-  kentat.txtIlmavirta11Teho.Luku(kulutus_.*t.virta, kVirta);
-  kentat.txtSahkoTeho11.Luku(kulutus_.*t.taysteho, kTeho);
-  kentat.cmbTeho11TiedonLaatu.Indeksi(kulutus_.*t.laatu);
-  kentat.txtSahkoOsaTeho.Luku((kulutus_.*t.tallennettuOsateho)(), kTeho);
-  kentat.cmbOsaTehoTiedonLaatu.Indeksi(kulutus_.*t.osalaatu);
 }
 
 bool Puhallinmuokkaus::OnPuhallin(Puoli puoli) const { return (kulutus_.*kPuhaltimet[puoli].onPuhallin)(); }
@@ -171,8 +175,8 @@ void Puhallinmuokkaus::NaytaHuomautus() {
   KayttoLiittyma.lblHuomautus.Otsikko(huomautus);
 }
 
-void Puhallinmuokkaus::KayttoLiittyma_IlmavirtaMuuttui(const TextBox& kentta, double Kulutus::*virta) try {
-  if (const auto luku = LueLuku(kentta.Teksti())) kulutus_.*virta = *luku;
+void Puhallinmuokkaus::KayttoLiittyma_IlmavirtaMuuttui() try {
+  kSidonnat.Kirjoita(KayttoLiittyma, kulutus_);
   NaytaTulokset();
 } catch (...) {
   NostaVirhe("Puhallinmuokkaus:KayttoLiittyma_IlmavirtaMuuttui Method");
@@ -181,10 +185,9 @@ void Puhallinmuokkaus::KayttoLiittyma_IlmavirtaMuuttui(const TextBox& kentta, do
 /// A power written by hand is given.
 void Puhallinmuokkaus::KayttoLiittyma_TaysiTehoMuuttui(Puoli puoli) try {
   const Puhallintiedot& t = kPuhaltimet[puoli];
-  const Lomakeluokka::Puhallin& kentat = KayttoLiittyma.puhaltimet[puoli];
-  if (const auto teho = LueLuku(kentat.txtSahkoTeho11.Teksti())) kulutus_.*t.taysteho = *teho;
+  kSidonnat.Kirjoita(KayttoLiittyma, kulutus_);
   kulutus_.*t.laatu = Kulutus::Annettu;
-  kentat.cmbTeho11TiedonLaatu.Indeksi(Lomakeluokka::kAnnettu);
+  KayttoLiittyma.puhaltimet[puoli].cmbTeho11TiedonLaatu.Indeksi(Lomakeluokka::kAnnettu);
   NaytaTulokset();
 } catch (...) {
   NostaVirhe("Puhallinmuokkaus:KayttoLiittyma_TaysiTehoMuuttui Method");
@@ -220,10 +223,9 @@ void Puhallinmuokkaus::KayttoLiittyma_TarkennettuKlikattu(Puoli puoli) try {
 
 void Puhallinmuokkaus::KayttoLiittyma_OsaTehoMuuttui(Puoli puoli) try {
   const Puhallintiedot& t = kPuhaltimet[puoli];
-  const Lomakeluokka::Puhallin& kentat = KayttoLiittyma.puhaltimet[puoli];
-  if (const auto teho = LueLuku(kentat.txtSahkoOsaTeho.Teksti())) (kulutus_.*t.asetaOsateho)(*teho);
+  kSidonnat.Kirjoita(KayttoLiittyma, kulutus_);
   kulutus_.*t.osalaatu = Kulutus::Annettu;
-  kentat.cmbOsaTehoTiedonLaatu.Indeksi(Lomakeluokka::kAnnettu);
+  KayttoLiittyma.puhaltimet[puoli].cmbOsaTehoTiedonLaatu.Indeksi(Lomakeluokka::kAnnettu);
 } catch (...) {
   NostaVirhe("Puhallinmuokkaus:KayttoLiittyma_OsaTehoMuuttui Method");
 }
@@ -242,22 +244,10 @@ void Puhallinmuokkaus::KayttoLiittyma_OsaTehonLaatuValittu(Puoli puoli) try {
 }
 
 /// The model itself tells what is wrong with a part flow, by computing once more.
-void Puhallinmuokkaus::KayttoLiittyma_OkKlikattu() try {
-  if (const auto puoli = Laskematon()) {
-    (kulutus_.*kPuhaltimet[*puoli].osateho)();
-    return KayttoLiittyma.txtOsaTehoProsentti.Kohdista();
-  }
-  hyvaksytty_ = true;
-  KayttoLiittyma.Sulje();
-} catch (...) {
-  varalla_->Kopioi(kulutus_);
-  NostaVirhe("Puhallinmuokkaus:KayttoLiittyma_OkKlikattu Method");
-}
-
-void Puhallinmuokkaus::KayttoLiittyma_PeruutaKlikattu() try {
-  Odotus odotus;
-  varalla_->Kopioi(kulutus_);
-  KayttoLiittyma.Sulje();
-} catch (...) {
-  NostaVirhe("Puhallinmuokkaus:KayttoLiittyma_PeruutaKlikattu Method");
+bool Puhallinmuokkaus::OsatehotLaskettavissa() {
+  const auto puoli = Laskematon();
+  if (!puoli) return true;
+  (kulutus_.*kPuhaltimet[*puoli].osateho)();
+  KayttoLiittyma.txtOsaTehoProsentti.Kohdista();
+  return false;
 }

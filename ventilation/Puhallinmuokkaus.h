@@ -21,7 +21,6 @@ class Puhallinmuokkaus {
 
   void LiitaTapahtumat();
   void LueDataluokka();
-  void LuePuhallin(Puoli puoli);
   /// What is computed: specific powers, part powers, the curve.
   void NaytaTulokset();
   void NaytaPuhaltimenTulokset(Puoli puoli);
@@ -30,22 +29,20 @@ class Puhallinmuokkaus {
   void PaivitaKentat();
   /// A fan whose part power can't be calculated at the flow given.
   std::optional<Puoli> Laskematon() const;
+  /// False, told, with the focus in the field of the part flow, when one can't.
+  bool OsatehotLaskettavissa();
 
   bool OnPuhallin(Puoli puoli) const;
   bool OnOsavirta() const;
   std::optional<double> Osateho(Puoli puoli) const;
 
-  void KayttoLiittyma_IlmavirtaMuuttui(const TextBox& kentta, double clsPuhaltimenSahkonKulutus::*virta);
+  void KayttoLiittyma_IlmavirtaMuuttui();
   void KayttoLiittyma_TaysiTehoMuuttui(Puoli puoli);
   void KayttoLiittyma_TaydenTehonLaatuValittu(Puoli puoli);
   void KayttoLiittyma_TarkennettuKlikattu(Puoli puoli);
   void KayttoLiittyma_OsaTehoMuuttui(Puoli puoli);
   void KayttoLiittyma_OsaTehonLaatuValittu(Puoli puoli);
-  void KayttoLiittyma_OkKlikattu();
-  void KayttoLiittyma_PeruutaKlikattu();
 
   clsPuhaltimenSahkonKulutus& kulutus_;
-  std::unique_ptr<clsPuhaltimenSahkonKulutus> varalla_;  // as it was when the dialog opened
   frmIVKoneenPuhaltimienSahkonKaytto KayttoLiittyma;
-  bool hyvaksytty_ = false;
 };

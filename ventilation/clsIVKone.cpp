@@ -97,6 +97,17 @@ void clsIVKone::SisaanpuhallusLampotila(double lampotila) noexcept {
     if (jakso.Jakso == clsKayntiAika::KokoVuosi) jakso.Tsp = lampotila;
 }
 
+void clsIVKone::AsetaLampeneminen(double lampeneminen) noexcept {
+  IlmanLampeneminenPuhaltimessa = lampeneminen;
+  for (clsKayntiAika& jakso : KayntiAikaYleistiedot) jakso.dTPuhallin = lampeneminen;
+}
+
+void clsIVKone::PoistaPeriaatteeseenKuulumattomat() noexcept {
+  if (!OnTulopuhallin()) TuloIlmavirta11Teho = 0;
+  if (!OnPoistopuhallin()) PoistoIlmavirta11Teho = 0;
+  if (!OnTalteenotto()) LtoHyotysuhde = 0;
+}
+
 void clsIVKone::VakioPaineOsuusID(std::int32_t rivi) noexcept {
   vakioPaineOsuusID_ = rivi;
   PuhaltimienSahkonKulutus.VakioPaineOsuusID = rivi;

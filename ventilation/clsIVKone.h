@@ -9,8 +9,6 @@
 #include "ventilation/clsLto.h"
 #include "ventilation/clsPuhaltimenSahkonKulutus.h"
 
-class frmIlmanvaihtokone;
-
 /// A ventilation machine: flows, temperatures, schedule, heat recovery and fans. It gives the space that it serves its
 /// ventilation loss or gain, and the building its after-heating and fan electricity.
 ///
@@ -96,29 +94,18 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   /// Opens the dialog of the machine, modal. OK writes the values, removes what the principle doesn't have (a flow,
   /// heat recovery) and raises the event; Cancel restores the machine with its schedule and fans. True after OK.
   bool NaytaKayttoliittyma();
-  void LueDataluokka();
-  void KirjoitaDataluokka();
+  /// Sets the warming in the fan, K, also to all periods of the schedule.
+  void AsetaLampeneminen(double lampeneminen) noexcept;
+  /// A flow without its fan would be heated, and efficiency without exhaust air recover heat.
+  void PoistaPeriaatteeseenKuulumattomat() noexcept;
 
  private:
   static const Jasen kJasenet[];
 
-  void LiitaTapahtumat();
-  void LueLomakkeelta(clsIVKone& kone) const;
-  void AsetaLampeneminen(double lampeneminen);
-  void PoistaPeriaatteeseenKuulumattomat();
-  void NaytaVuosi();
-  template <class T>
-  void MuokkaaOsaa(T& osa);
-  void SuljeKayttoliittyma();
   bool OnElavassaMallissa() const;
-  void KayttoLiittyma_LtoKlikattu();
-  void KayttoLiittyma_OkKlikattu();
-  void KayttoLiittyma_PeruutaKlikattu();
 
   double PuhallinSahko(PuhaltimenTeho& tulo, PuhaltimenTeho& poisto, int kuukausi) const;
 
   double sisaanpuhallusLampotila_ = 16.0;
   std::int32_t vakioPaineOsuusID_ = 1;
-  Oma<std::shared_ptr<frmIlmanvaihtokone>> kayttoLiittyma_;
-  Oma<std::shared_ptr<clsIVKone>> varalla_;  // as it was when the dialog opened
 };

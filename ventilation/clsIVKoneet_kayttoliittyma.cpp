@@ -133,9 +133,7 @@ bool clsIVKoneet::Muokkaa(clsIVKone& kone) try {
   NostaVirhe("clsIVKoneet:Muokkaa Method");
 }
 
-void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() {
-  VaadiRakennus().Muuttui(Teksti(tekstit::kIlmanvaihtokoneenTiedot));
-}
+void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() { VuotuinenIVjalkilammitysLampoUpToDate = false; }
 
 void clsIVKoneet::Valitse(const Tunniste& avain) {
   kayttoLiittyma_.arvo->lvwKoneet.Valitse(avain);

@@ -6,8 +6,6 @@
 #include "kernel/Laskenta.h"
 #include "kernel/Olio.h"
 
-class frmLTOhyotylaskenta;
-
 /// Calculator of a heat recovery unit's temperature efficiency from three measured temperatures.
 class clsLto : public Malli<clsLto> {
  public:
@@ -24,16 +22,6 @@ class clsLto : public Malli<clsLto> {
   /// Raised after the dialog's OK with the efficiency in per cent.
   Oma<std::function<void(double)>> LtoHyotysuhdeMuuttui;
 
-  /// Opens the calculator over a copy, modal. OK writes the temperatures back and raises the event. True after OK.
+  /// Opens the calculator, modal. OK keeps the temperatures and raises the event. True after OK.
   bool NaytaKayttoliittyma();
-  void LueDataluokka();
-  void KirjoitaDataluokka();
-
- private:
-  void NaytaHyotysuhde();
-  void KayttoLiittyma_DataMuuttui();
-  void KayttoLiittyma_OkKlikattu();
-
-  Oma<std::shared_ptr<frmLTOhyotylaskenta>> kayttoLiittyma_;
-  Oma<std::shared_ptr<clsLto>> muokattava_;  // the copy in the open dialog
 };

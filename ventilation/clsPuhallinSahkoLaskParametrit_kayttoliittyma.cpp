@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog of a fan's detailed calculation.
+#include "building/Muokkausistunto.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "ui/Hiljaa.h"
+#include "ui/Sidonta.h"
 #include "ui/frmPuhaltimenOttotehonTarkennettuLaskenta.h"
 #include "ventilation/clsPuhallinSahkoLaskParametrit.h"
 
@@ -13,19 +15,19 @@ using Parametrit = clsPuhallinSahkoLaskParametrit;
 constexpr const char* kTeho = "### ##0.000";  // kW
 constexpr const char* kEiArvoa = "---";
 
-/// In the order of the form's fields.
-struct Lukukentta {
-  double Parametrit::*luku;
-  const char* kuvio;
-};
-constexpr Lukukentta kLukukentat[] = {
-    {&Parametrit::Ilmavirta, "### ##0.0##"},     {&Parametrit::PaineenKorotus, "### ##0.#"},
-    {&Parametrit::PuhaltimenHyotysuhde, "0.0#"}, {&Parametrit::HihnavalityksenHyotysuhde, "0.0#"},
-    {&Parametrit::MoottorinHyotysuhde, "0.0#"},  {&Parametrit::TaajuusmuuttajanHyotysuhde, "0.0#"},
-};
+const Sidontataulu kSidonnat{
+    "frmPuhaltimenOttotehonTarkennettuLaskenta",
+    {
+        Lukukentta<&Parametrit::Ilmavirta>("txtIlmavirta", "### ##0.0##"),
+        Lukukentta<&Parametrit::PaineenKorotus>("txtPaineenKorotus", "### ##0.#"),
+        Lukukentta<&Parametrit::PuhaltimenHyotysuhde>("txtPuhaltimenHyotysuhde", "0.0#"),
+        Lukukentta<&Parametrit::HihnavalityksenHyotysuhde>("txtHihnavalityksenHyotysuhde", "0.0#"),
+        Lukukentta<&Parametrit::MoottorinHyotysuhde>("txtMoottorinHyotysuhde", "0.0#"),
+        Lukukentta<&Parametrit::TaajuusmuuttajanHyotysuhde>("txtTaajuusmuuttajanHyotysuhde", "0.0#"),
+    }};
 
-void NaytaOttoteho(const frmPuhaltimenOttotehonTarkennettuLaskenta& lomake, const Parametrit& luonnos) {
-  const auto teho = LaskeHiljaa([&] { return luonnos.Ottoteho(); });
+void NaytaOttoteho(const frmPuhaltimenOttotehonTarkennettuLaskenta& lomake, const Parametrit& parametrit) {
+  const auto teho = LaskeHiljaa([&] { return parametrit.Ottoteho(); });
   lomake.txtOttoteho.Teksti(teho ? Muotoile(*teho, kTeho) : kEiArvoa);
 }
 
@@ -33,24 +35,20 @@ void NaytaOttoteho(const frmPuhaltimenOttotehonTarkennettuLaskenta& lomake, cons
 
 bool clsPuhallinSahkoLaskParametrit::NaytaKayttoliittyma(const std::string& puhallin, double koneenVirta) try {
   frmPuhaltimenOttotehonTarkennettuLaskenta lomake;
-  Parametrit luonnos = *this;
-  bool hyvaksytty = false;
-  if (luonnos.Ilmavirta == 0) luonnos.Ilmavirta = koneenVirta;
-  lomake.Otsikko(puhallin + ": " + lomake.Otsikko());
-  lomake.KenttaMuuttui = [&](std::size_t i) {
-    if (const auto luku = LueLuku(lomake.kentat[i].Teksti())) luonnos.*kLukukentat[i].luku = *luku;
-    NaytaOttoteho(lomake, luonnos);
+  lomake.KenttaMuuttui = [&] {
+    kSidonnat.Kirjoita(lomake, *this);
+    NaytaOttoteho(lomake, *this);
   };
-  lomake.OkKlikattu = [&] {
-    hyvaksytty = true;
-    lomake.Sulje();
-  };
-  for (std::size_t i = 0; i < lomake.kentat.size(); ++i)
-    lomake.kentat[i].Luku(luonnos.*kLukukentat[i].luku, kLukukentat[i].kuvio);
-  NaytaOttoteho(lomake, luonnos);
-  lomake.NaytaModaalisena();
-  if (hyvaksytty) *this = luonnos;
-  return hyvaksytty;
+  Muokkausistunto istunto(*this, lomake,
+                          {.nimi = puhallin,
+                           .lue =
+                               [&] {
+                                 if (Ilmavirta == 0) Ilmavirta = koneenVirta;
+                                 kSidonnat.Lue(lomake, *this);
+                                 NaytaOttoteho(lomake, *this);
+                               },
+                           .kirjoita = [&] { kSidonnat.Kirjoita(lomake, *this); }});
+  return istunto.Nayta();
 } catch (...) {
   NostaVirhe("clsPuhallinSahkoLaskParametrit:NaytaKayttoliittyma Method");
 }

@@ -2,6 +2,7 @@
 // The basic-data dialog and the heat summary, driven as a person would, without a screen.
 #include "kernel/Luvut.h"
 #include "tests/building/Koerakennus.h"
+#include "ui/Kenttatarkistus.h"
 #include "ui/frmLampoYhteenveto.h"
 
 namespace {
@@ -9,6 +10,7 @@ namespace {
 class DialogiTesti : public RakennusTesti {
  protected:
   DialogiTesti() {
+    AsetaTarkistuksenKello(nullptr);
     AlustaPerustiedot(rakennus->Perustiedot);
     AlustaToteutuneetKulutukset(rakennus->Perustiedot.ToteutuneetKulutukset);
   }
@@ -42,6 +44,79 @@ TEST_F(DialogiTesti, TheFirstOkMakesTheModel) {
   ASSERT_EQ(rakennus->Tilat.Count(), 1);
   EXPECT_EQ(rakennus->Tilat.Item(1).Rakenteet.Count(), 7);
   EXPECT_FALSE(rakennus->Tallennettu);
+}
+
+TEST_F(DialogiTesti, TheFirstModelIsMadeOnlyFromDataThatMakesSense) {
+  ikkunat.KunNaytetaan("frmPerustiedot", [this](Ikkunaton& lomake) {
+    const auto hylataan = [&](const char* kentta, const char* arvo, const char* hyva) {
+      viestit.Tyhjenna();
+      lomake.KayttajaKirjoittaa(kentta, arvo);
+      lomake.KayttajaPainaa("cmdOk");
+      EXPECT_TRUE(lomake.Auki()) << kentta;
+      EXPECT_EQ(lomake.Kohdistettu(), kentta);
+      EXPECT_EQ(viestit.Naytetyt().size(), 1u) << kentta;
+      lomake.KayttajaKirjoittaa(kentta, hyva);
+    };
+    TaytaOmakotitalo(lomake);
+    hylataan("txtValmistumisVuosi", "75", "1985");
+    hylataan("txtKokonaistilavuus", "0", "430");
+    hylataan("txtBruttoAla", "0", "160");
+    hylataan("txtKerrostenLukumaara", "0", "1");
+    EXPECT_EQ(viestit.Esiintymia("Kerrosten lukumäärä puuttuu."), 1);
+    hylataan("txtPvm", "abc", "1.2.2026");
+    EXPECT_EQ(rakennus->Tilat.Count(), 0);
+    lomake.KayttajaPainaa("cmdOk");
+    EXPECT_FALSE(lomake.Auki());
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  EXPECT_EQ(rakennus->Tilat.Count(), 1);
+}
+
+TEST_F(DialogiTesti, AnUneditedModelCanBeMadeAnewAndAnEditedOneCant) {
+  LuoKoulu();
+  rakennus->ProjektiAsetukset.strCurrentProjectFile = "koulu.lvt";
+  const double ala = rakennus->Tilat.Item(1).BruttoAla;
+  ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
+    lomake.KayttajaKirjoittaa("txtBruttoAla", "2100");
+    lomake.KayttajaPainaa("cmdLuoMalli");
+    EXPECT_FALSE(lomake.Auki());
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  ASSERT_EQ(rakennus->Tilat.Count(), 1);
+  EXPECT_EQ(rakennus->Tilat.Item(1).BruttoAla, ala / 2);
+  EXPECT_EQ(rakennus->ProjektiAsetukset.strCurrentProjectFile, "koulu.lvt");
+
+  rakennus->MuutosVahvistettu = [](std::string_view) { throw std::runtime_error("levy täynnä"); };
+  ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
+    lomake.KayttajaKirjoittaa("txtBruttoAla", "1000");
+    lomake.KayttajaPainaa("cmdLuoMalli");
+    EXPECT_TRUE(lomake.Auki());
+    lomake.KayttajaPainaa("cmdPeruuta");
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  EXPECT_EQ(rakennus->Tilat.Item(1).BruttoAla, 2100) << "the former model is in its place";
+  EXPECT_EQ(rakennus->Perustiedot.BruttoAla, 2100);
+  rakennus->MuutosVahvistettu = nullptr;
+
+  rakennus->Tilat.Item(1).Rakenteet.Item(1).PintaAla += 1;
+  ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
+    EXPECT_FALSE(lomake.Etsi("cmdLuoMalli").Kaytossa());
+    lomake.KayttajaPainaa("cmdPeruuta");
+  });
+  rakennus->Perustiedot.NaytaKayttoliityma();
+}
+
+TEST_F(DialogiTesti, YearsOfMeasuredConsumptionFollowTheLastOne) {
+  ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
+    TaytaOmakotitalo(lomake);
+    lomake.KayttajaKirjoittaa("txtKulutusTietojenViimVuosi", "20");
+    lomake.KayttajaKirjoittaa("txtKulutusTietojenViimVuosi", "2019");
+    EXPECT_EQ(lomake.Teksti("lblVuosi1") + lomake.Teksti("lblVuosi3"), "20192017");
+    lomake.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  EXPECT_EQ(rakennus->Perustiedot.ToteutuneetKulutukset.KulutusTietojenViimVuosi, 2019);
+  EXPECT_EQ(rakennus->Perustiedot.ToteutuneetKulutukset.Vuosi(1)->Lampo, 20.4);
 }
 
 TEST_F(DialogiTesti, CancelRestoresExactlyAndDropsANewObject) {

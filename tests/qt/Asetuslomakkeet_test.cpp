@@ -84,7 +84,7 @@ TEST_F(Asetuslomakkeet, VirheellinenKenttaTuodaanEsiinPiilossaOlevaltaValilehdel
   EXPECT_FALSE(hyvaksytty);
   EXPECT_EQ(lomake.tabAsetukset.Indeksi(), 0);
   ASSERT_EQ(viestit.Naytetyt().size(), 1u);
-  EXPECT_NE(viestit.Naytetyt()[0].teksti.find("0 - 100"), std::string::npos);
+  EXPECT_NE(viestit.Naytetyt()[0].teksti.find("vähintään 0, enintään 100."), std::string::npos);
 }
 
 TEST_F(Asetuslomakkeet, OhjelmanTiedotKopioituvat) {

@@ -156,7 +156,8 @@ TEST_F(Taytetyt, MuutostenLuetteloMahtuuIkkunaansa) {
 }
 
 void TaytaKone(frmIlmanvaihtokone& lomake) {
-  lomake.Tilat({"Työväenopiston luokkahuoneet ja käytävät, itäsiipi", "Kirjasto"}, 1);
+  lomake.Tilat({"Työväenopiston luokkahuoneet ja käytävät, itäsiipi", "Kirjasto"});
+  lomake.cmbLiittyyTilaan.Indeksi(1);
   lomake.txtKoneenTunnus.Teksti("TK01/PK01 luokat ja käytävät, itäsiipi");
   lomake.txtTuloIlmavirta11Teho.Luku(12.345, "0.00#");
   lomake.txtPoistoIlmavirta11Teho.Luku(12.5, "0.00#");

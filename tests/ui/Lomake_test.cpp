@@ -170,8 +170,8 @@ TEST_F(Lomakekerros, KenttatarkistusEhdoittain) {
   };
   for (const Tapaus& t :
        {Tapaus{"1 0,5", "0", nullptr, "", false}, Tapaus{"1.5", "1 000,5", nullptr, "", false},
-        Tapaus{"", "0", "", "txtLuku", true}, Tapaus{"1,49", "0", " 1,5 - 100", "txtLuku", false},
-        Tapaus{"100,01", "0", " 1,5 - 100", "txtLuku", false}, Tapaus{"50", "-1", " >= 0", "txtPiilossa", false}}) {
+        Tapaus{"", "0", "", "txtLuku", true}, Tapaus{"1,49", "0", " vähintään 1,5, enintään 100.", "txtLuku", false},
+        Tapaus{"100,01", "0", " vähintään 1,5, enintään 100.", "txtLuku", false}, Tapaus{"50", "-1", " vähintään 0.", "txtPiilossa", false}}) {
     SCOPED_TRACE(std::string(t.luku) + " / " + t.piilossa);
     frmKoe lomake;
     nyt += 5000;

@@ -356,7 +356,7 @@ TEST_F(KoneDialogi, AnEfficiencyOverHundredIsShownButNotAccepted) {
     l.KayttajaPainaa("cmdOk");
     EXPECT_TRUE(l.Auki());
     EXPECT_EQ(l.Kohdistettu(), "txtLtoHyotysuhde");
-    EXPECT_EQ(viestit.Esiintymia("0 - 100"), 1);
+    EXPECT_EQ(viestit.Esiintymia("vähintään 0 %, enintään 100 %"), 1);
     l.KayttajaPainaa("cmdPeruuta");
   });
 }

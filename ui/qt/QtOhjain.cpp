@@ -240,6 +240,9 @@ Ohjainkuvaus LueKuvaus(QWidget& widget, Ohjaintyyppi tyyppi) {
   k.vihjetag = Ominaisuus(widget, "ToolTipText");
   k.teksti = Ominaisuus(widget, tyyppi == Ohjaintyyppi::Frame ? "title" : "text");
   k.sailio = widget.parentWidget()->objectName().toStdString();
+  if (const auto* otsikko = dynamic_cast<QLabel*>(&widget); otsikko && otsikko->buddy())
+    k.kumppani = otsikko->buddy()->objectName().toStdString();
+  k.nimio = Ominaisuus(widget, "Nimio");
   k.lukittu = widget.property("readOnly").toBool();
   k.kaytossa = !widget.testAttribute(Qt::WA_ForceDisabled);
   k.nakyva = !(widget.isHidden() && widget.testAttribute(Qt::WA_WState_ExplicitShowHide));

@@ -3,13 +3,13 @@
 
 #include <QLabel>
 #include <QSet>
-#include <QStringList>
 #include <QTabWidget>
 #include <QWidget>
 #include <algorithm>
 #include <vector>
 
 #include "kernel/Kirjainkoko.h"
+#include "ui/Kenttanimi.h"
 #include "ui/qt/QtOhjain.h"
 
 namespace {
@@ -17,12 +17,6 @@ namespace {
 constexpr std::string_view kIlmanKirjainta[] = {"cmdOk", "cmdPeruuta", "cmdSulje", "cmdJatka"};
 
 QtOhjain& Qt_(const std::unique_ptr<Ohjain>& ohjain) { return static_cast<QtOhjain&>(*ohjain); }
-
-QString Otsikko(const Ohjain& ohjain) {
-  QString otsikko = QString::fromStdString(ohjain.Teksti());
-  if (otsikko.endsWith(':')) otsikko.chop(1);
-  return otsikko;
-}
 
 QWidget* Kumppani(const QtOhjain& ohjain) {
   const auto* otsikko = dynamic_cast<const QLabel*>(ohjain.Widget());
@@ -102,12 +96,6 @@ bool AnnaKirjain(std::vector<Saaja>& saajat, Saaja& saaja, QSet<QChar>& koetut) 
   });
 }
 
-QString NimionTeksti(const Lomakeikkuna& ikkuna, const QString& nimio) {
-  QStringList osat;
-  for (const QString& nimi : nimio.split(',')) osat << Otsikko(ikkuna.Etsi(nimi.toStdString()));
-  return osat.join(QStringLiteral(", "));
-}
-
 }  // namespace
 
 /// What lies on fewer pages comes first: more of the others can be seen beside it.
@@ -125,11 +113,9 @@ void JaaPikakirjaimet(const Lomakeikkuna& ikkuna) {
 
 void NimeaKentat(const Lomakeikkuna& ikkuna) {
   for (const auto& pohja : ikkuna.Ohjaimet()) {
-    const QtOhjain& ohjain = Qt_(pohja);
-    if (QWidget* kentta = Kumppani(ohjain)) kentta->setAccessibleName(Otsikko(ohjain));
-    QWidget* widget = ohjain.Widget();
-    if (const QString nimio = widget->property("Nimio").toString(); !nimio.isEmpty())
-      widget->setAccessibleName(NimionTeksti(ikkuna, nimio));
+    QWidget* widget = Qt_(pohja).Widget();
+    if (const std::string nimi = KentanNimi(ikkuna, *pohja); !nimi.empty())
+      widget->setAccessibleName(QString::fromStdString(nimi));
     widget->setAccessibleDescription(widget->toolTip());
   }
 }
