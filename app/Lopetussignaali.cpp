@@ -19,6 +19,9 @@ int AvaaPutki() {
   return g_putki[0];
 }
 
+/// The session ends (its desktop, its terminal) or the person wants the program to end.
+constexpr std::array kSignaalit{SIGTERM, SIGHUP, SIGINT};
+
 void Kasittele(int) {
   const int virhe = errno;
   [[maybe_unused]] const ssize_t kirjoitettu = write(g_putki[1], "t", 1);
@@ -33,10 +36,10 @@ Lopetussignaali::Lopetussignaali(std::function<void()> kunTulee) : kuuntelija_(A
     while (read(g_putki[0], &merkki, 1) > 0) continue;
     kunTulee();
   });
-  std::signal(SIGTERM, Kasittele);
+  for (const int signaali : kSignaalit) std::signal(signaali, Kasittele);
 }
 
 Lopetussignaali::~Lopetussignaali() {
-  std::signal(SIGTERM, SIG_DFL);
+  for (const int signaali : kSignaalit) std::signal(signaali, SIG_DFL);
   for (const int kahva : g_putki) close(kahva);
 }

@@ -3,8 +3,8 @@
 #include <QSocketNotifier>
 #include <functional>
 
-/// SIGTERM as an event of the program: the signal's handler only writes to a socket, and the function runs from the
-/// event loop, where it may do what it likes. One object at a time.
+/// SIGTERM, SIGHUP or SIGINT as an event of the program: the signal's handler only writes to a socket, and the function
+/// runs from the event loop, where it may do what it likes. One object at a time.
 class Lopetussignaali {
  public:
   explicit Lopetussignaali(std::function<void()> kunTulee);

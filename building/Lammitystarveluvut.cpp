@@ -6,7 +6,7 @@
 #include "kernel/Virhe.h"
 
 std::optional<Lammitystarveluku> HaeLammitystarveluku(int paikkakunta, int vuosi) try {
-  Tietokanta kanta(AppPath() + "Oletuskanta.mdb");
+  Tietokanta kanta(Aineistotiedosto("Oletuskanta.mdb"));
   Kysely kysely(kanta, "SELECT Luku, Lahde FROM Lammitystarveluku WHERE PaikkakuntaID = ? AND Vuosi = ?", paikkakunta,
                 vuosi);
   if (!kysely.Seuraava()) return std::nullopt;

@@ -90,10 +90,10 @@ struct Aurinkotiedostot {
     if (t.saaNimi != nimi || t.koti != AppPath())
       t = {AppPath(),
            nimi,
-           AppPath() + nimi,
-           AppPath() + "CenFh_Table.txt",
-           AppPath() + "CenFf_Table.txt",
-           AppPath() + "CenFo_Table.txt"};
+           Aineistotiedosto(nimi),
+           Aineistotiedosto("CenFh_Table.txt"),
+           Aineistotiedosto("CenFf_Table.txt"),
+           Aineistotiedosto("CenFo_Table.txt")};
     return t;
   }
 };

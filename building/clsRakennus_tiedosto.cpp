@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Saving and loading of the building: the project file itself is kernel/Projektitiedosto.
 #include <filesystem>
+#include <ranges>
 
 #include "building/Materiaalimuutokset.h"
+#include "building/Tiedostomuunnokset.h"
 #include "building/Versiotarkistus.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
@@ -61,10 +63,42 @@ Eteneminen NaytaOsat(Odotus& odotus, const std::string& alku) {
   };
 }
 
-void KerroVaurioista(const Latausraportti& raportti) {
-  std::string viesti = Teksti(tekstit::kVaurioituneitaArvoja) + " " + std::to_string(raportti.vaurioita);
-  for (const std::string& esimerkki : raportti.esimerkit) viesti += "\n" + esimerkki;
+/// The message with the first of the names below it.
+void KerroLuettelo(std::string viesti, const std::vector<std::string>& nimet) {
+  constexpr std::size_t kNimia = 20;
+  for (const std::string& nimi : nimet | std::views::take(kNimia)) viesti += "\n" + nimi;
   Ilmoita(viesti, Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
+}
+
+void KerroMenetettavasta(const Latausraportti& raportti) {
+  if (raportti.vaurioita > 0)
+    KerroLuettelo(Teksti(tekstit::kVaurioituneitaArvoja) + " " + std::to_string(raportti.vaurioita),
+                  raportti.esimerkit);
+  if (!raportti.tuntemattomat.empty()) KerroLuettelo(Teksti(tekstit::kTuntemattomiaTietoja), raportti.tuntemattomat);
+}
+
+/// What the person can do about a save that failed.
+Tekstinumero Neuvo(const std::exception& virhe) {
+  using Syy = Projektivirhe::Syy;
+  const auto* projektivirhe = dynamic_cast<const Projektivirhe*>(&virhe);
+  switch (projektivirhe ? projektivirhe->OmaSyy() : Syy::Kirjoitus) {
+    case Syy::MalliPuuttuu:
+    case Syy::Malli:
+      return tekstit::kNeuvoMalli;
+    case Syy::Arvo:
+      return tekstit::kNeuvoArvo;
+    case Syy::Vaihtunut:
+      return tekstit::kNeuvoVaihtunut;
+    default:
+      return tekstit::kNeuvoLevy;
+  }
+}
+
+/// The cause, what has become of the file, and what to do, in one message.
+void KerroTallennusvirhe(const std::exception& virhe) {
+  NaytaVirhe(virheet::kTallennusEpaonnistui,
+             SyynKuvaus(virhe) + ". Virhekoodi: " + std::to_string(virheet::kTallennusEpaonnistui) + "\n\n" +
+                 Teksti(tekstit::kTallennusEpaonnistui) + " " + Teksti(Neuvo(virhe)));
 }
 
 }  // namespace
@@ -83,15 +117,17 @@ bool clsRakennus::Tallenna(const std::string& tiedosto, const Tiedostotunnus* od
                           .odotettu = odotettu,
                           .eteneminen = NaytaOsat(odotus, Teksti(tekstit::kTallennetaanKohdetta))});
     LuettuTiedosto = raportti.tunnus;
+    Tallennettu = raportti.vahvistettu;
+    if (!Tallennettu)
+      Ilmoita(Teksti(tekstit::kTallennusVahvistamatta) + "\n" + tiedosto, Teksti(tekstit::kHuomautus),
+              Vakavuus::Varoitus);
     for (const std::string& luokka : raportti.ilmanTunnistetta)
       Ilmoita("Tänne ei pitäisi tulla. InstanssiId puuttuu! Olion typename: " + luokka);
     vaurioitunut_ = false;
-    return true;
+    return Tallennettu;
   } catch (const std::exception& virhe) {
     Tallennettu = false;
-    NaytaVirhe(virheet::kTallennusEpaonnistui,
-               SyynKuvaus(virhe) + ". Virhekoodi: " + std::to_string(virheet::kTallennusEpaonnistui));
-    Ilmoita(Teksti(tekstit::kTallennusEpaonnistui), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+    KerroTallennusvirhe(virhe);
     return false;
   }
 }
@@ -102,8 +138,10 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   raportti.eteneminen =
       NaytaOsat(odotus, Teksti(tekstit::kAvataanKohdetta) + LyhennaPolku(tiedosto, kPolunPituusPaneelissa));
   HaeProjekti(*this, tiedosto, raportti);
-  VaadiTunnettuVersio({Major, Minor, Revision});
+  const Tiedostoversio versio{Major, Minor, Revision};
+  VaadiTunnettuVersio(versio);
   LuettuTiedosto = raportti.tunnus;
+  const bool muunnettu = MuunnaNykyiseksi(*this, tiedosto, versio);
   const bool paivitetty = TarjoaMateriaalienPaivitysta();
   TyyppiTiedot.Nimet.TyhjennaIdListat();
   if (PaivitaIdLista(*this, TyyppiTiedot) > 0 && Saastotoimenpiteet.Count() > 0)
@@ -113,9 +151,9 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   ProjektiAsetukset.strCurrentProjectPath = std::filesystem::path(tiedosto).parent_path().string();
   PaaikkunaNyt().AsetaOtsikko("");
   for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) toimenpide.EnnenTiedotUpToDate = false;
-  vaurioitunut_ = raportti.vaurioita > 0;
-  Tallennettu = !vaurioitunut_ && !paivitetty;
-  if (vaurioitunut_) KerroVaurioista(raportti);
+  vaurioitunut_ = raportti.vaurioita > 0 || !raportti.tuntemattomat.empty();
+  Tallennettu = raportti.vaurioita == 0 && !muunnettu && !paivitetty;
+  KerroMenetettavasta(raportti);
 } catch (...) {
   NostaVirhe("clsRakennus:Hae Method");
 }

@@ -82,7 +82,7 @@ void clsSaa::AsetaSaaPaikkakunta(int paikkakunta) try {
 void clsSaa::LueSaaTiedosto(const std::string& tiedosto) try {
   SaaFileNimi = tiedosto;
   TyhjennaAurinkotaulukot();
-  const std::string polku = AppPath() + tiedosto;
+  const std::string polku = Aineistotiedosto(tiedosto);
   LueSaarivit(polku, [this](const Saarivi& rivi) {
     const auto kuukausi = static_cast<std::size_t>(rivi.kuukausi) - 1;
     taulut_.arvo.lampotila[kuukausi] = rivi.lampotila;

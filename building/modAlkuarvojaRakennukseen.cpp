@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/modAlkuarvojaRakennukseen.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <cmath>
 
 #include "building/clsPerustiedot.h"
@@ -13,6 +11,7 @@
 #include "kernel/Hakemistot.h"
 #include "kernel/Luvut.h"
 #include "kernel/Paivamaara.h"
+#include "kernel/Tietokanta.h"
 #include "kernel/Virhe.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
@@ -123,18 +122,18 @@ void Alusta(clsEnergianHankinta& hankinta, clsEnergianHankinta::Laji laji, int t
 
 /// Default rows of a use-type code and a year, at most two: more isn't asked for.
 std::vector<Oletusarvorivi> Oletusarvorivit(int koodi, int vuosi, const std::string& taulu) {
-  SQLite::Database kanta(AppPath() + "Oletuskanta.mdb", SQLite::OPEN_READONLY);
-  SQLite::Statement kysely(kanta, "SELECT " + taulu + ".* FROM " + taulu + ", RakennustyyppienOletusarvot " +
-                                      "WHERE RakennustyyppienOletusarvot.KayttotarkoitusID = ? " +
-                                      "AND RakennustyyppienOletusarvot.RakenneTyyppiRatkaisuID = " + taulu + ".Id " +
-                                      "AND RakennustyyppienOletusarvot.Rakennusv_alk <= ?2 " +
-                                      "AND RakennustyyppienOletusarvot.Rakennusv_lop >= ?2 LIMIT 2");
-  kysely.bind(1, koodi);
-  kysely.bind(2, vuosi);
+  const Tietokanta kanta(Aineistotiedosto("Oletuskanta.mdb"));
+  Kysely kysely(kanta,
+                "SELECT " + taulu + ".* FROM " + taulu + ", RakennustyyppienOletusarvot " +
+                    "WHERE RakennustyyppienOletusarvot.KayttotarkoitusID = ? " +
+                    "AND RakennustyyppienOletusarvot.RakenneTyyppiRatkaisuID = " + taulu + ".Id " +
+                    "AND RakennustyyppienOletusarvot.Rakennusv_alk <= ?2 " +
+                    "AND RakennustyyppienOletusarvot.Rakennusv_lop >= ?2 LIMIT 2",
+                koodi, vuosi);
   std::vector<Oletusarvorivi> rivit;
-  while (kysely.executeStep()) {
+  while (kysely.Seuraava()) {
     Oletusarvorivi rivi;
-    for (int i = 0; i < kysely.getColumnCount(); ++i) rivi[kysely.getColumnName(i)] = kysely.getColumn(i).getString();
+    for (int i = 0; i < kysely.Sarakkeita(); ++i) rivi[std::string(kysely.SarakkeenNimi(i))] = kysely.Teksti(i);
     rivit.push_back(std::move(rivi));
   }
   return rivit;

@@ -156,6 +156,13 @@ void AsetaAppPath(std::string_view hakemisto) {
   if (!g_appPath.empty() && !g_appPath.ends_with('/')) g_appPath += '/';
 }
 
+std::string Aineistotiedosto(std::string_view nimi) {
+  const std::string oma = AppPath() + std::string(nimi);
+  if (OnTiedosto(oma)) return oma;
+  const fs::path asennettu = AsennetutTiedostot() / nimi;
+  return OnTiedosto(asennettu) ? asennettu.string() : oma;
+}
+
 fs::path AsetusHakemisto() { return XdgHakemisto("XDG_CONFIG_HOME", ".config"); }
 
 Siemennys SiemennaTiedostot() {
@@ -171,8 +178,10 @@ Siemennys SiemennaTiedostot(const fs::path& lahde, const fs::path& kohde) {
     fs::create_directories(kohde);
     const Lukitus lukko((kohde / ".lumivirta.lukko").string());
     Siementaja(lahde, kohde).Siemenna(tulos);
-  } catch (const std::exception& e) {
-    tulos.virhe = e.what();
+  } catch (const fs::filesystem_error& virhe) {
+    tulos.virhe = virhe.path1().string() + ": " + Selitys(virhe.code());
+  } catch (const std::exception& virhe) {
+    tulos.virhe = virhe.what();
   }
   return tulos;
 }

@@ -17,6 +17,10 @@ const std::string& AppPath();
 /// library server.
 void AsetaAppPath(std::string_view hakemisto);
 
+/// Where a reference file, named from AppPath, is to be read: in AppPath, or where the package put it when AppPath
+/// lacks it (it couldn't be filled). The name in AppPath when there is none at all.
+std::string Aineistotiedosto(std::string_view nimi);
+
 /// "lumivirta" in the user's configuration directory (XDG_CONFIG_HOME), without "/" at its end; it need not exist.
 std::filesystem::path AsetusHakemisto();
 

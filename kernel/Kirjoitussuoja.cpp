@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Kirjoitussuoja.h"
 
+#include <sys/xattr.h>
+
+#include <array>
+#include <charconv>
 #include <filesystem>
 #include <map>
+#include <string_view>
 
 namespace fs = std::filesystem;
 
@@ -14,6 +19,23 @@ constexpr fs::perms kKaikkienKirjoitus = fs::perms::owner_write | fs::perms::gro
 std::map<fs::path, fs::perms>& Aiemmat() {
   static std::map<fs::path, fs::perms> aiemmat;
   return aiemmat;
+}
+
+/// The permissions are kept with the file too, where the file system has such notes: a crash takes the run's memory.
+constexpr const char* kMuistiinpano = "user.lumivirta.oikeudet";
+
+void Muista(const std::string& tiedosto, fs::perms oikeudet) {
+  const std::string luku = std::to_string(static_cast<unsigned>(oikeudet));
+  setxattr(tiedosto.c_str(), kMuistiinpano, luku.data(), luku.size(), 0);
+}
+
+/// Only rights to write come back, whatever the note says: they are all that the mark takes away.
+fs::perms Muistettu(const std::string& tiedosto) {
+  std::array<char, 16> teksti{};
+  const ssize_t pituus = getxattr(tiedosto.c_str(), kMuistiinpano, teksti.data(), teksti.size());
+  unsigned luku = 0;
+  if (pituus > 0) std::from_chars(teksti.data(), teksti.data() + pituus, luku);
+  return (static_cast<fs::perms>(luku) & kKaikkienKirjoitus) | fs::perms::owner_write;
 }
 
 fs::path Avain(const std::string& tiedosto) {
@@ -33,6 +55,7 @@ fs::perms Oikeudet(const std::string& tiedosto) {
 void AsetaKirjoitussuoja(const std::string& tiedosto) {
   const fs::perms oikeudet = Oikeudet(tiedosto);
   if (oikeudet == fs::perms::unknown || OnKirjoitussuojattu(tiedosto)) return;
+  Muista(tiedosto, oikeudet);
   std::error_code virhe;
   fs::permissions(tiedosto, oikeudet & ~kKaikkienKirjoitus, virhe);
   if (!virhe) Aiemmat()[Avain(tiedosto)] = oikeudet;
@@ -46,7 +69,7 @@ bool OnKirjoitussuojattu(const std::string& tiedosto) {
 void PoistaKirjoitussuoja(const std::string& tiedosto) {
   const auto aiempi = Aiemmat().extract(Avain(tiedosto));
   if (!OnKirjoitussuojattu(tiedosto)) return;
-  const fs::perms lisattavat = aiempi ? aiempi.mapped() : fs::perms::owner_write;
   std::error_code virhe;
-  fs::permissions(tiedosto, lisattavat, fs::perm_options::add, virhe);
+  fs::permissions(tiedosto, aiempi ? aiempi.mapped() : Muistettu(tiedosto), fs::perm_options::add, virhe);
+  removexattr(tiedosto.c_str(), kMuistiinpano);
 }

@@ -10,6 +10,6 @@ void AsetaKirjoitussuoja(const std::string& tiedosto);
 /// True when the owner may not write. Looks at the permissions, not at whether writing succeeds: as root it always
 /// does.
 bool OnKirjoitussuojattu(const std::string& tiedosto);
-/// Takes the mark away: the permissions are what they were when this run set it, else the owner gets the right to
-/// write.
+/// Takes the mark away: the permissions are what they were when it was set, also by a run that has died. Where the file
+/// system keeps no notes with a file and the run has died, the owner alone gets the right to write.
 void PoistaKirjoitussuoja(const std::string& tiedosto);

@@ -64,13 +64,30 @@ Kahva AvaaTiedosto(const std::string& tiedosto) try {
   throw Projektivirhe(Syy::EiProjekti, tiedosto + ": " + Selitys(virhe.code()));
 }
 
+/// A project file holds plain tables. What computes its rows (views, triggers, virtual tables, generated columns) is
+/// the work of another hand, and reading it could take any time and memory.
+void VaadiPelkatTaulut(Tietokanta& kanta) {
+  Kysely laskevat(kanta,
+                  "SELECT name FROM sqlite_master m WHERE type IN ('view', 'trigger') OR (type = 'table' AND "
+                  "(rootpage = 0 OR EXISTS (SELECT 1 FROM pragma_table_xinfo(m.name) WHERE hidden > 1)))");
+  if (laskevat.Seuraava())
+    throw Projektivirhe(Syy::EiProjekti, kanta.Tiedosto() + ": " + std::string(laskevat.Teksti(0)) +
+                                             " ei ole tavallinen taulu, jollaisista kohdetiedosto koostuu");
+}
+
+/// Steps of the database's machine that reading a file of that many bytes may take: a stored value is at least a byte,
+/// and costs a few steps.
+std::int64_t SallittuTyo(std::int64_t koko) { return 10'000'000 + 50 * koko; }
+
 /// Opens a file to be read. One that lacks its end reads as zeros there, which would pass for values.
 Tietokanta AvaaLuettavaksi(const std::string& tiedosto) {
   Tietokanta kanta(tiedosto, Tietokanta::Tapa::Muuttumaton);
-  const std::int64_t koko = Luku(kanta, "PRAGMA page_count") * Luku(kanta, "PRAGMA page_size");
   std::error_code virhe;
-  if (koko > static_cast<std::int64_t>(std::filesystem::file_size(tiedosto, virhe)))
+  const auto koko = static_cast<std::int64_t>(std::filesystem::file_size(tiedosto, virhe));
+  kanta.RajaaTyo(SallittuTyo(koko));
+  if (Luku(kanta, "PRAGMA page_count") * Luku(kanta, "PRAGMA page_size") > koko)
     throw Projektivirhe(Syy::Vaurioitunut, tiedosto + ": tiedoston loppu puuttuu");
+  VaadiPelkatTaulut(kanta);
   return kanta;
 }
 
@@ -92,7 +109,7 @@ Tiedostoversio LueVersio(Tietokanta& kanta) {
 }  // namespace
 
 Projektimalli::Projektimalli(const std::string& polku)
-    : polku_(polku.empty() ? AppPath() + "stemplate.tmp" : polku), sisalto_(LueMalli(polku_)) {}
+    : polku_(polku.empty() ? Aineistotiedosto("stemplate.tmp") : polku), sisalto_(LueMalli(polku_)) {}
 
 Tallennusraportti RakennaProjekti(Olio& juuri, UusiTiedosto& uusi, const Projektimalli& malli,
                                   const Eteneminen& eteneminen, const std::function<void(Tietokanta&)>& lisaa) try {
@@ -109,8 +126,10 @@ Tallennusraportti TallennaProjekti(Olio& juuri, const std::string& tiedosto, con
                                    const Tallennustapa& tapa) {
   const Projektimalli pohja(malli);
   Tallennusraportti raportti;
-  KorvaaTurvallisesti(tiedosto, {.sailytaEnnen = tapa.sailytaEnnen, .odotettu = tapa.odotettu},
-                      [&](UusiTiedosto& uusi) { raportti = RakennaProjekti(juuri, uusi, pohja, tapa.eteneminen); });
+  const bool vahvistettu =
+      KorvaaTurvallisesti(tiedosto, {.sailytaEnnen = tapa.sailytaEnnen, .odotettu = tapa.odotettu},
+                          [&](UusiTiedosto& uusi) { raportti = RakennaProjekti(juuri, uusi, pohja, tapa.eteneminen); });
+  raportti.vahvistettu = vahvistettu;
   return raportti;
 }
 

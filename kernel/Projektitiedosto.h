@@ -27,7 +27,6 @@ class Projektivirhe : public std::runtime_error {
     Vaurioitunut,  ///< a project file that can't be read
     Uudempi,       ///< a project file of a newer program
     Vaihtunut,     ///< the file to be replaced isn't the one that was read: another hand has changed it
-    Vahvistus,     ///< the new content stands under the name, but the disk didn't confirm it: a power cut may undo it
   };
   Projektivirhe(Syy syy, const std::string& kuvaus) : std::runtime_error(kuvaus), syy_(syy) {}
   Syy OmaSyy() const noexcept { return syy_; }
@@ -50,6 +49,9 @@ struct Tallennusraportti {
   int riveja = 0;
   /// Class of each object that had no identity; it got the text "InstanssiId puuttuu!!".
   std::vector<std::string> ilmanTunnistetta;
+  /// False: the new content stands under the name, but the disk didn't confirm it and a power cut may undo it. The
+  /// backup of the old one stays.
+  bool vahvistettu = true;
   std::string juurenAvain;  ///< key of the topmost row
   Tiedostotunnus tunnus;    ///< of the new file
 };
@@ -80,9 +82,10 @@ Tallennusraportti RakennaProjekti(Olio& juuri, UusiTiedosto& uusi, const Projekt
                                   const std::function<void(Tietokanta&)>& lisaa = {});
 
 struct Latausraportti {
-  int vaurioita = 0;                   ///< values that kept their default, rows that were missing or doubled
-  std::vector<std::string> esimerkit;  ///< the first of them, "clsTila.Kokonaistilavuus: abc"
-  Tiedostotunnus tunnus;               ///< of the file
+  int vaurioita = 0;                       ///< values that kept their default, rows that were missing or doubled
+  std::vector<std::string> esimerkit;      ///< the first of them, "clsTila.Kokonaistilavuus: abc"
+  std::vector<std::string> tuntemattomat;  ///< columns that the program has no member for: the next save loses them
+  Tiedostotunnus tunnus;                   ///< of the file
   Eteneminen eteneminen;
 };
 

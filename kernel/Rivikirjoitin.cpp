@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Rivikirjoitin.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -91,7 +92,16 @@ class Rivikirjoitin::Taulu {
     Kysely lisays(kanta, "INSERT INTO " + taulu + " VALUES (" + kysymysmerkit + ")");
     for (int i = 0; i < sarakkeet.Sarakkeita(); ++i)
       LisaaSarake(lisays, i + 1, sarakkeet.SarakkeenNimi(i), sarakkeet.OnTekstisarake(i));
+    VaadiKaikkiJasenet();
     return lisays;
+  }
+
+  /// A member without a column would be lost without a word.
+  void VaadiKaikkiJasenet() const {
+    for (const Jasen& jasen : luokka_.Jasenet())
+      if (std::ranges::find(loydetyt_, &jasen) == loydetyt_.end())
+        throw Projektivirhe(Projektivirhe::Syy::Malli, "kohdetiedoston mallista puuttuu sarake " +
+                                                           std::string(luokka_.Nimi()) + "." + std::string(jasen.nimi));
   }
 
   void LisaaSarake(Kysely& lisays, int paikka, std::string_view nimi, bool teksti) {
@@ -100,6 +110,7 @@ class Rivikirjoitin::Taulu {
       return;
     }
     const Jasen* jasen = luokka_.Etsi(nimi);
+    if (jasen) loydetyt_.push_back(jasen);
     if (jasen && jasen->OnOlio())
       LisaaOliosarake(paikka, nimi, *jasen, teksti);
     else if (jasen)
@@ -157,6 +168,7 @@ class Rivikirjoitin::Taulu {
   std::vector<Sarake> arvot_;
   std::vector<Lapsisarake> merkinnat_;
   std::vector<Lapsi> lapset_;
+  std::vector<const Jasen*> loydetyt_;
   int riveja_ = 0;
   Kysely lisays_;  // made last: it fills the members above
 };

@@ -2,6 +2,7 @@
 #include "kernel/Rivilukija.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_map>
 
 #include "kernel/Kirjainkoko.h"
@@ -98,6 +99,8 @@ class Rivilukija::Taulu {
   const Luokka& OmaLuokka() const noexcept { return luokka_; }
   const std::vector<Sarake>& Arvot() const noexcept { return arvot_; }
   const std::vector<Oliosarake>& Oliot() const noexcept { return oliot_; }
+  /// Columns that the class has no member for.
+  const std::vector<std::string>& Vieraat() const noexcept { return vieraat_; }
   void Nayta(int sarake, ArvoNakyma& nakyma) const noexcept { rivit_.Nayta(sarake, nakyma); }
   std::string_view Teksti(int sarake) const noexcept { return sarake < 0 ? std::string_view{} : rivit_.Teksti(sarake); }
   std::string_view ObjId() const noexcept { return Teksti(objId_); }
@@ -123,6 +126,7 @@ class Rivilukija::Taulu {
       return;
     }
     const Jasen* jasen = luokka_.Etsi(nimi);
+    if (!jasen) vieraat_.push_back(std::string(luokka_.Nimi()) + "." + std::string(nimi));
     const bool teksti = rivit_.OnTekstisarake(paikka);
     if (jasen && jasen->kirjoita)
       arvot_.push_back({paikka, jasen, teksti});
@@ -193,6 +197,7 @@ class Rivilukija::Taulu {
   Kysely rivit_;
   std::vector<Sarake> arvot_;
   std::vector<Oliosarake> oliot_;
+  std::vector<std::string> vieraat_;
   int objId_ = -1, parentId_ = -1, jasen_ = -1, jarjestys_ = -1, instanssiId_ = -1, avain_ = -1;
   bool rivilla_ = false;
   std::optional<Hakemisto> hakemisto_;
@@ -257,8 +262,11 @@ void Rivilukija::LueArvot(Olio& olio, const Taulu& taulu) {
   ArvoNakyma arvo;
   for (const Taulu::Sarake& sarake : taulu.Arvot()) {
     taulu.Nayta(sarake.paikka, arvo);
-    if (arvo.OmaMuoto() == ArvoNakyma::Muoto::Tyhja || (sarake.teksti && !TulkitseMerkki(*sarake.jasen, arvo)))
+    if (sarake.teksti && !TulkitseMerkki(*sarake.jasen, arvo)) continue;
+    if (arvo.OmaMuoto() == ArvoNakyma::Muoto::Tyhja) {
+      Vaurio(taulu.OmaLuokka(), sarake.jasen->nimi, "arvo puuttuu");
       continue;
+    }
     if (!Aseta(olio, *sarake.jasen, arvo)) Vaurio(taulu.OmaLuokka(), sarake.jasen->nimi, Arvoteksti(arvo));
   }
 }
@@ -325,8 +333,12 @@ Tunniste Rivilukija::AlkionAvain(const Taulu& taulu, KokoelmaPohja& kokoelma) {
 
 void Rivilukija::TarkistaKaytetyt() {
   int kayttamatta = 0;
+  raportti_.tuntemattomat.clear();
   for (const Luokka* luokka : Luokka::Kaikki())
-    if (const Taulu* taulu = EtsiTaulu(*luokka)) kayttamatta += taulu->Kayttamatta();
+    if (const Taulu* taulu = EtsiTaulu(*luokka)) {
+      kayttamatta += taulu->Kayttamatta();
+      std::ranges::copy(taulu->Vieraat(), std::back_inserter(raportti_.tuntemattomat));
+    }
   if (!kayttamatta) return;
   if (haku_ == Haku::Jarjestyksessa) throw Poikkeama();
   if (!vieraitaJasenia_) raportti_.vaurioita += kayttamatta;  // else they may belong to what this program doesn't know

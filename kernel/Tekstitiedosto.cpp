@@ -1,22 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Tekstitiedosto.h"
 
+#include <iconv.h>
+
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <cstdint>
 #include <cstring>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 
 namespace {
-
-/// Code points of the bytes 0x80 to 0x9F in Windows-1252; the others are those of Latin-1.
-constexpr std::array<std::uint16_t, 32> kWindows1252{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                                     0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                                     0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                                     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 /// Characters of more than one byte: what the first byte may be, and the second; the others are 0x80 to 0xBF. Overlong
 /// forms, surrogates and what lies beyond U+10FFFF are no characters (Unicode standard, table 3-7).
@@ -54,15 +49,28 @@ bool OnUtf8(std::string_view tavut) {
   return true;
 }
 
-void LisaaMerkki(std::string& teksti, std::uint16_t koodi) {
-  if (koodi >= 0x800) {
-    teksti += static_cast<char>(0xE0 | koodi >> 12);
-    teksti += static_cast<char>(0x80 | (koodi >> 6 & 0x3F));
-  } else {
-    teksti += static_cast<char>(0xC0 | koodi >> 6);
+class Muunnin {
+ public:
+  explicit Muunnin(const char* merkisto) : kahva_(iconv_open("UTF-8", merkisto)) {
+    if (kahva_ == iconv_t(-1)) throw std::runtime_error("Järjestelmä ei tunne merkistöä " + std::string(merkisto));
   }
-  teksti += static_cast<char>(0x80 | (koodi & 0x3F));
-}
+  ~Muunnin() { iconv_close(kahva_); }
+  Muunnin(const Muunnin&) = delete;
+  Muunnin& operator=(const Muunnin&) = delete;
+
+  /// Nothing when some byte has no character in the encoding.
+  std::optional<std::string> Muunna(std::string_view tavut) {
+    std::string teksti(3 * tavut.size(), '\0');  // no byte of an 8-bit encoding grows to more
+    char *lahde = const_cast<char*>(tavut.data()), *kohde = teksti.data();
+    std::size_t luettavaa = tavut.size(), tilaa = teksti.size();
+    if (iconv(kahva_, &lahde, &luettavaa, &kohde, &tilaa) == std::size_t(-1)) return std::nullopt;
+    teksti.resize(teksti.size() - tilaa);
+    return teksti;
+  }
+
+ private:
+  iconv_t kahva_;
+};
 
 }  // namespace
 
@@ -76,17 +84,11 @@ std::string KorvaaVirheelliset(std::string_view tavut) {
   return teksti;
 }
 
+/// Windows-1252 leaves five bytes undefined: a text with one of them is read as Latin-1, which knows all.
 std::string Utf8ksi(std::string_view tavut) {
   if (OnUtf8(tavut)) return std::string(tavut);
-  std::string teksti;
-  for (const char tavu : tavut) {
-    const auto t = static_cast<unsigned char>(tavu);
-    if (t < 0x80)
-      teksti += tavu;
-    else
-      LisaaMerkki(teksti, t < 0xA0 ? kWindows1252[t - 0x80u] : t);
-  }
-  return teksti;
+  if (auto teksti = Muunnin("CP1252").Muunna(tavut)) return *std::move(teksti);
+  return Muunnin("ISO-8859-1").Muunna(tavut).value();
 }
 
 std::vector<std::string> LueRivit(const std::string& polku) {

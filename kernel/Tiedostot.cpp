@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 [[noreturn]] void NostaJarjestelmavirhe(const fs::path& tiedosto) {
-  throw std::system_error(errno, std::generic_category(), tiedosto.string());
+  throw fs::filesystem_error("file", tiedosto, {errno, std::generic_category()});
 }
 
 }  // namespace

@@ -170,7 +170,7 @@ void Tietokanta::Aja(std::string_view sql) {
 
 void Kysely::Vapautus::operator()(sqlite3_stmt* lause) const noexcept { sqlite3_finalize(lause); }
 
-Kysely::Kysely(Tietokanta& kanta, std::string_view sql) {
+Kysely::Kysely(const Tietokanta& kanta, std::string_view sql) {
   const std::string teksti = Lauseeksi(sql);
   sqlite3_stmt* lause = nullptr;
   const int tulos = sqlite3_prepare_v2(kanta.Kahva(), teksti.data(), static_cast<int>(teksti.size()), &lause, nullptr);

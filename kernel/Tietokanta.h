@@ -79,9 +79,9 @@ class Tietokanta {
 /// A prepared statement. Parameters count from 1, columns from 0.
 class Kysely {
  public:
-  Kysely(Tietokanta& kanta, std::string_view sql);
+  Kysely(const Tietokanta& kanta, std::string_view sql);
   template <class... Arvot>
-  Kysely(Tietokanta& kanta, std::string_view sql, const Arvot&... arvot) : Kysely(kanta, sql) {
+  Kysely(const Tietokanta& kanta, std::string_view sql, const Arvot&... arvot) : Kysely(kanta, sql) {
     int paikka = 0;
     (Sido(++paikka, arvot), ...);
   }

@@ -131,13 +131,9 @@ void VaadiOdotettu(const fs::path& kohde, const Korvaustapa& tapa) {
     throw Projektivirhe(Syy::Vaihtunut, kohde.string() + ": toinen ohjelma on muuttanut tiedostoa");
 }
 
-void Paikalleen(UusiTiedosto& uusi, const fs::path& kohde) {
-  if (!uusi.Paikalleen()) throw Projektivirhe(Syy::Vahvistus, kohde.string() + ": levy ei vahvistanut tallennusta");
-}
-
 }  // namespace
 
-void KorvaaTurvallisesti(const std::string& tiedosto, const Korvaustapa& tapa,
+bool KorvaaTurvallisesti(const std::string& tiedosto, const Korvaustapa& tapa,
                          const std::function<void(UusiTiedosto& uusi)>& rakenna) try {
   const fs::path kohde = LinkinKohde(tiedosto);
   const std::optional<Kahva> projekti = LukitseProjekti(kohde);
@@ -149,8 +145,9 @@ void KorvaaTurvallisesti(const std::string& tiedosto, const Korvaustapa& tapa,
   std::future<void> kopiointi = std::async(std::launch::async, KopioiVanha, kohde, tapa.sailytaEnnen);
   rakenna(uusi);
   kopiointi.get();
-  Paikalleen(uusi, kohde);
-  unlink(VarakopionPolku().c_str());
+  const bool vahvistettu = uusi.Paikalleen();
+  if (vahvistettu) unlink(VarakopionPolku().c_str());
+  return vahvistettu;
 } catch (const std::system_error& virhe) {
   NostaTiedostovirhe(Syy::Kirjoitus, tiedosto, virhe.code());
 }

@@ -12,6 +12,7 @@ struct Korvaustapa {
 };
 
 /// Replaces the file `tiedosto` by one that `rakenna` makes and flushes under another name. The procedure and what an
-/// interruption leaves are told in the source. Raises Projektivirhe; what `rakenna` raises passes through.
-void KorvaaTurvallisesti(const std::string& tiedosto, const Korvaustapa& tapa,
+/// interruption leaves are told in the source. False when the disk didn't confirm the renaming: the backup stays then.
+/// Raises Projektivirhe; what `rakenna` raises passes through.
+bool KorvaaTurvallisesti(const std::string& tiedosto, const Korvaustapa& tapa,
                          const std::function<void(UusiTiedosto& uusi)>& rakenna);

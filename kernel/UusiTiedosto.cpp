@@ -16,7 +16,7 @@ constexpr std::string_view kTunnus = ".uusi-";
 constexpr std::size_t kKirjaimia = 6;
 
 [[noreturn]] void NostaJarjestelmavirhe(const fs::path& tiedosto) {
-  throw std::system_error(errno, std::generic_category(), tiedosto.string());
+  throw fs::filesystem_error("file", tiedosto, {errno, std::generic_category()});
 }
 
 std::string ArvoKirjaimet() {
@@ -47,7 +47,7 @@ std::optional<Kahva> TeeJaLukitse(const fs::path& polku, mode_t oikeudet, const 
   return kahva;
 } catch (const std::system_error& virhe) {
   if (virhe.code() == std::errc::file_exists) return std::nullopt;
-  throw std::system_error(virhe.code(), kohde.string());
+  throw fs::filesystem_error("file", kohde, virhe.code());
 }
 
 /// Makes the file under a free name, which goes to `polku`.
@@ -57,7 +57,7 @@ Kahva Tee(const fs::path& kohde, mode_t oikeudet, fs::path& polku) {
     polku = kohde.string() + std::string(kTunnus) + ArvoKirjaimet();
     if (auto kahva = TeeJaLukitse(polku, oikeudet, kohde)) return std::move(*kahva);
   }
-  throw std::system_error(EBUSY, std::generic_category(), kohde.string());
+  throw fs::filesystem_error("file", kohde, {EBUSY, std::generic_category()});
 }
 
 void SiivoaHylatty(const fs::path& polku) noexcept try {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/clsTyyppiTiedot.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <algorithm>
 #include <array>
 #include <map>
@@ -11,6 +9,7 @@
 
 #include "kernel/Hakemistot.h"
 #include "kernel/Kirjainkoko.h"
+#include "kernel/Tietokanta.h"
 #include "kernel/Virhe.h"
 
 namespace {
@@ -19,21 +18,21 @@ namespace {
 constexpr std::array<std::string_view, 9> kEiAttribuutteja{
     "ObjID", "ParentID", "InstanssiId", "MyRealNameInParentObj", "OrderID", "Col", "Count", "Item", "ListaItem"};
 
-std::vector<std::string> LueAttribuutit(SQLite::Database& kanta, const std::string& taulu) {
+std::vector<std::string> LueAttribuutit(const Tietokanta& kanta, const std::string& taulu) {
   std::vector<std::string> nimet;
-  SQLite::Statement kysely(kanta, "SELECT * FROM \"" + taulu + "\" LIMIT 0");
-  for (int i = 0; i < kysely.getColumnCount(); ++i) {
-    const std::string nimi = kysely.getColumnName(i);
-    if (std::ranges::none_of(kEiAttribuutteja, [&](auto ei) { return SamaNimi(ei, nimi); })) nimet.push_back(nimi);
+  const Kysely kysely(kanta, "SELECT * FROM " + Lainaa(taulu) + " LIMIT 0");
+  for (int i = 0; i < kysely.Sarakkeita(); ++i) {
+    const std::string_view nimi = kysely.SarakkeenNimi(i);
+    if (std::ranges::none_of(kEiAttribuutteja, [&](auto ei) { return SamaNimi(ei, nimi); })) nimet.emplace_back(nimi);
   }
   return nimet;
 }
 
 std::vector<clsTyyppiTieto> LueLuokat(const std::string& tiedosto) {
-  SQLite::Database kanta(tiedosto, SQLite::OPEN_READONLY);
+  const Tietokanta kanta(tiedosto);
   std::vector<clsTyyppiTieto> luokat;
-  for (SQLite::Statement rivit(kanta, "SELECT Name FROM ClassTypes"); rivit.executeStep();) {
-    const std::string nimi = rivit.getColumn(0).getString();
+  for (Kysely rivit(kanta, "SELECT Name FROM ClassTypes"); rivit.Seuraava();) {
+    const std::string nimi(rivit.Teksti(0));
     luokat.emplace_back(nimi, LueAttribuutit(kanta, nimi));
   }
   return luokat;
@@ -71,7 +70,7 @@ const clsTyyppiTieto& Tyyppiluettelo::Item(std::string_view clsNimi) const {
 }
 
 void clsTyyppiTiedot::AlustaTyyppitiedot(const std::string& tiedosto) try {
-  luettelo_ = Tyyppiluettelo::Hae(tiedosto.empty() ? AppPath() + "stemplate.tmp" : tiedosto);
+  luettelo_ = Tyyppiluettelo::Hae(tiedosto.empty() ? Aineistotiedosto("stemplate.tmp") : tiedosto);
   for (const clsTyyppiTieto& tieto : *luettelo_)
     if (tieto.LuokanTiedot()) Nimet.Lisaa(*tieto.LuokanTiedot());
 } catch (...) {

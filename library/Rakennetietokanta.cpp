@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int kOdotus_ms = 3000;  // the library's own windows may be writing
-
 constexpr const char* kRakenneSql = "SELECT * FROM Rakenne WHERE Id = ?";
 
 constexpr const char* kKerrosSql =
@@ -24,7 +22,7 @@ constexpr const char* kMateriaaliSql =
 }  // namespace
 
 Rakennetietokanta::Rakennetietokanta(const std::string& polku) try
-    : kanta_(polku, SQLite::OPEN_READONLY, kOdotus_ms),
+    : kanta_(polku),
       rakenteet_(kanta_, kRakenneSql, Rakenneratkaisu::kLuokka),
       kerrokset_(kanta_, kKerrosSql, clsRakennekerros::kLuokka),
       materiaalit_(kanta_, kMateriaaliSql, clsRakennekerros::kLuokka) {
@@ -33,8 +31,8 @@ Rakennetietokanta::Rakennetietokanta(const std::string& polku) try
 }
 
 std::string Rakennetietokanta::Versio() const try {
-  SQLite::Statement kysely(kanta_, "SELECT Versio FROM Asetukset");
-  return kysely.executeStep() ? kysely.getColumn(0).getString() : std::string();
+  Kysely kysely(kanta_, "SELECT Versio FROM Asetukset");
+  return kysely.Seuraava() ? std::string(kysely.Teksti(0)) : std::string();
 } catch (...) {
   NostaVirhe("Rakennetietokanta:Versio Method");
 }

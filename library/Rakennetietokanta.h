@@ -24,7 +24,7 @@ class Rakennetietokanta {
  private:
   bool PaivitaMateriaali(Materiaali& materiaali);
 
-  SQLite::Database kanta_;
+  Tietokanta kanta_;
   Rivihaku rakenteet_;
   Rivihaku kerrokset_;
   Rivihaku materiaalit_;

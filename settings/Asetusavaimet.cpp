@@ -37,7 +37,7 @@ std::string HaeAsetus(Avain avain) {
   const auto& rivi = AsetuksenRivi(avain);
   const std::string oletus = OletusAsetus(avain);
   std::string arvo = HaeAsetus(rivi.osio, rivi.avain, oletus);
-  return rivi.laji == AsetusLaji::DatanTiedosto && !OnOlemassa(arvo) ? oletus : arvo;
+  return rivi.laji == AsetusLaji::DatanTiedosto && !OnOlemassa(arvo) ? Aineistotiedosto(rivi.oletus) : arvo;
 }
 
 void TallennaAsetus(Avain avain, std::string_view arvo) {

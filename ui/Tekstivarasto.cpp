@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Tekstivarasto.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <array>
 #include <optional>
 #include <stdexcept>
@@ -10,6 +8,7 @@
 #include <utility>
 
 #include "kernel/Hakemistot.h"
+#include "kernel/Tietokanta.h"
 #include "kernel/Virhe.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
@@ -21,12 +20,10 @@ std::string g_kielitunnus;
 std::unordered_map<int, std::string> g_tekstit;
 
 std::string VarastonPolku(const std::string& tiedosto = {}) {
-  return tiedosto.empty() ? AppPath() + "StrVarasto.mdb" : tiedosto;
+  return tiedosto.empty() ? Aineistotiedosto("StrVarasto.mdb") : tiedosto;
 }
 
-SQLite::Database AvaaVarasto(const std::string& tiedosto = {}) {
-  return SQLite::Database(VarastonPolku(tiedosto), SQLite::OPEN_READONLY);
-}
+Tietokanta AvaaVarasto(const std::string& tiedosto = {}) { return Tietokanta(VarastonPolku(tiedosto)); }
 
 /// A column or table name for an SQL text. Brackets, since a quoted unknown name would be taken for a text.
 std::string Nimi(const std::string& nimi) {
@@ -35,21 +32,21 @@ std::string Nimi(const std::string& nimi) {
   return "[" + nimi + "]";
 }
 
-std::optional<std::string> EnsimmainenKieli(const SQLite::Database& varasto) {
-  SQLite::Statement kysely(varasto, "SELECT Kielitunnus FROM Kieli ");
-  if (!kysely.executeStep()) return std::nullopt;
-  return kysely.getColumn(0).getString();
+std::optional<std::string> EnsimmainenKieli(const Tietokanta& varasto) {
+  Kysely kysely(varasto, "SELECT Kielitunnus FROM Kieli ");
+  if (!kysely.Seuraava()) return std::nullopt;
+  return std::string(kysely.Teksti(0));
 }
 
 /// The language column: as read at start, else read now. Remembers nothing: threads ask for texts side by side.
-std::string Kielisarake(const SQLite::Database& varasto) {
+std::string Kielisarake(const Tietokanta& varasto) {
   return Nimi(g_kielitunnus.empty() ? EnsimmainenKieli(varasto).value_or("") : g_kielitunnus);
 }
 
 /// Nothing when the store, somebody's own of an older program, has no such column.
-std::optional<int> SarakkeenPaikka(const SQLite::Statement& kysely, std::string_view nimi) {
-  for (int i = 0; i < kysely.getColumnCount(); ++i)
-    if (kysely.getColumnName(i) == nimi) return i;
+std::optional<int> SarakkeenPaikka(const Kysely& kysely, std::string_view nimi) {
+  for (int i = 0; i < kysely.Sarakkeita(); ++i)
+    if (kysely.SarakkeenNimi(i) == nimi) return i;
   return std::nullopt;
 }
 
@@ -72,12 +69,12 @@ Otsake TasonOtsake(int taso) {
 /// The message of the table; nothing when the store or its row is missing.
 std::optional<Viesti> HaeViesti(int koodi) try {
   const auto varasto = AvaaVarasto();
-  SQLite::Statement kysely(
-      varasto, "SELECT " + Kielisarake(varasto) + ", ErrorLevel FROM Errortaulu WHERE ErrorCode = ? ORDER BY Id ");
-  kysely.bind(1, koodi);
-  if (!kysely.executeStep()) return std::nullopt;
-  auto [otsikko, vakavuus] = TasonOtsake(kysely.getColumn(1).getInt());
-  return Viesti{kysely.getColumn(0).getString(), std::move(otsikko), vakavuus};
+  Kysely kysely(varasto,
+                "SELECT " + Kielisarake(varasto) + ", ErrorLevel FROM Errortaulu WHERE ErrorCode = ? ORDER BY Id ");
+  kysely.Sido(1, koodi);
+  if (!kysely.Seuraava()) return std::nullopt;
+  auto [otsikko, vakavuus] = TasonOtsake(static_cast<int>(kysely.Kokonais(1)));
+  return Viesti{std::string(kysely.Teksti(0)), std::move(otsikko), vakavuus};
 } catch (const std::exception&) {
   return std::nullopt;
 }
@@ -85,9 +82,9 @@ std::optional<Viesti> HaeViesti(int koodi) try {
 std::unordered_map<int, std::string> LueTekstit(const std::string& tiedosto, const std::string& kieli,
                                                 const std::string& taulu) {
   const auto varasto = AvaaVarasto(tiedosto);
-  SQLite::Statement kysely(varasto, "SELECT " + Nimi(kieli) + ", Id FROM " + Nimi(taulu) + " ORDER BY Id ");
+  Kysely kysely(varasto, "SELECT " + Nimi(kieli) + ", Id FROM " + Nimi(taulu) + " ORDER BY Id ");
   std::unordered_map<int, std::string> tekstit;
-  while (kysely.executeStep()) tekstit.emplace(kysely.getColumn(1).getInt(), kysely.getColumn(0).getString());
+  while (kysely.Seuraava()) tekstit.emplace(static_cast<int>(kysely.Kokonais(1)), kysely.Teksti(0));
   return tekstit;
 }
 
@@ -138,16 +135,16 @@ bool KysyPoisto() {
 
 Taulukko HaettavaValintalista(std::string_view lomake, std::string_view valinta) try {
   const auto varasto = AvaaVarasto();
-  SQLite::Statement kysely(varasto, "SELECT " + Kielisarake(varasto) +
-                                        ", * FROM Combotaulu WHERE frmName = ? COLLATE NOCASE AND cmbName = ? COLLATE "
-                                        "NOCASE ORDER BY Id ");
-  kysely.bind(1, std::string(lomake));
-  kysely.bind(2, std::string(valinta));
+  Kysely kysely(varasto, "SELECT " + Kielisarake(varasto) +
+                             ", * FROM Combotaulu WHERE frmName = ? COLLATE NOCASE AND cmbName = ? COLLATE "
+                             "NOCASE ORDER BY Id ");
+  kysely.Sido(1, lomake);
+  kysely.Sido(2, valinta);
   const auto sanat = SarakkeenPaikka(kysely, "Hakusanat");
   Taulukko rivit;
-  while (kysely.executeStep()) {
-    rivit.push_back({kysely.getColumn(0).getString()});
-    if (sanat && kysely.getColumn(*sanat).size() > 0) rivit.back().push_back(kysely.getColumn(*sanat).getString());
+  while (kysely.Seuraava()) {
+    rivit.push_back({std::string(kysely.Teksti(0))});
+    if (sanat && !kysely.Teksti(*sanat).empty()) rivit.back().emplace_back(kysely.Teksti(*sanat));
   }
   return rivit;
 } catch (...) {
@@ -166,9 +163,10 @@ int Ohjeaihe(std::string_view lomake, int indeksi) try {
   constexpr std::array kSarakkeet = {"HelpID", "HelpID2", "HelpID3"};
   if (indeksi < 0 || indeksi >= static_cast<int>(kSarakkeet.size())) return 0;
   const auto varasto = AvaaVarasto();
-  SQLite::Statement kysely(varasto, "SELECT * FROM HelppiIDt WHERE Formi = ? COLLATE NOCASE");
-  kysely.bind(1, std::string(lomake));
-  return kysely.executeStep() ? kysely.getColumn(kSarakkeet[static_cast<std::size_t>(indeksi)]).getInt() : 0;
+  Kysely kysely(varasto, "SELECT * FROM HelppiIDt WHERE Formi = ? COLLATE NOCASE");
+  kysely.Sido(1, lomake);
+  const auto sarake = SarakkeenPaikka(kysely, kSarakkeet[static_cast<std::size_t>(indeksi)]);
+  return sarake && kysely.Seuraava() ? static_cast<int>(kysely.Kokonais(*sarake)) : 0;
 } catch (...) {
   NostaVirhe("modTekstivarasto:Ohjeaihe Method");
 }

@@ -4,8 +4,6 @@
 #include "app/Viimeisimmat.h"
 #include "tests/tuki/Lahdekoodi.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <chrono>
 #include <ctime>
 #include <fstream>
@@ -13,6 +11,7 @@
 #include "building/Mallivaraus.h"
 #include "building/Yhteiset.h"
 #include "kernel/Kirjoitussuoja.h"
+#include "kernel/Tietokanta.h"
 #include "tests/app/Koekoti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "ui/Ikkunaton.h"
@@ -76,7 +75,7 @@ class IstuntoTesti : public testing::Test {
     const std::string muunnos = koti.Tiedosto("Muunnos.lvt");
     fs::copy_file(tiedosto, muunnos);
     PoistaKirjoitussuoja(muunnos);
-    SQLite::Database(muunnos, SQLite::OPEN_READWRITE).exec(sql);
+    Tietokanta(muunnos, Tietokanta::Tapa::Kirjoitus).Aja(sql);
     return muunnos;
   }
   const std::string& KohteenNimi() const { return istunto.Rakennus()->Perustiedot.KohteenNimi; }

@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The template of project files and the member tables of the classes say the same.
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <set>
 
 #include "kernel/Hakemistot.h"
+#include "kernel/Sha256.h"
+#include "kernel/Tietokanta.h"
+#include "kernel/Versio.h"
 #include "tests/building/Koerakennus.h"
 
 namespace {
 
 using Sarakkeet = std::vector<std::pair<std::string, std::string>>;  // name, declared type
 
-Sarakkeet TaulunSarakkeet(SQLite::Database& kanta, const std::string& taulu) {
+Sarakkeet TaulunSarakkeet(const Tietokanta& kanta, const std::string& taulu) {
   Sarakkeet sarakkeet;
-  SQLite::Statement kysely(kanta, "SELECT name, type FROM pragma_table_info(?)");
-  kysely.bind(1, taulu);
-  while (kysely.executeStep()) sarakkeet.emplace_back(kysely.getColumn(0).getString(), kysely.getColumn(1).getString());
+  for (Kysely kysely(kanta, "SELECT name, type FROM pragma_table_info(?)", taulu); kysely.Seuraava();)
+    sarakkeet.emplace_back(kysely.Teksti(0), kysely.Teksti(1));
   return sarakkeet;
 }
 
@@ -36,11 +36,26 @@ std::string SarakkeenTyyppi(Laji laji) {
   }
 }
 
-TEST(Mallipohja, TablesAreTheClassesAndColumnsTheirMembersInOrder) {
-  SQLite::Database kanta(AppPath() + "stemplate.tmp", SQLite::OPEN_READONLY);
+std::set<std::string> Taulut(const Tietokanta& kanta) {
   std::set<std::string> taulut;
-  SQLite::Statement luokat(kanta, "SELECT Name FROM ClassTypes");
-  while (luokat.executeStep()) taulut.insert(luokat.getColumn(0).getString());
+  for (Kysely luokat(kanta, "SELECT Name FROM ClassTypes"); luokat.Seuraava();) taulut.emplace(luokat.Teksti(0));
+  return taulut;
+}
+
+TEST(Mallipohja, AChangeOfTheTemplateRaisesTheVersion) {
+  const Tietokanta kanta(AppPath() + "stemplate.tmp");
+  std::string kuvaus = std::to_string(kVersioMajor) + "." + std::to_string(kVersioMinor) + "\n";
+  for (const std::string& taulu : Taulut(kanta)) {
+    kuvaus += taulu + "\n";
+    for (const auto& [nimi, tyyppi] : TaulunSarakkeet(kanta, taulu)) kuvaus += " " + nimi + " " + tyyppi + "\n";
+  }
+  EXPECT_EQ(Sha256(kuvaus), kMallinTiiviste) << "raise kVersioMinor when a table or a column has changed, then put the "
+                                                "new sum beside it";
+}
+
+TEST(Mallipohja, TablesAreTheClassesAndColumnsTheirMembersInOrder) {
+  const Tietokanta kanta(AppPath() + "stemplate.tmp");
+  std::set<std::string> taulut = Taulut(kanta);
 
   ASSERT_FALSE(clsRakennus::kLuokka.Jasenet().empty());
   for (const Luokka* luokka : Luokka::Kaikki()) {

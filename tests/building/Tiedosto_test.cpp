@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Saving and opening a whole building. The project file as such is tested in tests/kernel and tests/fault.
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include <filesystem>
 
+#include "building/Tiedostomuunnokset.h"
 #include "kernel/Luvut.h"
+#include "kernel/Tietokanta.h"
 #include "kernel/Vertailu.h"
+#include "kernel/Virhe.h"
 #include "tests/building/Koerakennus.h"
 #include "tests/kernel/Koehakemisto.h"
 
@@ -54,8 +55,8 @@ TEST_F(TiedostoTesti, AFailedSaveNamesTheValueAndTheObjectStaysUnsaved) {
 
 TEST_F(TiedostoTesti, DamagedValuesGetDefaultsAndTheNextSaveKeepsTheFile) {
   ASSERT_TRUE(rakennus->Tallenna(tiedosto));
-  SQLite::Database(tiedosto, SQLite::OPEN_READWRITE)
-      .exec("UPDATE clsTila SET Kokonaistilavuus = 'paljon'; DELETE FROM clsRakenne WHERE OrderID = 4");
+  Tietokanta(tiedosto, Tietokanta::Tapa::Kirjoitus)
+      .Aja("UPDATE clsTila SET Kokonaistilavuus = 'paljon'; DELETE FROM clsRakenne WHERE OrderID = 4");
   clsRakennus luettu;
   AsetaGlobaaliRakennus(&luettu);
   luettu.Hae(tiedosto);
@@ -65,6 +66,50 @@ TEST_F(TiedostoTesti, DamagedValuesGetDefaultsAndTheNextSaveKeepsTheFile) {
   EXPECT_EQ(viestit.Esiintymia("Vaurioituneita arvoja:"), 1);
   ASSERT_TRUE(luettu.Tallenna(tiedosto));
   EXPECT_TRUE(std::filesystem::exists(tiedosto + ".ennen"));
+}
+
+TEST_F(TiedostoTesti, UnknownColumnsAreToldAndTheNextSaveKeepsTheFile) {
+  ASSERT_TRUE(rakennus->Tallenna(tiedosto));
+  Tietokanta(tiedosto, Tietokanta::Tapa::Kirjoitus).Aja("ALTER TABLE clsTila ADD Lattialammitys REAL");
+  clsRakennus luettu;
+  luettu.Hae(tiedosto);
+  EXPECT_EQ(viestit.Esiintymia("clsTila.Lattialammitys"), 1);
+  EXPECT_TRUE(luettu.Tallennettu);
+  ASSERT_TRUE(luettu.Tallenna(tiedosto));
+  EXPECT_TRUE(std::filesystem::exists(tiedosto + ".ennen"));
+}
+
+TEST_F(TiedostoTesti, AFileOfANewerProgramIsRefusedWhoeverOpensIt) {
+  ASSERT_TRUE(rakennus->Tallenna(tiedosto));
+  Tietokanta(tiedosto, Tietokanta::Tapa::Kirjoitus).Aja("UPDATE clsRakennus SET Major = 1, Minor = 9");
+  try {
+    clsRakennus().Hae(tiedosto);
+    ADD_FAILURE() << "a newer file was read";
+  } catch (const Virhe& virhe) {
+    EXPECT_NE(virhe.SyynKuvaus().find("on uudempi kuin tämä ohjelma"), std::string::npos) << virhe.SyynKuvaus();
+  }
+}
+
+TEST_F(TiedostoTesti, AFileChangedByAnotherHandIsNotReplacedUnseen) {
+  ASSERT_TRUE(rakennus->Tallenna(tiedosto));
+  const Tiedostotunnus oma = rakennus->LuettuTiedosto;
+  ASSERT_TRUE(rakennus->Tallenna(tiedosto, &oma)) << "our own last save";
+  EXPECT_FALSE(oma.OnYha(tiedosto));
+  EXPECT_FALSE(rakennus->Tallenna(tiedosto, &oma));
+  EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "one message tells the cause and what to do";
+  EXPECT_EQ(viestit.Esiintymia("toinen ohjelma on muuttanut tiedostoa"), 1);
+  EXPECT_EQ(viestit.Esiintymia("korvaa tiedosto, kun ohjelma sitä kysyy"), 1);
+  EXPECT_FALSE(rakennus->Tallennettu);
+}
+
+TEST_F(TiedostoTesti, AnOlderFileIsConvertedByTheRowsItLacks) {
+  static int ajettuja;
+  ajettuja = 0;
+  const auto laske = [](clsRakennus&, const std::string&) { ++ajettuja; };
+  const std::vector<Tiedostomuunnos> muunnokset{{1, 9, laske}, {2, 1, laske}, {3, 0, laske}};
+  EXPECT_TRUE(MuunnaNykyiseksi(*rakennus, tiedosto, {2, 0, 5}, muunnokset));
+  EXPECT_EQ(ajettuja, 2);
+  EXPECT_FALSE(MuunnaNykyiseksi(*rakennus, tiedosto, {3, 0, 0}, muunnokset));
 }
 
 /// A project whose first structure was made with an older structure database and takes its U-value from layers, the

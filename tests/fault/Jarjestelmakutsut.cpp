@@ -20,6 +20,7 @@ std::atomic<Isku> g_isku = Isku::Ei;
 std::atomic<int> g_laskuri = 0;
 int g_monesko = 0;
 int g_virhe = 0;
+int g_oikeusvirhe = 0;
 
 bool Osuu() {
   const Isku isku = g_isku;
@@ -51,6 +52,15 @@ void Aseta(Isku isku, int monesko, int virhe) {
   g_monesko = monesko;
   g_virhe = virhe;
   g_isku = isku;
+}
+
+void EstaOikeudet(int virhe) { g_oikeusvirhe = virhe; }
+
+template <class... A>
+int Oikeuskutsu(long numero, A... arvot) {
+  if (!g_oikeusvirhe) return static_cast<int>(Kutsu(numero, arvot...));
+  errno = g_oikeusvirhe;
+  return -1;
 }
 
 int Lopeta() {
@@ -101,7 +111,13 @@ int fdatasync(int kahva) { return static_cast<int>(kutsut::Kutsu(SYS_fdatasync, 
 int ftruncate64(int kahva, off64_t koko) noexcept {
   return static_cast<int>(kutsut::Kutsu(SYS_ftruncate, kahva, koko));
 }
-int fchmod(int kahva, mode_t oikeudet) noexcept { return static_cast<int>(kutsut::Kutsu(SYS_fchmod, kahva, oikeudet)); }
+int fchmod(int kahva, mode_t oikeudet) noexcept { return kutsut::Oikeuskutsu(SYS_fchmod, kahva, oikeudet); }
+int fchown(int kahva, uid_t omistaja, gid_t ryhma) noexcept {
+  return kutsut::Oikeuskutsu(SYS_fchown, kahva, omistaja, ryhma);
+}
+int link(const char* vanha, const char* uusi) noexcept {
+  return static_cast<int>(kutsut::Kutsu(SYS_link, vanha, uusi));
+}
 int unlink(const char* tiedosto) noexcept { return static_cast<int>(kutsut::Kutsu(SYS_unlink, tiedosto)); }
 int rename(const char* vanha, const char* uusi) noexcept {
   return static_cast<int>(kutsut::Kutsu(SYS_rename, vanha, uusi));

@@ -14,6 +14,8 @@ enum class Isku {
 
 /// Strikes at the call number `monesko`, counted from 1 and from now. `virhe` is the error number.
 void Aseta(Isku isku, int monesko = 0, int virhe = 0);
+/// Makes the permissions and owners of files fail with this error number, as on drives that have none; 0 for no more.
+void EstaOikeudet(int virhe);
 /// Ends the strike; gives the number of calls since Aseta.
 int Lopeta();
 

@@ -212,6 +212,44 @@ TEST_F(Tallennusvirheet, SuojattuHakemistoKerrotaanEikaMitaanMuutu) {
   EXPECT_FALSE(fs::exists(hakemisto.Varakopio()));
 }
 
+TEST_F(Tallennusvirheet, LevyIlmanOikeuksiaEiEstaTallennusta) {
+  for (const int virhe : {ENOTSUP, EPERM, ENOSYS}) {
+    kutsut::EstaOikeudet(virhe);
+    for (koe::Rakennus* puu : {&uusi, &vanha}) {
+      Tallenna(*puu);
+      EXPECT_EQ(Tiloja(hakemisto.Projekti()), puu == &uusi ? kUudessa : kVanhassa);
+    }
+    kutsut::EstaOikeudet(0);
+  }
+}
+
+/// Two users, each with an AppPath, save one project again and again while a third reads it.
+TEST_F(Tallennusvirheet, KaksiTallentajaaEiTuhoaToistensaTyota) {
+  const std::string malli = hakemisto.Malli();
+  std::vector<pid_t> lapset;
+  for (int k = 0; k < 2; ++k) {
+    const std::string koti = (hakemisto / ("koti" + std::to_string(k))).string();
+    fs::create_directory(koti);
+    lapset.push_back(fork());
+    if (lapset.back()) continue;
+    AsetaAppPath(koti);
+    int virheita = 0;
+    for (int i = 0; i < 60; ++i) try {
+        TallennaProjekti(k ? vanha : uusi, hakemisto.Projekti(), malli);
+      } catch (const Projektivirhe&) {
+        ++virheita;
+      }
+    _exit(virheita ? 1 : 0);
+  }
+  for (const pid_t lapsi : lapset) {
+    int tila = -1;
+    while (waitpid(lapsi, &tila, WNOHANG) == 0) OdotaEhja();
+    EXPECT_EQ(tila, 0) << "a save failed";
+  }
+  OdotaEhja();
+  OdotaEiKeskenerisia();
+}
+
 TEST_F(Tallennusvirheet, VarakopioSaaOllaToisellaLevylla) {
   std::string nimi = "/dev/shm/lumivirta-koe-XXXXXX";
   if (!mkdtemp(nimi.data())) GTEST_SKIP() << "no /dev/shm";

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cmath>
 #include <set>
@@ -197,6 +199,25 @@ TEST_F(Projektitiedosto, VanhempiJaUudempiTiedostoLatautuvatHiljaa) {
   EXPECT_EQ(luettu.TilatKokoelma.Item(5).Lampotila, 21);
   EXPECT_EQ(luettu.TilatKokoelma.Item(5).TilanNimi, "Tila 4");
   EXPECT_EQ(luettu.Kuluttajat.Lista.Count(), 0);
+  EXPECT_THAT(raportti.tuntemattomat, testing::UnorderedElementsAre("KoeTila.Tuleva", "KoeRakennus.Tulevat"));
+}
+
+TEST_F(Projektitiedosto, MalliJostaPuuttuuJasenTaiSisaltoEiHukkaaSita) {
+  Tallenna();
+  koe::TeeMalli(hakemisto.Malli(), "ALTER TABLE KoeTila DROP COLUMN Lampotila");
+  try {
+    Tallenna(puu);
+    ADD_FAILURE() << "Lampotila was lost";
+  } catch (const Projektivirhe& virhe) {
+    EXPECT_EQ(virhe.OmaSyy(), Projektivirhe::Syy::Malli);
+    EXPECT_THAT(virhe.what(), HasSubstr("KoeTila.Lampotila"));
+  }
+  koe::TeeMalli(hakemisto.Malli(), "DROP TABLE KoeVarjo");
+  EXPECT_EQ(VirheenSyy([&] { Tallenna(puu); }), Projektivirhe::Syy::Malli);
+  KirjoitaTiedosto(hakemisto.Malli(), std::string(5000, 'x'));
+  EXPECT_EQ(VirheenSyy([&] { Tallenna(puu); }), Projektivirhe::Syy::Malli);
+  EXPECT_EQ(Hae(), 0);
+  EXPECT_EQ(luettu.TilatKokoelma.Count(), 5);
 }
 
 TEST_F(Projektitiedosto, LatausKorvaaKokoelmienAlkiot) {
@@ -229,6 +250,7 @@ INSTANTIATE_TEST_SUITE_P(
         Vaurio{"TekstiLuvussa", "UPDATE KoeTila SET Lampotila='lämmin' WHERE OrderID=2", 1, 5},
         Vaurio{"LiianSuuri", "UPDATE KoeRakennus SET Lyhyt=70000, Pitka=1e300, Aika=7.5", 3, 5},
         Vaurio{"Tavuja", "UPDATE KoeTila SET Lampotila=x'00FF'", 5, 5},
+        Vaurio{"ArvoPuuttuu", "UPDATE KoeTila SET Lampotila=NULL, TilanNimi=NULL WHERE OrderID<3", 4, 5},
         Vaurio{"VaaraMerkki", "UPDATE KoeToimenpide SET Ennen='IsObjectGte'", 1, 5},
         Vaurio{"LapsiriviPuuttuu", "DELETE FROM KoeVarjo WHERE rowid=1", 1, 5},
         // the row of the collection, and the five spaces with all below them that hang on it
@@ -265,6 +287,27 @@ TEST_F(Projektitiedosto, VierasTiedostoEiOleProjekti) {
   EXPECT_EQ(VirheenSyy([&] { HaeTiedostonVersio("/ei/ole.lvt"); }), Projektivirhe::Syy::EiProjekti);
 }
 
+/// Tables that compute their rows, without end or beyond all memory, and what isn't a file at all.
+TEST_F(Projektitiedosto, LaskevatTaulutJaPutketTorjutaanHeti) {
+  Tallenna();
+  const std::string ehja = LueTiedosto(hakemisto.Projekti());
+  for (const char* sql :
+       {"ALTER TABLE KoeRakennus RENAME TO x; CREATE VIEW KoeRakennus AS WITH RECURSIVE r(ObjID) AS (SELECT 1 UNION "
+        "ALL "
+        "SELECT ObjID + 1 FROM r) SELECT ObjID, 'Root' AS ParentID, 1 AS MyRealNameInParentObj, 1 AS OrderID FROM r",
+        "CREATE TRIGGER t AFTER UPDATE ON KoeTila BEGIN DELETE FROM KoeTila; END",
+        "ALTER TABLE KoeTila ADD Suuri AS (zeroblob(400000000))", "CREATE VIRTUAL TABLE Muu USING fts5(a)"}) {
+    KirjoitaTiedosto(hakemisto.Projekti(), ehja);
+    Muuta(sql);
+    EXPECT_EQ(VirheenSyy([&] { Hae(); }), Projektivirhe::Syy::EiProjekti) << sql;
+    EXPECT_EQ(VirheenSyy([&] { HaeTiedostonVersio(hakemisto.Projekti()); }), Projektivirhe::Syy::EiProjekti) << sql;
+  }
+  fs::remove(hakemisto.Projekti());
+  ASSERT_EQ(mkfifo(hakemisto.Projekti().c_str(), 0600), 0);
+  EXPECT_EQ(VirheenSyy([&] { Hae(); }), Projektivirhe::Syy::EiProjekti);
+  EXPECT_EQ(VirheenSyy([&] { Tallenna(puu); }), Projektivirhe::Syy::Kirjoitus);
+}
+
 TEST_F(Projektitiedosto, VaurioitunutEdellinenSailyyJosPyydetaan) {
   Tallenna();
   const std::string vanha = LueTiedosto(hakemisto.Projekti());
@@ -296,6 +339,26 @@ TEST_F(Projektitiedosto, JaanytVarakopioSailyyAjanMukaanNimettyna) {
   EXPECT_THAT(sailytetyt, ElementsAre("kopio 3", "kopio 4", "kopio 5", "kopio 6", "kopio 7"));
 }
 
+/// The clock has been set back, and two are put aside in one second.
+TEST_F(Projektitiedosto, JuuriSivuunPantuEiKatoa) {
+  const auto aika = fs::file_time_type::clock::now();
+  for (int i = 1; i <= 8; ++i) {
+    KirjoitaTiedosto(hakemisto.Varakopio(), std::to_string(i));
+    fs::last_write_time(hakemisto.Varakopio(), aika - std::chrono::hours(i / 2));
+    const std::string talteen = SailytaAjalla(hakemisto.Varakopio());
+    EXPECT_EQ(LueTiedosto(talteen), std::to_string(i));
+  }
+}
+
+TEST_F(Projektitiedosto, VarmuuskopioOnYhtaYksityinenKuinProjekti) {
+  Tallenna();
+  chmod(hakemisto.Projekti().c_str(), 0600);
+  puu.Kaksin = NAN;
+  EXPECT_THROW(Tallenna(puu, {.sailytaEnnen = true}), Projektivirhe);
+  for (const std::string& tiedosto : {hakemisto.Projekti(), hakemisto.Varakopio(), hakemisto.Projekti() + ".ennen"})
+    EXPECT_EQ(fs::status(tiedosto).permissions(), fs::perms(0600)) << tiedosto;
+}
+
 TEST_F(Projektitiedosto, UusiTiedostoSaaVanhanOikeudetJaLinkkiJaaLinkiksi) {
   Tallenna();
   const fs::path linkki = hakemisto / "linkki.lvt";
@@ -317,9 +380,19 @@ TEST_F(Projektitiedosto, KirjoitussuojaPalauttaaOikeudet) {
   EXPECT_EQ(Hae(), 0);
   PoistaKirjoitussuoja(hakemisto.Projekti());
   EXPECT_EQ(fs::status(hakemisto.Projekti()).permissions(), fs::perms(0664));
-  chmod(hakemisto.Projekti().c_str(), 0444);  // as a crash leaves it
+  chmod(hakemisto.Projekti().c_str(), 0444);  // by another hand
   PoistaKirjoitussuoja(hakemisto.Projekti());
   EXPECT_EQ(fs::status(hakemisto.Projekti()).permissions(), fs::perms(0644));
+  chmod(hakemisto.Projekti().c_str(), 0664);
+  if (const pid_t lapsi = fork(); lapsi == 0) {
+    AsetaKirjoitussuoja(hakemisto.Projekti());  // a run that dies
+    _exit(0);
+  } else {
+    waitpid(lapsi, nullptr, 0);
+  }
+  EXPECT_TRUE(OnKirjoitussuojattu(hakemisto.Projekti()));
+  PoistaKirjoitussuoja(hakemisto.Projekti());
+  EXPECT_EQ(fs::status(hakemisto.Projekti()).permissions(), fs::perms(0664)) << "needs notes of files (user.*)";
   AsetaKirjoitussuoja("/ei/ole.lvt");
   EXPECT_FALSE(OnKirjoitussuojattu("/ei/ole.lvt"));
 }

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "kernel/Tietokanta.h"
 #include "kernel/Virhe.h"
 #include "tests/library/Koekannat.h"
 
@@ -79,8 +80,8 @@ TEST_F(RakennekirjastoTesti, LookUpsLeaveTheDatabaseFreeForWriting) {
   const auto polku = TeeKanta("oma.mdb", std::string(kAineet) + kSeina);
   Rakennetietokanta kanta(polku);
   ASSERT_TRUE(kanta.Hae("S1"));
-  SQLite::Database toinen(polku, SQLite::OPEN_READWRITE);
-  toinen.exec("UPDATE Rakenne SET Nimi = 'Uusi nimi'");
+  Tietokanta toinen(polku, Tietokanta::Tapa::Kirjoitus);
+  toinen.Aja("UPDATE Rakenne SET Nimi = 'Uusi nimi'");
   EXPECT_EQ(kanta.Hae("S1").value().Nimi, "Uusi nimi");
 }
 
@@ -134,14 +135,15 @@ TEST(Vakiokanta, LayersYieldTheStatedFigures) {
   const char* koti = std::getenv("LUMIVIRTA_KOTI");
   const fs::path polku = fs::path(koti ? koti : "") / "Rakennekirjasto/Tietokanta_perus.mdb";
   if (!fs::exists(polku)) GTEST_SKIP() << "no built databases: " << polku;
-  SQLite::Database luettelo(polku.string());
-  SQLite::Statement tunnukset(luettelo, "SELECT Id, Nimi FROM Rakenne");
+  const Tietokanta luettelo(polku.string());
+  Kysely tunnukset(luettelo, "SELECT Id, Nimi FROM Rakenne");
   Rakennetietokanta kanta(polku.string());
   EXPECT_FALSE(kanta.Versio().empty());
   int kerroksellisia = 0;
-  while (tunnukset.executeStep()) {
-    SCOPED_TRACE(tunnukset.getColumn(0).getString());
-    auto ratkaisu = kanta.Hae(tunnukset.getColumn(0).getString()).value();
+  while (tunnukset.Seuraava()) {
+    const std::string id(tunnukset.Teksti(0));
+    SCOPED_TRACE(id);
+    auto ratkaisu = kanta.Hae(id).value();
     EXPECT_TRUE(RakennetyyppiSanasta(ratkaisu.Rakennetyyppi));
     EXPECT_NEAR(ratkaisu.VoimassaolevaU_arvo().value(), ratkaisu.U_arvo, 0.005);
     EXPECT_EQ(ratkaisu.OnIkkuna, ratkaisu.Aurinkoenergianlapaisy > 0);

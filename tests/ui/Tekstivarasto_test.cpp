@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Tekstivarasto.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 #include "kernel/Hakemistot.h"
+#include "kernel/Tietokanta.h"
 #include "kernel/Virhe.h"
 #include "tests/kernel/Koehakemisto.h"
 #include "tests/tuki/Koeviestit.h"
@@ -33,9 +33,7 @@ class Tekstivarasto : public testing::Test {
     AlustaTekstit();
   }
   ~Tekstivarasto() override { AsetaAppPath(""); }
-  void Aja(const std::string& sql) const {
-    SQLite::Database(AppPath() + "StrVarasto.mdb", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE).exec(sql);
-  }
+  void Aja(const std::string& sql) const { Tietokanta(AppPath() + "StrVarasto.mdb", Tietokanta::Tapa::Uusi).Aja(sql); }
   void PoistaVarasto() const { std::filesystem::remove(AppPath() + "StrVarasto.mdb"); }
   const Viesti& Viimeinen() const { return viestit_.Naytetyt().back(); }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/qt/Tietoja.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 #include <xlsxwriter.h>
 
@@ -39,7 +38,6 @@ std::string Naytto() {
 Taulukko KirjastojenTiedot() {
   return {{"Qt", qVersion(), "LGPL-3.0 / GPL-3.0"},
           {"SQLite", sqlite3_libversion(), "Public domain"},
-          {"SQLiteCpp", SQLITECPP_VERSION, "MIT"},
           {"pugixml", PugixmlVersio(), "MIT"},
           {"libxlsxwriter", LXW_VERSION, "BSD-2-Clause"}};
 }
