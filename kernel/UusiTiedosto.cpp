@@ -67,6 +67,11 @@ void SiivoaHylatty(const fs::path& polku) noexcept try {
   return;  // what can't be swept does no harm
 }
 
+mode_t KorvattavanOikeudet(const fs::path& kohde) {
+  struct stat vanha {};
+  return stat(kohde.c_str(), &vanha) == 0 ? (vanha.st_mode & 0777) | S_IWUSR : 0666;
+}
+
 bool LevylleKansio(const fs::path& kansio) try {
   Kahva(kansio, O_RDONLY | O_DIRECTORY).Levylle();
   return true;
@@ -76,8 +81,9 @@ bool LevylleKansio(const fs::path& kansio) try {
 
 }  // namespace
 
+/// A file that replaces a private one is never open to others, not even while it is empty.
 UusiTiedosto::UusiTiedosto(const fs::path& kohde, std::optional<mode_t> oikeudet)
-    : kohde_(LinkinKohde(kohde)), kahva_(Tee(kohde_, oikeudet.value_or(0666), polku_)) {
+    : kohde_(LinkinKohde(kohde)), kahva_(Tee(kohde_, oikeudet.value_or(KorvattavanOikeudet(kohde_)), polku_)) {
   struct stat vanha {};
   if (!oikeudet && stat(kohde_.c_str(), &vanha) == 0) kahva_.OtaOikeudet(vanha);
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/Kayttajankirjasto.h"
 
-#include <sqlite3.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -106,7 +105,7 @@ const Kirjastomateriaali* Etsi(const std::vector<Kirjastomateriaali>& materiaali
 
 Kayttajankirjasto::Kayttajankirjasto(const std::string& kanta, std::string vakiokanta) try
     : polku_(kanta), vakiokanta_(std::move(vakiokanta)), kanta_(kanta, Tietokanta::Tapa::Kirjoitus) {
-  sqlite3_busy_timeout(kanta_.Kahva(), kOdotus_ms);
+  kanta_.Aja("PRAGMA busy_timeout = " + std::to_string(kOdotus_ms));
 } catch (...) {
   NostaVirhe("Kayttajankirjasto:Kayttajankirjasto Method");
 }

@@ -30,7 +30,7 @@ KAIKILLE = ("tests/tuki/", "tekstit/")  # the tests' helpers, and the numbers of
 TESTIT = {"tests/*"}
 QT = {"ui/qt", "app", "library/server", "bench/qt"}
 KIRJASTOT = [
-    (r"sqlite3\.h", {"kernel", "library", "bench"}),
+    (r"sqlite3\.h", {"kernel", "bench"}),
     (r"pugixml\.hpp", {"ui"}),
     (r"fontconfig/fontconfig\.h", {"app"}),
     (r"libvoikko/voikko\.h", {"ui"}),

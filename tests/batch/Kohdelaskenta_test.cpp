@@ -67,6 +67,16 @@ TEST_F(KohdelaskentaTesti, UudemmanOhjelmanTiedostoJaPuuttuvaTiedostoTorjutaan) 
   EXPECT_TRUE(Sisaltaa(ajo.virheet, Teksti(tekstit::kVersioUudempi))) << ajo.virheet;
 }
 
+/// A user whose data directory is missing or can't be filled has the files of the package.
+TEST_F(KohdelaskentaTesti, IlmanTietokansiotaLuetaanAsennetutTiedostot) {
+  const std::string kohde = "'" + Tiedostot().front().string() + "'";
+  const Ajo tavallinen = Aja(kohde);
+  const Ymparistomuuttuja koti("LUMIVIRTA_KOTI", "/ei/ole");
+  const Ajo ilman = Aja(kohde);
+  EXPECT_EQ(ilman.paluuarvo, 0) << ilman.virheet;
+  EXPECT_EQ(ilman.tuloste, tavallinen.tuloste);
+}
+
 TEST_F(KohdelaskentaTesti, PuuttuvaTulosOnVirhe) {
   const std::string tiedosto = Muutettu("UPDATE clsTila SET Kokonaistilavuus = 1e308");
   const Laskettu json = LaskeKohde(tiedosto, Tulostusmuoto::Json, 0);
