@@ -5,34 +5,37 @@
 
 #include "building/Tasehaarukka.h"
 #include "building/clsRakennus.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 
 namespace {
 
-/// The terms that add up over spaces; the ratio is taken of the sums.
-struct Laskija {
+/// The terms that add up over spaces, by their results of a space; the ratio is taken of the sums.
+struct Yhteenlaskettava {
   Tasetermi termi;
-  double (*kWh)(clsTila& tila, int kuukausi);
+  std::string_view tulos;
 };
-constexpr Laskija kLaskijat[] = {
-    {Tasetermi::Johtuminen, [](clsTila& t, int m) { return t.JohtumisHaviot(m); }},
-    {Tasetermi::Ilmanvaihtokoneet, [](clsTila& t, int m) { return t.IVHaviotTilassa(m) - t.Vuotoilma(m); }},
-    {Tasetermi::Vuotoilma, [](clsTila& t, int m) { return t.Vuotoilma(m); }},
-    {Tasetermi::Haviot, [](clsTila& t, int m) { return t.LampoHaviot(m); }},
-    {Tasetermi::Sahko, [](clsTila& t, int m) { return t.SahkoKuorma(m); }},
-    {Tasetermi::Henkilot, [](clsTila& t, int m) { return t.HenkiloKuorma(m); }},
-    {Tasetermi::Aurinko, [](clsTila& t, int m) { return t.AurinkoKuorma(m); }},
-    {Tasetermi::IVKuormat, [](clsTila& t, int m) { return t.IVKoneLampoKuorma(m); }},
-    {Tasetermi::HyodynnetytKuormat, [](clsTila& t, int m) { return t.HyodynnetytLampoKuormat(m); }},
-    {Tasetermi::Tarve, [](clsTila& t, int m) { return t.LampoEnergianTarve(m); }},
+constexpr Yhteenlaskettava kYhteenlaskettavat[] = {
+    {Tasetermi::Johtuminen, "JohtumisHaviot"},
+    {Tasetermi::Ilmanvaihtokoneet, "KoneidenHaviot"},
+    {Tasetermi::Vuotoilma, "Vuotoilma"},
+    {Tasetermi::Haviot, "LampoHaviot"},
+    {Tasetermi::Sahko, "SahkoKuorma"},
+    {Tasetermi::Henkilot, "HenkiloKuorma"},
+    {Tasetermi::Aurinko, "AurinkoKuorma"},
+    {Tasetermi::IVKuormat, "IVKoneLampoKuorma"},
+    {Tasetermi::HyodynnetytKuormat, "HyodynnetytLampoKuormat"},
+    {Tasetermi::Tarve, "LampoEnergianTarve"},
 };
 constexpr Tasetermi kKuormat[] = {Tasetermi::Sahko, Tasetermi::Aurinko, Tasetermi::Henkilot, Tasetermi::IVKuormat};
 
 double Suhde(double hyodynnetyt, double kuormat) { return kuormat == 0 ? 0 : hyodynnetyt / kuormat; }
 
 void LisaaTila(Kuukausitase& tase, clsTila& tila) {
-  for (const Laskija& laskija : kLaskijat)
-    for (int m = 0; m < kKuukausia; ++m) tase[laskija.termi][static_cast<std::size_t>(m)] += laskija.kWh(tila, m);
+  for (const auto& [termi, nimi] : kYhteenlaskettavat) {
+    const Tulos& tulos = clsTila::kLuokka.TulosNimella(nimi);
+    for (int m = 0; m < kKuukausia; ++m) tase[termi][static_cast<std::size_t>(m)] += tulos.Arvo({tila}, m);
+  }
 }
 
 void LaskeKuormat(Kuukausitase& tase) {

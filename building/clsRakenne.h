@@ -52,9 +52,11 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   /// Gives the materials of the layers the figures of a structure database, and takes its version for this structure's.
   void PaivitaMateriaalitVakiokannasta(Rakennetietokanta& kanta);
 
-  /// Conduction loss of month 0 to 11, kWh, room at Tsisa °C. Not cut at zero: a month warmer than the room gives a
+  /// Conduction loss of month 0 to 11, kWh, room at Tsisa °C: A × U × f × (Tsisa − Tulko) × days × 24 h / 1000, where f
+  /// is 1 towards outdoors and 0.8 towards a buffer space. Not cut at zero: a month warmer than the room gives a
   /// negative loss. Towards ground: area times a table by room temperature; below 5 °C text 9212 is shown and the loss
-  /// is 0.  Source: degree-hour balance of building code D5.
+  /// is 0.  Source: degree-hour balance of building code D5; the factor 0.8 and the table of ground losses (kWh/m² a
+  /// month, for rooms above 17, above 12 and from 5 °C) as given for this method.
   double LampoHaviot(double Tsisa, int kuukausi) const;
   /// Adds the losses of all twelve months to `summa`: the same figures in one pass.
   void LisaaLampoHaviot(double Tsisa, const Kuukausitaulu& ulkolampotilat, Kuukausitaulu& summa) const;

@@ -63,7 +63,8 @@ class clsTila : public Malli<clsTila, Alkio> {
   double LampoHaviot(int kuukausi);
   /// Internal gain from electricity, kWh: the same in every month.
   double SahkoKuorma(int kuukausi) const;
-  /// Heat of persons, kWh: the year's heat spread evenly over the months.
+  /// Heat of persons, kWh: persons × 95.35 W × hours of use, the year's heat spread evenly over the months.
+  /// Source of the heat of one person: as given for this method.
   double HenkiloKuorma(int kuukausi) const;
   /// Solar gain of the windows, kWh.
   double AurinkoKuorma(int kuukausi);

@@ -3,7 +3,8 @@
 """Makes the guide's page of quantities: rakenna_suureet.py LUMIVIRTA-SUUREET TEXTS FORMS PAGE.md.
 
 The program tells the tables of members and results; a member's Finnish name is the label of its field, by the form's
-label whose buddy is the field that bears the member's name.
+label whose buddy is the field that bears the member's name. A field whose limits (",N,lower,upper" of its Tag) aren't
+those of its member stops the build: a range stands in one place, and the forms follow it.
 """
 import collections
 import csv
@@ -16,7 +17,7 @@ import xml.etree.ElementTree as xml
 # class: heading, form, and the fields that are named otherwise than their member; "=" begins a name of no single field
 LUOKAT = {
     "clsPerustiedot": ("Perustiedot", "frmPerustiedot", {}),
-    "clsToteutunutKulutus": ("Mitattu kulutus", "", {"Lampo": "=Lämpö", "Sahko": "=Sähkö", "Vesi": "=Vesi",
+    "clsToteutunutKulutus": ("Mitattu kulutus", "frmPerustiedot", {"Lampo": "=Lämpö", "Sahko": "=Sähkö", "Vesi": "=Vesi",
                                                   "LammTarveLuku": "=Lämmitystarveluku"}),
     "clsLammKulutuksenVakioOsuus": ("Vakio-osuus", "frmNormeeraamatonKulutus",
                                     {"kkOsuus": "Kk_kulutus", "VuosiOsuus": "Vuosi_kulutus"}),
@@ -65,6 +66,26 @@ def kenttien_nimet(lomake, tekstit):
     return nimet
 
 
+def kenttien_rajat(lomake):
+    """Field name without "txt": lower and upper limit as the member table shows them."""
+    rajat = {}
+    for osa in xml.parse(lomake).iter("widget") if lomake.is_file() else []:
+        for p in osa.findall("property"):
+            if p.get("name") == "Tag" and (m := re.match(r"\d*,N,([^,]*),?([^,]*)$", "".join(p.itertext()).strip())):
+                rajat[osa.get("name").removeprefix("txt")] = tuple(r.replace(".", ",") for r in m.groups())
+    return rajat
+
+
+def tarkista_rajat(luokka, jasenet, lomake, kentat):
+    rajat = kenttien_rajat(lomake)
+    for tunnus, _, ala, yla, *_ in jasenet:
+        kentta = tunnus if kentat.get(tunnus, "").startswith("=") else kentat.get(tunnus, tunnus)
+        odotettu = tuple(r.replace(" ", "").replace("−", "-") for r in (ala, yla))
+        for nimi in {kentta, *(f"{kentta}{i}" for i in range(1, 8))} & {*rajat}:
+            if rajat[nimi] != odotettu:
+                raise SystemExit(f"{lomake}: limits of txt{nimi} are {rajat[nimi]}, those of {luokka}.{tunnus} {odotettu}")
+
+
 def vali(ala, yla):
     if ala and yla:
         return f"{ala}–{yla}".replace("-", "−")
@@ -100,6 +121,7 @@ def sivu(rivit, tekstit, lomakkeet):
     yield ALKU
     for luokka, (otsikko, lomake, kentat) in LUOKAT.items():
         yield f"\n## {otsikko}\n"
+        tarkista_rajat(luokka, jasenet[luokka], lomakkeet / f"{lomake}.ui", kentat)
         if jasenet[luokka]:
             yield from jasentaulukko(jasenet[luokka], kenttien_nimet(lomakkeet / f"{lomake}.ui", tekstit), kentat)
         if tulokset[luokka]:

@@ -20,5 +20,5 @@ struct Sovite {
 
 /// The fit at x % by control method and share of constant pressure rise, % in steps of ten: nothing is interpolated;
 /// below 0 counts as 0, above 100 as 100. Two-speed fans have other fits above 70 %. Nothing for an unknown method.
-/// Source: the program's control fits.
+/// Source: as given for this method.
 std::optional<Sovite> MivSovite(double x, std::int32_t tapa, std::int32_t osuus);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// Squirrel-cage motor of one speed. Efficiencies in per cent, not limited. Errors: 9999.
+/// Squirrel-cage motor of one speed. Efficiencies in per cent, not limited; the curves are as given for this method.
+/// Errors: 9999.
 class clsOikosulkuMoottori {
  public:
   double P3N = 0;  ///< nominal power, kW

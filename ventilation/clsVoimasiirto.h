@@ -2,7 +2,7 @@
 #pragma once
 #include <cstdint>
 
-/// Drive between motor and fan.
+/// Drive between motor and fan. Its efficiency curves by shaft power: as given for this method.
 class clsVoimasiirto {
  public:
   enum Valitys : std::int32_t { Kiilahihna = 0, Lattahihna = 1, SuoraVeto = 2 };
