@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QScreen>
 #include <QSplitter>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -37,7 +38,8 @@ Ohjeikkuna::Ohjeikkuna(const QString& kansio)
   setObjectName("frmOhje");
   setWindowTitle(Q(tekstit::kKayttoopas));
   setAttribute(Qt::WA_QuitOnClose, false);
-  resize(kIkkunanLeveys, kIkkunanKorkeus);
+  const QSize reunat(20, 60);  // what the window manager's frame takes
+  resize(QSize(kIkkunanLeveys, kIkkunanKorkeus).boundedTo(screen()->availableSize() - reunat));
   LuoPuu();
   LuoHaku();
   LuoTyokalut();
