@@ -4,6 +4,7 @@
 #include <iostream>
 #include <optional>
 #include <span>
+#include <thread>
 
 #include "batch/Kohdelaskenta.h"
 #include "batch/Rinnakkain.h"
@@ -13,18 +14,18 @@
 namespace {
 
 constexpr const char* kOhje =
-    "Käyttö: lumivirta-laske [--json] [--saikeita=N] KOHDE.lvt...\n"
+    "Käyttö: lumivirta-laske [--json] [--rinnakkain=N] KOHDE.lvt...\n"
     "Laskee kohdetiedostojen lämpötaseen. Tiedostoja ei muuteta.\n"
     "  --json         tulokset JSON-muodossa: yksi olio, usealle tiedostolle taulukko\n"
-    "  --saikeita=N   montako tiedostoa lasketaan yhtä aikaa; oletus on 1\n"
+    "  --rinnakkain=N montako tiedostoa lasketaan yhtä aikaa; oletus on suorittimien määrä\n"
     "  --help         tämä ohje\n"
     "Paluuarvo on 0, kun kaikki on laskettu, 1, kun jotain ei voitu laskea, ja 2, kun komento on virheellinen.\n";
-constexpr std::string_view kSaikeita = "--saikeita=";
+constexpr std::string_view kRinnakkain = "--rinnakkain=";
 
 struct Komento {
   std::vector<std::string> tiedostot;
   Tulostusmuoto muoto = Tulostusmuoto::Yhteenveto;
-  unsigned saikeita = 1;
+  unsigned rinnakkain = std::max(1u, std::thread::hardware_concurrency());
   bool ohje = false;
 };
 
@@ -32,10 +33,10 @@ struct Komento {
 bool LueValitsin(std::string_view sana, Komento& komento) {
   if (sana == "--json") return komento.muoto = Tulostusmuoto::Json, true;
   if (sana == "--help") return komento.ohje = true;
-  if (!sana.starts_with(kSaikeita)) return false;
-  sana.remove_prefix(kSaikeita.size());
-  const auto [loppu, virhe] = std::from_chars(sana.data(), sana.data() + sana.size(), komento.saikeita);
-  return virhe == std::errc() && loppu == sana.data() + sana.size() && komento.saikeita > 0;
+  if (!sana.starts_with(kRinnakkain)) return false;
+  sana.remove_prefix(kRinnakkain.size());
+  const auto [loppu, virhe] = std::from_chars(sana.data(), sana.data() + sana.size(), komento.rinnakkain);
+  return virhe == std::errc() && loppu == sana.data() + sana.size() && komento.rinnakkain > 0;
 }
 
 /// The command line; nothing when it is faulty, which is told.
@@ -61,7 +62,7 @@ bool Laske(const Komento& komento) {
   bool kaikki = true, kirjoitettu = false;
   if (taulukko) std::cout << '[';
   LaskeRinnakkain(
-      komento.tiedostot.size(), komento.saikeita,
+      komento.tiedostot.size(), komento.rinnakkain,
       [&](std::size_t i) { return LaskeKohde(komento.tiedostot[i], komento.muoto, taulukko ? 1 : 0); },
       [&](const Laskettu& laskettu) {
         kaikki &= laskettu.onnistui;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "bench/vertailu/Mallirakennus.h"
 #include "bench/Parit.h"
+#include "bench/vertailu/Mallirakennus.h"
 
 namespace mittaus {
 
@@ -18,6 +18,8 @@ Vertailupari Kopiointipari(clsRakennus& rakennus);
 Vertailupari Laskentapari(clsRakennus& rakennus);
 /// The after-heating of the machines.
 Vertailupari Ilmanvaihtopari(clsRakennus& rakennus);
+/// The batch program over 200 files of the building, with all cores against one.
+Vertailupari Massapari(clsRakennus& rakennus);
 
 /// Access to attributes by name: declares its benchmarks.
 void IlmoitaJasenmittaukset();

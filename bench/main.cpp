@@ -17,6 +17,7 @@ namespace mittaus {
 namespace {
 
 constexpr double kKaltevuusvara = 0.03, kLaskennanKaltevuus = 1.02;
+constexpr int kMassaPareja = 5;
 constexpr std::array<int, 4> kKasvunTilat{10, 100, 1000, 10000};
 
 struct Toiminto {
@@ -107,12 +108,22 @@ template <std::size_t... I>
 void Ilmoita(std::index_sequence<I...>) {
   (IlmoitaParit(std::string(kToiminnot[I].nimi) + "; " + kToiminnot[I].vertailu, Paataulu<I>), ...);
   IlmoitaJasenmittaukset();
+  benchmark::RegisterBenchmark("lumivirta-laske over 200 files; with one core", Massalaskenta)
+      ->UseManualTime()
+      ->Iterations(kMassaPareja);
   (benchmark::RegisterBenchmark(
        (std::string("slope of ") + kToiminnot[I].nimi + ", 10 to 10,000 spaces; " + kToiminnot[I].vertailu).c_str(),
        Kasvu<I>)
        ->UseManualTime()
        ->Iterations(1),
    ...);
+}
+
+void Massalaskenta(benchmark::State& state) {
+  constexpr double kTavoite = 0.6;  // on two cores
+  const auto rakennus = TeeRakennus(kTilojaKoneella, kKasvunRakenteita, 1);
+  const Vertailupari pari = Massapari(*rakennus);
+  MittaaParit(state, kTavoite, pari.meidan, pari.vertailu, pari.tarkista);
 }
 
 void KerroMalli() {

@@ -143,7 +143,7 @@ TEST_F(KohdelaskentaTesti, SamatHuomautuksetOvatYksiRiviJokaKertooKohteet) {
 TEST_F(KohdelaskentaTesti, TiedostotLasketaanRinnakkainJarjestyksessa) {
   std::string sanat;
   for (const fs::path& tiedosto : Tiedostot()) sanat += " '" + tiedosto.string() + "'";
-  const Ajo yksin = Aja("--json --saikeita=1" + sanat), monta = Aja("--json --saikeita=1" + sanat + sanat);
+  const Ajo yksin = Aja("--json --rinnakkain=1" + sanat), monta = Aja("--json --rinnakkain=4" + sanat + sanat);
   EXPECT_EQ(yksin.paluuarvo, 0) << yksin.virheet;
   EXPECT_EQ(monta.paluuarvo, 0) << monta.virheet;
   const std::string oliot = yksin.tuloste.substr(1, yksin.tuloste.size() - 4);  // without "[" and "\n]\n"
@@ -151,7 +151,7 @@ TEST_F(KohdelaskentaTesti, TiedostotLasketaanRinnakkainJarjestyksessa) {
 }
 
 TEST_F(KohdelaskentaTesti, VirheellinenKomentoKertooKaytosta) {
-  for (const char* sanat : {"", "--xml a.lvt", "--saikeita=0 a.lvt", "--saikeita=2x a.lvt"}) {
+  for (const char* sanat : {"", "--xml a.lvt", "--rinnakkain=0 a.lvt", "--rinnakkain=2x a.lvt"}) {
     const Ajo ajo = Aja(sanat);
     EXPECT_EQ(ajo.paluuarvo, 2) << sanat;
     EXPECT_TRUE(Sisaltaa(ajo.virheet, "Käyttö: lumivirta-laske")) << sanat;
