@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr const char* kKokonaisina = "### ##0";
+
 /// How a term is drawn: losses and gains in columns of their own, the demand as a line. Sums and shares aren't drawn.
 struct Sarja {
   Tasetermi termi;
@@ -39,12 +41,11 @@ std::vector<std::string> KuukausienNimet() {
   return nimet;
 }
 
-/// Name, months and the year of a term; `Solu` makes a cell of a number.
-template <class Solu>
-auto TerminRivi(const Kuukausitase& tase, Tasetermi termi, Solu&& solu) {
-  std::vector<decltype(solu(0.0))> rivi = {TerminNimi(termi)};
-  for (const double arvo : tase[termi]) rivi.push_back(solu(Naytettava(termi, arvo)));
-  rivi.push_back(solu(Naytettava(termi, tase.Vuosi(termi))));
+/// Name, months and the year of a term.
+Luettelorivi TerminRivi(const Kuukausitase& tase, Tasetermi termi) {
+  Luettelorivi rivi{{TerminNimi(termi)}};
+  for (const double arvo : tase[termi]) rivi.LisaaLuku(Naytettava(termi, arvo), kKokonaisina);
+  rivi.LisaaLuku(Naytettava(termi, tase.Vuosi(termi)), kKokonaisina);
   return rivi;
 }
 
@@ -62,25 +63,18 @@ Kaaviotiedot Kaavio(const Kuukausitase& tase, const std::string& nimi) {
   return kaavio;
 }
 
-Laskentataulukko Taulukoksi(const Kuukausitase& tase, const std::string& otsikko) {
-  Laskentataulukko taulukko{otsikko, {Teksti(tekstit::kTaseKWh)}, {}};
-  for (std::string& nimi : KuukausienNimet()) taulukko.sarakkeet.push_back(std::move(nimi));
-  taulukko.sarakkeet.push_back(Teksti(tekstit::kVuosi));
-  for (std::size_t i = 0; i < kTasetermeja; ++i)
-    taulukko.rivit.push_back(TerminRivi(tase, Termi(i), [](double arvo) { return Taulukkosolu(arvo); }));
-  taulukko.rivit.push_back({});
-  taulukko.rivit.push_back({NormitusTekstina(tase)});
-  return taulukko;
+void TaytaTaulukko(const frmKuukausitase& lomake, const Kuukausitase& tase) {
+  Luettelosisalto sisalto;
+  for (std::size_t i = 0; i < kTasetermeja; ++i) sisalto.rivit.push_back(TerminRivi(tase, Termi(i)));
+  sisalto.summat = std::move(sisalto.rivit.back().solut);  // the demand
+  sisalto.rivit.pop_back();
+  lomake.lvwTase.Tayta(std::move(sisalto));
 }
 
-void TaytaTaulukko(const frmKuukausitase& lomake, const Kuukausitase& tase) {
-  const auto teksti = [](double arvo) { return Muotoile(arvo, "### ##0"); };
-  std::vector<std::vector<std::string>> rivit;
-  for (std::size_t i = 0; i < kTasetermeja; ++i) rivit.push_back(TerminRivi(tase, Termi(i), teksti));
-  const std::vector<std::string> tarve = std::move(rivit.back());
-  rivit.pop_back();
-  lomake.lvwTase.Rivit(std::move(rivit));
-  lomake.lvwTase.Summarivi(tarve);
+Laskentataulukko Taulukoksi(const frmKuukausitase& lomake, const Kuukausitase& tase) {
+  Laskentataulukko taulukko = TaulukkoLuettelosta(lomake.lvwTase, lomake.Otsikko());
+  taulukko.huomautukset.push_back(NormitusTekstina(tase));
+  return taulukko;
 }
 
 void Nayta(const Kuukausitase& tase, const std::string& nimi) {
@@ -90,7 +84,7 @@ void Nayta(const Kuukausitase& tase, const std::string& nimi) {
   lomake.chtTase.Kaavio(Kaavio(tase, nimi));
   lomake.lblNormitus.Otsikko(NormitusTekstina(tase));
   lomake.TallennaTaulukko = [&](const std::string& tiedosto) {
-    TallennaLaskentataulukko(Taulukoksi(tase, lomake.Otsikko()), Teksti(tekstit::kKuukausitase), tiedosto);
+    TallennaLaskentataulukko(Taulukoksi(lomake, tase), Teksti(tekstit::kKuukausitase), tiedosto);
     return true;
   };
   lomake.NaytaModaalisena();

@@ -33,6 +33,9 @@ Kaaviotiedot Rakenneleikkaus(const clsRakenne& rakenne, double Tsisa) {
   const std::string takana =
       huoneidenValissa ? Teksti(tekstit::kSamaLampotilaToisella) : Lampotila(tekstit::kLeikkauksenUlkolampotila, Tulko);
   Leikkaus leikkaus = rakenne.RakenneRatkaisu ? MuodostaLeikkaus(*rakenne.RakenneRatkaisu, Tsisa, Tulko) : Leikkaus();
-  return Lampotilakuvaus(Lampotila(tekstit::kTilanSisalampotila, Tsisa) + ", " + takana, std::move(leikkaus.nimet),
-                         std::move(leikkaus.paksuudet), std::move(leikkaus.vastukset), std::move(leikkaus.lampotilat));
+  Kaaviotiedot kuvaus =
+      Lampotilakuvaus(Lampotila(tekstit::kTilanSisalampotila, Tsisa) + ", " + takana, std::move(leikkaus.nimet),
+                      std::move(leikkaus.paksuudet), std::move(leikkaus.vastukset), std::move(leikkaus.lampotilat));
+  if (huoneidenValissa) kuvaus.reunat.back() = kuvaus.reunat.front();
+  return kuvaus;
 }

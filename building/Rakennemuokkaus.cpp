@@ -302,7 +302,7 @@ void Rakennemuokkaus::KayttoLiittyma_KopioiKlikattu() {
 void Rakennemuokkaus::KayttoLiittyma_PoistaKlikattu() {
   if (const std::string nimet = ViittaavatToimenpiteet(rakenteet_.Item(muokattava_)); !nimet.empty())
     return Ilmoita(Teksti(tekstit::kRakennettaEiVoiPoistaa) + " " + nimet, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
-  if (!KysyPoisto()) return;
+  if (!KysyPoisto(rakenteet_.Item(muokattava_).NaytettavaNimi())) return;
   if (haettava_ == muokattava_) RakKirjasto_KantaDlgSuljettu();
   rakenteet_.Remove(muokattava_);
   RakenteetMuuttuivat({});

@@ -84,8 +84,9 @@ void Rakennemuokkaus::KayttoLiittyma_RakKerKopioi() {
 
 /// None is chosen any more when a pick has brought other layers during the question.
 void Rakennemuokkaus::KayttoLiittyma_RakKerPoista() {
-  if (!KysyPoisto()) return;
-  const int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
+  int rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
+  if (!KysyPoisto(KerroksenNimi(Ratkaisu().Kerrokset.Item(rivi + 1)))) return;
+  rivi = KayttoLiittyma.lvwKerrokset.Indeksi();
   if (rivi < 0) return;
   KirjoitaDataluokka();
   Ratkaisu().Kerrokset.Remove(rivi + 1);

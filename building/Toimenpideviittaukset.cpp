@@ -7,6 +7,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "tekstit/rakennus.h"
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -39,4 +40,8 @@ std::string ViittaavatToimenpiteet(Olio& olio) {
     if (Viittaa(toimenpide.MuuttuneetAttribuutit, tunnisteet))
       nimet += (nimet.empty() ? "" : ", ") + (toimenpide.Nimi.empty() ? Teksti(tekstit::kViiva) : toimenpide.Nimi);
   return nimet;
+}
+
+std::string Muokkauslukko() {
+  return VaadiRakennus().Saastotoimenpiteet.Count() > 0 ? Teksti(tekstit::kOsiaEiVoiLisata) : std::string();
 }

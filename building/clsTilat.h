@@ -42,13 +42,7 @@ class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
  private:
   void LiitaTapahtumat();
   void TaytaLuettelo();
-  clsTila& ValittuTila() const;
-  void PaivitaNapit();
-  void LuetteloMuuttui(int toiminto, const Tunniste& valittava);
-  void KayttoLiittyma_LisaaKlikattu();
-  void KayttoLiittyma_MuokkaaKlikattu();
-  void KayttoLiittyma_KopioiKlikattu();
-  void KayttoLiittyma_PoistaKlikattu();
+  void NaytaErittely();
   void KayttoLiittyma_SahkokuormatMuuttuivat();
 
   void PaivitaIVHaviot(Edistyminen& edistyminen);

@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of spaces.
+#include "building/Kokoelmamuokkaus.h"
 #include "building/Kuukausitase.h"
-#include "building/LisaaKopio.h"
 #include "building/Tasehaarukka.h"
-#include "building/Toimenpideviittaukset.h"
-#include "building/Yhteiset.h"
-#include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/lomakkeet_tilat.h"
-#include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmTilaYhteenveto.h"
 
 namespace {
+
+constexpr const char* kEnergia = "### ##0.00";  // MWh/a
+constexpr const char* kTilavuus = "### ##0";    // m³
 
 constexpr const char* kEiLukua = "---";
 
@@ -27,30 +27,57 @@ struct Sarake {
   bool taseesta;
 };
 constexpr Sarake kSarakkeet[] = {
-    {[](clsTila& t) { return t.Kokonaistilavuus; }, "### ##0", true, false},
+    {[](clsTila& t) { return t.Kokonaistilavuus; }, kTilavuus, true, false},
     {[](clsTila& t) { return t.BruttoAla; }, "### ##0", true, false},
     {[](clsTila& t) { return t.TilanHenkilomaara; }, "### ##0", true, false},
     {[](clsTila& t) { return t.Sisalampotila; }, "0.0", false, false},
-    {[](clsTila& t) { return t.VuotuisetJohtumisHaviot(); }, "### ##0.00", true, true},
-    {[](clsTila& t) { return t.VuotuisetIVHaviotTilassa(); }, "### ##0.00", true, true},
-    {[](clsTila& t) { return t.VuotuinenAurinkoKuorma(); }, "### ##0.00", true, true},
-    {[](clsTila& t) { return t.VuotuinenLampoEnergianTarve(); }, "### ##0.00", true, true},
+    {[](clsTila& t) { return t.VuotuisetJohtumisHaviot(); }, kEnergia, true, true},
+    {[](clsTila& t) { return t.VuotuisetIVHaviotTilassa(); }, kEnergia, true, true},
+    {[](clsTila& t) { return t.VuotuinenAurinkoKuorma(); }, kEnergia, true, true},
+    {[](clsTila& t) { return t.VuotuinenLampoEnergianTarve(); }, kEnergia, true, true},
 };
 
+/// The number as it is shown: what sums are taken of, so that they add up on the screen.
+double Naytettyna(double arvo, const char* kuvio) { return LueLuku(Muotoile(arvo, kuvio)).value_or(0); }
+
+/// How the demand of the space comes about: the figures of its weather zone, brought to the locality's normal year.
+std::string Erittely(clsTila& tila, const clsRakennus& rakennus) {
+  const double luvut[] = {tila.VuotuisetJohtumisHaviot(), tila.VuotuisetIVHaviotTilassa(),
+                          tila.VuotuisetHyodynnetytLampoKuormat()};
+  const auto luku = [](double arvo) { return Muotoile(arvo, kEnergia); };
+  const double vyohykkeella =
+      Naytettyna(luvut[0], kEnergia) + Naytettyna(luvut[1], kEnergia) - Naytettyna(luvut[2], kEnergia);
+  std::string teksti = tila.TilanNimi + ": " + Teksti(tekstit::kTilojenJohtuminen) + " " + luku(luvut[0]) + " + " +
+                       Teksti(tekstit::kTilojenIlmanvaihto) + " " + luku(luvut[1]) + " − " +
+                       Teksti(tekstit::kTasetermit[static_cast<std::size_t>(Tasetermi::HyodynnetytKuormat)]) + " " +
+                       luku(luvut[2]) + " = " + luku(vyohykkeella) + " MWh/a";
+  if (rakennus.Saa.NormVuodenLammTarveLuku <= 0) return teksti;
+  return teksti + "; " + Teksti(tekstit::kPaikkakunnanSaahanNormitettuna) + " × " +
+         Muotoile(rakennus.Perustiedot.NormVuodenLammTarveLuku, "### ##0") + " / " +
+         Muotoile(rakennus.Saa.NormVuodenLammTarveLuku, "### ##0") +
+         " °Cd = " + luku(tila.VuotuinenLampoEnergianTarve()) + " MWh/a";
+}
+
 /// Rows of the list and their sums. Without the balance its figures are left open.
-Luettelosisalto TilojenRivit(const clsTilat& tilat, bool tase) {
+Luettelosisalto TilojenRivit(const clsTilat& tilat, const clsRakennus& rakennus, bool tase) {
   Luettelosisalto sisalto{{}, {Teksti(tekstit::kRakenteetYhteensa)}};
-  for (const clsTila& tila : tilat) sisalto.rivit.push_back({{tila.TilanNimi}, tila.sKey});
+  for (clsTila& tila : tilat)
+    sisalto.rivit.push_back({.solut = {tila.TilanNimi},
+                             .avain = tila.sKey,
+                             .piirteet = {.selite = tase ? Erittely(tila, rakennus) : std::string()}});
   for (const Sarake& sarake : kSarakkeet) {
-    const bool tunnetaan = tase || !sarake.taseesta;
+    if (!tase && sarake.taseesta) {
+      for (Luettelorivi& rivi : sisalto.rivit) rivi.solut.emplace_back(kEiLukua);
+      sisalto.summat.emplace_back(kEiLukua);
+      continue;
+    }
     double summa = 0;
     std::size_t i = 0;
     for (clsTila& tila : tilat) {
-      const double arvo = tunnetaan ? sarake.arvo(tila) : 0;
-      summa += arvo;
-      sisalto.rivit[i++].solut.push_back(tunnetaan ? Muotoile(arvo, sarake.kuvio) : kEiLukua);
+      sisalto.rivit[i++].LisaaLuku(sarake.arvo(tila), sarake.kuvio);
+      summa += Naytettyna(sarake.arvo(tila), sarake.kuvio);
     }
-    sisalto.summat.push_back(!sarake.summataan ? "" : tunnetaan ? Muotoile(summa, sarake.kuvio) : kEiLukua);
+    sisalto.summat.push_back(sarake.summataan ? Muotoile(summa, sarake.kuvio) : std::string());
   }
   return sisalto;
 }
@@ -59,11 +86,34 @@ Luettelosisalto TilojenRivit(const clsTilat& tilat, bool tase) {
 Luettelosisalto LasketutRivit(clsRakennus& rakennus, const clsTilat& tilat) {
   try {
     const Tasehaarukka haarukka(rakennus);
-    return TilojenRivit(tilat, true);
+    return TilojenRivit(tilat, rakennus, true);
   } catch (const Virhe& virhe) {
     Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
-    return TilojenRivit(tilat, false);
+    return TilojenRivit(tilat, rakennus, false);
   }
+}
+
+/// Names of the machines that would be left without a space.
+std::string PoistonSeuraus(const clsRakennus& rakennus, const Tunniste& tila) {
+  std::string nimet;
+  for (const clsIVKone* kone : rakennus.IVKoneet.ListaaTilaanLiittyvatIVKoneet(tila))
+    nimet += (nimet.empty() ? "" : ", ") + kone->KoneenTunnus;
+  return nimet.empty() ? nimet : Teksti(tekstit::kKoneetJaavatIlmanTilaa) + " " + nimet;
+}
+
+/// Spaces larger than their building: one of the two was mistyped. Half a per cent is rounding.
+std::string Tilavuushuomautus(const clsRakennus& rakennus, const clsTilat& tilat) {
+  constexpr double kSallittu = 1.005;
+  const double rakennuksen = rakennus.Perustiedot.Kokonaistilavuus;
+  if (tilat.TilavuusYht() <= kSallittu * rakennuksen) return {};
+  return Teksti(tekstit::kTilatYhteensa) + " " + Muotoile(tilat.TilavuusYht(), kTilavuus) + " m³, " +
+         Teksti(tekstit::kRakennusPerustietojenMukaan) + " " + Muotoile(rakennuksen, kTilavuus) + " m³.";
+}
+
+void AlustaTila(clsTila& tila) {
+  tila.TilanNimi = Teksti(tekstit::kUusiTila);
+  tila.TilanKayttoaikaStr = Valintalista("frmTila", "cmbTilanKayttoaika").at(0);
+  tila.SaatotapaStr = Valintalista("frmTila", "cmbSaatotapa").at(1);
 }
 
 }  // namespace
@@ -82,11 +132,21 @@ void clsTilat::NaytaKayttoliittyma() try {
 
 void clsTilat::LiitaTapahtumat() {
   frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
-  lomake.LisaaKlikattu = [this] { KayttoLiittyma_LisaaKlikattu(); };
-  lomake.MuokkaaKlikattu = [this] { KayttoLiittyma_MuokkaaKlikattu(); };
-  lomake.KopioiKlikattu = [this] { KayttoLiittyma_KopioiKlikattu(); };
-  lomake.PoistaKlikattu = [this] { KayttoLiittyma_PoistaKlikattu(); };
-  lomake.KuukausitaseKlikattu = [this] { NaytaKuukausitase(VaadiRakennus(), ValittuTila()); };
+  Luettelotoimet toimet =
+      Toimet(Kokoelmamuokkaus<clsTila>{.kokoelma = *this,
+                                       .nimi = &clsTila::TilanNimi,
+                                       .kopiointi = tekstit::kTilanKopiointi,
+                                       .poisto = tekstit::kTilanPoisto,
+                                       .kaytossa = tekstit::kTilaaEiVoiPoistaa,
+                                       .muokkaa = [](clsTila& tila) { return tila.NaytaKayttoliittyma(); },
+                                       .alusta = AlustaTila},
+             [this] { return LasketutRivit(VaadiRakennus(), *this); });
+  toimet.poistonSeuraus = [](const Tunniste& avain) { return PoistonSeuraus(VaadiRakennus(), avain); };
+  toimet.valittu = [this] { NaytaErittely(); };
+  lomake.luettelo.Aseta(std::move(toimet));
+  lomake.KuukausitaseKlikattu = [this] {
+    NaytaKuukausitase(VaadiRakennus(), Item(kayttoLiittyma_.arvo->luettelo.Valittu()));
+  };
   lomake.SahkokuormatMuuttuivat = [this] { KayttoLiittyma_SahkokuormatMuuttuivat(); };
 }
 
@@ -115,57 +175,18 @@ void clsTilat::ListaaTilat() try {
 
 void clsTilat::TaytaLuettelo() {
   Odotus odotus;
-  kayttoLiittyma_.arvo->lvwTilat.Tayta(LasketutRivit(VaadiRakennus(), *this));
-  PaivitaNapit();
+  frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
+  lomake.luettelo.Nayta();
+  const std::string huomautus = Tilavuushuomautus(VaadiRakennus(), *this);
+  lomake.lblHuomautus.Otsikko(huomautus);
+  lomake.lblHuomautus.Nakyva(!huomautus.empty());
 }
 
-void clsTilat::PaivitaNapit() { kayttoLiittyma_.arvo->PaivitaNapit(VaadiRakennus().Saastotoimenpiteet.Count() > 0); }
-
-clsTila& clsTilat::ValittuTila() const { return Item(kayttoLiittyma_.arvo->lvwTilat.Valittu()); }
-
-void clsTilat::LuetteloMuuttui(int toiminto, const Tunniste& valittava) {
-  VaadiRakennus().Muuttui(Teksti(toiminto));
-  kayttoLiittyma_.arvo->lvwTilat.Valitse(valittava);
-  PaivitaNapit();
-}
-
-void clsTilat::KayttoLiittyma_LisaaKlikattu() try {
-  const Tunniste avain = Tunniste::Uusi(clsTila::kLuokka.NimiSana());
-  clsTila& tila = Add(avain);
-  tila.TilanNimi = Teksti(tekstit::kUusiTila);
-  tila.TilanKayttoaikaStr = Valintalista("frmTila", "cmbTilanKayttoaika").at(0);
-  tila.SaatotapaStr = Valintalista("frmTila", "cmbSaatotapa").at(1);
-  if (tila.NaytaKayttoliittyma()) {
-    kayttoLiittyma_.arvo->lvwTilat.Valitse(avain);
-    return PaivitaNapit();
-  }
-  Remove(avain);
-  VaadiRakennus().RekisteriVanheni();
-} catch (...) {
-  NostaVirhe("clsTilat:KayttoLiittyma_LisaaKlikattu Method");
-}
-
-void clsTilat::KayttoLiittyma_MuokkaaKlikattu() try { ValittuTila().NaytaKayttoliittyma(); } catch (...) {
-  NostaVirhe("clsTilat:KayttoLiittyma_MuokkaaKlikattu Method");
-}
-
-void clsTilat::KayttoLiittyma_KopioiKlikattu() try {
-  clsTila& kopio = LisaaKopio(*this, ValittuTila());
-  kopio.TilanNimi = Teksti(tekstit::kKopio) + kopio.TilanNimi;
-  LuetteloMuuttui(tekstit::kTilanKopiointi, kopio.sKey);
-} catch (...) {
-  NostaVirhe("clsTilat:KayttoLiittyma_KopioiKlikattu Method");
-}
-
-void clsTilat::KayttoLiittyma_PoistaKlikattu() try {
-  clsTila& tila = ValittuTila();
-  if (const std::string nimet = ViittaavatToimenpiteet(tila); !nimet.empty())
-    return Ilmoita(Teksti(tekstit::kTilaaEiVoiPoistaa) + " " + nimet, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
-  if (!KysyPoisto()) return;
-  Remove(Tunniste(tila.sKey));
-  LuetteloMuuttui(tekstit::kTilanPoisto, {});
-} catch (...) {
-  NostaVirhe("clsTilat:KayttoLiittyma_PoistaKlikattu Method");
+void clsTilat::NaytaErittely() {
+  const frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
+  const int rivi = lomake.lvwTilat.Indeksi();
+  lomake.lblErittely.Otsikko(rivi < 0 ? std::string() : lomake.lvwTilat.Kohde().Lista().Piirteet(rivi).selite);
+  lomake.PaivitaKentat();
 }
 
 void clsTilat::KayttoLiittyma_SahkokuormatMuuttuivat() try {

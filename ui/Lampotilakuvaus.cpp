@@ -2,9 +2,8 @@
 #include "ui/Lampotilakuvaus.h"
 
 #include "tekstit/lomakkeet_kirjasto.h"
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
-
-namespace {}  // namespace
 
 Kaaviotiedot Lampotilakuvaus(std::string otsikko, std::vector<std::string> nimet, std::vector<double> paksuudet,
                              std::vector<double> vastukset, std::vector<double> lampotilat) {
@@ -13,5 +12,6 @@ Kaaviotiedot Lampotilakuvaus(std::string otsikko, std::vector<std::string> nimet
           .sarjat = {{Teksti(tekstit::kPaksuusMm), std::move(paksuudet)},
                      {Teksti(tekstit::kLammonvastusYksikoin), std::move(vastukset)},
                      {Teksti(tekstit::kLampotilaYksikoin), std::move(lampotilat)}},
-          .yksikko = "°C"};
+          .yksikko = "°C",
+          .reunat = {Teksti(tekstit::kLeikkauksenSisapuoli), Teksti(tekstit::kLeikkauksenUlkopuoli)}};
 }

@@ -120,10 +120,13 @@ void KorvaaSarakkeissa(const ListView& lista, std::string_view vanha, std::strin
   lista.Kohde().Osat(std::move(sarakkeet));
 }
 
-void LukitseMuokkausnapit(const Lomake& lomake, bool onToimenpiteita) {
-  if (!onToimenpiteita) return;
+void LukitseMuokkausnapit(const Lomake& lomake, const std::string& syy) {
   for (const auto& ohjain : lomake.Ohjaimet())
-    for (const std::string_view alku : {"cmdLisaa", "cmdKopioi", "cmdPoista"})
-      if (ohjain->Tyyppi() == Ohjaintyyppi::CommandButton && AlkaaNimella(ohjain->Nimi(), alku))
-        ohjain->Kaytossa(false);
+    for (const std::string_view alku : {"cmdLisaa", "cmdKopioi", "cmdPoista"}) {
+      if (ohjain->Tyyppi() != Ohjaintyyppi::CommandButton || !AlkaaNimella(ohjain->Nimi(), alku)) continue;
+      KaannaVihje(*ohjain, ohjain->Vihjetag(), Kaannettavat::Kaikki);
+      if (syy.empty()) continue;
+      ohjain->Kaytossa(false);
+      ohjain->Vihje(syy);
+    }
 }

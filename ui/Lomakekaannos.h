@@ -26,6 +26,6 @@ void KorvaaOtsikoissa(const Lomake& lomake, std::string_view vanha, std::string_
 /// The same in the column headers of a list.
 void KorvaaSarakkeissa(const ListView& lista, std::string_view vanha, std::string_view uusi);
 
-/// Disables the buttons cmdLisaa..., cmdKopioi... and cmdPoista... when the building has saving measures: measures
-/// refer to the objects of the model, so none may come or go.
-void LukitseMuokkausnapit(const Lomake& lomake, bool onToimenpiteita);
+/// Disables the buttons cmdLisaa..., cmdKopioi... and cmdPoista... when there is a reason why objects may neither come
+/// nor go, which becomes their tool tip. Without a reason the tips are the form's own again; nothing is enabled.
+void LukitseMuokkausnapit(const Lomake& lomake, const std::string& syy);

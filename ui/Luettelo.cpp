@@ -4,11 +4,18 @@
 #include <algorithm>
 #include <utility>
 
+#include "kernel/Luvut.h"
+
 namespace {
 
 std::size_t Koko(int luku) { return static_cast<std::size_t>(luku); }
 
 }  // namespace
+
+void Luettelorivi::LisaaLuku(double arvo, const std::string& kuvio) {
+  luvut.push_back({static_cast<int>(solut.size()), arvo, kuvio});
+  solut.push_back(Muotoile(arvo, kuvio));
+}
 
 bool Luettelo::SamatAvaimet(const std::vector<Luettelorivi>& rivit) const {
   return !rivit.empty() && std::ranges::equal(rivit, rivit_, [](const Luettelorivi& uusi, const Rivitieto& entinen) {
@@ -19,6 +26,7 @@ bool Luettelo::SamatAvaimet(const std::vector<Luettelorivi>& rivit) const {
 std::optional<std::vector<int>> Luettelo::TaytaSolut(std::vector<Luettelorivi> rivit) {
   std::vector<int> muuttuneet;
   for (std::size_t i = 0; i < rivit.size(); ++i) {
+    rivit_[i].luvut = std::move(rivit[i].luvut);
     if (rivit[i].solut == solut_[i] && rivit[i].piirteet == rivit_[i].piirteet) continue;
     muuttuneet.push_back(static_cast<int>(i));
     solut_[i] = std::move(rivit[i].solut);
@@ -41,8 +49,11 @@ std::optional<std::vector<int>> Luettelo::Tayta(std::vector<Luettelorivi> rivit)
     const bool suljettu =
         entinen == entiset.end() ? rivi.piirteet.suljettu : entisetRivit[Koko(entinen->second)].suljettu;
     if (!rivi.avain.Tyhja()) paikat_.emplace(rivi.avain, Maara());
-    rivit_.push_back(
-        {.avain = rivi.avain, .ylemmanAvain = rivi.ylempi, .suljettu = suljettu, .piirteet = std::move(rivi.piirteet)});
+    rivit_.push_back({.avain = rivi.avain,
+                      .ylemmanAvain = rivi.ylempi,
+                      .suljettu = suljettu,
+                      .piirteet = std::move(rivi.piirteet),
+                      .luvut = std::move(rivi.luvut)});
     solut_.push_back(std::move(rivi.solut));
   }
   Ripusta();
@@ -91,11 +102,13 @@ void Luettelo::Rivi(int rivi, std::vector<std::string> solut) {
   std::vector<std::string>& kohde = solut_.at(Koko(rivi));
   for (std::size_t s = 0; s < sarakkeet_.size(); ++s) sarakkeet_[s].Vaihda(Solu(kohde, s), Solu(solut, s));
   kohde = std::move(solut);
+  rivit_[Koko(rivi)].luvut.clear();
 }
 
-void Luettelo::Rivi(int rivi, std::vector<std::string> solut, Rivipiirteet piirteet) {
-  Rivi(rivi, std::move(solut));
-  rivit_[Koko(rivi)].piirteet = std::move(piirteet);
+void Luettelo::Vaihda(int rivi, Luettelorivi uusi) {
+  Rivi(rivi, std::move(uusi.solut));
+  rivit_[Koko(rivi)].piirteet = std::move(uusi.piirteet);
+  rivit_[Koko(rivi)].luvut = std::move(uusi.luvut);
 }
 
 int Luettelo::Etsi(const Tunniste& avain) const {

@@ -23,7 +23,7 @@ struct Rivipiirteet {
   bool siirrettava = false;  ///< the person can drag it under another row
   Merkitys merkitys = Merkitys::Tavallinen;
   int merkitty = kKokoRivi;        ///< column that the meaning concerns
-  std::string selite{};            ///< what the meaning tells
+  std::string selite{};            ///< what the meaning, or the row, is about; shown as a tip
   std::vector<int> muokattavat{};  ///< columns in which the person can write
 
   bool operator==(const Rivipiirteet&) const = default;
@@ -32,10 +32,21 @@ struct Rivipiirteet {
 /// A row as it is given to a list. `ylempi` is the key of the row that it hangs under; an empty one, or one that no row
 /// has, puts it on top. A row may come before the one that it hangs under.
 struct Luettelorivi {
+  /// The full value behind a cell and the pattern by which it is shown (kernel/Luvut.h).
+  struct Luku {
+    int sarake;
+    double arvo;
+    std::string kuvio;
+  };
+
   std::vector<std::string> solut;
   Tunniste avain{};
   Tunniste ylempi{};
   Rivipiirteet piirteet{};
+  std::vector<Luku> luvut{};
+
+  /// Adds a cell that shows the number.
+  void LisaaLuku(double arvo, const std::string& kuvio);
 };
 
 /// What a list shows: rows, and the sums below them (empty: none).
@@ -63,13 +74,15 @@ class Luettelo {
   void Tayta(Taulukko rivit);
   /// Other cells for a row, which stays where it is. Raises std::out_of_range.
   void Rivi(int rivi, std::vector<std::string> solut);
-  void Rivi(int rivi, std::vector<std::string> solut, Rivipiirteet piirteet);
+  /// Other cells and traits; its keys stay.
+  void Vaihda(int rivi, Luettelorivi uusi);
   void Summat(std::vector<std::string> summat) { summat_ = std::move(summat); }
 
   int Maara() const { return static_cast<int>(rivit_.size()); }
   const Taulukko& Solut() const { return solut_; }
   const std::vector<std::string>& Summat() const { return summat_; }
   const Rivipiirteet& Piirteet(int rivi) const { return Tieto(rivi).piirteet; }
+  const std::vector<Luettelorivi::Luku>& Luvut(int rivi) const { return Tieto(rivi).luvut; }
   /// Key of the row; empty for no row.
   Tunniste Avain(int rivi) const { return rivi < 0 || rivi >= Maara() ? Tunniste() : Tieto(rivi).avain; }
   /// The row of that key, or kEiRivia.
@@ -109,6 +122,7 @@ class Luettelo {
     bool suljettu = false;
     std::vector<int> alemmat{};
     Rivipiirteet piirteet{};
+    std::vector<Luettelorivi::Luku> luvut{};
   };
 
   const Rivitieto& Tieto(int rivi) const { return rivit_.at(static_cast<std::size_t>(rivi)); }

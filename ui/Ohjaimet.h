@@ -131,9 +131,8 @@ class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
   void Tayta(Luettelosisalto sisalto) const { ohjain_->Tayta(std::move(sisalto)); }
   /// Other cells for one row, at the cost of that row.
   void Rivi(int indeksi, std::vector<std::string> solut) const { ohjain_->Rivi(indeksi, std::move(solut)); }
-  void Rivi(int indeksi, std::vector<std::string> solut, Rivipiirteet piirteet) const {
-    ohjain_->Rivi(indeksi, std::move(solut), std::move(piirteet));
-  }
+  /// The same with other traits; its keys stay.
+  void Vaihda(int indeksi, Luettelorivi rivi) const { ohjain_->Vaihda(indeksi, std::move(rivi)); }
   void Summarivi(std::vector<std::string> solut) const { ohjain_->Summarivi(std::move(solut)); }
   int Indeksi() const { return ohjain_->Indeksi(); }
   void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }

@@ -132,7 +132,7 @@ void Ohjain::Tayta(Luettelosisalto sisalto) {
   if (!muuttuneet) {
     const std::vector<int> nyt = lista_.Nakyvat();
     indeksi_ = lista_.Etsi(valittu);
-    if (indeksi_ < 0 && !nyt.empty())
+    if (indeksi_ < 0 && !nyt.empty() && !lista_.Avain(nyt.front()).Tyhja())
       indeksi_ = nyt[valittu.Tyhja() ? 0 : std::min(static_cast<std::size_t>(paikka), nyt.size() - 1)];
     return Paivita(Piirre::Rivit);
   }
@@ -145,8 +145,8 @@ void Ohjain::Rivi(int indeksi, std::vector<std::string> solut) {
   PaivitaRivi(indeksi);
 }
 
-void Ohjain::Rivi(int indeksi, std::vector<std::string> solut, Rivipiirteet piirteet) {
-  lista_.Rivi(indeksi, std::move(solut), std::move(piirteet));
+void Ohjain::Vaihda(int indeksi, Luettelorivi rivi) {
+  lista_.Vaihda(indeksi, std::move(rivi));
   PaivitaRivi(indeksi);
 }
 

@@ -65,6 +65,7 @@ struct Kaaviotiedot {
   std::vector<double> arvot{};
   std::vector<Kaaviosarja> sarjat{};
   std::string yksikko{};
+  std::vector<std::string> reunat{};  ///< of a section: what lies left and right of it
 };
 
 /// Where the texts of a column stand; a column of numbers stands at the right edge in any case.
@@ -147,12 +148,12 @@ class Ohjain {
   const Taulukko& Rivit() const { return lista_.Solut(); }
   /// Rows without keys; nothing is chosen afterwards.
   void Rivit(Taulukko rivit);
-  /// Rows with keys, and the sums. The row chosen before stays chosen; when it is no more, the one that has come to its
-  /// place.
+  /// Rows and sums. With keys, the row chosen before stays chosen; when it is no more, the one that has come to its
+  /// place; the first one, when none was. Without keys none is chosen.
   void Tayta(Luettelosisalto sisalto);
   /// Other cells for one row, which stays where it is.
   void Rivi(int indeksi, std::vector<std::string> solut);
-  void Rivi(int indeksi, std::vector<std::string> solut, Rivipiirteet piirteet);
+  void Vaihda(int indeksi, Luettelorivi rivi);
   /// Chosen row, or page of a tab control; -1 none. Outside the rows it becomes -1. A row keeps its number wherever a
   /// sorted list shows it.
   int Indeksi() const { return indeksi_; }

@@ -127,9 +127,12 @@ void NaytaVirhe(int koodi, std::string_view lisateksti) {
   ViestitNyt().Nayta(viesti);
 }
 
-bool KysyPoisto() {
-  const Viesti kysymys{Teksti(tekstit::kPoistetaankoRivi), Teksti(tekstit::kPoistonVahvistus), Vakavuus::Kysymys,
-                       Napit::KyllaEi, Vastaus::Ei};
+bool KysyPoisto(std::string_view nimi, std::string_view seuraus) {
+  std::string teksti = Teksti(tekstit::kPoistetaankoRivi);
+  for (const std::string_view osa : {nimi, seuraus})
+    if (!osa.empty()) teksti.append("\n\n").append(osa);
+  const Viesti kysymys{std::move(teksti), Teksti(tekstit::kPoistonVahvistus), Vakavuus::Kysymys, Napit::KyllaEi,
+                       Vastaus::Ei};
   return ViestitNyt().Nayta(kysymys) == Vastaus::Kylla;
 }
 

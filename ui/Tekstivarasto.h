@@ -27,8 +27,9 @@ std::string Teksti(int id);
 /// Shows a row of the message table: its text, a blank and `lisateksti`, titled by its level (1 error, 2 notice).
 /// Without the store or the row the message is "Virhe <code> <lisateksti>". Never raises.
 void NaytaVirhe(int koodi, std::string_view lisateksti = {});
-/// The question before something is removed; No is the default. True = Yes.
-bool KysyPoisto();
+/// The question before something is removed; No is the default. True = Yes. `nimi`: what is removed; `seuraus`: what
+/// else happens, if anything.
+bool KysyPoisto(std::string_view nimi, std::string_view seuraus = {});
 
 /// The rows of a choice list, in order, by form and control name (letter case ignored). Raises when the store can't be
 /// read.

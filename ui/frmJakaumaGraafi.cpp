@@ -5,8 +5,12 @@
 #include <utility>
 
 #include "kernel/Luvut.h"
+#include "tekstit/lomakkeet_asetukset.h"
+#include "ui/Tallennuskysely.h"
 
 namespace {
+
+constexpr Tallennettava kKuva{tekstit::kTallennaKuva, tekstit::kKuvatiedostot, ".png"};
 
 std::string Selite(const std::string& nimi, double arvo, double summa) {
   const double osuus = summa == 0 ? 0 : arvo / summa * 100;
@@ -17,12 +21,21 @@ std::string Selite(const std::string& nimi, double arvo, double summa) {
 
 frmJakaumaGraafi::frmJakaumaGraafi() : Lomake("frmJakaumaGraafi") {
   cmdKopioi.KunKlikataan([this] { chtReport.KopioiLeikepoydalle(); });
+  cmdTallennaKuva.KunKlikataan([this] {
+    KysyJaTallenna(kKuva, [this](const std::string& tiedosto) { return chtReport.TallennaKuva(tiedosto); });
+  });
   cmdSulje.KunKlikataan([this] { Sulje(); });
 }
 
-void frmJakaumaGraafi::NaytaJakauma(std::string otsikko, std::vector<std::string> nimet, std::vector<double> arvot) {
+void frmJakaumaGraafi::NaytaJakauma(std::string otsikko, std::vector<std::string> nimet, std::vector<double> arvot,
+                                    std::string yksikko) {
   const double summa = std::accumulate(arvot.begin(), arvot.end(), 0.0);
-  for (std::size_t i = 0; i < nimet.size(); ++i) nimet[i] = Selite(nimet[i], arvot[i], summa);
-  chtReport.Kaavio({std::move(otsikko), std::move(nimet), std::move(arvot)});
+  Kaaviotiedot kaavio{.otsikko = std::move(otsikko), .yksikko = std::move(yksikko)};
+  for (std::size_t i = 0; i < nimet.size(); ++i) {
+    if (arvot[i] == 0 && summa != 0) continue;
+    kaavio.nimet.push_back(Selite(nimet[i], arvot[i], summa));
+    kaavio.arvot.push_back(arvot[i]);
+  }
+  chtReport.Kaavio(std::move(kaavio));
   NaytaModaalisena();
 }

@@ -7,11 +7,13 @@ class frmJakaumaGraafi : public Lomake {
  public:
   frmJakaumaGraafi();
 
-  /// Shows the values as a pie and waits. Each name in the legend gets its value's share of the total, "0 %" if the
-  /// total is 0.
-  void NaytaJakauma(std::string otsikko, std::vector<std::string> nimet, std::vector<double> arvot);
+  /// Shows the values, in that unit, as a pie and waits. Each name in the legend gets its value's share of the total.
+  /// Values of 0 are left out; when all are, each is shown with "0 %".
+  void NaytaJakauma(std::string otsikko, std::vector<std::string> nimet, std::vector<double> arvot,
+                    std::string yksikko);
 
   MSChart chtReport{*this, "chtReport"};
   CommandButton cmdKopioi{*this, "cmdKopioi"};
+  CommandButton cmdTallennaKuva{*this, "cmdTallennaKuva"};
   CommandButton cmdSulje{*this, "cmdSulje"};
 };

@@ -85,7 +85,7 @@ void frmLampoYhteenveto::NaytaGraafi() {
     nimet.push_back(IlmanKaksoispistetta(Etsi(osuus.otsikko).Teksti()));
     arvot.push_back((this->*osuus.rivi).arvo.Luku());
   }
-  frmJakaumaGraafi().NaytaJakauma(KohteenNimi, std::move(nimet), std::move(arvot));
+  frmJakaumaGraafi().NaytaJakauma(KohteenNimi, std::move(nimet), std::move(arvot), "MWh/a");
 }
 
 void frmLampoYhteenveto::NaytaHaviot() {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmRakenteet.h"
 
+#include "tekstit/viestit.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/Lomakekaannos.h"
+#include "ui/Tekstivarasto.h"
 
 namespace {
 
@@ -99,7 +101,7 @@ void frmRakenteet::PaivitaKentat(const Tilanne& tilanne) {
   if (!ikkuna && tabRakenne.Indeksi() == kVarjostussivu) tabRakenne.Indeksi(0);
   tabRakenne.SivuKaytossa(kVarjostussivu, ikkuna);
   PaivitaKerrosnapit();
-  LukitseMuokkausnapit(*this, tilanne.lukittu);
+  LukitseMuokkausnapit(*this, tilanne.lukittu ? Teksti(tekstit::kOsiaEiVoiLisata) : std::string());
 }
 
 void frmRakenteet::PaivitaKerrosnapit() {

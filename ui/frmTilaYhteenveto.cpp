@@ -2,18 +2,11 @@
 #include "ui/frmTilaYhteenveto.h"
 
 #include "ui/Kenttatarkistus.h"
-#include "ui/Lomakekaannos.h"
 
 frmTilaYhteenveto::frmTilaYhteenveto() : Lomake("frmTilaYhteenveto") {
-  lvwTilat.KunMuuttuu([this] { PaivitaNapit(lukittu_); });
-  lvwTilat.KunKlikataan([this] { Nosta(MuokkaaKlikattu); });
-  cmdLisaaTila.Nostaa(LisaaKlikattu);
-  cmdMuokkaaTila.Nostaa(MuokkaaKlikattu);
-  cmdKopioiTila.Nostaa(KopioiKlikattu);
-  cmdPoistaTila.Nostaa(PoistaKlikattu);
   cmdKuukausitase.Nostaa(KuukausitaseKlikattu);
   chkKaytaTotSahkoKuormia.KunKlikataan([this] {
-    PaivitaNapit(lukittu_);
+    PaivitaKentat();
     Nosta(SahkokuormatMuuttuivat);
   });
   txtTotSahkoKuormaPros.KunPoistutaan([this] { OtaSahkokuormat(); });
@@ -28,12 +21,7 @@ bool frmTilaYhteenveto::OtaSahkokuormat() {
   return true;
 }
 
-void frmTilaYhteenveto::PaivitaNapit(bool lukittu) {
-  lukittu_ = lukittu;
-  const bool valittu = lvwTilat.Indeksi() >= 0;
-  cmdLisaaTila.Kaytossa(true);
-  for (const CommandButton& nappi : {cmdMuokkaaTila, cmdKopioiTila, cmdPoistaTila, cmdKuukausitase})
-    nappi.Kaytossa(valittu);
+void frmTilaYhteenveto::PaivitaKentat() const {
+  cmdKuukausitase.Kaytossa(!luettelo.Valittu().Tyhja());
   txtTotSahkoKuormaPros.Kaytossa(chkKaytaTotSahkoKuormia.Valittu());
-  LukitseMuokkausnapit(*this, lukittu_);
 }

@@ -1,23 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Luettelomuokkain.h"
 
 /// The spaces of the building and their heat balance of the year; their electricity-load settings.
 class frmTilaYhteenveto : public Lomake {
  public:
   frmTilaYhteenveto();
 
-  std::function<void()> LisaaKlikattu;
-  // These four with a space chosen in the list.
-  std::function<void()> MuokkaaKlikattu;
-  std::function<void()> KopioiKlikattu;
-  std::function<void()> PoistaKlikattu;
+  /// With a space chosen in the list.
   std::function<void()> KuukausitaseKlikattu;
   /// The check box was clicked, or a valid share was written.
   std::function<void()> SahkokuormatMuuttuivat;
 
-  /// Enables what can be done to the present list; `lukittu`: spaces may neither come nor go.
-  void PaivitaNapit(bool lukittu);
+  /// Enables what hangs on the chosen space and on the check box.
+  void PaivitaKentat() const;
 
   ListView lvwTilat{*this, "lvwTilat"};
   CommandButton cmdLisaaTila{*this, "cmdLisaaTila"};
@@ -27,10 +23,11 @@ class frmTilaYhteenveto : public Lomake {
   CommandButton cmdKuukausitase{*this, "cmdKuukausitase"};
   CheckBox chkKaytaTotSahkoKuormia{*this, "chkKaytaTotSahkoKuormia"};
   TextBox txtTotSahkoKuormaPros{*this, "txtTotSahkoKuormaPros"};  // %
+  Label lblErittely{*this, "lblErittely"};                        // how the demand of the chosen space comes about
+  Label lblHuomautus{*this, "lblHuomautus"};                      // what doesn't fit the basic data
   CommandButton cmdSulje{*this, "cmdSulje"};
+  Luettelomuokkain luettelo{*this, {lvwTilat, cmdLisaaTila, cmdMuokkaaTila, cmdKopioiTila, cmdPoistaTila}};
 
  private:
   bool OtaSahkokuormat();
-
-  bool lukittu_ = false;
 };

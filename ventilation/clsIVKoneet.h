@@ -48,15 +48,7 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
 
  private:
   void LiitaTapahtumat();
-  void PaivitaNapit();
-  clsIVKone& ValittuKone() const;
-  void Valitse(const Tunniste& avain);
-  void LuetteloMuuttui(int toiminto, const Tunniste& valittava);
   void IVKone_LampoSahkoKulutusMuuttui();
-  void KayttoLiittyma_LisaaKlikattu();
-  void KayttoLiittyma_MuokkaaKlikattu();
-  void KayttoLiittyma_KopioiKlikattu();
-  void KayttoLiittyma_PoistaKlikattu();
 
   Oma<double> jalkilammitys_;
   Oma<std::shared_ptr<frmIVKoneYhteenveto>> kayttoLiittyma_;

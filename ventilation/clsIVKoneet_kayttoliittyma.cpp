@@ -3,10 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "building/LisaaKopio.h"
-#include "building/Toimenpideviittaukset.h"
-#include "building/Yhteiset.h"
-#include "building/clsRakennus.h"
+#include "building/Kokoelmamuokkaus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "tekstit/lomakkeet_ilmanvaihto.h"
@@ -21,6 +18,7 @@
 namespace {
 
 constexpr const char* kEiLukua = "---";
+constexpr int kTilasarake = 2;
 
 /// A machine and its year, if that could be calculated.
 struct Koneluvut {
@@ -73,17 +71,31 @@ Luettelosisalto KoneidenRivit(const clsIVKoneet& koneet) {
   for (clsIVKone& kone : koneet) {
     const clsTila* tila = VaadiRakennus().Tilat.Etsi(kone.LiittyyTilaansKey);
     const Koneluvut luvut{kone, LasketutLuvut(kone)};
-    std::vector<std::string> rivi{kone.KoneenTunnus, kone.IVPeriaate, tila ? tila->TilanNimi : Teksti(tekstit::kViiva)};
+    Luettelorivi rivi{{kone.KoneenTunnus, kone.IVPeriaate, tila ? tila->TilanNimi : Teksti(tekstit::kViiva)},
+                      kone.sKey};
+    if (!tila)
+      rivi.piirteet = {
+          .merkitys = Merkitys::Huomio, .merkitty = kTilasarake, .selite = Teksti(tekstit::kKoneellaEiTilaa)};
     for (std::size_t i = 0; i < summat.size(); ++i) {
       const auto arvo = kSarakkeet[i].arvo(luvut);
-      summat[i] = arvo && summat[i] ? std::optional(*summat[i] + *arvo) : std::nullopt;
-      rivi.push_back(Luku(arvo, kSarakkeet[i]));
+      if (arvo)
+        rivi.LisaaLuku(*arvo, kSarakkeet[i].kuvio);
+      else
+        rivi.solut.emplace_back(kEiLukua);
+      const auto naytetty = LueLuku(rivi.solut.back());  // so that the shown numbers add up
+      summat[i] = naytetty && summat[i] ? std::optional(*summat[i] + *naytetty) : std::nullopt;
     }
-    sisalto.rivit.push_back({std::move(rivi), kone.sKey});
+    sisalto.rivit.push_back(std::move(rivi));
   }
   for (std::size_t i = 0; i < summat.size(); ++i)
     sisalto.summat.push_back(kSarakkeet[i].summataan ? Luku(summat[i], kSarakkeet[i]) : "");
   return sisalto;
+}
+
+void AlustaKone(clsIVKone& kone) {
+  clsKayntiAjat& ajat = kone.KayntiAikaYleistiedot;
+  ajat.LuoJaksot(kone.SisaanpuhallusLampotila(), kone.IlmanLampeneminenPuhaltimessa);
+  ajat.KayntiAikojenSyottoTapa = Valintalista("frmIlmanvaihtokoneenKayntiajat", "cmbKayntiAikojenSyottoTapa").at(0);
 }
 
 }  // namespace
@@ -101,17 +113,21 @@ void clsIVKoneet::NaytaKayttoliittyma() try {
 }
 
 void clsIVKoneet::LiitaTapahtumat() {
-  frmIVKoneYhteenveto& lomake = *kayttoLiittyma_.arvo;
-  lomake.LisaaKlikattu = [this] { KayttoLiittyma_LisaaKlikattu(); };
-  lomake.MuokkaaKlikattu = [this] { KayttoLiittyma_MuokkaaKlikattu(); };
-  lomake.KopioiKlikattu = [this] { KayttoLiittyma_KopioiKlikattu(); };
-  lomake.PoistaKlikattu = [this] { KayttoLiittyma_PoistaKlikattu(); };
+  kayttoLiittyma_.arvo->luettelo.Aseta(
+      Toimet(Kokoelmamuokkaus<clsIVKone>{.kokoelma = *this,
+                                         .nimi = &clsIVKone::KoneenTunnus,
+                                         .kopiointi = tekstit::kIlmanvaihtokoneenKopiointi,
+                                         .poisto = tekstit::kIlmanvaihtokoneenPoisto,
+                                         .kaytossa = tekstit::kKonettaEiVoiPoistaa,
+                                         .muokkaa = [this](clsIVKone& kone) { return Muokkaa(kone); },
+                                         .alusta = AlustaKone,
+                                         .kopioitu = [](clsIVKone& kone) { kone.PaivitaOsienTiedot(); }},
+             [this] { return KoneidenRivit(*this); }));
 }
 
 void clsIVKoneet::LueDataluokka() try {
   Odotus odotus;
-  kayttoLiittyma_.arvo->lvwKoneet.Tayta(KoneidenRivit(*this));
-  PaivitaNapit();
+  kayttoLiittyma_.arvo->luettelo.Nayta();
 } catch (...) {
   NostaVirhe("clsIVKoneet:LueDataluokka Method");
 }
@@ -122,10 +138,6 @@ void clsIVKoneet::ListaaKoneet() try {
   NostaVirhe("clsIVKoneet:ListaaKoneet Method");
 }
 
-void clsIVKoneet::PaivitaNapit() { kayttoLiittyma_.arvo->PaivitaNapit(VaadiRakennus().Saastotoimenpiteet.Count() > 0); }
-
-clsIVKone& clsIVKoneet::ValittuKone() const { return Item(kayttoLiittyma_.arvo->lvwKoneet.Valittu()); }
-
 bool clsIVKoneet::Muokkaa(clsIVKone& kone) try {
   kone.LampoSahkoKulutusMuuttui.arvo = [this] { IVKone_LampoSahkoKulutusMuuttui(); };
   return kone.NaytaKayttoliittyma();
@@ -134,51 +146,3 @@ bool clsIVKoneet::Muokkaa(clsIVKone& kone) try {
 }
 
 void clsIVKoneet::IVKone_LampoSahkoKulutusMuuttui() { VuotuinenIVjalkilammitysLampoUpToDate = false; }
-
-void clsIVKoneet::Valitse(const Tunniste& avain) {
-  kayttoLiittyma_.arvo->lvwKoneet.Valitse(avain);
-  PaivitaNapit();
-}
-
-/// After machines have come or gone.
-void clsIVKoneet::LuetteloMuuttui(int toiminto, const Tunniste& valittava) {
-  VaadiRakennus().Muuttui(Teksti(toiminto));
-  Valitse(valittava);
-}
-
-void clsIVKoneet::KayttoLiittyma_LisaaKlikattu() try {
-  const Tunniste avain = Tunniste::Uusi(clsIVKone::kLuokka.NimiSana());
-  clsIVKone& kone = Add(avain);
-  clsKayntiAjat& ajat = kone.KayntiAikaYleistiedot;
-  ajat.LuoJaksot(kone.SisaanpuhallusLampotila(), kone.IlmanLampeneminenPuhaltimessa);
-  ajat.KayntiAikojenSyottoTapa = Valintalista("frmIlmanvaihtokoneenKayntiajat", "cmbKayntiAikojenSyottoTapa").at(0);
-  if (Muokkaa(kone)) return Valitse(avain);
-  Remove(avain);
-  VaadiRakennus().RekisteriVanheni();
-} catch (...) {
-  NostaVirhe("clsIVKoneet:KayttoLiittyma_LisaaKlikattu Method");
-}
-
-void clsIVKoneet::KayttoLiittyma_MuokkaaKlikattu() try { Muokkaa(ValittuKone()); } catch (...) {
-  NostaVirhe("clsIVKoneet:KayttoLiittyma_MuokkaaKlikattu Method");
-}
-
-void clsIVKoneet::KayttoLiittyma_KopioiKlikattu() try {
-  clsIVKone& kopio = LisaaKopio(*this, ValittuKone());
-  kopio.KoneenTunnus = Teksti(tekstit::kKopio) + kopio.KoneenTunnus;
-  kopio.PaivitaOsienTiedot();
-  LuetteloMuuttui(tekstit::kIlmanvaihtokoneenKopiointi, kopio.sKey);
-} catch (...) {
-  NostaVirhe("clsIVKoneet:KayttoLiittyma_KopioiKlikattu Method");
-}
-
-void clsIVKoneet::KayttoLiittyma_PoistaKlikattu() try {
-  clsIVKone& kone = ValittuKone();
-  if (const std::string nimet = ViittaavatToimenpiteet(kone); !nimet.empty())
-    return Ilmoita(Teksti(tekstit::kKonettaEiVoiPoistaa) + " " + nimet, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
-  if (!KysyPoisto()) return;
-  Remove(Tunniste(kone.sKey));
-  LuetteloMuuttui(tekstit::kIlmanvaihtokoneenPoisto, {});
-} catch (...) {
-  NostaVirhe("clsIVKoneet:KayttoLiittyma_PoistaKlikattu Method");
-}

@@ -10,13 +10,17 @@
 #include "bench/Parit.h"
 #include "bench/Taulukko.h"
 #include "bench/qt/Ikkunat.h"
+#include "bench/qt/Luettelot.h"
+#include "kernel/Hakemistot.h"
 #include "ui/KerataanViestit.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/qt/QtIkkuna.h"
 
 namespace mittaus {
 
 namespace {
 
-constexpr double kAloitustavoite = 1.25, kMuistitavoite = 1.4;
+constexpr double kAloitustavoite = 1.25, kMuistitavoite = 1.4, kLuettelotavoite = 2;
 
 void Aloitus(benchmark::State& state) {
   QSize oma, toinen;
@@ -58,6 +62,29 @@ void Muisti(benchmark::State& state) {
   state.counters["megatavuja"] = 1;
 }
 
+/// The texts and forms of the program, without its main window.
+Luetteloparit TeeLuetteloparit() {
+  SiemennaTiedostot();
+  AlustaTekstit();
+  AsetaQtLomakkeet(nullptr);
+  return {};
+}
+
+void LuettelonTaytto(benchmark::State& state) {
+  Luetteloparit parit = TeeLuetteloparit();
+  MittaaParit(
+      state, kLuettelotavoite, [&] { return parit.TaytaOma(); }, [&] { return parit.TaytaPaljas(); },
+      [&] { parit.Tarkista(); });
+}
+
+void LuettelonRivi(benchmark::State& state) {
+  Luetteloparit parit = TeeLuetteloparit();
+  parit.Tarkista();
+  MittaaParit(
+      state, kLuettelotavoite, [&] { return parit.MuutaOmanRivi(); }, [&] { return parit.MuutaPaljaanRivi(); },
+      [&] { parit.Tarkista(); });
+}
+
 }  // namespace
 
 }  // namespace mittaus
@@ -75,6 +102,8 @@ int AjaMittaukset(int argc, char** argv) {
   mittaus::IlmoitaParit("start to the first frame; QMainWindow with a QMdiArea", mittaus::Aloitus);
   mittaus::IlmoitaParit("start of the process to the first frame; process of the same bare window", mittaus::Prosessi);
   mittaus::IlmoitaParit("memory with a project open; the same bare window", mittaus::Muisti);
+  mittaus::IlmoitaParit("fill a list of 1,000 rows; bare QTreeWidget with the same rows", mittaus::LuettelonTaytto);
+  mittaus::IlmoitaParit("change one row of 1,000; bare QTreeWidget with the same rows", mittaus::LuettelonRivi);
   mittaus::Taulukko taulukko;
   benchmark::RunSpecifiedBenchmarks(&taulukko);
   return taulukko.Epaonnistui() ? 1 : 0;

@@ -179,7 +179,7 @@ void Materiaaliselain::KayttoLiittyma_Poista() {
   std::string kayttajat;
   for (const std::string& nimi : avaus_.kirjastot.Avaa().MateriaalinKayttajat(id)) kayttajat += "\n" + nimi;
   if (!kayttajat.empty()) return Ilmoita(Teksti(tekstit::kMateriaaliKaytossa) + kayttajat);
-  if (KysyPoisto())
+  if (KysyPoisto(valittu->Aine.Nimi))
     KirjoitaKirjastoon(tekstit::kPoistoEpaonnistui, [&] { avaus_.kirjastot.Avaa().PoistaMateriaali(id); });
 }
 

@@ -213,7 +213,7 @@ void Rakennemuokkain::KayttoLiittyma_RakKerKopioi() {
 }
 
 void Rakennemuokkain::KayttoLiittyma_RakKerPoista() {
-  if (!KysyPoisto()) return;
+  if (!KysyPoisto(KerroksenNimi(Kerrokset().Item(Paikka())))) return;
   const int paikka = Paikka();
   Kerrokset().Remove(paikka);
   NaytaKerrokset(std::min(paikka, Kerrokset().Count()) - 1);

@@ -205,7 +205,7 @@ void Rakenneselain::Muokkaa(Kirjastorakenne rakenne) {
 
 void Rakenneselain::KayttoLiittyma_Poista() {
   const Kirjastorakenne* valittu = Valittu();
-  if (!valittu || valittu->Kanta != Kirjasto::Oma || !KysyPoisto()) return;
+  if (!valittu || valittu->Kanta != Kirjasto::Oma || !KysyPoisto(valittu->Ratkaisu.Nimi)) return;
   const std::string id = valittu->Id;
   KirjoitaKirjastoon(tekstit::kPoistoEpaonnistui, [&] { avaus_.kirjastot.Avaa().PoistaRakenne(id); });
 }

@@ -50,6 +50,21 @@ TEST_F(TilaDialogi, ListShowsTheBalanceOfEachSpaceAndItsSums) {
   EXPECT_TRUE(rakennus->Tallennettu) << "looking changes nothing";
 }
 
+TEST_F(TilaDialogi, ListTellsHowTheDemandComesAboutAndOfSpacesLargerThanTheBuilding) {
+  Koulu().TilanNimi = "Koulu";
+  rakennus->Perustiedot.Kokonaistilavuus = 17500;
+  rakennus->Tilat.NaytaKayttoliittyma();
+  const std::string erittely = Luettelo().Teksti("lblErittely");
+  EXPECT_EQ(erittely.rfind("Koulu: Johtuminen " + Rivit()[0][5] + " + Ilmanvaihto " + Rivit()[0][6] + " − ", 0), 0u)
+      << erittely;
+  EXPECT_NE(erittely.find(" = " + Rivit()[0][8] + " MWh/a"), std::string::npos) << erittely;
+  EXPECT_FALSE(Luettelo().Etsi("lblHuomautus").Nakyva());
+  rakennus->Perustiedot.Kokonaistilavuus = 16200;
+  rakennus->Tilat.ListaaTilat();
+  EXPECT_TRUE(Luettelo().Etsi("lblHuomautus").Nakyva());
+  EXPECT_NE(Luettelo().Teksti("lblHuomautus").find("17 500 m³"), std::string::npos);
+}
+
 TEST_F(TilaDialogi, AddedSpaceStaysOnlyAfterOk) {
   rakennus->Tilat.NaytaKayttoliittyma();
   ikkunat.KunNaytetaan("frmTila", [](Ikkunaton& l) { l.KayttajaPainaa("cmdPeruuta"); });
@@ -101,8 +116,14 @@ TEST_F(TilaDialogi, SpaceIsRemovedAfterAQuestionButNotFromUnderAMeasure) {
   Luettelo().KayttajaPainaa("cmdPoistaTila");
   EXPECT_EQ(rakennus->Tilat.Count(), 2);
   rakennus->Saastotoimenpiteet.Tyhjenna();
+  clsIVKone& kone = rakennus->IVKoneet.Add("TK01");
+  kone.KoneenTunnus = "TK01";
+  kone.LiittyyTilaansKey = varasto.sKey;
+  varasto.TilanNimi = "Varasto";
   Luettelo().KayttajaPainaa("cmdPoistaTila");
   EXPECT_EQ(rakennus->Tilat.Count(), 2) << "No is the default";
+  EXPECT_EQ(viestit.Esiintymia("Varasto"), 1) << "the question tells what goes";
+  EXPECT_EQ(viestit.Esiintymia("TK01"), 1) << "and what is left without a space";
   viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
   Luettelo().KayttajaPainaa("cmdPoistaTila");
   ASSERT_EQ(rakennus->Tilat.Count(), 1);

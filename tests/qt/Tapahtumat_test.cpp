@@ -232,7 +232,7 @@ TEST_F(Tapahtumat, KaavioKopioituuKuvanaJaLukuina) {
     QTest::mouseClick(dialogi->findChild<QPushButton*>("cmdKopioi"), Qt::LeftButton);
     QTest::keyClick(dialogi, Qt::Key_Escape);
   });
-  frmJakaumaGraafi().NaytaJakauma("Koulu", {"Tilat", "Muu lämpö"}, {30, 10});
+  frmJakaumaGraafi().NaytaJakauma("Koulu", {"Tilat", "Muu lämpö"}, {30, 10}, "MWh/a");
   const QMimeData* tiedot = QGuiApplication::clipboard()->mimeData();
   EXPECT_TRUE(tiedot->hasImage());
   EXPECT_TRUE(tiedot->text().contains("Tilat  (75 %)\t30,00")) << tiedot->text().toStdString();

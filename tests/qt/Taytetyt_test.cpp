@@ -111,7 +111,7 @@ TEST_F(Taytetyt, PienetLomakkeetMahtuvatKenttiinsa) {
   frmJakaumaGraafi().NaytaJakauma("Työväenopiston ja kirjaston yhteisrakennus",
                                   {"Tilojen lämmitys", "Ilmanvaihtokoneiden jälkilämmitys", "Käyttöveden lämmitys",
                                    "Prosessiveden lämmitys", "Muu lämpö"},
-                                  {123456.78, 34567.89, 23456.78, 1234.5, 0});
+                                  {123456.78, 34567.89, 23456.78, 1234.5, 0}, "MWh/a");
 }
 
 /// The screen of a small laptop.
@@ -200,7 +200,7 @@ TEST_F(Taytetyt, KoneenLomakkeetMahtuvatKenttiinsa) {
                             {"PK03", "Poistoilmakone", "---", "0,00", "0,45", "8 760", "0,00", "0,00", "3,94"}});
   luettelo.lvwKoneet.Summarivi({"Yhteensä", "", "", "12,345", "12,95", "", "1 234,56", "2 345,67", "127,39"});
   luettelo.lvwKoneet.Indeksi(0);
-  luettelo.PaivitaNapit(false);
+  luettelo.luettelo.PaivitaNapit();
   luettelo.Nayta();
   OdotaMahtuvan(luettelo);
 }

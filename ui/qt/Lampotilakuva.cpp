@@ -31,6 +31,12 @@ const std::vector<double>& Lampotilakuva::Sarja(std::size_t i) const {
   return i < Tiedot().sarjat.size() ? Tiedot().sarjat[i].arvot : tyhja;
 }
 
+/// One material has one colour wherever it is.
+QColor Lampotilakuva::Aineenvari(std::size_t i) const {
+  const auto& nimet = Tiedot().nimet;
+  return Vari(static_cast<std::size_t>(std::ranges::find(nimet, nimet[i]) - nimet.begin()));
+}
+
 QStringList Lampotilakuva::Nimet() const {
   QStringList nimet;
   for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
@@ -109,6 +115,7 @@ void Lampotilakuva::paintEvent(QPaintEvent*) {
   PiirraKerrokset(maalain);
   PiirraNollaviiva(maalain);
   PiirraLampotilat(maalain);
+  PiirraReunat(maalain);
   const QRect ala = Kuvaala().toRect();
   PiirraSelite(maalain, QRect(ala.right(), ala.top(), width() - ala.right(), ala.height()));
 }
@@ -119,7 +126,7 @@ void Lampotilakuva::PiirraKerrokset(QPainter& maalain) const {
   maalain.save();
   for (std::size_t i = 0; i + 1 < rajat.size(); ++i) {
     const QRectF kerros(rajat[i], ala.top(), rajat[i + 1] - rajat[i], ala.height());
-    maalain.setBrush(Vastustaa(i) ? QBrush(Vari(i)) : QBrush(Vari(i), Qt::BDiagPattern));
+    maalain.setBrush(Vastustaa(i) ? QBrush(Aineenvari(i)) : QBrush(Aineenvari(i), Qt::BDiagPattern));
     maalain.drawRect(kerros);
     maalain.save();
     if (Vastustaa(i)) maalain.setPen(Qt::black);
@@ -130,12 +137,18 @@ void Lampotilakuva::PiirraKerrokset(QPainter& maalain) const {
 }
 
 void Lampotilakuva::PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const {
-  if (Vastustaa(i)) return Kaaviokuva::PiirraMerkki(maalain, merkki, i);
   maalain.save();
-  maalain.setBrush(QBrush(Vari(i), Qt::BDiagPattern));
+  maalain.setBrush(Vastustaa(i) ? QBrush(Aineenvari(i)) : QBrush(Aineenvari(i), Qt::BDiagPattern));
   maalain.drawRect(merkki);
+  if (Vastustaa(i)) maalain.setPen(Qt::black);
   maalain.drawText(merkki, Qt::AlignCenter, Numero(i));
   maalain.restore();
+}
+
+void Lampotilakuva::PiirraReunat(QPainter& maalain) const {
+  if (Tiedot().reunat.size() != 2) return;
+  maalain.drawText(Kuvaala(), Qt::AlignLeft | Qt::AlignBottom, Teksti(Tiedot().reunat[0]));
+  maalain.drawText(Kuvaala(), Qt::AlignRight | Qt::AlignBottom, Teksti(Tiedot().reunat[1]));
 }
 
 /// Freezing point, where the temperature passes it.
@@ -161,10 +174,27 @@ void Lampotilakuva::PiirraLampotilat(QPainter& maalain) const {
   maalain.setPen(QPen(palette().color(QPalette::Text), kViivanLeveys));
   maalain.drawPolyline(pisteet.data(), pisteita);
   maalain.restore();
+  PiirraAsteet(maalain, pisteet);
+}
+
+/// The air's temperatures at the edges; those of the surfaces and of the layers' borders where they fit. Inside is on
+/// the left.
+void Lampotilakuva::PiirraAsteet(QPainter& maalain, const std::vector<QPointF>& pisteet) const {
   const QRectF ala = Kuvaala();
-  const int rivi = fontMetrics().height();
-  maalain.drawText(QRectF(ala.left(), pisteet.front().y() - 3 * rivi / 2.0, ala.width(), rivi), Qt::AlignLeft,
-                   Asteina(Sarja(kLampotilat).front()));
-  maalain.drawText(QRectF(ala.left(), pisteet.back().y() + rivi / 3.0, ala.width(), rivi), Qt::AlignRight,
-                   Asteina(Sarja(kLampotilat).back()));
+  const double rivi = fontMetrics().height();
+  const auto& lampotilat = Sarja(kLampotilat);
+  maalain.drawText(QRectF(ala.left(), pisteet.front().y() - 1.5 * rivi, ala.width(), rivi), Qt::AlignLeft,
+                   Asteina(lampotilat.front()));
+  maalain.drawText(QRectF(ala.left(), pisteet.back().y() + rivi / 3, ala.width(), rivi), Qt::AlignRight,
+                   Asteina(lampotilat.back()));
+  double vapaa = ala.left() + Ilmaa();
+  for (std::size_t i = 2; i + 2 < pisteet.size(); ++i) {
+    const QString asteet = QString::fromStdString(Muotoile(lampotilat[i - 1], "0.0"));
+    const double leveys = fontMetrics().horizontalAdvance(asteet) + rivi / 2;
+    const QRectF paikka(pisteet[i].x() + 2, pisteet[i].y() - rivi - 3, leveys, rivi);
+    if (paikka.left() < vapaa || paikka.right() > ala.right() - Ilmaa() / 2) continue;
+    vapaa = paikka.right();
+    maalain.fillRect(paikka, palette().color(QPalette::Base));
+    maalain.drawText(paikka, Qt::AlignCenter, asteet);
+  }
 }

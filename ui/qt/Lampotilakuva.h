@@ -20,6 +20,7 @@ class Lampotilakuva : public Kaaviokuva {
  private:
   const std::vector<double>& Sarja(std::size_t i) const;
   bool Vastustaa(std::size_t kerros) const { return Sarja(1)[kerros] > 0; }
+  QColor Aineenvari(std::size_t i) const;
   QRectF Kuvaala() const;
   /// Width left on both sides for the room and the outdoors.
   double Ilmaa() const;
@@ -30,4 +31,6 @@ class Lampotilakuva : public Kaaviokuva {
   void PiirraKerrokset(QPainter& maalain) const;
   void PiirraNollaviiva(QPainter& maalain) const;
   void PiirraLampotilat(QPainter& maalain) const;
+  void PiirraAsteet(QPainter& maalain, const std::vector<QPointF>& pisteet) const;
+  void PiirraReunat(QPainter& maalain) const;
 };

@@ -108,10 +108,14 @@ QVariant Luettelomalli::Fontti(const QModelIndex& paikka) const {
 }
 
 Merkitys Luettelomalli::SolunMerkitys(const QModelIndex& paikka) const {
-  if (OnSumma(paikka)) return Merkitys::Tavallinen;
-  const Rivipiirteet& piirteet = Lista().Piirteet(Rivi(paikka));
-  const bool koskee = piirteet.merkitty == Rivipiirteet::kKokoRivi || piirteet.merkitty == paikka.column();
-  return koskee ? piirteet.merkitys : Merkitys::Tavallinen;
+  return Koskee(paikka) ? Lista().Piirteet(Rivi(paikka)).merkitys : Merkitys::Tavallinen;
+}
+
+/// Whether the meaning and the explanation of the row concern the cell.
+bool Luettelomalli::Koskee(const QModelIndex& paikka) const {
+  if (OnSumma(paikka)) return false;
+  const int merkitty = Lista().Piirteet(Rivi(paikka)).merkitty;
+  return merkitty == Rivipiirteet::kKokoRivi || merkitty == paikka.column();
 }
 
 /// The sums can't be chosen, which would grey them.
@@ -132,9 +136,13 @@ QVariant Luettelomalli::Merkki(const QModelIndex& paikka) const {
   return nakyma_.style()->standardIcon(MerkityksenUlkoasu(merkitys).merkki);
 }
 
+QString Luettelomalli::Selite(const QModelIndex& paikka) const {
+  return Koskee(paikka) ? Q(Lista().Piirteet(Rivi(paikka)).selite) : QString();
+}
+
 QVariant Luettelomalli::Vihje(const QModelIndex& paikka) const {
-  if (SolunMerkitys(paikka) == Merkitys::Tavallinen) return Teksti(paikka);
-  return Q(Lista().Piirteet(Rivi(paikka)).selite);
+  const QString selite = Selite(paikka);
+  return selite.isEmpty() ? Teksti(paikka) : selite;
 }
 
 QVariant Luettelomalli::data(const QModelIndex& paikka, int rooli) const {
@@ -146,7 +154,7 @@ QVariant Luettelomalli::data(const QModelIndex& paikka, int rooli) const {
     case Qt::ToolTipRole:
       return Vihje(paikka);
     case Qt::AccessibleDescriptionRole:
-      return SolunMerkitys(paikka) == Merkitys::Tavallinen ? QVariant() : Vihje(paikka);
+      return Selite(paikka);
     case Qt::TextAlignmentRole:
       return QVariant(Suunta(paikka.column()));
     case Qt::FontRole:

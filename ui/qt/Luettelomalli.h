@@ -48,6 +48,8 @@ class Luettelomalli : public QAbstractItemModel {
   QVariant Vari(const QModelIndex& paikka) const;
   QVariant Merkki(const QModelIndex& paikka) const;
   QVariant Vihje(const QModelIndex& paikka) const;
+  QString Selite(const QModelIndex& paikka) const;
+  bool Koskee(const QModelIndex& paikka) const;
   /// The meaning that the cell shows.
   Merkitys SolunMerkitys(const QModelIndex& paikka) const;
 

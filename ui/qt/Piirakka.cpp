@@ -22,14 +22,17 @@ double Summa(const std::vector<double>& arvot) {
 
 QStringList Piirakka::Nimet() const {
   QStringList nimet;
-  for (const std::string& nimi : Tiedot().nimet) nimet << Teksti(nimi);
+  for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
+    nimet << Teksti(Tiedot().nimet[i]) + ' ' +
+                 Teksti(Muotoile(Tiedot().arvot[i], "### ##0.00") + " " + Tiedot().yksikko);
   return nimet;
 }
 
 QStringList Piirakka::Luvut() const {
   QStringList rivit;
   for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
-    rivit << Teksti(Tiedot().nimet[i]).trimmed() + '\t' + Teksti(Muotoile(Tiedot().arvot[i], "0.00"));
+    rivit << Teksti(Tiedot().nimet[i]).trimmed() + '\t' + Teksti(Muotoile(Tiedot().arvot[i], "0.00")) + '\t' +
+                 Teksti(Tiedot().yksikko);
   return rivit;
 }
 

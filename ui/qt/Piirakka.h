@@ -2,7 +2,7 @@
 #pragma once
 #include "ui/qt/Kaaviokuva.h"
 
-/// A pie with its title above and its legend at the side. Values that aren't above 0 have no slice.
+/// A pie with its title above and its legend, names and values, at the side. Values that aren't above 0 have no slice.
 class Piirakka : public Kaaviokuva {
  public:
   using Kaaviokuva::Kaaviokuva;

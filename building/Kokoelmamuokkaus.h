@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include <memory>
+
+#include "building/LisaaKopio.h"
+#include "building/Toimenpideviittaukset.h"
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "kernel/Virhe.h"
+#include "tekstit/rakennus.h"
+#include "ui/Luettelomuokkain.h"
+#include "ui/Tekstivarasto.h"
+
+/// How the person edits a collection of the building in a list: an item added is committed by its own dialog, a copy
+/// and a removal here. Texts are told by their numbers.
+template <class T>
+struct Kokoelmamuokkaus {
+  Kokoelma<T>& kokoelma;
+  std::string T::*nimi;
+  Tekstinumero kopiointi;  ///< names of the commands, as undo tells them
+  Tekstinumero poisto;
+  Tekstinumero kaytossa;               ///< an item can't be removed, since measures refer to it
+  std::function<bool(T&)> muokkaa;     ///< opens the item's dialog; true when it was accepted
+  std::function<void(T&)> alusta{};    ///< fills a new item
+  std::function<void(T&)> kopioitu{};  ///< finishes a copy
+
+  /// The key of the item that was accepted; empty when the person gave up.
+  Tunniste Lisaa() const try {
+    const Tunniste avain = Tunniste::Uusi(T::kLuokka.NimiSana());
+    T& uusi = kokoelma.Add(avain);
+    Nosta(alusta, uusi);
+    if (muokkaa(uusi)) return avain;
+    kokoelma.Remove(avain);
+    VaadiRakennus().RekisteriVanheni();
+    return {};
+  } catch (...) {
+    NostaVirhe("Kokoelmamuokkaus:Lisaa Method");
+  }
+
+  Tunniste Kopioi(const T& lahde) const try {
+    T& kopio = LisaaKopio(kokoelma, lahde);
+    kopio.*nimi = Teksti(tekstit::kKopio) + kopio.*nimi;
+    Nosta(kopioitu, kopio);
+    VaadiRakennus().Muuttui(Teksti(kopiointi));
+    return kopio.sKey;
+  } catch (...) {
+    NostaVirhe("Kokoelmamuokkaus:Kopioi Method");
+  }
+
+  void Poista(const Tunniste& avain) const try {
+    kokoelma.Remove(avain);
+    VaadiRakennus().Muuttui(Teksti(poisto));
+  } catch (...) {
+    NostaVirhe("Kokoelmamuokkaus:Poista Method");
+  }
+
+  std::string Poistoeste(T& olio) const {
+    const std::string nimet = ViittaavatToimenpiteet(olio);
+    return nimet.empty() ? nimet : Teksti(kaytossa) + " " + nimet;
+  }
+};
+
+/// The same for a list editor; the collection must live as long as the list.
+template <class T>
+Luettelotoimet Toimet(Kokoelmamuokkaus<T> muokkaus, std::function<Luettelosisalto()> sisalto) {
+  const auto m = std::make_shared<const Kokoelmamuokkaus<T>>(std::move(muokkaus));
+  return {.sisalto = std::move(sisalto),
+          .nimi = [m](const Tunniste& avain) { return m->kokoelma.Item(avain).*m->nimi; },
+          .lisaa = [m] { return m->Lisaa(); },
+          .muokkaa = [m](const Tunniste& avain) { m->muokkaa(m->kokoelma.Item(avain)); },
+          .kopioi = [m](const Tunniste& avain) { return m->Kopioi(m->kokoelma.Item(avain)); },
+          .poista = [m](const Tunniste& avain) { m->Poista(avain); },
+          .lukko = Muokkauslukko,
+          .poistoeste = [m](const Tunniste& avain) { return m->Poistoeste(m->kokoelma.Item(avain)); }};
+}

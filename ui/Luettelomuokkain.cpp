@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Luettelomuokkain.h"
+
+#include <type_traits>
+
+#include "tekstit/viestit.h"
+#include "ui/Lomakekaannos.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
+
+namespace {
+
+template <class... A>
+std::string Syy(const std::function<std::string(A...)>& este, std::type_identity_t<A>... arvot) {
+  return este ? este(arvot...) : std::string();
+}
+
+}  // namespace
+
+Luettelomuokkain::Luettelomuokkain(const Lomake& lomake, Ohjaimet ohjaimet) : lomake_(lomake), ohjaimet_(ohjaimet) {
+  Kuuntele();
+}
+
+void Luettelomuokkain::Kuuntele() {
+  ohjaimet_.lista.KunMuuttuu([this] { RiviVaihtui(); });
+  ohjaimet_.lista.KunKlikataan([this] { toimet_.paina ? toimet_.paina(Valittu()) : Muokkaa(); });
+  ohjaimet_.lista.KunLisataan([this] { Lisaa(); });
+  ohjaimet_.lista.KunPoistetaan([this] { Poista(); });
+  ohjaimet_.lisaa.KunKlikataan([this] { Lisaa(); });
+  ohjaimet_.muokkaa.KunKlikataan([this] { Muokkaa(); });
+  ohjaimet_.kopioi.KunKlikataan([this] { Kopioi(); });
+  ohjaimet_.poista.KunKlikataan([this] { Poista(); });
+}
+
+void Luettelomuokkain::Aseta(Luettelotoimet toimet) {
+  toimet_ = std::move(toimet);
+  if (toimet_.liita) ohjaimet_.lista.KunLiitetaan([this](const Taulukko& rivit) { Liita(rivit); });
+}
+
+void Luettelomuokkain::Nayta() {
+  ohjaimet_.lista.Tayta(toimet_.sisalto());
+  naytetty_ = Valittu();
+  PaivitaNapit();
+  Nosta(toimet_.valittu);
+}
+
+void Luettelomuokkain::Valitse(const Tunniste& avain) {
+  ohjaimet_.lista.Valitse(avain);
+  naytetty_ = Valittu();
+  PaivitaNapit();
+  Nosta(toimet_.valittu);
+}
+
+void Luettelomuokkain::RiviVaihtui() {
+  if (!Kelpaa()) return ohjaimet_.lista.Valitse(naytetty_);
+  naytetty_ = Valittu();
+  PaivitaNapit();
+  Nosta(toimet_.valittu);
+}
+
+bool Luettelomuokkain::Muokattavissa() const {
+  return !Valittu().Tyhja() && (!toimet_.muokattavissa || toimet_.muokattavissa(Valittu()));
+}
+
+void Luettelomuokkain::PaivitaNapit() const {
+  ohjaimet_.lisaa.Kaytossa(true);
+  ohjaimet_.muokkaa.Kaytossa(Muokattavissa());
+  ohjaimet_.kopioi.Kaytossa(!Valittu().Tyhja());
+  ohjaimet_.poista.Kaytossa(Muokattavissa());
+  LukitseMuokkausnapit(lomake_, Syy(toimet_.lukko));
+  if (const std::string este = Syy(toimet_.lisayseste); !este.empty() && ohjaimet_.lisaa.Kaytossa()) {
+    ohjaimet_.lisaa.Kaytossa(false);
+    ohjaimet_.lisaa.Vihje(este);
+  }
+}
+
+bool Luettelomuokkain::Estetty(const std::string& syy) const {
+  if (!syy.empty()) Ilmoita(syy, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+  return !syy.empty();
+}
+
+void Luettelomuokkain::Lisaa() {
+  if (Estetty(Syy(toimet_.lukko)) || Estetty(Syy(toimet_.lisayseste)) || !Kelpaa()) return;
+  if (const Tunniste avain = toimet_.lisaa(); !avain.Tyhja()) Valitse(avain);
+}
+
+void Luettelomuokkain::Muokkaa() {
+  if (Muokattavissa() && Kelpaa()) toimet_.muokkaa(Valittu());
+}
+
+void Luettelomuokkain::Kopioi() {
+  if (Valittu().Tyhja() || Estetty(Syy(toimet_.lukko)) || !Kelpaa()) return;
+  if (const Tunniste avain = toimet_.kopioi(Valittu()); !avain.Tyhja()) Valitse(avain);
+}
+
+/// What refers to the object is told before the lock, since it is the nearer reason.
+void Luettelomuokkain::Poista() {
+  const Tunniste avain = Valittu();
+  if (!Muokattavissa() || Estetty(Syy(toimet_.poistoeste, avain)) || Estetty(Syy(toimet_.lukko))) return;
+  if (KysyPoisto(toimet_.nimi(avain), Syy(toimet_.poistonSeuraus, avain))) toimet_.poista(avain);
+}
+
+void Luettelomuokkain::Liita(const Taulukko& rivit) {
+  if (Estetty(Syy(toimet_.lukko)) || !Kelpaa()) return;
+  if (const Tunniste avain = toimet_.liita(rivit); !avain.Tyhja()) Valitse(avain);
+}

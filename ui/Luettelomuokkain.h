@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+#include "ui/Ohjaimet.h"
+
+/// What the objects of a list do when the person edits them. Keys are those of the list's rows. The functions that
+/// change the model also commit and redraw, in their own way: the list is filled from there by Luettelomuokkain::Nayta.
+/// Those with {} may be left out.
+struct Luettelotoimet {
+  std::function<Luettelosisalto()> sisalto;
+  std::function<std::string(const Tunniste&)> nimi;
+  /// Makes an object and lets the person fill it. Its key; empty when the person gave up.
+  std::function<Tunniste()> lisaa;
+  std::function<void(const Tunniste&)> muokkaa;
+  /// The key of a copy that stands behind its source.
+  std::function<Tunniste(const Tunniste&)> kopioi;
+  std::function<void(const Tunniste&)> poista;
+  /// Rows of a sheet as objects. The key of the last one; empty when none was made.
+  std::function<Tunniste(const Taulukko&)> liita{};
+  /// Enter or a double click on a row; editing when left out.
+  std::function<void(const Tunniste&)> paina{};
+  /// The choice or the rows have changed: for what hangs on them beside the buttons of the editor.
+  std::function<void()> valittu{};
+
+  // Reasons in the person's language why something can't be done; empty: it can.
+  std::function<std::string()> lukko{};       ///< none may come or go
+  std::function<std::string()> lisayseste{};  ///< none may be added now
+  std::function<std::string(const Tunniste&)> poistoeste{};
+  /// What else happens when the object is removed; empty: nothing.
+  std::function<std::string(const Tunniste&)> poistonSeuraus{};
+  /// The object may be edited and removed; all when left out.
+  std::function<bool(const Tunniste&)> muokattavissa{};
+  /// What the person has written beside the list is good; false keeps the present row.
+  std::function<bool()> kelpaa{};
+};
+
+/// A list whose objects the person adds, edits, copies, removes and pastes: by the four buttons, by Insert, Enter,
+/// Delete and Ctrl+V. Sums, the chosen row, what can be done when, and the reasons why not are the same in all of them.
+class Luettelomuokkain {
+ public:
+  struct Ohjaimet {
+    ListView lista;
+    CommandButton lisaa;
+    CommandButton muokkaa;
+    CommandButton kopioi;
+    CommandButton poista;
+  };
+
+  Luettelomuokkain(const Lomake& lomake, Ohjaimet ohjaimet);
+  Luettelomuokkain(const Luettelomuokkain&) = delete;
+  Luettelomuokkain& operator=(const Luettelomuokkain&) = delete;
+
+  void Aseta(Luettelotoimet toimet);
+  /// Fills the list. The chosen row stays chosen.
+  void Nayta();
+  /// Chooses the row of that key, the first one when there is no such.
+  void Valitse(const Tunniste& avain);
+  Tunniste Valittu() const { return ohjaimet_.lista.Valittu(); }
+  /// Enables what can be done to the present row.
+  void PaivitaNapit() const;
+
+ private:
+  void Kuuntele();
+  void RiviVaihtui();
+  void Lisaa();
+  void Muokkaa();
+  void Kopioi();
+  void Poista();
+  void Liita(const Taulukko& rivit);
+  bool Kelpaa() const { return !toimet_.kelpaa || toimet_.kelpaa(); }
+  bool Muokattavissa() const;
+  /// Tells the reason, if there is one.
+  bool Estetty(const std::string& syy) const;
+
+  const Lomake& lomake_;
+  Ohjaimet ohjaimet_;
+  Luettelotoimet toimet_;
+  Tunniste naytetty_;  // key of the row that the fields beside the list show
+};
