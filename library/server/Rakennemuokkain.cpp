@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "library/Kirjastoluettelo.h"
+#include "library/Lampotilajakauma.h"
 #include "library/server/Kenttatyot.h"
 #include "library/server/Rakennekuvaus.h"
 #include "tekstit/lomakkeet_kirjasto.h"

@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int kLeveinSarake = 40;        // of any but the first column, in letters
-constexpr int kKapeinNimi = 16;          // of the first column, when the others need the room
+constexpr int kLeveinSarake = 40;        // of any but the names, in letters
+constexpr int kKapeinNimi = 16;          // of the names, when the others need the room
 constexpr std::size_t kMitattavia = 12;  // cells of a column, the longest ones
 
 std::size_t Koko(int luku) { return static_cast<std::size_t>(luku); }
@@ -98,23 +98,32 @@ int Sarakeleveydet::OtsikonLeveys(int sarake) const {
   return otsikot.style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), &otsikot).width();
 }
 
+/// The first column of texts.
+int Sarakeleveydet::Nimisarake() const {
+  for (int s = 0; s < nakyma_.header()->count(); ++s)
+    if (!lista_.OnLukusarake(s)) return s;
+  return 0;
+}
+
 int Sarakeleveydet::Tarve(int sarake) const {
   const int levein = kLeveinSarake * nakyma_.fontMetrics().averageCharWidth();
   const int sisalto = sarake < sisallot_.size() ? sisallot_[sarake] : 0;
-  return std::max(sarake == 0 ? sisalto : std::min(sisalto, levein), OtsikonLeveys(sarake));
+  return std::max(sarake == Nimisarake() ? sisalto : std::min(sisalto, levein), OtsikonLeveys(sarake));
 }
 
 void Sarakeleveydet::Jaa() {
   const int maara = nakyma_.header()->count();
   if (omat_ || jaetaan_ || maara == 0) return;
   jaetaan_ = true;
+  const int nimi = Nimisarake();
   int muut = 0;
-  for (int s = 1; s < maara; ++s) {
+  for (int s = 0; s < maara; ++s) {
+    if (s == nimi) continue;
     const int leveys = Tarve(s);
     nakyma_.setColumnWidth(s, leveys);
     muut += leveys;
   }
-  const int kapein = std::min(Tarve(0), kKapeinNimi * nakyma_.fontMetrics().averageCharWidth());
-  nakyma_.setColumnWidth(0, std::max(nakyma_.viewport()->width() - muut, kapein));
+  const int kapein = std::min(Tarve(nimi), kKapeinNimi * nakyma_.fontMetrics().averageCharWidth());
+  nakyma_.setColumnWidth(nimi, std::max(nakyma_.viewport()->width() - muut, kapein));
   jaetaan_ = false;
 }

@@ -5,8 +5,9 @@
 
 class Luettelo;
 
-/// The widths of a list's columns: each as its contents and heading need, the first one, which holds the names, takes
-/// what is left over or gives what is lacking. When the person has dragged a border, the widths are the person's.
+/// The widths of a list's columns: each as its contents and heading need; the first one of texts, which holds the
+/// names, takes what is left over or gives what is lacking. When the person has dragged a border, the widths are the
+/// person's.
 class Sarakeleveydet : public QObject {
  public:
   Sarakeleveydet(QTreeView& nakyma, const Luettelo& lista);
@@ -23,6 +24,7 @@ class Sarakeleveydet : public QObject {
   void MittaaSarake(int sarake);
   int SolunLeveys(int rivi, int sarake) const;
   int OtsikonLeveys(int sarake) const;
+  int Nimisarake() const;
   int Tarve(int sarake) const;
 
   QTreeView& nakyma_;
