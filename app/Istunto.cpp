@@ -28,7 +28,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kPaate = ".lvt";
-constexpr const char* kPalautus = "~palautus.lvt";
 constexpr std::size_t kPolkuOtsikossa = 75, kPolkuKysymyksessa = 50;
 constexpr int kUudenPaikkakunta = 1;
 
@@ -61,7 +60,13 @@ std::string Paatteella(const std::string& tiedosto) {
   return SamaNimi(fs::path(tiedosto).extension().string(), kPaate) ? tiedosto : tiedosto + kPaate;
 }
 
-std::string PalautuksenPolku() { return AppPath() + kPalautus; }
+/// An object's name as the name of a file: without what separates folders or hides a file.
+std::string Tiedostonimeksi(std::string nimi) {
+  std::ranges::replace_if(
+      nimi, [](unsigned char merkki) { return merkki == '/' || merkki < ' '; }, '-');
+  nimi.erase(0, std::min(nimi.find_first_not_of(". "), nimi.size()));
+  return nimi.empty() ? nimi : nimi + kPaate;
+}
 
 /// The file's version allows opening. A file that isn't a project, or a newer one, is told of and refused; an older one
 /// is told of.
@@ -94,8 +99,8 @@ void Istunto::mnuFileNew_Click() {
   AlustaPerustiedot(rakennus_->Perustiedot);
   AlustaToteutuneetKulutukset(rakennus_->Perustiedot.ToteutuneetKulutukset);
   rakennus_->KatselmoijienTiedot.HaeOletukset();
-  PaaikkunaNyt().AsetaOtsikko(Teksti(tekstit::kValikkoUusi));
   rakennus_->Tallennettu = true;
+  PaivitaOtsikko();
   NaytaPerustiedot();
 }
 
@@ -125,9 +130,9 @@ void Istunto::NaytaPerustiedot() try {
 /// The question of New and Open. After No the forms of the object are closed: nothing is entered into it any more.
 bool Istunto::VoiVaihtaa() {
   const std::string nimi = rakennus_ ? rakennus_->Perustiedot.KohteenNimi : std::string();
-  const bool saa =
-      VoiLuopua({Teksti(tekstit::kTallentamattaAlku) + " " + nimi + " " + Teksti(tekstit::kTallentamattaLoppu),
-                 Teksti(tekstit::kTallentamattaOtsikko), Vakavuus::Kysymys, Napit::KyllaEiPeruuta, Vastaus::Kylla});
+  const bool saa = VoiLuopua(
+      {Teksti(tekstit::kTallentamattaAlku) + " " + nimi + " " + Teksti(tekstit::kTallentamattaLoppu),
+       Teksti(tekstit::kTallentamattaOtsikko), Vakavuus::Kysymys, Napit::TallennaHylkaaPeruuta, Vastaus::Kylla});
   if (saa && rakennus_ && !rakennus_->Tallennettu) SuljeLomakkeet();
   return saa;
 }
@@ -143,6 +148,7 @@ bool Istunto::VoiLuopua(const Viesti& kysymys) {
 
 bool Istunto::Avaa(const std::string& tiedosto) {
   if (!VoiAvata(tiedosto) || !Lataa(tiedosto)) return false;
+  Merkitse(tiedosto);
   LisaaViimeisimpiin(tiedosto);
   return true;
 }
@@ -169,7 +175,11 @@ void Istunto::Vaihda(std::unique_ptr<clsRakennus> rakennus) {
   SuljeKohde();
   rakennus_ = std::move(rakennus);
   AsetaGlobaaliRakennus(rakennus_.get());
-  talteenOtettu_ = {};
+  rakennus_->MuutosVahvistettu = [this](std::string_view toiminto) {
+    kumous_.Kirjaa(toiminto);
+    PaivitaOtsikko();
+  };
+  kumous_.Aloita(rakennus_.get());
 }
 
 /// An object that could be read only in part stays, as one without a file: saving it can't replace what is good in the
@@ -183,9 +193,8 @@ bool Istunto::Lataa(const std::string& tiedosto) {
     AsetaTiedosto({});
     rakennus_->Tallennettu = false;
   }
-  Merkitse(tiedosto);
   kumous_.Aloita(rakennus_.get());
-  talteenOtettu_ = Tila();
+  if (rakennus_->Tallennettu) TiedostossaNyt();
   if (rakennus_->Perustiedot.ToteutuneetKulutukset.Count() > 0) return true;
   Ilmoita(Teksti(tekstit::kKohdetiedostoPuutteellinen), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   SuljeKohde();
@@ -196,17 +205,23 @@ void Istunto::SuljeKohde() {
   PoistaMerkki();
   if (!rakennus_) return;
   SuljeLomakkeet();
-  AsetaTiedosto({});
   kumous_.Aloita(nullptr);
-  PoistaTalteenotettu();
+  palautus_.Poista();
+  tiedostossa_ = talteenOtettu_ = 0;
   rakennus_->Delete();
   rakennus_.reset();
+  PaivitaOtsikko();
 }
 
 void Istunto::mnuFileSave_Click() {
   if (!rakennus_ || EstaaVaraus() || TarjoaVarakopio()) return;
   if (Tiedosto().empty()) return TallennaNimella();
-  Tallenna(Tiedosto());
+  const Tiedostotunnus luettu = rakennus_->LuettuTiedosto;
+  if (luettu.OnYha(Tiedosto()))
+    Tallenna(Tiedosto(), &luettu);
+  else if (Kysy(Teksti(tekstit::kTiedostoaMuutettuMuualla) + "\n\n" + Tiedosto() + "\n" + Tuntomerkit(Tiedosto()),
+                tekstit::kHuomautus, Napit::KyllaEi, Vastaus::Ei, Vakavuus::Varoitus) == Vastaus::Kylla)
+    Tallenna(Tiedosto(), nullptr);
 }
 
 void Istunto::mnuFileSaveAs_Click() {
@@ -214,43 +229,61 @@ void Istunto::mnuFileSaveAs_Click() {
   TallennaNimella();
 }
 
+/// The file isn't there, or the person lets it be replaced and nobody has it in use.
+bool Istunto::SaaKorvata(const std::string& tiedosto) const {
+  if (!fs::exists(tiedosto)) return true;
+  if (Kysy(Teksti(tekstit::kKorvataankoAlku) + tiedosto + Teksti(tekstit::kKorvataankoLoppu),
+           tekstit::kKorvataankoOtsikko, Napit::KyllaEiPeruuta, Vastaus::Ei) != Vastaus::Kylla)
+    return false;
+  if (!OnKirjoitussuojattu(tiedosto)) return true;
+  Ilmoita(Teksti(tekstit::kTiedosto) + " " + tiedosto + " " + Teksti(tekstit::kKaytossaEiKorvata),
+          Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
+  return false;
+}
+
 void Istunto::TallennaNimella() {
   const auto valittu = ViestitNyt().KysyTallennettavaTiedosto(Teksti(tekstit::kTallennaNimellaOtsikko),
-                                                              Teksti(tekstit::kKohdetiedostosuodatin));
+                                                              Teksti(tekstit::kKohdetiedostosuodatin),
+                                                              Tiedostonimeksi(rakennus_->Perustiedot.KohteenNimi));
   if (!valittu) return;
   const std::string tiedosto = Paatteella(*valittu);
-  if (fs::exists(tiedosto)) {
-    if (Kysy(Teksti(tekstit::kKorvataankoAlku) + tiedosto + Teksti(tekstit::kKorvataankoLoppu),
-             tekstit::kKorvataankoOtsikko, Napit::KyllaEiPeruuta, Vastaus::Ei) != Vastaus::Kylla)
-      return;
-    if (OnKirjoitussuojattu(tiedosto))
-      return Ilmoita(Teksti(tekstit::kTiedosto) + " " + tiedosto + " " + Teksti(tekstit::kKaytossaEiKorvata),
-                     Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
-  }
+  if (!SaaKorvata(tiedosto)) return;
   const std::string entinen = Tiedosto();
   AsetaTiedosto(tiedosto);
-  if (Tallenna(tiedosto)) return;
+  if (Tallenna(tiedosto, nullptr)) return;
   PoistaMerkki();
   AsetaTiedosto(entinen);
   Merkitse(entinen);
 }
 
-bool Istunto::Tallenna(const std::string& tiedosto) {
+/// `odotettu`: the state of the file that may be replaced; null for any.
+bool Istunto::Tallenna(const std::string& tiedosto, const Tiedostotunnus* odotettu) {
   PoistaMerkki();
-  const bool onnistui = rakennus_->Tallenna(tiedosto);
+  const bool onnistui = rakennus_->Tallenna(tiedosto, odotettu);
   Merkitse(tiedosto);
-  if (onnistui) {
-    PoistaTalteenotettu();
-    LisaaViimeisimpiin(tiedosto);
-  }
-  return onnistui;
+  if (!onnistui) return false;
+  kumous_.Tallennettiin();
+  TiedostossaNyt();
+  LisaaViimeisimpiin(tiedosto);
+  PaivitaOtsikko();
+  return true;
+}
+
+/// The object is whole in its file: there is nothing to rescue.
+void Istunto::TiedostossaNyt() {
+  tiedostossa_ = talteenOtettu_ = rakennus_->Sormenjalki();
+  palautus_.Poista();
 }
 
 /// Takes the name as the object's own and shows it in the caption.
 void Istunto::AsetaTiedosto(const std::string& tiedosto) {
   rakennus_->ProjektiAsetukset.strCurrentProjectFile = tiedosto;
   rakennus_->ProjektiAsetukset.strCurrentProjectPath = fs::path(tiedosto).parent_path().string();
-  PaaikkunaNyt().AsetaOtsikko({});
+  PaivitaOtsikko();
+}
+
+void Istunto::PaivitaOtsikko() const {
+  PaaikkunaNyt().AsetaOtsikko(rakennus_ && Tiedosto().empty() ? Teksti(tekstit::kValikkoUusi) : std::string());
 }
 
 void Istunto::Merkitse(const std::string& tiedosto) {
@@ -264,7 +297,7 @@ void Istunto::PoistaMerkki() {
 
 bool Istunto::QueryUnload(bool istuntoPaattyy) {
   if (EstaaVaraus()) return false;
-  const Napit napit = istuntoPaattyy ? Napit::KyllaEi : Napit::KyllaEiPeruuta;
+  const Napit napit = istuntoPaattyy ? Napit::TallennaHylkaa : Napit::TallennaHylkaaPeruuta;
   if (!VoiLuopua({Teksti(tekstit::kTallennetaankoLopettaessa), Teksti(tekstit::kTallentamattaOtsikko),
                   Vakavuus::Kysymys, napit, Vastaus::Kylla}))
     return false;
@@ -273,59 +306,94 @@ bool Istunto::QueryUnload(bool istuntoPaattyy) {
 }
 
 bool Istunto::TarjoaJaaneet() {
-  const std::string palautus = PalautuksenPolku();
-  return (fs::exists(palautus) && Tarjoa(palautus, tekstit::kAvataankoTalteenOtettu)) || TarjoaVarakopio();
+  for (Palautuskopio& kopio : Palautuskopio::OtaJaaneet())
+    if (TarjoaTalteenotettu(kopio)) return true;
+  return TarjoaVarakopio();
 }
 
+/// What the person doesn't open now is kept under a name of its own, and isn't offered again.
+bool Istunto::TarjoaTalteenotettu(Palautuskopio& kopio) {
+  if (Kysy(Teksti(tekstit::kAvataankoTalteenOtettu) + "\n\n" + Tuntomerkit(kopio.Polku()), tekstit::kHuomautus,
+           Napit::KyllaEi, Vastaus::Kylla) == Vastaus::Kylla &&
+      VoiVaihtaa() && VersioKay(kopio.Polku())) {
+    AvaaTalteenotettu(kopio);
+    return rakennus_ != nullptr;
+  }
+  Ilmoita(Teksti(tekstit::kVarmuuskopioTalteen) + " " + kopio.Sailyta(), Teksti(tekstit::kHuomautus));
+  return false;
+}
+
+/// The object goes on where the died run left it: in its own file, unsaved, and with the copy as this run's own.
+void Istunto::AvaaTalteenotettu(Palautuskopio& kopio) {
+  if (!Lataa(kopio.Polku())) return void(kopio.Sailyta());
+  const bool kokonaan = !Tiedosto().empty();
+  AsetaTiedosto(kokonaan ? kopio.Projekti() : std::string());
+  rakennus_->LuettuTiedosto = kopio.ProjektinTunnus();
+  rakennus_->Tallennettu = false;
+  kumous_.Aloita(rakennus_.get());
+  if (!Tiedosto().empty()) Merkitse(Tiedosto());
+  tiedostossa_ = 0;
+  talteenOtettu_ = rakennus_->Sormenjalki();
+  if (kokonaan)
+    palautus_ = std::move(kopio);
+  else
+    kopio.Sailyta();
+  PaivitaOtsikko();
+  NaytaPerustiedot();
+}
+
+/// Whatever the answer, the backup is kept under a name of its own, where no later save replaces it. Until there is an
+/// answer it stays where it was, to be offered anew.
 bool Istunto::TarjoaVarakopio() {
   const std::string varakopio = JaanytVarakopio();
-  return !varakopio.empty() && Tarjoa(varakopio, tekstit::kAvataankoVarmuuskopio);
-}
-
-/// Whatever the answer, the file is kept under a name of its own, where no later save replaces it. Until there is an
-/// answer it stays where it was, to be offered anew.
-bool Istunto::Tarjoa(const std::string& tiedosto, int kysymys) {
-  const Vastaus vastaus =
-      Kysy(Teksti(kysymys) + "\n\n" + Tuntomerkit(tiedosto), tekstit::kHuomautus, Napit::KyllaEi, Vastaus::Kylla);
-  const std::string talteen = SailytaAjalla(tiedosto);
+  if (varakopio.empty()) return false;
+  const Vastaus vastaus = Kysy(Teksti(tekstit::kAvataankoVarmuuskopio) + "\n\n" + Tuntomerkit(varakopio),
+                               tekstit::kHuomautus, Napit::KyllaEi, Vastaus::Kylla);
+  const std::string talteen = SailytaAjalla(varakopio);
   if (vastaus == Vastaus::Ei) {
     Ilmoita(Teksti(tekstit::kVarmuuskopioTalteen) + " " + talteen, Teksti(tekstit::kHuomautus));
     return false;
   }
-  if (!VoiVaihtaa() || !VersioKay(talteen)) return false;
-  LataaTalteenotettu(talteen);
+  if (!VoiVaihtaa() || !VersioKay(talteen) || !Lataa(talteen)) return false;
+  AsetaTiedosto({});
+  rakennus_->Tallennettu = false;
+  kumous_.Aloita(rakennus_.get());
+  tiedostossa_ = talteenOtettu_ = 0;
+  PaivitaOtsikko();
+  NaytaPerustiedot();
   return true;
 }
 
-/// Opens it as an object that has no file and isn't saved.
-void Istunto::LataaTalteenotettu(const std::string& tiedosto) {
-  if (!Lataa(tiedosto)) return;
-  PoistaMerkki();
-  AsetaTiedosto({});
-  rakennus_->Tallennettu = false;
-  NaytaPerustiedot();
+void Istunto::mnuSuljeKohde_Click() {
+  if (!rakennus_ || EstaaVaraus() || !VoiVaihtaa()) return;
+  SuljeKohde();
 }
 
 void Istunto::mnuEditUndo_Click() {
-  if (!VoiKumota() || EstaaVaraus()) return;
-  SuljeLomakkeet();
+  if (EstaaVaraus()) return;
   kumous_.Kumoa();
+  PaivitaOtsikko();
 }
 
-void Istunto::HiljainenHetki() {
-  if (!KohdeValmis() || MalliVarattu() || Tila() == talteenOtettu_) return;
-  talteenOtettu_ = Tila();
-  OtaTalteen();
+void Istunto::mnuEditRedo_Click() {
+  if (EstaaVaraus()) return;
+  kumous_.TeeUudelleen();
+  PaivitaOtsikko();
 }
 
-void Istunto::OtaTalteen() try {
-  if (rakennus_ && !rakennus_->Tallennettu) TallennaProjekti(*rakennus_, PalautuksenPolku());
-} catch (const std::exception&) {
-}
-
-void Istunto::PoistaTalteenotettu() {
-  std::error_code virhe;
-  fs::remove(PalautuksenPolku(), virhe);
+void Istunto::HiljainenHetki() try {
+  if (!KohdeValmis() || MalliVarattu()) return;
+  const std::uint64_t nyt = rakennus_->Sormenjalki();
+  if (nyt == talteenOtettu_) return;
+  if (nyt == tiedostossa_)
+    palautus_.Poista();
+  else
+    palautus_.Kirjoita(*rakennus_, Tiedosto(), rakennus_->LuettuTiedosto);
+  talteenOtettu_ = nyt;
+  palautusEpaonnistui_ = false;
+} catch (const std::exception& virhe) {
+  if (!std::exchange(palautusEpaonnistui_, true))
+    ViestitNyt().AsetaPaneeli(Teksti(tekstit::kTalteenottoEiOnnistu) + " " + SyynKuvaus(virhe));
 }
 
 std::string PaaikkunanOtsikko(const std::string& teksti) {
@@ -333,5 +401,8 @@ std::string PaaikkunanOtsikko(const std::string& teksti) {
   std::string loppu = teksti;
   if (loppu.empty() && rakennus)
     loppu = LyhennaPolku(rakennus->ProjektiAsetukset.strCurrentProjectFile, kPolkuOtsikossa);
-  return loppu.empty() ? Teksti(tekstit::kOhjelmanNimi) : Teksti(tekstit::kOhjelmanNimi) + " - " + loppu;
+  std::string otsikko = loppu.empty() ? Teksti(tekstit::kOhjelmanNimi) : Teksti(tekstit::kOhjelmanNimi) + " - " + loppu;
+  if (!rakennus || !rakennus->Perustiedot.OletusarvotLaskettu) return otsikko;
+  if (const std::string& nimi = rakennus->Perustiedot.KohteenNimi; !nimi.empty()) otsikko += " - " + nimi;
+  return rakennus->Tallennettu ? otsikko : otsikko + " *";
 }

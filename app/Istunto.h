@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <cstdint>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include "app/Kumous.h"
 #include "building/clsRakennus.h"
+#include "kernel/Palautuskopio.h"
 #include "ui/Viestit.h"
 
 /// The session: the one building that is being worked on, and the commands that begin, open, save and close it. Knows
@@ -15,6 +16,8 @@
 /// 2. The file of the open object bears the mark of a file in use; no other file does because of us.
 /// 3. An unsaved object is dropped only after the person has said No to saving it.
 /// 4. While a calculation has reserved the model, every command is refused with a message.
+/// 5. Each committed change (clsRakennus::Muuttui) is a step of undo. What tells of the file is no part of a step.
+/// 6. What isn't in the object's file is in this run's recovery copy, from one quiet moment to the next.
 class Istunto {
  public:
   Istunto() = default;
@@ -31,6 +34,8 @@ class Istunto {
   void mnuFileOpen_Click();
   void mnuFileSave_Click();
   void mnuFileSaveAs_Click();
+  /// Closes the object, after offering to save it.
+  void mnuSuljeKohde_Click();
 
   /// As Open, for a file chosen from the list of the latest ones.
   void AvaaViimeisin(const std::string& tiedosto);
@@ -44,20 +49,16 @@ class Istunto {
   /// is then gone.
   bool QueryUnload(bool istuntoPaattyy);
 
-  /// Offers what an interrupted run left: the rescued object, then the backup of a save. True when one was opened.
+  /// Offers what interrupted runs left: their rescued objects, then the backup of a save. True when one was opened.
   bool TarjoaJaaneet();
-  /// Writes an unsaved object to AppPath + "~palautus.lvt", to be offered at the next start. A failure is silent: this
-  /// is the last resort of a program that is being ended.
-  void OtaTalteen();
-  void PoistaTalteenotettu();
-
-  /// To be called after each command: keeps what an undo would bring back.
-  void SeuraaMuutoksia() { kumous_.Seuraa(KohdeValmis() ? rakennus_.get() : nullptr); }
-  bool VoiKumota() const { return kumous_.Voi(); }
-  /// Brings back the model as it was before the last committed dialog; open forms are closed.
-  void mnuEditUndo_Click();
-  /// A quiet moment: an unsaved object that has changed since the last time is written aside for recovery.
+  /// A quiet moment, perhaps inside a dialog: what differs from the object's file and isn't yet safe is written to this
+  /// run's recovery copy. A failure is told in the status panel, once until it works again.
   void HiljainenHetki();
+
+  /// The steps that the person can take back and make again.
+  const Kumous& Askeleet() const { return kumous_; }
+  void mnuEditUndo_Click();
+  void mnuEditRedo_Click();
 
   /// Drops the object, if any, with its forms and the mark of its file.
   void SuljeKohde();
@@ -70,20 +71,23 @@ class Istunto {
   bool OnOmaTiedosto(const std::string& tiedosto) const;
   void Vaihda(std::unique_ptr<clsRakennus> rakennus);
   bool Lataa(const std::string& tiedosto);
-  void LataaTalteenotettu(const std::string& tiedosto);
+  bool TarjoaTalteenotettu(Palautuskopio& kopio);
+  void AvaaTalteenotettu(Palautuskopio& kopio);
   bool TarjoaVarakopio();
-  bool Tarjoa(const std::string& tiedosto, int kysymys);
   void TallennaNimella();
-  bool Tallenna(const std::string& tiedosto);
+  bool SaaKorvata(const std::string& tiedosto) const;
+  bool Tallenna(const std::string& tiedosto, const Tiedostotunnus* odotettu);
+  void TiedostossaNyt();
   void AsetaTiedosto(const std::string& tiedosto);
+  void PaivitaOtsikko() const;
   void Merkitse(const std::string& tiedosto);
   void PoistaMerkki();
 
   std::unique_ptr<clsRakennus> rakennus_;
   Kumous kumous_;
-  /// What tells whether the object has changed since it was last written aside.
-  std::pair<int, double> Tila() const { return {rakennus_->Muutoksia(), rakennus_->MuuLampo}; }
-  std::pair<int, double> talteenOtettu_;
+  Palautuskopio palautus_;
+  std::uint64_t tiedostossa_ = 0, talteenOtettu_ = 0;  // fingerprints; 0 of nothing
+  bool palautusEpaonnistui_ = false;
   std::string merkitty_;  // the file that bears our mark
 };
 

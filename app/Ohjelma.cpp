@@ -100,7 +100,7 @@ void Ohjelma::Lataa() {
   SuoritaKomento(LueAsetukset);
   kirjastot_ = std::make_unique<Kirjastoyhteys>(KirjastojenPaikat());
   QObject::connect(&hiljainenHetki_, &QTimer::timeout, paaikkuna_.get(), [this] {
-    if (!KomentoKaynnissa()) SuoritaKomento([this] { istunto_.HiljainenHetki(); });
+    if (OnHiljaista()) SuoritaKomento([this] { istunto_.HiljainenHetki(); });
   });
   hiljainenHetki_.start(kTalteenottovali);
 }
@@ -138,9 +138,9 @@ void Ohjelma::Lopeta() {
   if (lopetetaan_) return;
   if (KomentoKesken()) return QTimer::singleShot(kUusiYritys, paaikkuna_.get(), [this] { Lopeta(); });
   lopetetaan_ = true;
-  istunto_.OtaTalteen();
+  istunto_.HiljainenHetki();
   if (paaikkuna_->IstuntoPaattyy()) {
-    istunto_.PoistaTalteenotettu();
+    istunto_.SuljeKohde();
     QApplication::exit();
   }
   lopetetaan_ = false;

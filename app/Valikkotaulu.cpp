@@ -21,7 +21,13 @@ bool LampoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !Av
 bool TilatAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmTilaYhteenveto"); }
 bool KoneetAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmIVKoneYhteenveto"); }
 
-bool VoiKumota(const frmMain& ikkuna) { return ikkuna.Kohteet().VoiKumota(); }
+bool VoiKumota(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().VoiKumota(); }
+bool VoiTehdaUudelleen(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().VoiTehdaUudelleen(); }
+std::string Kumottava(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().Kumottava(); }
+std::string Uudelleentehtava(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().Uudelleentehtava(); }
+bool KohdeAuki(const frmMain& ikkuna) { return ikkuna.Kohteet().Rakennus() != nullptr; }
+bool TyokalutNakyvat(const frmMain& ikkuna) { return ikkuna.TyokalutNakyvat(); }
+bool TilariviNakyy(const frmMain& ikkuna) { return ikkuna.TilariviNakyy(); }
 bool VoiLeikata(const frmMain& ikkuna) { return ikkuna.Leike().VoiLeikata(); }
 bool VoiKopioida(const frmMain& ikkuna) { return ikkuna.Leike().VoiKopioida(); }
 bool VoiLiittaa(const frmMain& ikkuna) { return ikkuna.Leike().VoiLiittaa(); }
@@ -30,6 +36,29 @@ bool VoiTulostaa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && frmMain:
 
 /// An entry whose module isn't built yet.
 constexpr bool (*kTulossa)(const frmMain&) = [](const frmMain&) { return false; };
+
+using Toiminto = void (*)(frmMain&);
+
+/// An entry that nothing was made for: kept with its message, and not shown.
+constexpr Valikkorivi Vaiennettu(const char* valikko, const char* ohjain, int teksti, Toiminto toiminto) {
+  return {.valikko = valikko, .ohjain = ohjain, .teksti = teksti, .toiminto = toiminto, .nakyva = false};
+}
+
+constexpr Valikkorivi Rastitettava(const char* ohjain, int teksti, Toiminto toiminto, bool (*rasti)(const frmMain&)) {
+  return {.valikko = "mnuView", .ohjain = ohjain, .teksti = teksti, .toiminto = toiminto, .rasti = rasti};
+}
+
+/// Undo or redo, with the name of its step.
+constexpr Valikkorivi Askel(const char* ohjain, int teksti, const char* nappaimet, bool (*kaytossa)(const frmMain&),
+                            Toiminto toiminto, std::string (*tarkenne)(const frmMain&)) {
+  return {.valikko = "mnuEdit",
+          .ohjain = ohjain,
+          .teksti = teksti,
+          .nappaimet = nappaimet,
+          .kaytossa = kaytossa,
+          .toiminto = toiminto,
+          .tarkenne = tarkenne};
+}
 
 constexpr Paavalikko kPaavalikot[] = {
     {"mnuFile", tekstit::kValikkoTiedosto},       {"mnuEdit", tekstit::kValikkoMuokkaa},
@@ -43,32 +72,38 @@ constexpr Valikkorivi kRivit[] = {
      [](frmMain& i) { i.Kohteet().mnuFileNew_Click(); }, "New", tekstit::kVihjeUusiKatselmuskohde},
     {"mnuFile", "mnuFileOpen", tekstit::kValikkoAvaa, "Ctrl+O", nullptr,
      [](frmMain& i) { i.Kohteet().mnuFileOpen_Click(); }, "Open", tekstit::kVihjeAvaaKatselmuskohde},
-    {"mnuFile", "mnuFileClose", tekstit::kValikkoSulje, "", nullptr,
-     [](frmMain&) { Ilmoita("Add 'mnuFileClose_Click' code."); }},
+    Vaiennettu("mnuFile", "mnuFileClose", tekstit::kValikkoSulje,
+               [](frmMain&) { Ilmoita("Add 'mnuFileClose_Click' code."); }),
+    {"mnuFile", "mnuSuljeKohde", tekstit::kValikkoSuljeKohde, "", KohdeAuki,
+     [](frmMain& i) { i.Kohteet().mnuSuljeKohde_Click(); }},
     {"mnuFile", ""},
     {"mnuFile", "mnuFileSave", tekstit::kValikkoTallenna, "Ctrl+S", KohdeValmis,
      [](frmMain& i) { i.Kohteet().mnuFileSave_Click(); }, "Save", tekstit::kVihjeTallennaKatselmuskohde},
     {"mnuFile", "mnuFileSaveAs", tekstit::kValikkoTallennaNimella, "Ctrl+Shift+S", KohdeValmis,
      [](frmMain& i) { i.Kohteet().mnuFileSaveAs_Click(); }},
-    {"mnuFile", "mnuFileSaveAll", tekstit::kValikkoTallennaKaikki, "", nullptr,
-     [](frmMain&) { Ilmoita("Add 'mnuFileSaveAll_Click' code."); }},
+    Vaiennettu("mnuFile", "mnuFileSaveAll", tekstit::kValikkoTallennaKaikki,
+               [](frmMain&) { Ilmoita("Add 'mnuFileSaveAll_Click' code."); }),
     {"mnuFile", ""},
     {"mnuFile", "mnuFileProperties", tekstit::kValikkoKatselmoijienTiedot, "", KohdeValmis,
      [](frmMain& i) { i.Kohteet().Rakennus()->KatselmoijienTiedot.NaytaKayttoliittyma(); }},
     {"mnuFile", ""},
-    {"mnuFile", "mnuFilePageSetup", tekstit::kValikkoSivunAsetukset, "", nullptr,
+    {"mnuFile", "mnuFilePageSetup", tekstit::kValikkoSivunAsetukset, "", kTulossa,
      [](frmMain& i) { i.mnuFilePageSetup_Click(); }},
-    {"mnuFile", "mnuFilePrintPreview", tekstit::kValikkoEsikatselu, "", nullptr,
-     [](frmMain&) { Ilmoita("Add 'mnuFilePrintPreview_Click' code."); }},
+    Vaiennettu("mnuFile", "mnuFilePrintPreview", tekstit::kValikkoEsikatselu,
+               [](frmMain&) { Ilmoita("Add 'mnuFilePrintPreview_Click' code."); }),
     {"mnuFile", "mnuFilePrint", tekstit::kValikkoTulosta, "Ctrl+P", VoiTulostaa,
      [](frmMain&) { frmMain::mnuFilePrint_Click(); }, "Print", tekstit::kVihjeTulostaAktiivinenIkkuna},
-    {"mnuFile", "mnuFileSend", tekstit::kValikkoLaheta, "", nullptr,
-     [](frmMain&) { Ilmoita("Add 'mnuFileSend_Click' code."); }},
+    Vaiennettu("mnuFile", "mnuFileSend", tekstit::kValikkoLaheta,
+               [](frmMain&) { Ilmoita("Add 'mnuFileSend_Click' code."); }),
     {"mnuFile", ""},
     {"mnuFile", "mnuFileExit", tekstit::kValikkoLopeta, "Ctrl+Q", nullptr, [](frmMain& i) { i.mnuFileExit_Click(); }},
 
-    {"mnuEdit", "mnuEditUndo", tekstit::kValikkoKumoa, "Ctrl+Z", VoiKumota,
-     [](frmMain& i) { i.Kohteet().mnuEditUndo_Click(); }},
+    Askel(
+        "mnuEditUndo", tekstit::kValikkoKumoa, "Ctrl+Z", VoiKumota, [](frmMain& i) { i.Kohteet().mnuEditUndo_Click(); },
+        Kumottava),
+    Askel(
+        "mnuEditRedo", tekstit::kValikkoTeeUudelleen, "Ctrl+Shift+Z", VoiTehdaUudelleen,
+        [](frmMain& i) { i.Kohteet().mnuEditRedo_Click(); }, Uudelleentehtava),
     {"mnuEdit", ""},
     // A field or a list takes these keys before the menu does.
     {"mnuEdit", "mnuEditCut", tekstit::kValikkoLeikkaa, "Ctrl+X", VoiLeikata, [](frmMain& i) { i.Leike().Leikkaa(); },
@@ -77,15 +112,17 @@ constexpr Valikkorivi kRivit[] = {
      "Copy", tekstit::kVihjeKopioiLeikepoydalle},
     {"mnuEdit", "mnuEditPaste", tekstit::kValikkoLiita, "Ctrl+V", VoiLiittaa, [](frmMain& i) { i.Leike().Liita(); },
      "Paste", tekstit::kVihjeLiitaLeikepoydalta},
-    {"mnuEdit", "mnuEditPasteSpecial", tekstit::kValikkoLiitaMaaraten, "", nullptr,
-     [](frmMain&) { Ilmoita("Add 'mnuEditPasteSpecial_Click' code."); }},
+    Vaiennettu("mnuEdit", "mnuEditPasteSpecial", tekstit::kValikkoLiitaMaaraten,
+               [](frmMain&) { Ilmoita("Add 'mnuEditPasteSpecial_Click' code."); }),
 
-    {"mnuView", "mnuViewToolbar", tekstit::kValikkoTyokalurivi, "", nullptr,
-     [](frmMain& i) { i.mnuViewToolbar_Click(); }},
-    {"mnuView", "mnuViewStatusBar", tekstit::kValikkoTilarivi, "", nullptr,
-     [](frmMain& i) { i.mnuViewStatusBar_Click(); }},
-    {"mnuView", "mnuViewRefresh", tekstit::kValikkoPaivita, "", nullptr,
-     [](frmMain&) { Ilmoita("Add 'mnuViewRefresh_Click' code."); }},
+    Rastitettava(
+        "mnuViewToolbar", tekstit::kValikkoTyokalurivi, [](frmMain& i) { i.mnuViewToolbar_Click(); }, TyokalutNakyvat),
+    Rastitettava(
+        "mnuViewStatusBar", tekstit::kValikkoTilarivi, [](frmMain& i) { i.mnuViewStatusBar_Click(); }, TilariviNakyy),
+    Vaiennettu("mnuView", "mnuViewRefresh", tekstit::kValikkoPaivita,
+               [](frmMain&) { Ilmoita("Add 'mnuViewRefresh_Click' code."); }),
+    {"mnuView", "mnuPaivitaNakymat", tekstit::kValikkoPaivitaNakymat, "F5", KohdeValmis,
+     [](frmMain& i) { i.Kohteet().Rakennus()->PaivitaNakymat(); }},
     {"mnuView", ""},
     {"mnuView", "mnuViewWebBrowser", tekstit::kValikkoWWWSelain, "", nullptr,
      [](frmMain&) { NaytaWWW(Asetukset().strWWWOsoite); }},

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <span>
+#include <string>
 
 class frmMain;
 
@@ -14,6 +15,9 @@ struct Valikkorivi {
   void (*toiminto)(frmMain&) = nullptr;
   const char* tyokalu = "";  ///< key of the tool bar's button and name of its picture in ui/kuvat; "" none
   int tyokaluvihje = 0;      ///< id of the button's tool tip
+  bool nakyva = true;
+  bool (*rasti)(const frmMain&) = nullptr;            ///< an entry with a tick, and whether it is on
+  std::string (*tarkenne)(const frmMain&) = nullptr;  ///< what follows the caption behind a colon, "" nothing
 };
 
 /// A top menu.

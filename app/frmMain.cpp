@@ -14,6 +14,7 @@
 #include "app/Sivunasetus.h"
 #include "app/Viimeisimmat.h"
 #include "kernel/Hakemistot.h"
+#include "settings/Asetusavaimet.h"
 #include "tekstit/paaikkuna.h"
 #include "tekstit/viestit.h"
 #include "ui/Komento.h"
@@ -49,6 +50,8 @@ frmMain::frmMain(Istunto& istunto)
   LuoTyokalut();
   statusBar()->setObjectName("sbStatusBar");  // the first to measure text: the fonts are read meanwhile
   statusBar()->addWidget(&paneeli_, 1);
+  tyokalut_->setVisible(HaeTotuus(Avain::TyokaluriviNakyy));
+  statusBar()->setVisible(HaeTotuus(Avain::TilariviNakyy));
   connect(menuBar()->findChild<QMenu*>("mnuFile"), &QMenu::aboutToShow, this, &frmMain::PaivitaViimeisimmat);
   connect(&alue_, &QMdiArea::subWindowActivated, this, &frmMain::PaivitaValikot);
   PalautaPaikka(*this);
@@ -96,6 +99,8 @@ void frmMain::LuoToiminto(const Valikkorivi& rivi, QMenu& valikko) {
   QAction& toiminto = *valikko.addAction(Valikkoteksti(rivi.teksti), this, [this, &rivi] { Suorita(rivi); });
   toiminto.setObjectName(rivi.ohjain);
   toiminto.setShortcut(QKeySequence(rivi.nappaimet));
+  toiminto.setVisible(rivi.nakyva);
+  toiminto.setCheckable(rivi.rasti != nullptr);
   toiminnot_.push_back({rivi, toiminto});
 }
 
@@ -134,15 +139,19 @@ void frmMain::PaivitaViimeisimmat() {
   if (!viimeisimmat_.empty()) viimeisimmat_.push_back(valikko.insertSeparator(lopeta));
 }
 
-/// Runs also behind each command: what a dialog commits can be undone at once.
-void frmMain::PaivitaValikot() {
-  SuoritaKomento([this] { istunto_.SeuraaMuutoksia(); });
-  PaivitaKaytossa({});
-}
+void frmMain::PaivitaValikot() { PaivitaKaytossa({}); }
 
 void frmMain::PaivitaKaytossa(std::string_view valikko) {
   for (const Toiminto& t : toiminnot_)
-    if (valikko.empty() || valikko == t.rivi.valikko) t.toiminto.setEnabled(!t.rivi.kaytossa || t.rivi.kaytossa(*this));
+    if (valikko.empty() || valikko == t.rivi.valikko) Paivita(t);
+}
+
+void frmMain::Paivita(const Toiminto& t) const {
+  t.toiminto.setEnabled(!t.rivi.kaytossa || t.rivi.kaytossa(*this));
+  if (t.rivi.rasti) t.toiminto.setChecked(t.rivi.rasti(*this));
+  if (!t.rivi.tarkenne) return;
+  const QString tarkenne = Q(t.rivi.tarkenne(*this)).replace('&', "&&");
+  t.toiminto.setText(Valikkoteksti(t.rivi.teksti) + (tarkenne.isEmpty() ? tarkenne : ": " + tarkenne));
 }
 
 /// As when the person leaves the field that has the focus: what has been written there is taken into the model.
@@ -154,14 +163,24 @@ void frmMain::PaataMuokkaus() {
 }
 
 void frmMain::Suorita(const Valikkorivi& rivi) {
-  if (std::string_view(rivi.valikko) != "mnuEdit") PaataMuokkaus();
+  if (std::string_view(rivi.valikko) != "mnuEdit" || rivi.tarkenne) PaataMuokkaus();
   SuoritaKomento([&] { rivi.toiminto(*this); });
 }
 
 void frmMain::mnuFilePageSetup_Click() { KysySivunAsetukset(*this, sivu_); }
 
-void frmMain::mnuViewToolbar_Click() { tyokalut_->setVisible(!tyokalut_->isVisible()); }
-void frmMain::mnuViewStatusBar_Click() { statusBar()->setVisible(!statusBar()->isVisible()); }
+bool frmMain::TyokalutNakyvat() const { return !tyokalut_->isHidden(); }
+bool frmMain::TilariviNakyy() const { return !statusBar()->isHidden(); }
+
+void frmMain::mnuViewToolbar_Click() {
+  tyokalut_->setVisible(!TyokalutNakyvat());
+  TallennaAsetus(Avain::TyokaluriviNakyy, TotuusTekstina(TyokalutNakyvat()));
+}
+
+void frmMain::mnuViewStatusBar_Click() {
+  statusBar()->setVisible(!TilariviNakyy());
+  TallennaAsetus(Avain::TilariviNakyy, TotuusTekstina(TilariviNakyy()));
+}
 
 bool frmMain::IkkunoitaAuki() const { return !alue_.subWindowList().isEmpty(); }
 void frmMain::mnuWindowCascade_Click() { alue_.cascadeSubWindows(); }
@@ -216,8 +235,16 @@ bool frmMain::IstuntoPaattyy() {
   return true;
 }
 
+/// Stores the place and closes the forms; one that doesn't go is told of.
 void frmMain::MDIForm_Unload() {
-  SuoritaKomento([this] { TallennaPaikka(*this); });
+  SuoritaKomento([this] {
+    TallennaPaikka(*this);
+    SuljeLomakkeet();
+    for (const QMdiSubWindow* ikkuna : alue_.subWindowList())
+      if (ikkuna->isVisible() && ikkuna->widget())
+        Ilmoita(Teksti(tekstit::kRoikkuvaLomake) + " '" + ikkuna->widget()->objectName().toStdString() + "', '" +
+                ikkuna->windowTitle().toStdString() + "' " + Teksti(tekstit::kJaaRoikkumaan));
+  });
 }
 
 /// The window system may ask for closing while a calculation lets the windows paint.

@@ -35,6 +35,8 @@ class frmMain : public QMainWindow, public Paaikkuna {
   /// Asks for the page of prints, for this run of the program.
   void mnuFilePageSetup_Click();
   const QPageLayout& Sivu() const { return sivu_; }
+  bool TyokalutNakyvat() const;
+  bool TilariviNakyy() const;
   void mnuViewToolbar_Click();
   void mnuViewStatusBar_Click();
   bool IkkunoitaAuki() const;
@@ -55,15 +57,19 @@ class frmMain : public QMainWindow, public Paaikkuna {
   void closeEvent(QCloseEvent* tapahtuma) override;
 
  private:
+  struct Toiminto {
+    const Valikkorivi& rivi;
+    QAction& toiminto;
+  };
   void LuoValikot();
   QMenu& LuoValikko(const Paavalikko& valikko);
   /// The latest files at the end of the File menu, before Exit.
   void PaivitaViimeisimmat();
   void LuoToiminto(const Valikkorivi& rivi, QMenu& valikko);
   void LuoTyokalut();
-  /// In the colours of the present theme.
   /// Enables the entries of the top menu; of all when it is "".
   void PaivitaKaytossa(std::string_view valikko);
+  void Paivita(const Toiminto& toiminto) const;
   void PaataMuokkaus();
   void Suorita(const Valikkorivi& rivi);
   bool QueryUnload(bool istuntoPaattyy);
@@ -74,10 +80,6 @@ class frmMain : public QMainWindow, public Paaikkuna {
   QLabel paneeli_;
   QToolBar* tyokalut_ = nullptr;
   QPageLayout sivu_;
-  struct Toiminto {
-    const Valikkorivi& rivi;
-    QAction& toiminto;
-  };
   std::vector<Toiminto> toiminnot_;
   std::vector<QAction*> viimeisimmat_;
   Leikepoyta leike_;

@@ -59,4 +59,29 @@ Vertailupari Kopiointipari(clsRakennus& rakennus) {
           }};
 }
 
+Vertailupari Kumouspari(clsRakennus& rakennus) {
+  struct Tila {
+    clsRakennus& rakennus;
+    std::unique_ptr<clsRakennus> edellinen;  // the building as it was: its register is valid
+    std::unique_ptr<clsRakennus> askel;
+  };
+  auto tila = std::make_shared<Tila>(Tila{rakennus, rakennus.Tilannekuva(), nullptr});
+  tila->edellinen->PaivitaInstanssiIdLista();
+  return {[tila] {
+            tila->askel.reset();
+            tila->rakennus.RekisteriVanheni();
+            return Suoritinaika([&] { tila->askel = tila->rakennus.Tilannekuva(); });
+          },
+          [tila] {
+            std::unique_ptr<clsRakennus> kopio;
+            const double kesto = Suoritinaika([&] { kopio = tila->edellinen->Tilannekuva(); });
+            Kayta(kopio->MuuLampo);
+            return kesto;
+          },
+          [tila] {
+            if (tila->askel->Sormenjalki() != tila->rakennus.Sormenjalki())
+              throw std::runtime_error("the step differs from the object");
+          }};
+}
+
 }  // namespace mittaus

@@ -15,6 +15,8 @@ struct Vertailupari {
 Vertailupari Tallennuspari(clsRakennus& rakennus);
 Vertailupari Avauspari(clsRakennus& rakennus);
 Vertailupari Kopiointipari(clsRakennus& rakennus);
+/// A step of undo after a commit, which has made the register stale.
+Vertailupari Kumouspari(clsRakennus& rakennus);
 Vertailupari Laskentapari(clsRakennus& rakennus);
 /// The after-heating of the machines.
 Vertailupari Ilmanvaihtopari(clsRakennus& rakennus);

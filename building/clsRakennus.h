@@ -72,6 +72,14 @@ class clsRakennus : public Malli<clsRakennus> {
   /// and arranger stay with this object. Into an existing target it reuses the target's parts. Returns the copy when
   /// there is no target.
   std::unique_ptr<clsRakennus> Kopioi(clsRakennus* kohde = nullptr);
+  /// A copy of the whole object but what tells of its file (`ProjektiAsetukset`): measures, tariffs and all, with a
+  /// register of its own.
+  std::unique_ptr<clsRakennus> Tilannekuva();
+  /// Makes this object what it was when the picture was taken. Its objects are reused and its weather is read, and open
+  /// windows show it.
+  void PalautaTilannekuva(const clsRakennus& kuva);
+  /// A number that tells whether the content has changed: that of Tilannekuva.
+  std::uint64_t Sormenjalki();
   /// Changes from `vanha` to this object.
   void VertaileAttribuutit(clsRakennus& vanha, MuutostenKeraaja& muuttuneet);
   /// Writes a measure's new values into this building; an entry whose object is gone is passed over.
@@ -137,8 +145,6 @@ class clsRakennus : public Malli<clsRakennus> {
   /// differs from its file, measures, caches and register no longer hold, the session makes it a step of undo, and open
   /// windows show the new figures. `toiminto` is what the person sees as its name, "Tilan tiedot".
   void Muuttui(std::string_view toiminto);
-  /// How many times that has been called: tells whether the model has changed since one looked last.
-  int Muutoksia() const noexcept { return muutoksia_; }
   /// Open windows show the present figures.
   void PaivitaNakymat();
   /// A window that shows results of this building: `naytaUudelleen` runs after each change while the subscription is
@@ -161,7 +167,6 @@ class clsRakennus : public Malli<clsRakennus> {
   void TaytaLampoYhteenveto();
   void PaivitaToimenpiteidenPerusta();
 
-  int muutoksia_ = 0;
   Muutosilmoitus nakymat_;
   bool rekisteriVoimassa_ = false;
   bool vaurioitunut_ = false;  // the file had values that could not be read: the next save keeps it aside

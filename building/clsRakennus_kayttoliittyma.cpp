@@ -42,7 +42,6 @@ void clsRakennus::PoistaVoimasta() {
 }
 
 void clsRakennus::Muuttui(std::string_view toiminto) {
-  ++muutoksia_;
   PoistaVoimasta();
   Tallennettu = false;
   if (MuutosVahvistettu) MuutosVahvistettu(toiminto);

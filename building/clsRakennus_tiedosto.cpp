@@ -101,6 +101,11 @@ void KerroTallennusvirhe(const std::exception& virhe) {
                  Teksti(tekstit::kTallennusEpaonnistui) + " " + Teksti(Neuvo(virhe)));
 }
 
+std::string Versioteksti(const clsRakennus& rakennus) {
+  return std::to_string(rakennus.Major) + "." + std::to_string(rakennus.Minor) + "." +
+         std::to_string(rakennus.Revision);
+}
+
 }  // namespace
 
 bool clsRakennus::Tallenna(const std::string& tiedosto, const Tiedostotunnus* odotettu) {
@@ -110,6 +115,7 @@ bool clsRakennus::Tallenna(const std::string& tiedosto, const Tiedostotunnus* od
     Major = kVersioMajor;
     Minor = kVersioMinor;
     Revision = kVersioRevision;
+    ProjektiAsetukset.strCurrentProjectFileRevision = Versioteksti(*this);
     Tallennettu = true;  // as the file says it
     const Tallennusraportti raportti =
         TallennaProjekti(*this, tiedosto, {},
@@ -149,6 +155,7 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   Saa.AsetaSaaPaikkakunta(Perustiedot.LammTarveLukuPaikkakuntaID());
   ProjektiAsetukset.strCurrentProjectFile = tiedosto;
   ProjektiAsetukset.strCurrentProjectPath = std::filesystem::path(tiedosto).parent_path().string();
+  ProjektiAsetukset.strCurrentProjectFileRevision = Versioteksti(*this);
   PaaikkunaNyt().AsetaOtsikko("");
   for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) toimenpide.EnnenTiedotUpToDate = false;
   vaurioitunut_ = raportti.vaurioita > 0 || !raportti.tuntemattomat.empty();

@@ -41,6 +41,19 @@ void NostaVirhe(const char* lahde, std::string syy) {
 
 void AsetaVirhetekstinHaku(std::string (*haku)(int numero)) { g_haku = haku ? haku : TekstiPuuttuu; }
 
+std::string Virheketju(const std::exception& virhe) {
+  const auto* oma = dynamic_cast<const Virhe*>(&virhe);
+  if (!oma) return virhe.what();
+  if (!oma->Syy()) return oma->Lahde() + "\n" + oma->SyynKuvaus();
+  try {
+    std::rethrow_exception(oma->Syy());
+  } catch (const std::exception& syy) {
+    return oma->Lahde() + "\n" + Virheketju(syy);
+  } catch (...) {
+    return oma->Lahde();
+  }
+}
+
 std::string SyynKuvaus(const std::exception& virhe) {
   if (const auto* oma = dynamic_cast<const Virhe*>(&virhe); oma && !oma->SyynKuvaus().empty()) return oma->SyynKuvaus();
   return virhe.what();

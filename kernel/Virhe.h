@@ -37,5 +37,8 @@ class Virhe : public std::runtime_error {
 /// Where the text of error 9999 comes from; the text store hooks itself in when it is loaded.
 void AsetaVirhetekstinHaku(std::string (*haku)(int numero));
 
+/// The whole chain for diagnosis, a line each: the literals from the outermost method in, and what the first error
+/// says.
+std::string Virheketju(const std::exception& virhe);
 /// What the first error of a chain says: the cause of a `Virhe`, else the exception's own text.
 std::string SyynKuvaus(const std::exception& virhe);

@@ -45,6 +45,8 @@ enum class Avain {
   MainTop,                    ///< main window's place, twips
   MainWidth,                  ///< main window's size, twips
   MainHeight,                 ///< main window's size, twips
+  TyokaluriviNakyy,           ///< tool bar shown
+  TilariviNakyy,              ///< status bar shown
   Lukumaara
 };
 
@@ -108,6 +110,8 @@ inline constexpr std::array kAsetukset = {
     AsetusRivi{Avain::MainTop, "Settings", "MainTop", "1000", AsetusLaji::Kokonaisluku},
     AsetusRivi{Avain::MainWidth, "Settings", "MainWidth", "12210", AsetusLaji::Kokonaisluku},
     AsetusRivi{Avain::MainHeight, "Settings", "MainHeight", "9510", AsetusLaji::Kokonaisluku},
+    AsetusRivi{Avain::TyokaluriviNakyy, "Settings", "TyokaluriviNakyy", "-1", AsetusLaji::Totuus},
+    AsetusRivi{Avain::TilariviNakyy, "Settings", "TilariviNakyy", "-1", AsetusLaji::Totuus},
 };
 
 constexpr bool RivitJarjestyksessa() {

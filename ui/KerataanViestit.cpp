@@ -46,7 +46,7 @@ std::optional<std::string> KerataanViestit::KysyAvattavaTiedosto(std::string_vie
 }
 
 std::optional<std::string> KerataanViestit::KysyTallennettavaTiedosto(std::string_view otsikko,
-                                                                      std::string_view suodatin) {
+                                                                      std::string_view suodatin, std::string_view) {
   return KysyAvattavaTiedosto(otsikko, suodatin);
 }
 

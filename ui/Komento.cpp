@@ -7,12 +7,14 @@
 
 #include "kernel/Virhe.h"
 #include "tekstit/viestit.h"
+#include "ui/Lomake.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
 namespace {
 
 int syvyys = 0;  // commands that are running, each inside the former
+int lepaa = 0;   // those of them that wait for the person in a modal form
 
 std::function<void()>& ViestienNaytto() {
   static std::function<void()> nayta;
@@ -24,21 +26,30 @@ std::function<void()>& KomennonJalki() {
   return jalki;
 }
 
-void NaytaKeskeytys(const std::string& paneeli, const std::string& teksti) {
-  ViestitNyt().AsetaPaneeli(paneeli);
-  Ilmoita(teksti, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+/// What happened, in which form, why, and what to do.
+Viesti Virheviesti(const std::exception& virhe, const std::string& ikkuna) {
+  std::string teksti = Teksti(tekstit::kOhjelmassaTapahtuiVirhe);
+  if (!ikkuna.empty()) teksti += "\n" + Teksti(tekstit::kVirheenIkkuna) + " " + ikkuna;
+  teksti += "\n\n" + Teksti(tekstit::kVirheenSyy) + " " + SyynKuvaus(virhe) + "\n\n" + Teksti(tekstit::kVirheenNeuvo);
+  return {.teksti = std::move(teksti),
+          .otsikko = Teksti(tekstit::kVirhe),
+          .vakavuus = Vakavuus::Virhe,
+          .tarkenne = Virheketju(virhe)};
+}
+
+std::string AktiivisenOtsikko() {
+  const Lomake* lomake = AktiivinenLomake();
+  return lomake ? lomake->Otsikko() : std::string();
 }
 
 void SuoritaVartioituna(const std::function<void()>& komento) {
   const std::string paneeli = ViestitNyt().Paneeli();
+  const std::string ikkuna = AktiivisenOtsikko();
   try {
     komento();
-  } catch (const Virhe& virhe) {
-    NaytaKeskeytys(paneeli, virhe.Kuvaus() + "\n" + virhe.Lahde());
   } catch (const std::exception& virhe) {
-    NaytaKeskeytys(paneeli, Teksti(tekstit::kOhjelmassaTapahtuiVirhe) + "\n" + virhe.what());
-  } catch (...) {
-    NaytaKeskeytys(paneeli, Teksti(tekstit::kOhjelmassaTapahtuiVirhe));
+    ViestitNyt().AsetaPaneeli(paneeli);
+    ViestitNyt().Nayta(Virheviesti(virhe, ikkuna));
   }
 }
 
@@ -55,6 +66,11 @@ void SuoritaKomento(const std::function<void()>& komento) {
 void AsetaKomennonJalki(std::function<void()> jalki) { KomennonJalki() = std::move(jalki); }
 
 bool KomentoKaynnissa() { return syvyys > 0; }
+
+IhmisenVuoro::IhmisenVuoro() noexcept : edellinen_(std::exchange(lepaa, syvyys)) {}
+IhmisenVuoro::~IhmisenVuoro() { lepaa = edellinen_; }
+
+bool OnHiljaista() noexcept { return syvyys == lepaa; }
 
 void AsetaViestienNaytto(std::function<void()> nayta) { ViestienNaytto() = std::move(nayta); }
 

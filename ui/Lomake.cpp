@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "kernel/Kirjainkoko.h"
+#include "ui/Komento.h"
 #include "ui/Lomakekaannos.h"
 
 namespace {
@@ -33,6 +34,7 @@ void Lomake::Otsikko(std::string otsikko) {
 void Lomake::NaytaModaalisena() {
   auki_ = true;
   Avoimet().push_back(this);
+  const IhmisenVuoro vuoro;
   ikkuna_->NaytaModaalisena();
 }
 

@@ -16,7 +16,7 @@ bool OnVastaus(Napit napit, Vastaus vastaus) {
     case Vastaus::Ok:
       return napit == Napit::Ok;
     case Vastaus::Peruuta:
-      return napit == Napit::KyllaEiPeruuta;
+      return napit == Napit::KyllaEiPeruuta || napit == Napit::TallennaHylkaaPeruuta;
     default:
       return napit != Napit::Ok;
   }
@@ -30,5 +30,5 @@ Viestit& ViestitNyt() {
 void AsetaViestit(Viestit* viestit) { t_viestit = viestit; }
 
 void Ilmoita(std::string teksti, std::string otsikko, Vakavuus vakavuus) {
-  ViestitNyt().Nayta({std::move(teksti), std::move(otsikko), vakavuus, Napit::Ok, Vastaus::Ok});
+  ViestitNyt().Nayta({std::move(teksti), std::move(otsikko), vakavuus});
 }

@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-enum class Napit { Ok, KyllaEi, KyllaEiPeruuta };
+/// Save and Discard answer as Yes and No.
+enum class Napit { Ok, KyllaEi, KyllaEiPeruuta, TallennaHylkaa, TallennaHylkaaPeruuta };
 enum class Vastaus { Ok, Kylla, Ei, Peruuta };
 enum class Vakavuus { Tieto, Varoitus, Virhe, Kysymys };
 
@@ -16,6 +17,7 @@ struct Viesti {
   Napit napit = Napit::Ok;
   Vastaus oletus = Vastaus::Ok;  ///< button that Enter presses
   std::string kohde{};           ///< name of what it is about: of a space, of a machine
+  std::string tarkenne{};        ///< what stands behind a details button; "" none
 };
 
 /// True when the box has a button for this answer.
@@ -26,14 +28,16 @@ class Viestit {
  public:
   virtual ~Viestit() = default;
 
-  /// Shows the box and gives the button pressed. Closing it counts as Cancel, in a Yes and No box as No.
+  /// Shows the box and gives the button pressed. Closing it counts as Cancel, in a box without one as No.
   virtual Vastaus Nayta(const Viesti& viesti) = 0;
   /// A line of text, or nothing when the person cancelled.
   virtual std::optional<std::string> KysyTeksti(std::string_view kehote, std::string_view otsikko,
                                                 std::string_view oletus) = 0;
   /// A file's full name, or nothing when the person cancelled. `suodatin`: "Kuvaus (*.lvt)".
   virtual std::optional<std::string> KysyAvattavaTiedosto(std::string_view otsikko, std::string_view suodatin) = 0;
-  virtual std::optional<std::string> KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin) = 0;
+  /// `ehdotus` is the name proposed, without a folder.
+  virtual std::optional<std::string> KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin,
+                                                               std::string_view ehdotus = {}) = 0;
 
   /// Text of the first panel of the status bar.
   virtual std::string Paneeli() const = 0;

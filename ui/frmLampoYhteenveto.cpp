@@ -42,12 +42,15 @@ void LaskeOminaisarvo(const TextBox& kentta, double megawattitunnit, double jaka
 
 frmLampoYhteenveto::frmLampoYhteenveto() : Lomake("frmLampoYhteenveto") {
   txtMuuLampo.arvo.KunMuuttuu([this] { MuuLampoKirjoitettu(); });
+  txtMuuLampo.arvo.KunPoistutaan([this] { VahvistaMuuLampo(); });
   cmdNaytaGraafi.KunKlikataan([this] { NaytaGraafi(); });
   Command4.KunKlikataan([this] { NaytaHaviot(); });
   cmdTulosta.Nostaa(TulostaKlikattu);
   cmdKuukausitase.Nostaa(KuukausitaseKlikattu);
   cmdOk.KunKlikataan([this] {
-    if (TarkistaLukukentat(*this)) Nosta(OkKlikattu);
+    if (!TarkistaLukukentat(*this)) return;
+    VahvistaMuuLampo();
+    Nosta(OkKlikattu);
   });
 }
 
@@ -72,10 +75,14 @@ void frmLampoYhteenveto::LaskeOminaisarvot(const Rivi& rivi) const {
 }
 
 void frmLampoYhteenveto::MuuLampoKirjoitettu() {
+  if (LueLuku(txtMuuLampo.arvo.Teksti())) Laske();
+}
+
+void frmLampoYhteenveto::VahvistaMuuLampo() {
   const auto arvo = LueLuku(txtMuuLampo.arvo.Teksti());
-  if (!arvo) return;
+  if (!arvo || !txtMuuLampo.arvo.Muuttunut()) return;
+  txtMuuLampo.arvo.Luku(*arvo, kEnergia);
   Nosta(MuuLampoMuuttui, *arvo);
-  Laske();
 }
 
 void frmLampoYhteenveto::NaytaGraafi() {

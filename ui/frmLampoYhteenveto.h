@@ -16,7 +16,7 @@ class frmLampoYhteenveto : public Lomake {
 
   frmLampoYhteenveto();
 
-  /// The person gave other heat a new value, MWh/a; the form's sums are refreshed afterwards.
+  /// The person gave other heat a new value, MWh/a, and left the field. The sums follow the typing.
   std::function<void(double)> MuuLampoMuuttui;
   /// OK with valid fields; the listener closes the form.
   std::function<void()> OkKlikattu;
@@ -55,6 +55,7 @@ class frmLampoYhteenveto : public Lomake {
   void LaskeYhteensa();
   void LaskeOminaisarvot(const Rivi& rivi) const;
   void MuuLampoKirjoitettu();
+  void VahvistaMuuLampo();
   void NaytaGraafi();
   void NaytaHaviot();
 };

@@ -11,6 +11,8 @@
 #include "building/Mallivaraus.h"
 #include "building/Yhteiset.h"
 #include "kernel/Kirjoitussuoja.h"
+#include "kernel/Palautuskopio.h"
+#include "kernel/Projektitiedosto.h"
 #include "kernel/Tietokanta.h"
 #include "tests/app/Koekoti.h"
 #include "tests/tuki/Koeviestit.h"
@@ -91,7 +93,7 @@ class IstuntoTesti : public testing::Test {
 
 TEST_F(IstuntoTesti, ANewObjectIsSavedAndOpensEqual) {
   UusiKohde("Koulu");
-  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - Uusi");
+  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - Uusi - Koulu *");
   ASSERT_TRUE(istunto.KohdeValmis());
   EXPECT_EQ(GlobaaliRakennus(), istunto.Rakennus());
   EXPECT_FALSE(istunto.Rakennus()->Tallennettu) << "the generated model is in no file";
@@ -102,7 +104,7 @@ TEST_F(IstuntoTesti, ANewObjectIsSavedAndOpensEqual) {
   istunto.mnuFileSave_Click();
   const std::string tiedosto = koti.Tiedosto("Koulu.lvt");
   ASSERT_TRUE(fs::exists(tiedosto)) << "the name gets its extension";
-  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - " + LyhennaPolku(tiedosto, 75));
+  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - " + LyhennaPolku(tiedosto, 75) + " - Koulu");
   EXPECT_TRUE(OnKirjoitussuojattu(tiedosto));
 
   PeruutaPerustiedot();
@@ -216,7 +218,7 @@ TEST_F(IstuntoTesti, SaveAsMovesNameCaptionAndMark) {
   viestit.AsetaSeuraavaTiedosto(toka);
   istunto.mnuFileSaveAs_Click();
   EXPECT_EQ(Tiedosto(), toka);
-  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - " + LyhennaPolku(toka, 75));
+  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - " + LyhennaPolku(toka, 75) + " - Koulu");
   EXPECT_FALSE(OnKirjoitussuojattu(eka));
   EXPECT_TRUE(OnKirjoitussuojattu(toka));
   EXPECT_TRUE(istunto.QueryUnload(false));
@@ -252,7 +254,7 @@ TEST_F(IstuntoTesti, AFailedSaveAsPutsTheFormerFileBack) {
   viestit.AsetaSeuraavaTiedosto(koti.Tiedosto("ei/ole/Koulu.lvt"));
   istunto.mnuFileSaveAs_Click();
   EXPECT_EQ(Tiedosto(), oma);
-  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - " + LyhennaPolku(oma, 75));
+  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta - " + LyhennaPolku(oma, 75) + " - Koulu *");
   EXPECT_TRUE(OnKirjoitussuojattu(oma));
   EXPECT_FALSE(istunto.Rakennus()->Tallennettu);
   EXPECT_EQ(viestit.Esiintymia(Teksti(9516)), 1);
@@ -283,49 +285,111 @@ TEST_F(IstuntoTesti, AReservedModelRefusesEveryCommand) {
   EXPECT_EQ(istunto.Rakennus(), kohde);
 }
 
-TEST_F(IstuntoTesti, WhatATerminatedRunLeftIsOfferedAndKept) {
-  const std::string palautus = AppPath() + "~palautus.lvt";
-  TallennettuKohde("Koulu");
+/// The run's recovery copies.
+std::vector<std::string> Talteenotetut() {
+  std::vector<std::string> kopiot;
+  for (const auto& tiedosto : fs::directory_iterator(AppPath()))
+    if (tiedosto.path().filename().string().starts_with("~palautus")) kopiot.push_back(tiedosto.path().string());
+  return kopiot;
+}
+
+/// What a killed run leaves: a copy that nobody holds.
+void JataKopio(clsRakennus& rakennus, const std::string& nimi) {
+  Palautuskopio kopio;
+  kopio.Kirjoita(rakennus, rakennus.ProjektiAsetukset.strCurrentProjectFile, rakennus.LuettuTiedosto);
+  fs::copy_file(kopio.Polku(), AppPath() + nimi);
+  kopio.Poista();
+}
+
+TEST_F(IstuntoTesti, ARescuedObjectGoesOnInItsOwnFile) {
+  const std::string oma = TallennettuKohde("Koulu");
   istunto.Rakennus()->Perustiedot.KohteenNimi = "Kesken jäänyt";
-  istunto.Rakennus()->Tallennettu = false;
-  istunto.OtaTalteen();
-  ASSERT_TRUE(fs::exists(palautus));
-  fs::rename(palautus, palautus + ".koe");  // a killed run wouldn't remove it
+  JataKopio(*istunto.Rakennus(), "~palautus 1.lvt");
   istunto.SuljeKohde();
-  fs::rename(palautus + ".koe", palautus);
+  AsetaKirjoitussuoja(oma);  // the killed run's mark
 
   std::tm aika{.tm_min = 5, .tm_hour = 14, .tm_mday = 21, .tm_mon = 10, .tm_year = 126, .tm_isdst = -1};
   const auto hetki = std::chrono::system_clock::from_time_t(std::mktime(&aika));
-  fs::last_write_time(palautus, std::chrono::file_clock::from_sys(hetki));
+  fs::last_write_time(AppPath() + "~palautus 1.lvt", std::chrono::file_clock::from_sys(hetki));
   viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
   EXPECT_TRUE(istunto.TarjoaJaaneet());
   EXPECT_EQ(ViimeTeksti(), Teksti(9518) + "\n\nKohde: Kesken jäänyt\nOtettu talteen: 21.11.2026 klo 14.05");
   EXPECT_EQ(KohteenNimi(), "Kesken jäänyt");
-  EXPECT_EQ(Tiedosto(), "") << "saving asks a name";
+  EXPECT_EQ(Tiedosto(), oma);
   EXPECT_FALSE(istunto.Rakennus()->Tallennettu);
-  EXPECT_FALSE(fs::exists(palautus)) << "offered once";
-  EXPECT_FALSE(istunto.TarjoaJaaneet());
+  EXPECT_EQ(Talteenotetut().size(), 1u) << "until the object is in its file";
+  const auto viesteja = viestit.Naytetyt().size();
+  istunto.mnuFileSave_Click();
+  EXPECT_EQ(viestit.Naytetyt().size(), viesteja) << "nothing to ask: the file is as it was";
+  EXPECT_TRUE(istunto.Rakennus()->Tallennettu);
+  EXPECT_TRUE(Talteenotetut().empty());
+  EXPECT_EQ(HaeTiedostonTeksti(oma, "clsPerustiedot", "KohteenNimi"), "Kesken jäänyt");
 }
 
-TEST_F(IstuntoTesti, QuietMomentsKeepARecoveryCopyUntilACleanEnd) {
-  const std::string palautus = AppPath() + "~palautus.lvt";
+TEST_F(IstuntoTesti, ARescuedObjectThatIsNotWantedIsKeptAside) {
   TallennettuKohde("Koulu");
+  JataKopio(*istunto.Rakennus(), "~palautus 1.lvt");
+  viestit.AsetaSeuraavaVastaus(Vastaus::Ei);
+  EXPECT_FALSE(istunto.TarjoaJaaneet());
+  ASSERT_EQ(ViimeTeksti().find(Teksti(9503)), 0u);
+  EXPECT_TRUE(fs::exists(ViimeTeksti().substr(Teksti(9503).size() + 1))) << "where the message says";
+  EXPECT_FALSE(istunto.TarjoaJaaneet()) << "offered once";
+  EXPECT_EQ(KohteenNimi(), "Koulu");
+}
+
+TEST_F(IstuntoTesti, QuietMomentsKeepWhatDiffersFromTheFile) {
+  TallennettuKohde("Koulu");
+  clsRakennus& kohde = *istunto.Rakennus();
   istunto.HiljainenHetki();
-  EXPECT_FALSE(fs::exists(palautus)) << "nothing has changed";
-  istunto.Rakennus()->Muuttui("Koe");
+  EXPECT_TRUE(Talteenotetut().empty()) << "nothing has changed";
+  kohde.Tilat.Item(1).BruttoAla += 1;  // as a dialog does before its OK
   istunto.HiljainenHetki();
-  ASSERT_TRUE(fs::exists(palautus));
-  const auto aika = fs::last_write_time(palautus);
+  ASSERT_EQ(Talteenotetut().size(), 1u);
+  const auto aika = fs::last_write_time(Talteenotetut()[0]);
   istunto.HiljainenHetki();
-  EXPECT_EQ(fs::last_write_time(palautus), aika) << "written once for a change";
-  istunto.mnuFileSave_Click();
-  EXPECT_FALSE(fs::exists(palautus)) << "a saved object needs none";
-  istunto.Rakennus()->MuuLampo = 5;
-  istunto.Rakennus()->Tallennettu = false;
+  EXPECT_EQ(fs::last_write_time(Talteenotetut()[0]), aika) << "written once for a change";
+  kohde.Tilat.Item(1).BruttoAla -= 1;
   istunto.HiljainenHetki();
-  EXPECT_TRUE(fs::exists(palautus));
+  EXPECT_TRUE(Talteenotetut().empty()) << "cancelled: the file has it all";
+  kohde.MuuLampo = 5;
+  istunto.HiljainenHetki();
+  EXPECT_EQ(Talteenotetut().size(), 1u);
   istunto.SuljeKohde();
-  EXPECT_FALSE(fs::exists(palautus));
+  EXPECT_TRUE(Talteenotetut().empty());
+}
+
+TEST_F(IstuntoTesti, ARescueThatFailsIsToldOnceAndTriedAgain) {
+  TallennettuKohde("Koulu");
+  istunto.Rakennus()->MuuLampo = 5;
+  const std::string malli = AppPath() + "stemplate.tmp";
+  fs::rename(malli, malli + ".pois");
+  viestit.AsetaPaneeli("Valmis!");
+  istunto.HiljainenHetki();
+  EXPECT_EQ(viestit.Paneeli().find(Teksti(9569)), 0u);
+  viestit.AsetaPaneeli("Valmis!");
+  istunto.HiljainenHetki();
+  EXPECT_EQ(viestit.Paneeli(), "Valmis!");
+  fs::rename(malli + ".pois", malli);
+  istunto.HiljainenHetki();
+  EXPECT_EQ(Talteenotetut().size(), 1u);
+}
+
+TEST_F(IstuntoTesti, AFileThatAnotherHandHasChangedIsReplacedOnlyWithConsent) {
+  const std::string oma = TallennettuKohde("Koulu");
+  PoistaKirjoitussuoja(oma);
+  fs::remove(oma + ".2");
+  fs::copy_file(oma, oma + ".2");
+  Tietokanta(oma + ".2", Tietokanta::Tapa::Kirjoitus).Aja("UPDATE clsPerustiedot SET KohteenNimi = 'Toisen'");
+  fs::rename(oma + ".2", oma);
+  istunto.Rakennus()->Muuttui("Koe");
+  istunto.mnuFileSave_Click();  // the default answer is No
+  EXPECT_EQ(ViimeTeksti().find(Teksti(9568)), 0u);
+  EXPECT_FALSE(istunto.Rakennus()->Tallennettu);
+  EXPECT_EQ(HaeTiedostonTeksti(oma, "clsPerustiedot", "KohteenNimi"), "Toisen");
+  viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
+  istunto.mnuFileSave_Click();
+  EXPECT_TRUE(istunto.Rakennus()->Tallennettu);
+  EXPECT_EQ(HaeTiedostonTeksti(oma, "clsPerustiedot", "KohteenNimi"), "Koulu");
 }
 
 TEST_F(IstuntoTesti, TheLatestFilesStandFirstInTheList) {
@@ -339,27 +403,106 @@ TEST_F(IstuntoTesti, TheLatestFilesStandFirstInTheList) {
   EXPECT_EQ(Tiedosto(), eka);
 }
 
-TEST_F(IstuntoTesti, UndoBringsBackTheModelBeforeTheLastCommittedDialog) {
+TEST_F(IstuntoTesti, UndoAndRedoWalkNamedSteps) {
   TallennettuKohde("Koulu");
-  istunto.SeuraaMuutoksia();
-  EXPECT_FALSE(istunto.VoiKumota());
-  clsTila& tila = istunto.Rakennus()->Tilat.Item(1);
-  const double ala = tila.BruttoAla;
-  const double lampo = istunto.Rakennus()->VuotuinenBruttoLampoEnergia();
-  tila.BruttoAla = ala + 100;
-  istunto.Rakennus()->Perustiedot.LammTarveLukuPaikkakuntaID(12);
-  istunto.Rakennus()->Saa.AsetaSaaPaikkakunta(12);
-  istunto.Rakennus()->Tilat.Add("uusi tila");
+  const Kumous& askeleet = istunto.Askeleet();
+  EXPECT_FALSE(askeleet.VoiKumota()) << "the first model of an object is no step";
+  clsRakennus& kohde = *istunto.Rakennus();
+  const double ala = kohde.Tilat.Item(1).BruttoAla;
+  const double lampo = kohde.VuotuinenBruttoLampoEnergia();
+  kohde.Tilat.Item(1).BruttoAla = ala + 100;
+  kohde.Perustiedot.LammTarveLukuPaikkakuntaID(12);
+  kohde.Saa.AsetaSaaPaikkakunta(12);
+  kohde.Muuttui("Tilan tiedot");
+  kohde.Tilat.Add("uusi tila");
+  kohde.Muuttui("Tilan lisäys");
+  kohde.MuuLampo = 500;
+  kohde.Muuttui("Muu lämpö");
+  EXPECT_EQ(askeleet.Kumottava(), "Muu lämpö");
+
+  istunto.mnuEditUndo_Click();
+  EXPECT_EQ(kohde.MuuLampo, 0);
+  EXPECT_EQ(askeleet.Uudelleentehtava(), "Muu lämpö");
+  istunto.mnuEditUndo_Click();
+  EXPECT_EQ(kohde.Tilat.Count(), 1);
+  EXPECT_FALSE(kohde.Tallennettu);
+  istunto.mnuEditUndo_Click();
+  EXPECT_EQ(kohde.Tilat.Item(1).BruttoAla, ala);
+  EXPECT_EQ(kohde.VuotuinenBruttoLampoEnergia(), lampo) << "the weather came back too";
+  EXPECT_TRUE(kohde.Tallennettu) << "as it is in the file";
+  EXPECT_FALSE(askeleet.VoiKumota());
+
+  istunto.mnuEditRedo_Click();
+  istunto.mnuEditRedo_Click();
+  istunto.mnuEditRedo_Click();
+  EXPECT_EQ(kohde.MuuLampo, 500);
+  EXPECT_EQ(kohde.Tilat.Count(), 2);
+  EXPECT_FALSE(askeleet.VoiTehdaUudelleen());
+  istunto.mnuEditUndo_Click();
+  kohde.Muuttui("Muu muutos");
+  EXPECT_EQ(askeleet.Uudelleentehtava(), "") << "another way was taken";
+}
+
+TEST_F(IstuntoTesti, UndoLeavesTheFileOfTheObject) {
+  const std::string eka = TallennettuKohde("Koulu");
+  const std::string toka = koti.Tiedosto("Koulu 2.lvt");
+  clsRakennus& kohde = *istunto.Rakennus();
+  kohde.MuuLampo = 5;
+  kohde.Muuttui("Muu lämpö");
+  viestit.AsetaSeuraavaTiedosto(toka);
+  istunto.mnuFileSaveAs_Click();
+  const std::string ekaEnnen = LueTiedosto(eka);
+  istunto.mnuEditUndo_Click();
+  EXPECT_EQ(Tiedosto(), toka);
+  EXPECT_FALSE(kohde.Tallennettu);
+  istunto.mnuFileSave_Click();
+  EXPECT_TRUE(kohde.Tallennettu);
+  EXPECT_EQ(LueTiedosto(eka), ekaEnnen);
+  istunto.mnuEditRedo_Click();
+  EXPECT_FALSE(kohde.Tallennettu) << "the file has the undone state now";
+}
+
+TEST_F(IstuntoTesti, TheEarliestStepsGiveWayWhenMemoryIsFull) {
+  TallennettuKohde("Koulu");
+  clsRakennus& kohde = *istunto.Rakennus();
+  Kumous kumous(1);
+  kumous.Aloita(&kohde);
+  for (const double arvo : {1.0, 2.0, 3.0}) {
+    kohde.MuuLampo = arvo;
+    kumous.Kirjaa("Muu lämpö");
+  }
+  kumous.Kumoa();
+  EXPECT_EQ(kohde.MuuLampo, 2) << "the last step can always be undone";
+  EXPECT_FALSE(kumous.VoiKumota());
+  EXPECT_TRUE(kumous.VoiTehdaUudelleen());
+}
+
+TEST_F(IstuntoTesti, AnOpenWindowStaysAndFollowsUndo) {
+  TallennettuKohde("Koulu");
+  istunto.Rakennus()->NaytaLampoYhteenvetoDlg();
+  Ikkunaton& lomake = lomakkeet.Ikkuna("frmLampoYhteenveto");
+  const std::string ennen = lomake.Teksti("txtYhteensa");
+  lomake.KayttajaKirjoittaa("txtMuuLampo", "100");
+  lomake.KayttajaPoistuu("txtMuuLampo");
+  EXPECT_NE(lomake.Teksti("txtYhteensa"), ennen);
+  istunto.mnuEditUndo_Click();
+  EXPECT_TRUE(lomake.Auki());
+  EXPECT_EQ(lomake.Teksti("txtYhteensa"), ennen);
+  EXPECT_EQ(istunto.Rakennus()->MuuLampo, 0);
+}
+
+TEST_F(IstuntoTesti, TheObjectIsClosedAfterAnOfferToSave) {
+  const std::string oma = TallennettuKohde("Koulu");
   istunto.Rakennus()->Muuttui("Koe");
-  istunto.SeuraaMuutoksia();
-  ASSERT_TRUE(istunto.VoiKumota());
-  istunto.mnuEditUndo_Click();
-  EXPECT_EQ(istunto.Rakennus()->Tilat.Count(), 1);
-  EXPECT_EQ(istunto.Rakennus()->Tilat.Item(1).BruttoAla, ala);
-  EXPECT_EQ(istunto.Rakennus()->VuotuinenBruttoLampoEnergia(), lampo) << "the weather came back too";
-  EXPECT_FALSE(istunto.Rakennus()->Tallennettu);
-  istunto.mnuEditUndo_Click();
-  EXPECT_EQ(istunto.Rakennus()->Tilat.Count(), 2) << "undoing again brings the change back";
+  viestit.AsetaSeuraavaVastaus(Vastaus::Peruuta);
+  istunto.mnuSuljeKohde_Click();
+  ASSERT_TRUE(istunto.Rakennus());
+  EXPECT_EQ(viestit.Naytetyt().back().napit, Napit::TallennaHylkaaPeruuta);
+  viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
+  istunto.mnuSuljeKohde_Click();
+  EXPECT_FALSE(istunto.Rakennus());
+  EXPECT_FALSE(OnKirjoitussuojattu(oma));
+  EXPECT_EQ(paaikkuna.otsikko, "Lumivirta");
 }
 
 TEST_F(IstuntoTesti, ALeftOverBackupIsOfferedAtStartAndBeforeASave) {
@@ -395,8 +538,8 @@ TEST_F(IstuntoTesti, TheCaptionShortensTheFile) {
   TallennettuKohde("Koulu");
   istunto.Rakennus()->ProjektiAsetukset.strCurrentProjectFile =
       "/home/katselmoija/" + std::string(60, 'a') + "/Työpöytä/Kohde.lvt";
-  EXPECT_EQ(PaaikkunanOtsikko(""), "Lumivirta - /ho.../Työpöytä/Kohde.lvt");
-  EXPECT_EQ(PaaikkunanOtsikko("Uusi"), "Lumivirta - Uusi");
+  EXPECT_EQ(PaaikkunanOtsikko(""), "Lumivirta - /ho.../Työpöytä/Kohde.lvt - Koulu");
+  EXPECT_EQ(PaaikkunanOtsikko("Uusi"), "Lumivirta - Uusi - Koulu");
 }
 
 }  // namespace

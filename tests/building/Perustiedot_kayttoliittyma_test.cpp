@@ -186,6 +186,7 @@ TEST_F(DialogiTesti, HeatSummaryShowsTheModelBesideTheMeasuredHeat) {
   EXPECT_NEAR(LueLuku(lomake.Teksti("txtTilojenLammitysNelioille")).value(), tilat / 4200 * 1000, 0.01);
   EXPECT_NEAR(LueLuku(lomake.Teksti("txtHaviot")).value(), rakennus->ToteutunutNormitettuLampo() - tilat, 0.011);
   lomake.KayttajaKirjoittaa("txtMuuLampo", "10");
+  lomake.KayttajaPoistuu("txtMuuLampo");
   EXPECT_EQ(rakennus->MuuLampo, 10);
   EXPECT_NEAR(LueLuku(lomake.Teksti("txtYhteensa")).value(), tilat + 10, 0.005);
   EXPECT_FALSE(rakennus->Tilat.VuotuinenLampoEnergianTarveUpToDate());

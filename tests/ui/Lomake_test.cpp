@@ -137,7 +137,9 @@ TEST_F(Lomakekerros, VirheNaytetaanJaOhjelmaJatkuu) {
   });
   Ikkuna().KayttajaPainaa("cmdMuuta");
   ASSERT_EQ(viestit_.Naytetyt().size(), 1u);
-  EXPECT_EQ(viestit_.Naytetyt()[0].teksti, Teksti(9999) + "\nclsTila:LueDataluokka Method");
+  EXPECT_EQ(viestit_.Esiintymia(Teksti(9999)), 1);
+  EXPECT_EQ(viestit_.Esiintymia("Syy: koe"), 1);
+  EXPECT_EQ(viestit_.Naytetyt()[0].tarkenne, "clsTila:LueDataluokka Method\nkoe");
   EXPECT_EQ(viestit_.Naytetyt()[0].otsikko, Teksti(9100));
   EXPECT_EQ(viestit_.Paneeli(), "ennen");
   lomake_->cmdMuuta.KunKlikataan([] { throw std::runtime_error("levy on täynnä"); });

@@ -112,6 +112,7 @@ void QtIkkuna::Mahduta() {
   const QSize koko = alikehys_->sizeHint();
   if (koko != koko.boundedTo(alue.size())) KutistaLuettelot(*juuri_);
   alikehys_->resize(Mahtuva(koko, alue.size()));
+  koko_.Aloita(*alikehys_, juuri_->objectName(), alue.size());
   if (!alue.contains(alikehys_->geometry())) alikehys_->move(alue.topLeft());
 }
 
@@ -132,7 +133,9 @@ void QtIkkuna::Nayta() {
 void QtIkkuna::NaytaModaalisena() {
   NaytaOdottavatViestit();
   const NormaaliOsoitin osoitin;
-  TeeDialogi()->exec();
+  TeeDialogi();
+  koko_.Aloita(*dialogi_, juuri_->objectName(), dialogi_->screen()->availableSize());
+  dialogi_->exec();
   Irrota();
 }
 
@@ -145,6 +148,7 @@ void QtIkkuna::Sulje() {
 
 /// Takes the form out of its frame and drops the frame.
 void QtIkkuna::Irrota() {
+  if (QWidget* kehys = dialogi_ ? static_cast<QWidget*>(dialogi_) : alikehys_) koko_.Lopeta(*kehys);
   if (juuri_) {
     juuri_->hide();
     juuri_->setParent(nullptr);

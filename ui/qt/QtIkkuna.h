@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ui/Lomakeikkuna.h"
+#include "ui/qt/Ikkunakoko.h"
 
 class Alikehys;
 class Dialogikehys;
@@ -38,6 +39,7 @@ class QtIkkuna : public Lomakeikkuna {
   QPointer<QMdiArea> alue_;
   QPointer<Dialogikehys> dialogi_;
   QPointer<Alikehys> alikehys_;
+  Ikkunakoko koko_;
 };
 
 /// Makes all forms real windows from now on, those that aren't modal inside the area (null: in windows of their own).

@@ -3,21 +3,27 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTranslator>
 #include <algorithm>
 #include <array>
 #include <utility>
 
+#include "kernel/Asetusvarasto.h"
 #include "ui/Komento.h"
+#include "ui/Tekstivarasto.h"
 #include "ui/qt/Osoitin.h"
 
 namespace {
+
+constexpr const char *kOsio = "Settings", *kKansio = "Tiedostokansio";  // of the settings store
 
 QString Q(std::string_view teksti) { return QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())); }
 
@@ -26,14 +32,17 @@ QString Q(std::string_view teksti) { return QString::fromUtf8(teksti.data(), sta
 struct Nappi {
   Vastaus vastaus;
   const char* otsikko;
+  const char* tallennuskysymyksessa;
   QMessageBox::ButtonRole rooli;
 };
 constexpr std::array kNapit{
-    Nappi{Vastaus::Ok, "OK", QMessageBox::AcceptRole},
-    Nappi{Vastaus::Kylla, "&Kyllä", QMessageBox::YesRole},
-    Nappi{Vastaus::Ei, "&Ei", QMessageBox::NoRole},
-    Nappi{Vastaus::Peruuta, "Peruuta", QMessageBox::RejectRole},
+    Nappi{Vastaus::Ok, "OK", "OK", QMessageBox::AcceptRole},
+    Nappi{Vastaus::Kylla, "&Kyllä", "&Tallenna", QMessageBox::YesRole},
+    Nappi{Vastaus::Ei, "&Ei", "&Hylkää", QMessageBox::NoRole},
+    Nappi{Vastaus::Peruuta, "Peruuta", "Peruuta", QMessageBox::RejectRole},
 };
+
+bool OnTallennuskysymys(Napit napit) { return napit == Napit::TallennaHylkaa || napit == Napit::TallennaHylkaaPeruuta; }
 
 QMessageBox::Icon Kuvake(Vakavuus vakavuus) {
   switch (vakavuus) {
@@ -51,7 +60,7 @@ QMessageBox::Icon Kuvake(Vakavuus vakavuus) {
 /// What closing the box means.
 Vastaus Sulkeminen(Napit napit) {
   if (napit == Napit::Ok) return Vastaus::Ok;
-  return napit == Napit::KyllaEi ? Vastaus::Ei : Vastaus::Peruuta;
+  return OnVastaus(napit, Vastaus::Peruuta) ? Vastaus::Peruuta : Vastaus::Ei;
 }
 
 Vastaus NaytaLaatikko(const Viesti& viesti) {
@@ -59,11 +68,13 @@ Vastaus NaytaLaatikko(const Viesti& viesti) {
   QMessageBox laatikko(Kuvake(viesti.vakavuus), Q(viesti.otsikko), Q(viesti.teksti), QMessageBox::NoButton,
                        QApplication::activeWindow());
   laatikko.setTextFormat(Qt::PlainText);
+  laatikko.setDetailedText(Q(viesti.tarkenne));
   std::array<QPushButton*, kNapit.size()> napit{};
   for (std::size_t i = 0; i < kNapit.size(); ++i) {
     const Nappi& nappi = kNapit[i];
     if (!OnVastaus(viesti.napit, nappi.vastaus)) continue;
-    napit[i] = laatikko.addButton(QString::fromUtf8(nappi.otsikko), nappi.rooli);
+    const char* otsikko = OnTallennuskysymys(viesti.napit) ? nappi.tallennuskysymyksessa : nappi.otsikko;
+    napit[i] = laatikko.addButton(QString::fromUtf8(otsikko), nappi.rooli);
     if (nappi.vastaus == viesti.oletus) laatikko.setDefaultButton(napit[i]);
     if (nappi.vastaus == Sulkeminen(viesti.napit)) laatikko.setEscapeButton(napit[i]);
   }
@@ -86,14 +97,39 @@ QString Paate(const QString& suodatin) {
   return QRegularExpression(QStringLiteral(R"(\*\.(\w+))")).match(suodatin).captured(1);
 }
 
+/// Where the person chose a file last, else the documents folder.
+QString Tiedostokansio() {
+  const QString viime = Q(HaeAsetus(kOsio, kKansio, ""));
+  return !viime.isEmpty() && QFileInfo(viime).isDir()
+             ? viime
+             : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+/// Remembering is a convenience: a choice isn't lost with it.
+void MuistaKansio(const QString& tiedosto) try {
+  TallennaAsetus(kOsio, kKansio, QFileInfo(tiedosto).absolutePath().toStdString());
+} catch (const std::exception&) {
+}
+
+/// Labels that the toolkit's own translation leaves in English.
+constexpr std::pair<QFileDialog::DialogLabel, const char*> kTiedostodialoginTekstit[] = {
+    {QFileDialog::LookIn, "Kansio:"},
+    {QFileDialog::FileName, "Tiedosto:"},
+    {QFileDialog::FileType, "Tiedostotyyppi:"},
+    {QFileDialog::Reject, "Peruuta"},
+};
+
 std::optional<std::string> KysyTiedosto(QFileDialog& dialogi, const QString& suodatin) {
   NaytaOdottavatViestit();
   const NormaaliOsoitin osoitin;
+  dialogi.setDirectory(Tiedostokansio());
   dialogi.setNameFilter(KirjainkoostaRiippumaton(suodatin));
   dialogi.setOption(QFileDialog::HideNameFilterDetails);
-  dialogi.setLabelText(QFileDialog::Reject, QStringLiteral("Peruuta"));
+  for (const auto& [paikka, teksti] : kTiedostodialoginTekstit) dialogi.setLabelText(paikka, QString::fromUtf8(teksti));
   if (dialogi.exec() != QDialog::Accepted || dialogi.selectedFiles().isEmpty()) return std::nullopt;
-  return dialogi.selectedFiles().constFirst().toStdString();
+  const QString valittu = dialogi.selectedFiles().constFirst();
+  MuistaKansio(valittu);
+  return valittu.toStdString();
 }
 
 }  // namespace
@@ -144,12 +180,14 @@ std::optional<std::string> QtViestit::KysyAvattavaTiedosto(std::string_view otsi
   return KysyTiedosto(dialogi, Q(suodatin));
 }
 
-std::optional<std::string> QtViestit::KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin) {
+std::optional<std::string> QtViestit::KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin,
+                                                                std::string_view ehdotus) {
   QFileDialog dialogi(QApplication::activeWindow(), Q(otsikko));
   dialogi.setAcceptMode(QFileDialog::AcceptSave);
   dialogi.setOption(QFileDialog::DontConfirmOverwrite);  // the program asks in its own words
   dialogi.setDefaultSuffix(Paate(Q(suodatin)));
   dialogi.setLabelText(QFileDialog::Accept, QStringLiteral("Tallenna"));
+  dialogi.selectFile(Q(ehdotus));
   return KysyTiedosto(dialogi, Q(suodatin));
 }
 
