@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The basic-data dialog.
+#include "building/Lammitystarveluvut.h"
 #include "building/Muokkausistunto.h"
 #include "building/Oletusmalli.h"
 #include "building/Yhteiset.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
@@ -14,12 +16,14 @@
 #include "ui/Paaikkuna.h"
 #include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
 #include "ui/frmNormeeraamatonKulutus.h"
 #include "ui/frmPerustiedot.h"
 
 namespace {
 
 constexpr int kVuosia = 3;
+constexpr const char* kTarvelukukuvio = "### ##0";
 constexpr int kPieninVuosi = 1700, kSuurinVuosi = 2100;  // years of completion that default structures are told for
 
 std::int32_t Paikkakunta(const clsPerustiedot& tiedot) { return tiedot.LammTarveLukuPaikkakuntaID(); }
@@ -45,15 +49,16 @@ const Sidontataulu kSidonnat{
     }};
 
 /// A measured year; the word is its row on the form, the newest one first.
-const Sidontataulu kVuodenSidonnat{"frmPerustiedot",
-                                   {
-                                       Rastikentta<&clsToteutunutKulutus::KaytaVertailuVuotena>("optVertailuvuosi*"),
-                                       Lukukentta<&clsToteutunutKulutus::LammTarveLuku>("txtLammTarveLuku*", "### ##0"),
-                                       Lukukentta<&clsToteutunutKulutus::Lampo>("txtLampo*", "### ##0.0"),
-                                       Lukukentta<&clsToteutunutKulutus::Sahko>("txtSahko*", "### ##0.0"),
-                                       Lukukentta<&clsToteutunutKulutus::Vesi>("txtVesi*", "### ##0"),
-                                   },
-                                   {"1", "2", "3"}};
+const Sidontataulu kVuodenSidonnat{
+    "frmPerustiedot",
+    {
+        Rastikentta<&clsToteutunutKulutus::KaytaVertailuVuotena>("optVertailuvuosi*"),
+        Lukukentta<&clsToteutunutKulutus::LammTarveLuku>("txtLammTarveLuku*", kTarvelukukuvio),
+        Lukukentta<&clsToteutunutKulutus::Lampo>("txtLampo*", "### ##0.0"),
+        Lukukentta<&clsToteutunutKulutus::Sahko>("txtSahko*", "### ##0.0"),
+        Lukukentta<&clsToteutunutKulutus::Vesi>("txtVesi*", "### ##0"),
+    },
+    {"1", "2", "3"}};
 
 /// The first comparison year counts, so it is ticked last.
 void Lue(frmPerustiedot& lomake, const clsPerustiedot& tiedot) {
@@ -73,6 +78,36 @@ void Kirjoita(const frmPerustiedot& lomake, clsPerustiedot& tiedot) {
   for (int i = 1; i <= kVuosia; ++i)
     if (clsToteutunutKulutus* vuosi = tiedot.ToteutuneetKulutukset.Vuosi(i))
       kVuodenSidonnat.Kirjoita(lomake, *vuosi, std::to_string(i));
+}
+
+/// Fills in the degree days of the years that the table knows, and tells of each where it comes from.
+void HaeTarveluvut(const frmPerustiedot& lomake, const clsPerustiedot& tiedot) {
+  const int viimeinen = static_cast<int>(lomake.txtKulutusTietojenViimVuosi.Luku());
+  std::string kerrottava = lomake.cmbPaikkakunta.Teksti();
+  for (int i = 0; i < kVuosia; ++i) {
+    const auto tarveluku = HaeLammitystarveluku(Paikkakunta(tiedot), viimeinen - i);
+    kerrottava += "\n\n" + std::to_string(viimeinen - i) + ": ";
+    kerrottava += tarveluku ? Muotoile(tarveluku->luku, kTarvelukukuvio) + " °Cd, " + tarveluku->lahde
+                            : Teksti(tekstit::kEiTarvelukua);
+    clsToteutunutKulutus* vuosi = tiedot.ToteutuneetKulutukset.Vuosi(i + 1);
+    if (!tarveluku || !vuosi) continue;
+    vuosi->LammTarveLuku = tarveluku->luku;
+    lomake.txtLammTarveLuku[static_cast<std::size_t>(i)].Luku(tarveluku->luku, kTarvelukukuvio);
+  }
+  Ilmoita(kerrottava, Teksti(tekstit::kHuomautus));
+}
+
+/// The normalised consumption stands on the comparison year's degree days: a figure that nobody has given doesn't get
+/// there in silence. False when the person goes back to it.
+bool TarvelukuOnAnnettu(const frmPerustiedot& lomake, const clsPerustiedot& tiedot) {
+  const clsToteutunutKulutus& vertailuvuosi = tiedot.ToteutuneetKulutukset.VertailuVuodenTiedot();
+  if (vertailuvuosi.LammTarveLuku != kLammitystarvelukuAluksi || !(vertailuvuosi.Lampo > 0)) return true;
+  const Viesti kysymys{Teksti(tekstit::kTarvelukuAntamatta), Teksti(tekstit::kHuomautus), Vakavuus::Kysymys,
+                       Napit::KyllaEi, Vastaus::Kylla};
+  if (ViestitNyt().Nayta(kysymys) == Vastaus::Ei) return true;
+  if (const int rivi = lomake.Vertailuvuosi(); rivi >= 0)
+    lomake.txtLammTarveLuku[static_cast<std::size_t>(rivi)].Kohdista();
+  return false;
 }
 
 bool VakioOsuusMahtuuKulutukseen(const clsPerustiedot& tiedot) {
@@ -114,6 +149,13 @@ void Peruttu(const clsPerustiedot& tiedot) {
   PaaikkunaNyt().TyokalutKaytossa(2, tiedot.OletusarvotLaskettu);
 }
 
+/// What OK asks of the values; `luodaan`: a model is made from them.
+bool VoiOttaaKayttoon(const frmPerustiedot& lomake, const clsPerustiedot& tiedot, bool luodaan) {
+  if (!VakioOsuusMahtuuKulutukseen(tiedot)) return NaytaVirhe(virheet::kKulutusAlleVakion), false;
+  if (!TarvelukuOnAnnettu(lomake, tiedot)) return false;
+  return !luodaan || (KelpaaMalliksi(lomake, tiedot) && VahvistaRakennekirjasto(OletusmallinLahtotiedot(tiedot)));
+}
+
 }  // namespace
 
 bool clsPerustiedot::NaytaKayttoliityma() try {
@@ -133,33 +175,30 @@ bool clsPerustiedot::NaytaKayttoliityma() try {
   lomake.VakioOsuusKlikattu = [&] {
     frmNormeeraamatonKulutus().Kysy(LammKulVakioOsuus.kkOsuus, LammKulVakioOsuus.VuosiOsuus);
   };
+  lomake.HaeTarveluvutKlikattu = [&] { HaeTarveluvut(lomake, *this); };
   lomake.LuoMalliKlikattu = [&] {
     luodaanUudelleen = true;
     Nosta(lomake.OkKlikattu);
     luodaanUudelleen = false;
     entinenMalli.reset();
   };
-  Muokkausistunto istunto(*this, lomake,
-                          {.nimi = OletusarvotLaskettu ? KohteenNimi : "",
-                           .lue = [&] { Lue(lomake, *this); },
-                           .kirjoita = [&] { Kirjoita(lomake, *this); },
-                           .tarkista =
-                               [&] {
-                                 if (!VakioOsuusMahtuuKulutukseen(*this))
-                                   return NaytaVirhe(virheet::kKulutusAlleVakion), false;
-                                 return (OletusarvotLaskettu && !luodaanUudelleen) || KelpaaMalliksi(lomake, *this);
-                               },
-                           .voimaan =
-                               [&] {
-                                 PaaikkunaNyt().TyokalutKaytossa(3, true);
-                                 if (luodaanUudelleen) {
-                                   entinenMalli = VaadiRakennus().Kopioi();
-                                   OletusarvotLaskettu = false;
-                                 }
-                                 OtaKayttoon(entinenPaikkakunta);
-                               },
-                           .virheenJalkeen = [&] { PalautaMalli(*this, entinenMalli.get()); },
-                           .peruttu = [&] { Peruttu(*this); }});
+  Muokkausistunto istunto(
+      *this, lomake,
+      {.nimi = OletusarvotLaskettu ? KohteenNimi : "",
+       .lue = [&] { Lue(lomake, *this); },
+       .kirjoita = [&] { Kirjoita(lomake, *this); },
+       .tarkista = [&] { return VoiOttaaKayttoon(lomake, *this, !OletusarvotLaskettu || luodaanUudelleen); },
+       .voimaan =
+           [&] {
+             PaaikkunaNyt().TyokalutKaytossa(3, true);
+             if (luodaanUudelleen) {
+               entinenMalli = VaadiRakennus().Kopioi();
+               OletusarvotLaskettu = false;
+             }
+             OtaKayttoon(entinenPaikkakunta);
+           },
+       .virheenJalkeen = [&] { PalautaMalli(*this, entinenMalli.get()); },
+       .peruttu = [&] { Peruttu(*this); }});
   istunto.Nayta();
   return OletusarvotLaskettu;
 } catch (...) {

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "building/Lammitystarveluvut.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsSaa.h"
 #include "building/clsTilat.h"
@@ -26,7 +27,6 @@
 namespace {
 
 constexpr double kProsentti = 100;
-constexpr double kLammitystarvelukuAluksi = 4444;
 constexpr double kIkkunoidenOsuus = 0.12, kOvienOsuus = 0.01;  // of the floor area
 constexpr int kSuorakaide = 1;                                 // plan shape of a new building, sides 1 to 2
 constexpr double kSuorakaiteenSuhde = 0.5;

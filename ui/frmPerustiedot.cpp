@@ -35,6 +35,7 @@ frmPerustiedot::frmPerustiedot() : Muokkauslomake("frmPerustiedot") {
   txtKulutusTietojenViimVuosi.KunMuuttuu([this] { NaytaVuodet(); });
   NostaaKunKelpaa(cmdLuoMalli, LuoMalliKlikattu);
   cmdVakioOsuus.Nostaa(VakioOsuusKlikattu);
+  cmdHaeTarveluvut.Nostaa(HaeTarveluvutKlikattu);
   cmdLammonHankinta.Nostaa(LammonHankintaKlikattu);
   cmdSahkonHankinta.Nostaa(SahkonHankintaKlikattu);
   cmdVedenHankinta.Nostaa(VedenHankintaKlikattu);

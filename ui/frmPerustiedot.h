@@ -17,6 +17,8 @@ class frmPerustiedot : public Muokkauslomake {
   /// Index of the chosen locality, 0 to 15.
   std::function<void(int)> SaaPaikkakuntaMuuttui;
   std::function<void()> VakioOsuusKlikattu;
+  /// The degree days of the years are wanted from the table.
+  std::function<void()> HaeTarveluvutKlikattu;
   std::function<void()> LammonHankintaKlikattu;
   std::function<void()> SahkonHankintaKlikattu;
   std::function<void()> VedenHankintaKlikattu;
@@ -62,6 +64,7 @@ class frmPerustiedot : public Muokkauslomake {
   TextBox txtVesiNelioille{*this, "txtVesiNelioille"};
 
   CommandButton cmdVakioOsuus{*this, "cmdVakioOsuus"};
+  CommandButton cmdHaeTarveluvut{*this, "cmdHaeTarveluvut"};
   CommandButton cmdLammonHankinta{*this, "cmdLammonHankinta"};
   CommandButton cmdSahkonHankinta{*this, "cmdSahkonHankinta"};
   CommandButton cmdVedenHankinta{*this, "cmdVedenHankinta"};

@@ -21,6 +21,7 @@ class DialogiTesti : public RakennusTesti {
     lomake.KayttajaKirjoittaa("txtKokonaistilavuus", "430,5");
     lomake.KayttajaKirjoittaa("txtBruttoAla", "160");
     lomake.KayttajaValitsee("cmbPaikkakunta", "Kuopio");
+    lomake.KayttajaKirjoittaa("txtLammTarveLuku1", "4 789");
     lomake.KayttajaKirjoittaa("txtLampo1", "20,4");
   }
 };
@@ -202,6 +203,36 @@ TEST_F(DialogiTesti, HeatSummaryWarnsOfPoorGroundStructures) {
   rakennus->NaytaLampoYhteenvetoDlg();
   ASSERT_EQ(viestit.Naytetyt().size(), 1u);
   EXPECT_NE(viestit.Naytetyt()[0].teksti.find(lattia.RakenneRatkaisu->Nimi), std::string::npos);
+}
+
+TEST_F(DialogiTesti, DegreeDaysComeFromTheTableWithTheirSources) {
+  rakennus->Perustiedot.ToteutuneetKulutukset.KulutusTietojenViimVuosi = 2021;
+  ikkunat.KunNaytetaan("frmPerustiedot", [this](Ikkunaton& lomake) {
+    lomake.KayttajaValitsee("cmbPaikkakunta", "Tampere");
+    lomake.KayttajaPainaa("cmdHaeTarveluvut");
+    EXPECT_EQ(viestit.Esiintymia("Tampere-Pirkkalan lentoasema"), 1);
+    EXPECT_EQ(viestit.Esiintymia("2019: ei ole taulukossa"), 1);
+    EXPECT_EQ(lomake.Teksti("txtLammTarveLuku2"), "3 501");
+    EXPECT_EQ(lomake.Teksti("txtLammTarveLuku3"), "4 444") << "what the table doesn't know stays";
+    TaytaOmakotitalo(lomake);
+    lomake.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  EXPECT_EQ(rakennus->Perustiedot.ToteutuneetKulutukset.Item(2).LammTarveLuku, 3501);
+}
+
+TEST_F(DialogiTesti, PrefilledDegreeDaysDontGetIntoTheNormalisationInSilence) {
+  ikkunat.KunNaytetaan("frmPerustiedot", [this](Ikkunaton& lomake) {
+    TaytaOmakotitalo(lomake);
+    lomake.KayttajaKirjoittaa("txtLammTarveLuku1", "4444");
+    viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
+    lomake.KayttajaPainaa("cmdOk");
+    EXPECT_EQ(viestit.VastauksiaJaljella(), 0u) << "asked, and back in the form";
+    viestit.AsetaSeuraavaVastaus(Vastaus::Ei);
+    lomake.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_TRUE(rakennus->Perustiedot.NaytaKayttoliityma());
+  EXPECT_EQ(viestit.Esiintymia("on ohjelman esitäyttämä"), 2);
 }
 
 }  // namespace

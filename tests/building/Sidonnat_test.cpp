@@ -98,6 +98,7 @@ class Sidonnat : public RakennusTesti {
   Sidonnat() {
     AsetaTarkistuksenKello(nullptr);
     LuoKoulu();
+    for (clsToteutunutKulutus& vuosi : rakennus->Perustiedot.ToteutuneetKulutukset) vuosi.LammTarveLuku = 4459;
     Tila().Kuvausteksti = "luokkia";
     for (clsRakenne& rakenne : Tila().Rakenteet)
       if (rakenne.Rakennetyyppi == Rakennelaji::Ikkuna) rakenne.LaskeU_arvoMateriaaleista = false;

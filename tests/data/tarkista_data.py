@@ -77,7 +77,8 @@ class Tekstivarasto(unittest.TestCase):
                                 *hae("StrVarasto.mdb", "SELECT Suomi FROM Errortaulu"))
         for teksti in rivit:
             self.assertTrue(unicodedata.is_normalized("NFC", teksti or ""), teksti)
-            self.assertNotRegex(teksti or "", r"[\x00-\x1f\x7f]|\ufffd", teksti)
+            # One message names the replacement character on purpose.
+            self.assertNotRegex((teksti or "").replace("merkillä \ufffd.", ""), r"[\x00-\x1f\x7f]|\ufffd", teksti)
 
     def test_mnemonics_are_unique_in_each_menu(self):
         kaikki = tekstit()
