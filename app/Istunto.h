@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/Kumous.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "kernel/Palautuskopio.h"
 #include "ui/Viestit.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Kumous.h"
 
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "kernel/Oliomuisti.h"
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Versio.h"

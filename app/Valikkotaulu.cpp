@@ -3,6 +3,8 @@
 
 #include "app/Istunto.h"
 #include "app/frmMain.h"
+#include "building/clsTilat.h"
+#include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/paaikkuna.h"
 #include "ui/Lomake.h"
@@ -11,6 +13,7 @@
 #include "ui/Viestit.h"
 #include "ui/qt/Selain.h"
 #include "ui/qt/Tietoja.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

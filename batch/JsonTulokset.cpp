@@ -4,19 +4,22 @@
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
 /// The objects at the top of the JSON; what each shows stands in the table of results of its class.
 constexpr Tulos kJuuri[] = {
-    Osatulos<&clsRakennus::Saa>("Saa"),
+    Osatulos<[](clsRakennus& r) -> clsSaa& { return r.Saa; }>("Saa"),
     Osatulos<[](clsRakennus& r) -> Olio& { return r; }>("Rakennus"),
-    Kokoelmatulos<&clsRakennus::Tilat>("Tilat"),
-    Kokoelmatulos<&clsRakennus::IVKoneet>("IVKoneet"),
+    Kokoelmatulos<[](clsRakennus& r) -> clsTilat& { return r.Tilat; }>("Tilat"),
+    Kokoelmatulos<[](clsRakennus& r) -> clsIVKoneet& { return r.IVKoneet; }>("IVKoneet"),
 };
 
 /// Writes rows of results, and keeps the errors of those that can't be computed.

@@ -3,6 +3,7 @@
 
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Tulos.h"

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "bench/Mittaukset.h"
+#include "building/clsTilat.h"
 
 namespace mittaus {
 

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "bench/Mittaukset.h"
+#include "building/clsTilat.h"
 
 namespace mittaus {
 

@@ -3,6 +3,7 @@
 #include "bench/Mittaukset.h"
 #include "bench/vertailu/Vertailulaskenta.h"
 #include "building/Tasehaarukka.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace mittaus {
 

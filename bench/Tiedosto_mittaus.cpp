@@ -5,6 +5,7 @@
 #include "bench/Mittaukset.h"
 #include "bench/Vertailukanta.h"
 #include "building/Yhteiset.h"
+#include "building/clsTilat.h"
 
 namespace mittaus {
 

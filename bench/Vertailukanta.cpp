@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/Vertailukanta.h"
+#include "building/clsTilat.h"
 
 #include <sqlite3.h>
 

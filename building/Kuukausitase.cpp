@@ -4,7 +4,10 @@
 #include <numeric>
 
 #include "building/Tasehaarukka.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The monthly balance on the screen and in a sheet.
 #include "building/Kuukausitase.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "results/Laskentataulukko.h"

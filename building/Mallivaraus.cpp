@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/Mallivaraus.h"
 
+#include <atomic>
+
 namespace {
-int g_varauksia = 0;
+std::atomic<int> g_varauksia = 0;
 }
 
 Mallivaraus::Mallivaraus() noexcept { ++g_varauksia; }

@@ -1,8 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/Oletusmalli.h"
 
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "ui/Hiljaa.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakenne.h"
 #include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "library/Lampotilajakauma.h"
 #include "tekstit/lomakkeet_kirjasto.h"

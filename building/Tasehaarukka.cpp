@@ -2,26 +2,28 @@
 #include "building/Tasehaarukka.h"
 
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
+#include "ventilation/clsIVKoneet.h"
 
 Tasehaarukka::Tasehaarukka(clsRakennus& rakennus)
     : rakennus_(rakennus.Tilat.VuotuinenLampoEnergianTarveUpToDate() ? nullptr : &rakennus) {
   if (!rakennus_) return;
-  AsetaLiput(false);
+  Mitatoi(*rakennus_);
   try {
     rakennus.IVKoneet.VuotuinenIVjalkilammitysLampo();
     rakennus.Tilat.VuotuinenLampoEnergianTarve();
   } catch (...) {
-    AsetaLiput(false);
+    Mitatoi(*rakennus_);
     throw;
   }
-  AsetaLiput(true);
+  AsetaLiput(*rakennus_, true);
 }
 
 Tasehaarukka::~Tasehaarukka() {
-  if (rakennus_) AsetaLiput(false);
+  if (rakennus_) Mitatoi(*rakennus_);
 }
 
-void Tasehaarukka::AsetaLiput(bool voimassa) {
-  rakennus_->IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = voimassa;
-  rakennus_->Tilat.VuotuinenLampoEnergianTarveUpToDate(voimassa);
+void Tasehaarukka::AsetaLiput(clsRakennus& rakennus, bool voimassa) noexcept {
+  rakennus.IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = voimassa;
+  rakennus.Tilat.VuotuinenLampoEnergianTarveUpToDate(voimassa);
 }

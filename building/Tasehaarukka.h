@@ -19,8 +19,11 @@ class Tasehaarukka {
   Tasehaarukka(const Tasehaarukka&) = delete;
   Tasehaarukka& operator=(const Tasehaarukka&) = delete;
 
+  /// Both flags False, and with them those of all spaces: what was computed no longer holds.
+  static void Mitatoi(clsRakennus& rakennus) noexcept { AsetaLiput(rakennus, false); }
+
  private:
-  void AsetaLiput(bool voimassa);
+  static void AsetaLiput(clsRakennus& rakennus, bool voimassa) noexcept;
 
   clsRakennus* rakennus_;  // nothing in an inner bracket
 };

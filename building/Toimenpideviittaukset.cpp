@@ -6,6 +6,7 @@
 
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"

@@ -4,12 +4,12 @@
 class clsRakennus;
 class clsSaa;
 
-/// The building being worked on, or nothing. Spaces, structures and consumer groups read the common data of the
-/// calculation (basic data, machines, loads) from it.
+/// The building that the windows show, or nothing. No calculation asks it: what belongs together finds its building
+/// through building/Koti.h.
 clsRakennus* GlobaaliRakennus() noexcept;
-/// The weather of that building, or nothing: every calculation reads the climate from it, whichever copy it works on.
+/// The weather of that building, or nothing.
 clsSaa* GlobaaliSaa() noexcept;
-/// Makes the building and its weather the common ones; null clears both.
+/// Makes the building the one that the windows show; null clears it.
 void AsetaGlobaaliRakennus(clsRakennus* rakennus) noexcept;
 
 /// The same, raising std::logic_error when there is none.

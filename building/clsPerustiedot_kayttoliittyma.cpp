@@ -9,6 +9,7 @@
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "settings/clsProjektiAsetukset.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/clsRakenne.h"
 
-#include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
@@ -12,6 +14,7 @@
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/tulokset.h"
 #include "tekstit/viestit.h"
+#include "ui/Laskentakohde.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
@@ -68,9 +71,12 @@ double HavioIlmaan(double WperK, double Tsisa, double Tulko, int paivia) {
   return (Tsisa - Tulko) * WperK * paivia * kTuntiaVuorokaudessa / kWhPerkWh;
 }
 
-double HavioMaahan(double pintaAla, double Tsisa, int kuukausi) {
-  if (const Kuukausitaulu* haviot = Maahaviot(Tsisa)) return pintaAla * (*haviot)[static_cast<std::size_t>(kuukausi)];
-  Ilmoita(Teksti(tekstit::kLiianKylmaMaanvastaiselle));
+double HavioMaahan(const clsRakenne& rakenne, double Tsisa, int kuukausi) {
+  if (const Kuukausitaulu* haviot = Maahaviot(Tsisa))
+    return rakenne.PintaAla * (*haviot)[static_cast<std::size_t>(kuukausi)];
+  const std::string nimi = rakenne.NaytettavaNimi();
+  const Laskentakohde kohde(nimi);
+  Ilmoita(Teksti(tekstit::kLiianKylmaMaanvastaiselle) + Laskentakohde::Liite());
   return 0;
 }
 
@@ -84,9 +90,8 @@ constexpr double kVyohykkeenAsetuslampotila = 21.0, kVyohykkeenTilavuus = 500.0,
 struct Aurinkotiedostot {
   std::string koti, saaNimi, saa, fh, ff, fo;
 
-  static const Aurinkotiedostot& Nyt() {
+  static const Aurinkotiedostot& Saalle(const std::string& nimi) {
     thread_local Aurinkotiedostot t;
-    const std::string& nimi = VaadiSaa().SaaFileNimi;
     if (t.saaNimi != nimi || t.koti != AppPath())
       t = {AppPath(),
            nimi,
@@ -186,9 +191,9 @@ void clsRakenne::PaivitaMateriaalitVakiokannasta(Rakennetietokanta& kanta) try {
 
 double clsRakenne::LampoHaviot(double Tsisa, int kuukausi) const try {
   const Johtuminen johtuminen = MuodostaJohtuminen(*this);
-  if (johtuminen.tapa == Johtumistapa::Maahan) return HavioMaahan(PintaAla, Tsisa, TarkistaKuukausi(kuukausi));
+  if (johtuminen.tapa == Johtumistapa::Maahan) return HavioMaahan(*this, Tsisa, TarkistaKuukausi(kuukausi));
   if (johtuminen.tapa == Johtumistapa::Ei) return 0;
-  return HavioIlmaan(johtuminen.WperK, Tsisa, VaadiSaa().Keskilampotila(kuukausi),
+  return HavioIlmaan(johtuminen.WperK, Tsisa, koti_.Rakennus().Saa.Keskilampotila(kuukausi),
                      kPaivatKuukaudessa[static_cast<std::size_t>(kuukausi)]);
 } catch (...) {
   NostaVirhe("clsRakenne:LampoHaviot Method");
@@ -203,7 +208,7 @@ void clsRakenne::LisaaLampoHaviot(double Tsisa, const Kuukausitaulu& ulkolampoti
     for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += haviot[m];
   }
   if (johtuminen.tapa == Johtumistapa::Maahan)
-    for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += HavioMaahan(PintaAla, Tsisa, static_cast<int>(m));
+    for (std::size_t m = 0; m < kKuukausia; ++m) summa[m] += HavioMaahan(*this, Tsisa, static_cast<int>(m));
 } catch (...) {
   NostaVirhe("clsRakenne:LampoHaviot Method");
 }
@@ -238,10 +243,11 @@ void clsRakenne::LaskeAurinkokuormat() {
   Kuukausitaulu& kuormat = aurinkoKuormat_.arvo;
   kuormat = {};
   if (Rakennetyyppi != Rakennelaji::Ikkuna || !RakenneRatkaisu) return;
-  const Aurinkotiedostot& tiedostot = Aurinkotiedostot::Nyt();
+  const clsRakennus& rakennus = koti_.Rakennus();
+  const Aurinkotiedostot& tiedostot = Aurinkotiedostot::Saalle(rakennus.Saa.SaaFileNimi);
   AurinkoLaskin laskin;
   laskin.LataaSaa(tiedostot.saa);
-  const auto paikkakunta = static_cast<std::size_t>(VaadiRakennus().Perustiedot.LammTarveLukuPaikkakuntaID());
+  const auto paikkakunta = static_cast<std::size_t>(rakennus.Perustiedot.LammTarveLukuPaikkakuntaID());
   if (paikkakunta < kLeveysasteet.size()) laskin.Leveysaste = kLeveysasteet[paikkakunta];
   laskin.LataaFh(tiedostot.fh);
   static const LaskentaVyohyke kVyohyke = MuodostaVyohyke();

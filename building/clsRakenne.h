@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include "building/Koti.h"
 #include "building/clsHorisVarjostus.h"
 #include "building/clsLippaVarjostus.h"
 #include "kernel/Laskenta.h"
@@ -49,6 +50,9 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
   /// whether the U-value comes from its layers, and its U-value when that is given and known.
   void OtaRatkaisu(const Rakenneratkaisu& ratkaisu);
 
+  /// Takes its place in a building.
+  void Kotiudu(const Koti& koti) { koti_.Muuta(koti); }
+
   /// Gives the materials of the layers the figures of a structure database, and takes its version for this structure's.
   void PaivitaMateriaalitVakiokannasta(Rakennetietokanta& kanta);
 
@@ -79,5 +83,6 @@ class clsRakenne : public Malli<clsRakenne, Alkio> {
 
   void LaskeAurinkokuormat();
 
+  Koti koti_;
   Oma<Kuukausitaulu> aurinkoKuormat_;
 };

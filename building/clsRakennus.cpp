@@ -3,12 +3,25 @@
 
 #include "building/Tasehaarukka.h"
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Rekisteri.h"
 #include "kernel/Tulos.h"
 #include "kernel/Versio.h"
 #include "kernel/Vertailu.h"
 #include "kernel/Virhe.h"
+#include "measures/Muunnelma.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsKatselmoijienTiedot.h"
+#include "settings/clsProjektiAsetukset.h"
+#include "supply/clsSahkoTariffienVertailu.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/tulokset.h"
 #include "tekstit/viestit.h"
@@ -16,24 +29,33 @@
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ui/frmLampoYhteenveto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
+/// A part of the building.
+template <auto Hae>
+constexpr Jasen Osa(std::string_view nimi) {
+  Jasen j{nimi, Laji::Olio, {}};
+  j.olio = [](Olio& o) -> Olio* { return &Hae(static_cast<clsRakennus&>(o)); };
+  return j;
+}
+
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Lapsi<&clsRakennus::Saa>("Saa"),
-    Lapsi<&clsRakennus::SahkonKulutusryhmat>("SahkonKulutusryhmat"),
-    Lapsi<&clsRakennus::VedenKulutusryhmat>("VedenKulutusryhmat"),
-    Lapsi<&clsRakennus::ProjektiAsetukset>("ProjektiAsetukset"),
-    Lapsi<&clsRakennus::KatselmoijienTiedot>("KatselmoijienTiedot"),
-    Lapsi<&clsRakennus::Tariffit>("Tariffit"),
-    Lapsi<&clsRakennus::Vesitariffit>("Vesitariffit"),
-    Lapsi<&clsRakennus::Saastotoimenpiteet>("Saastotoimenpiteet"),
-    Lapsi<&clsRakennus::SahkoTariffienVertailu>("SahkoTariffienVertailu"),
-    Lapsi<&clsRakennus::ToimenpiteidenJarjestelija>("ToimenpiteidenJarjestelija"),
-    Lapsi<&clsRakennus::Perustiedot>("Perustiedot"),
-    Lapsi<&clsRakennus::Tilat>("Tilat"),
-    Lapsi<&clsRakennus::IVKoneet>("IVKoneet"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Saa; }>("Saa"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.SahkonKulutusryhmat; }>("SahkonKulutusryhmat"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.VedenKulutusryhmat; }>("VedenKulutusryhmat"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.ProjektiAsetukset; }>("ProjektiAsetukset"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.KatselmoijienTiedot; }>("KatselmoijienTiedot"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Tariffit; }>("Tariffit"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Vesitariffit; }>("Vesitariffit"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Saastotoimenpiteet; }>("Saastotoimenpiteet"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.SahkoTariffienVertailu; }>("SahkoTariffienVertailu"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.ToimenpiteidenJarjestelija; }>("ToimenpiteidenJarjestelija"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Perustiedot; }>("Perustiedot"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Tilat; }>("Tilat"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.IVKoneet; }>("IVKoneet"),
     Arvo<&clsRakennus::Major>("Major"),
     Arvo<&clsRakennus::Minor>("Minor"),
     Arvo<&clsRakennus::Revision>("Revision"),
@@ -76,7 +98,7 @@ constexpr Tulos kTulokset[] = {
     Kuukausitulos<&clsRakennus::LammonTuotonHaviotKk>("LammonTuotonHaviotKk", tekstit::kLammontuotannonHaviot),
     Kuukausitulos<&clsRakennus::LKVHaviotKk>("LKVHaviotKk", tekstit::kKayttovedenLammitys),
     Kuukausitulos<&clsRakennus::ProsessiVesiHaviotKk>("ProsessiVesiHaviotKk", tekstit::kProsessivedenLammitys),
-    Upotustulos<&clsRakennus::IVKoneet>(),
+    Upotustulos<[](clsRakennus& r) -> clsIVKoneet& { return r.IVKoneet; }>(),
 };
 
 template <class F>
@@ -98,44 +120,54 @@ double Konversiohaviot(const clsEnergianHankinta& hankinta, double verkko) {
   return Aarellinen(haviot);
 }
 
-/// The value of a changed attribute as the kind that it was recorded under; nothing for an unknown code.
-Variantti UusiArvo(const clsMuuttunutAttribuutti& muutos) {
-  const double arvo = muutos.ArvoJalkeen;
-  switch (static_cast<Laji>(muutos.TietoTyyppi)) {
-    case Laji::Lyhyt:
-      return static_cast<std::int16_t>(PyoristaKokonaisluvuksi(arvo));
-    case Laji::Pitka:
-      return PyoristaKokonaisluvuksi(arvo);
-    case Laji::Yksinkertainen:
-      return static_cast<float>(arvo);
-    case Laji::Kaksinkertainen:
-    case Laji::Paivays:
-      return arvo;
-    case Laji::Valuutta:
-      return Rahamaara{arvo};
-    case Laji::Teksti:
-      return muutos.ArvoJalkeenStr;
-    case Laji::Totuus:
-      return arvo != 0;
-    case Laji::Desimaali:
-      return Desimaali{arvo};
-    case Laji::Olio:
-      break;
-  }
-  return {};
-}
-
 }  // namespace
 
 const Luokka clsRakennus::kLuokka{"clsRakennus", kJasenet, kTulokset};
 
-clsRakennus::clsRakennus() : Major(kVersioMajor), Minor(kVersioMinor), Revision(kVersioRevision) {
+struct clsRakennus::Osat {
+  clsSaa saa;
+  clsSahkonKulutusryhmat sahko;
+  clsVedenKulutusryhmat vesi;
+  clsProjektiAsetukset projekti;
+  clsKatselmoijienTiedot katselmoijat;
+  clsTariffit tariffit;
+  clsVesitariffit vesitariffit;
+  clsSaastotoimenpiteet toimenpiteet;
+  clsSahkoTariffienVertailu vertailu;
+  clsToimenpiteidenJarjestelija jarjestelija;
+  clsPerustiedot perustiedot;
+  clsTilat tilat;
+  clsIVKoneet koneet;
+};
+
+clsRakennus::clsRakennus()
+    : osat_(std::make_unique<Osat>()),
+      Saa(osat_->saa),
+      SahkonKulutusryhmat(osat_->sahko),
+      VedenKulutusryhmat(osat_->vesi),
+      ProjektiAsetukset(osat_->projekti),
+      KatselmoijienTiedot(osat_->katselmoijat),
+      Tariffit(osat_->tariffit),
+      Vesitariffit(osat_->vesitariffit),
+      Saastotoimenpiteet(osat_->toimenpiteet),
+      SahkoTariffienVertailu(osat_->vertailu),
+      ToimenpiteidenJarjestelija(osat_->jarjestelija),
+      Perustiedot(osat_->perustiedot),
+      Tilat(osat_->tilat),
+      IVKoneet(osat_->koneet),
+      Major(kVersioMajor),
+      Minor(kVersioMinor),
+      Revision(kVersioRevision) {
   TyyppiTiedot.AlustaTyyppitiedot("");
+  Tilat.Kotiudu(koti_);
+  IVKoneet.Kotiudu(koti_);
+  SahkonKulutusryhmat.Kotiudu(koti_);
   Perustiedot.SaaTietoMuuttui.arvo = [this](int paikkakunta) { Saa.AsetaSaaPaikkakunta(paikkakunta); };
   Perustiedot.LaskeOletusarvotPerustietojenMukaan.arvo = [this] { LuoOletusmalli(); };
 }
 
 clsRakennus::~clsRakennus() {
+  koti_.Havia();
   if (GlobaaliRakennus() == this) AsetaGlobaaliRakennus(nullptr);
 }
 
@@ -166,14 +198,13 @@ void clsRakennus::PaivitaInstanssiIdLista() try {
   NostaVirhe("clsRakennus:PaivitaInstanssiIdLista Method");
 }
 
-Olio* clsRakennus::HaeInstanssi(std::string_view luokka, const Tunniste& instanssiId) {
+Instanssi clsRakennus::HaeInstanssi(std::string_view luokka, const Tunniste& instanssiId) {
   if (!rekisteriVoimassa_) PaivitaInstanssiIdLista();
   const InstanssiLista* lista = TyyppiTiedot.Nimet.Etsi(luokka);
-  return lista ? lista->Item(instanssiId) : nullptr;
+  return lista ? lista->Etsi(instanssiId) : Instanssi{};
 }
 
 std::unique_ptr<clsRakennus> clsRakennus::Kopioi(clsRakennus* kohde) try {
-  TyyppiTiedot.Nimet.TyhjennaIdListat();
   std::unique_ptr<clsRakennus> uusi;
   if (!kohde) {
     uusi = std::make_unique<clsRakennus>();
@@ -181,6 +212,7 @@ std::unique_ptr<clsRakennus> clsRakennus::Kopioi(clsRakennus* kohde) try {
   }
   IVKoneet.Kopioi(kohde->IVKoneet);
   Saa.Kopioi(kohde->Saa);
+  Saa.KopioiTaulut(kohde->Saa);
   Perustiedot.Kopioi(kohde->Perustiedot);
   SahkonKulutusryhmat.Kopioi(kohde->SahkonKulutusryhmat);
   Tilat.Kopioi(kohde->Tilat);
@@ -191,7 +223,6 @@ std::unique_ptr<clsRakennus> clsRakennus::Kopioi(clsRakennus* kohde) try {
   kohde->Tallennettu = Tallennettu;
   kohde->InstanssiId = InstanssiId;
   kohde->RekisteriVanheni();
-  PaivitaInstanssiIdLista();
   return uusi;
 } catch (...) {
   NostaVirhe("clsRakennus:Kopioi Method");
@@ -204,11 +235,7 @@ void clsRakennus::VertaileAttribuutit(clsRakennus& vanha, MuutostenKeraaja& muut
 }
 
 void clsRakennus::LiitaSaastoToimenpide(const clsMuuttuneetAttribuutit& muuttuneet) try {
-  for (const clsMuuttunutAttribuutti& muutos : muuttuneet) {
-    Olio* olio = HaeInstanssi(muutos.clsTypeName, muutos.InstanssiId);
-    const Variantti arvo = UusiArvo(muutos);
-    if (olio && !std::holds_alternative<std::monostate>(arvo)) AsetaJasen(*olio, muutos.AttribuutinNimi, arvo);
-  }
+  Muunnelma(*this, muuttuneet).Jata();
 } catch (...) {
   NostaVirhe("clsRakennus:LiitaSaastoToimenpide Method");
 }

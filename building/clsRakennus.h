@@ -3,24 +3,26 @@
 #include <array>
 #include <memory>
 
+#include "building/Koti.h"
 #include "building/Muutosilmoitus.h"
-#include "building/clsPerustiedot.h"
-#include "building/clsSaa.h"
-#include "building/clsTilat.h"
-#include "consumers/clsSahkonKulutusryhmat.h"
-#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Tiedostotunnus.h"
 #include "kernel/clsTyyppiTiedot.h"
-#include "measures/clsMuuttuneetAttribuutit.h"
-#include "measures/clsSaastotoimenpiteet.h"
-#include "measures/clsToimenpiteidenJarjestelija.h"
-#include "settings/clsKatselmoijienTiedot.h"
-#include "settings/clsProjektiAsetukset.h"
-#include "supply/clsSahkoTariffienVertailu.h"
-#include "supply/clsTariffit.h"
-#include "supply/clsVesitariffit.h"
-#include "ventilation/clsIVKoneet.h"
 
+class MuutostenKeraaja;
+class clsIVKoneet;
+class clsKatselmoijienTiedot;
+class clsMuuttuneetAttribuutit;
+class clsPerustiedot;
+class clsProjektiAsetukset;
+class clsSaa;
+class clsSaastotoimenpiteet;
+class clsSahkoTariffienVertailu;
+class clsSahkonKulutusryhmat;
+class clsTariffit;
+class clsTilat;
+class clsToimenpiteidenJarjestelija;
+class clsVedenKulutusryhmat;
+class clsVesitariffit;
 class frmLampoYhteenveto;
 
 /// A building: the root of the model. Owns every part, answers for the building's heat and electricity totals, and is
@@ -28,7 +30,13 @@ class frmLampoYhteenveto;
 ///
 /// Months are 0 to 11; monthly figures kWh, yearly ones MWh. Results are taken inside a Tasehaarukka, their own when
 /// the caller has none, so that they are the same alone and together. Errors: 9999 with the method's literal.
+///
+/// The parts are known here by name only: whoever uses one includes its header, so that a change of one part's header
+/// doesn't compile the users of the others anew.
 class clsRakennus : public Malli<clsRakennus> {
+  struct Osat;
+  const std::unique_ptr<Osat> osat_;
+
  public:
   static const Luokka kLuokka;
   /// Use-type code of each index of `clsPerustiedot.KayttoTarkoitusID`.
@@ -41,20 +49,23 @@ class clsRakennus : public Malli<clsRakennus> {
   clsRakennus(const clsRakennus&) = delete;
   clsRakennus& operator=(const clsRakennus&) = delete;
 
-  clsSaa Saa;
-  clsSahkonKulutusryhmat SahkonKulutusryhmat;
-  clsVedenKulutusryhmat VedenKulutusryhmat;
-  clsProjektiAsetukset ProjektiAsetukset;
-  clsKatselmoijienTiedot KatselmoijienTiedot;
-  clsTariffit Tariffit;
-  clsVesitariffit Vesitariffit;
-  clsSaastotoimenpiteet Saastotoimenpiteet;
+  /// What the parts of this building know it by.
+  const Koti& OmaKoti() const noexcept { return koti_; }
+
+  clsSaa& Saa;
+  clsSahkonKulutusryhmat& SahkonKulutusryhmat;
+  clsVedenKulutusryhmat& VedenKulutusryhmat;
+  clsProjektiAsetukset& ProjektiAsetukset;
+  clsKatselmoijienTiedot& KatselmoijienTiedot;
+  clsTariffit& Tariffit;
+  clsVesitariffit& Vesitariffit;
+  clsSaastotoimenpiteet& Saastotoimenpiteet;
+  clsSahkoTariffienVertailu& SahkoTariffienVertailu;
+  clsToimenpiteidenJarjestelija& ToimenpiteidenJarjestelija;
+  clsPerustiedot& Perustiedot;
+  clsTilat& Tilat;
+  clsIVKoneet& IVKoneet;
   clsTyyppiTiedot TyyppiTiedot;
-  clsSahkoTariffienVertailu SahkoTariffienVertailu;
-  clsToimenpiteidenJarjestelija ToimenpiteidenJarjestelija;
-  clsPerustiedot Perustiedot;
-  clsTilat Tilat;
-  clsIVKoneet IVKoneet;
 
   std::int32_t Major, Minor, Revision;  ///< version of the program that last wrote the object
   double MuuLampo = 0;                  ///< other heat use that the auditor enters, MWh/a
@@ -66,8 +77,9 @@ class clsRakennus : public Malli<clsRakennus> {
   void PaivitaInstanssiIdLista();
   /// Objects have come, gone or been replaced: the register is rebuilt at the next look-up.
   void RekisteriVanheni() noexcept { rekisteriVoimassa_ = false; }
-  /// The object of that class and identity, or nothing. The one way to look into the register.
-  Olio* HaeInstanssi(std::string_view luokka, const Tunniste& instanssiId);
+  /// The object of that class and identity, with the item that holds it, or nothing. The one way to look into the
+  /// register.
+  Instanssi HaeInstanssi(std::string_view luokka, const Tunniste& instanssiId);
   /// Deep copy of the physics and the energy tariffs, identities included; measures, water tariffs, tariff comparison
   /// and arranger stay with this object. Into an existing target it reuses the target's parts. Returns the copy when
   /// there is no target.
@@ -82,7 +94,8 @@ class clsRakennus : public Malli<clsRakennus> {
   std::uint64_t Sormenjalki();
   /// Changes from `vanha` to this object.
   void VertaileAttribuutit(clsRakennus& vanha, MuutostenKeraaja& muuttuneet);
-  /// Writes a measure's new values into this building; an entry whose object is gone is passed over.
+  /// Writes a measure's new values into this building for good (measures/Muunnelma.h takes them back); what can't be
+  /// written is passed over.
   void LiitaSaastoToimenpide(const clsMuuttuneetAttribuutit& muuttuneet);
 
   /// Saves to a project file (kernel/Projektitiedosto.h). Never raises: error 1039 is shown, the former file is whole
@@ -167,6 +180,7 @@ class clsRakennus : public Malli<clsRakennus> {
   void TaytaLampoYhteenveto();
   void PaivitaToimenpiteidenPerusta();
 
+  Koti koti_{*this};
   Muutosilmoitus nakymat_;
   bool rekisteriVoimassa_ = false;
   bool vaurioitunut_ = false;  // the file had values that could not be read: the next save keeps it aside

@@ -3,9 +3,18 @@
 #include "building/Kuukausitase.h"
 #include "building/Oletusmalli.h"
 #include "building/Tasehaarukka.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
+#include "building/modAlkuarvojaRakennukseen.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Virhe.h"
 #include "library/Rakennetyyppi.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsProjektiAsetukset.h"
+#include "supply/clsSahkoTariffienVertailu.h"
 #include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
@@ -13,6 +22,7 @@
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

@@ -7,14 +7,26 @@
 #include "building/Tiedostomuunnokset.h"
 #include "building/Versiotarkistus.h"
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Projektitiedosto.h"
 #include "kernel/Rekisteri.h"
 #include "kernel/Versio.h"
 #include "kernel/Virhe.h"
 #include "library/Rakennetietokanta.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "settings/clsProjektiAsetukset.h"
+#include "supply/clsSahkoTariffienVertailu.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
@@ -22,6 +34,7 @@
 #include "ui/Paaikkuna.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
@@ -111,6 +124,7 @@ std::string Versioteksti(const clsRakennus& rakennus) {
 bool clsRakennus::Tallenna(const std::string& tiedosto, const Tiedostotunnus* odotettu) {
   Odotus odotus(Teksti(tekstit::kTallennetaanKohdetta) + " " + Perustiedot.KohteenNimi + " ");
   try {
+    for (clsIVKone& kone : IVKoneet) kone.PaivitaOsienTiedot();
     PaivitaInstanssiIdLista();
     Major = kVersioMajor;
     Minor = kVersioMinor;

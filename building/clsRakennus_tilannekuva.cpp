@@ -3,28 +3,39 @@
 #include <functional>
 #include <tuple>
 
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Sormenjalki.h"
 #include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsKatselmoijienTiedot.h"
+#include "settings/clsProjektiAsetukset.h"
+#include "supply/clsSahkoTariffienVertailu.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
 /// Every part but ProjektiAsetukset, which tells of the object's file.
-constexpr auto kOsat = std::tuple{&clsRakennus::Saa,
-                                  &clsRakennus::SahkonKulutusryhmat,
-                                  &clsRakennus::VedenKulutusryhmat,
-                                  &clsRakennus::KatselmoijienTiedot,
-                                  &clsRakennus::Tariffit,
-                                  &clsRakennus::Vesitariffit,
-                                  &clsRakennus::Saastotoimenpiteet,
-                                  &clsRakennus::SahkoTariffienVertailu,
-                                  &clsRakennus::ToimenpiteidenJarjestelija,
-                                  &clsRakennus::Perustiedot,
-                                  &clsRakennus::Tilat,
-                                  &clsRakennus::IVKoneet};
+auto KuvanOsat(const clsRakennus& r) {
+  return std::tie(r.Saa, r.SahkonKulutusryhmat, r.VedenKulutusryhmat, r.KatselmoijienTiedot, r.Tariffit, r.Vesitariffit,
+                  r.Saastotoimenpiteet, r.SahkoTariffienVertailu, r.ToimenpiteidenJarjestelija, r.Perustiedot, r.Tilat,
+                  r.IVKoneet);
+}
 
 void KopioiSisalto(const clsRakennus& lahde, clsRakennus& kohde) {
-  std::apply([&](auto... osa) { ((lahde.*osa).Kopioi(kohde.*osa), ...); }, kOsat);
+  std::apply(
+      [&kohde](auto&... oma) {
+        std::apply([&oma...](auto&... toisen) { (oma.Kopioi(toisen), ...); }, KuvanOsat(kohde));
+      },
+      KuvanOsat(lahde));
+  lahde.Saa.KopioiTaulut(kohde.Saa);
   kohde.MuuLampo = lahde.MuuLampo;
   kohde.InstanssiId = lahde.InstanssiId;
 }
@@ -50,6 +61,6 @@ void clsRakennus::PalautaTilannekuva(const clsRakennus& kuva) try {
 
 std::uint64_t clsRakennus::Sormenjalki() {
   std::uint64_t summa = std::hash<double>()(MuuLampo);
-  std::apply([&](auto... osa) { ((summa = summa * 31 + ::Sormenjalki(this->*osa, TyyppiTiedot)), ...); }, kOsat);
+  std::apply([&](auto&... osa) { ((summa = summa * 31 + ::Sormenjalki(osa, TyyppiTiedot)), ...); }, KuvanOsat(*this));
   return summa;
 }

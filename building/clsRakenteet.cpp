@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/clsRakenteet.h"
 
-#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
 #include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "kernel/Virhe.h"
 
 namespace {
@@ -37,7 +38,7 @@ double clsRakenteet::LampoHaviot(double Tsisa, int kuukausi) const try {
 Kuukausitaulu clsRakenteet::LampoHaviot(double Tsisa) const try {
   Kuukausitaulu summa{};
   Esihae(*this);
-  const Kuukausitaulu& ulkolampotilat = VaadiSaa().Keskilampotilat();
+  const Kuukausitaulu& ulkolampotilat = Rakennus().Saa.Keskilampotilat();
   for (const clsRakenne& rakenne : *this) rakenne.LisaaLampoHaviot(Tsisa, ulkolampotilat, summa);
   return summa;
 } catch (...) {

@@ -7,7 +7,7 @@
 #include "library/Lampotilajakauma.h"
 
 /// The structures of a space.
-class clsRakenteet : public Malli<clsRakenteet, Kokoelma<clsRakenne>> {
+class clsRakenteet : public Malli<clsRakenteet, Kotikokoelma<clsRakenne>> {
  public:
   static const Luokka kLuokka;
 

@@ -29,6 +29,8 @@ class clsSaa : public Malli<clsSaa> {
   double NormVuodenLammTarveLuku = 0;    ///< degree days of the zone's normal year, K·d
   std::string SaaFileNimi;               ///< the file read last, without directory
 
+  /// Gives the monthly tables, which a copy doesn't take along, to the weather of a copied building.
+  void KopioiTaulut(clsSaa& kohde) const noexcept { kohde.taulut_.arvo = taulut_.arvo; }
   /// Reads the zone file of a locality, 0 to 15; any other number changes nothing. Raises 9999 as LueSaaTiedosto.
   void AsetaSaaPaikkakunta(int paikkakunta);
   /// Reads AppPath + tiedosto. On a missing file or a malformed line raises 9999, whose cause names file and line; what

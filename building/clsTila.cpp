@@ -4,15 +4,20 @@
 #include <algorithm>
 #include <cmath>
 
-#include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/tulokset.h"
 #include "tekstit/virheet.h"
 #include "ui/Edistyminen.h"
+#include "ui/Laskentakohde.h"
 #include "ui/Tekstivarasto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
@@ -88,13 +93,19 @@ bool OnLammityskautta(int kuukausi) { return kuukausi >= kLammityskaudenAlku || 
 
 const Luokka clsTila::kLuokka{"clsTila", kJasenet, kTulokset};
 
+void clsTila::Kotiudu(const Koti& koti) {
+  koti_.Muuta(koti);
+  Rakenteet.Kotiudu(koti);
+}
+
 void clsTila::AurKuormatTilassaUpToDate(bool voimassa) noexcept {
   aurKuormatUpToDate_ = voimassa;
   if (!voimassa)
     for (clsRakenne& rakenne : Rakenteet) rakenne.MitatoiAurinkokuormat();
 }
 
-double clsTila::JohtumisHaviot(int kuukausi) try {
+double clsTila::JohtumisHaviot(int kuukausi) const try {
+  const Laskentakohde kohde(TilanNimi);
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   return johtumishaviotUpToDate_ ? johtumishaviot_.arvo[m] : Rakenteet.LampoHaviot(Sisalampotila, kuukausi);
 } catch (...) {
@@ -105,52 +116,56 @@ double clsTila::Vuotoilma(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   const double n = PainovoimainenIlmanvaihto ? PainovoimainenIVMaara : Vuotoilmanvaihto;
   const double q = Kokonaistilavuus * n / kSekuntiaTunnissa;
-  return q * kIlmanTiheys * kIlmanLampokapasiteetti * (Sisalampotila - VaadiSaa().Keskilampotila(kuukausi)) *
+  return q * kIlmanTiheys * kIlmanLampokapasiteetti * (Sisalampotila - koti_.Rakennus().Saa.Keskilampotila(kuukausi)) *
          kPaivatKuukaudessa[m] * kTuntiaVuorokaudessa;
 } catch (...) {
   NostaVirhe("clsTila:Vuotoilma Method");
 }
 
 clsTila::Koneet clsTila::LiittyvatKoneet() const {
-  return VaadiRakennus().IVKoneet.ListaaTilaanLiittyvatIVKoneet(sKey);
+  return koti_.Rakennus().IVKoneet.ListaaTilaanLiittyvatIVKoneet(sKey);
 }
 
-/// Adds by month what the machine takes from the space or gives it; nothing with natural ventilation.
-void clsTila::LisaaKone(const clsIVKone& kone, Kuukausitaulu& haviot, Kuukausitaulu& kuormat) const {
+/// Nothing with natural ventilation.
+void clsTila::LisaaKone(const clsIVKone& kone, IVTase& tase) const {
   if (PainovoimainenIlmanvaihto) return;
+  const Laskentakohde kohde(TilanNimi);
   const Kuukausitaulu vaikutus = kone.HaviotTilaan(Sisalampotila);
-  for (std::size_t m = 0; m < kKuukausia; ++m) (vaikutus[m] > 0 ? haviot : kuormat)[m] += std::abs(vaikutus[m]);
+  for (std::size_t m = 0; m < kKuukausia; ++m)
+    (vaikutus[m] > 0 ? tase.haviot : tase.kuormat)[m] += std::abs(vaikutus[m]);
 }
 
-double clsTila::IVHaviotTilassa(int kuukausi) try {
+clsTila::IVTase clsTila::Koneista() const {
+  IVTase tase;
+  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, tase);
+  return tase;
+}
+
+double clsTila::IVHaviotTilassa(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
-  if (ivHaviotUpToDate_) return ivHaviot_.arvo[m];
-  Kuukausitaulu haviot{}, kuormat{};
-  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, haviot, kuormat);
-  ivKuormat_.arvo[m] = kuormat[m];
-  return haviot[m] + Vuotoilma(kuukausi);
+  return ivHaviotUpToDate_ ? ivHaviot_.arvo[m] : Koneista().haviot[m] + Vuotoilma(kuukausi);
 } catch (...) {
   NostaVirhe("clsTila:IVHaviotTilassa Method");
 }
 
-double clsTila::IVKoneLampoKuorma(int kuukausi) try {
+// The gains have a flag of their own, which a change leaves standing: it is the losses' flag that tells whether both
+// hold.
+double clsTila::IVKoneLampoKuorma(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
-  if (ivKuormatUpToDate_) return ivKuormat_.arvo[m];
-  Kuukausitaulu haviot{}, kuormat{};
-  for (const clsIVKone* kone : LiittyvatKoneet()) LisaaKone(*kone, haviot, kuormat);
-  return ivKuormat_.arvo[m] = kuormat[m];
+  return ivHaviotUpToDate_ && ivKuormatUpToDate_ ? ivKuormat_.arvo[m] : Koneista().kuormat[m];
 } catch (...) {
   NostaVirhe("clsTila:IVKoneLampoKuorma Method");
 }
 
-double clsTila::LampoHaviot(int kuukausi) try {
+double clsTila::LampoHaviot(int kuukausi) const try {
   return JohtumisHaviot(kuukausi) + IVHaviotTilassa(kuukausi);
 } catch (...) {
   NostaVirhe("clsTila:LampoHaviot Method");
 }
 
 void clsTila::PaivitaSahkoOmKuorma() try {
-  clsRakennus& rakennus = VaadiRakennus();
+  const Laskentakohde kohde(TilanNimi);
+  clsRakennus& rakennus = koti_.Rakennus();
   const clsTilat& tilat = rakennus.Tilat;
   if (BruttoAla <= 0) return NaytaVirhe(virheet::kBruttoalaPuuttuu);
   if (tilat.KaytaTotSahkoKuormia) {
@@ -178,7 +193,7 @@ double clsTila::HenkiloKuorma(int kuukausi) const try {
   NostaVirhe("clsTila:HenkiloKuorma Method");
 }
 
-double clsTila::AurinkoKuorma(int kuukausi) try {
+double clsTila::AurinkoKuorma(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   if (aurKuormatUpToDate_) return aurKuormat_.arvo[m];
   double summa = 0;
@@ -189,27 +204,27 @@ double clsTila::AurinkoKuorma(int kuukausi) try {
   NostaVirhe("clsTila:AurinkoKuorma Method");
 }
 
-clsTila::Tase clsTila::KuukaudenTase(int kuukausi) {
+clsTila::Tase clsTila::KuukaudenTase(int kuukausi) const {
   const double L = LampoHaviot(kuukausi);
   const double G =
       SahkoKuorma(kuukausi) + AurinkoKuorma(kuukausi) + HenkiloKuorma(kuukausi) + IVKoneLampoKuorma(kuukausi);
   return {L, G, G <= 0 ? 0.0 : std::min(L / G, 1.0)};
 }
 
-double clsTila::IdeaalinenHyvaksiKayttoAste(int kuukausi) try {
+double clsTila::IdeaalinenHyvaksiKayttoAste(int kuukausi) const try {
   return KuukaudenTase(kuukausi).hyvaksikayttoaste;
 } catch (...) {
   NostaVirhe("clsTila:IdeaalinenHyvaksiKayttoAste Method");
 }
 
-double clsTila::HyodynnetytLampoKuormat(int kuukausi) try {
+double clsTila::HyodynnetytLampoKuormat(int kuukausi) const try {
   const Tase tase = KuukaudenTase(kuukausi);
   return tase.kuormat * tase.hyvaksikayttoaste;
 } catch (...) {
   NostaVirhe("clsTila:HyodynnetytLampoKuormat Method");
 }
 
-double clsTila::KuukaudenTarve(int kuukausi) {
+double clsTila::KuukaudenTarve(int kuukausi) const {
   const Tase tase = KuukaudenTase(kuukausi);
   return tase.haviot - tase.kuormat * tase.hyvaksikayttoaste;
 }
@@ -228,19 +243,19 @@ double clsTila::Vuosisumma(F&& kuukausiarvo) {
   return Aarellinen(summa / kkWhperMWh);
 }
 
-double clsTila::VuotuisetJohtumisHaviot() try {
+double clsTila::VuotuisetJohtumisHaviot() const try {
   return Vuosisumma([this](int m) { return JohtumisHaviot(m); });
 } catch (...) {
   NostaVirhe("clsTila:VuotuisetJohtumisHaviot Method");
 }
 
-double clsTila::VuotuisetIVHaviotTilassa() try {
+double clsTila::VuotuisetIVHaviotTilassa() const try {
   return Vuosisumma([this](int m) { return IVHaviotTilassa(m); });
 } catch (...) {
   NostaVirhe("clsTila:VuotuisetIVHaviotTilassa Method");
 }
 
-double clsTila::VuotuisetLampoHaviot() try {
+double clsTila::VuotuisetLampoHaviot() const try {
   return Vuosisumma([this](int m) { return OnLammityskautta(m) ? LampoHaviot(m) : 0.0; });
 } catch (...) {
   NostaVirhe("clsTila:VuotuisetLampoHaviot Method");
@@ -259,17 +274,14 @@ double clsTila::VuotuinenHenkiloKuorma() const try {
   NostaVirhe("clsTila:VuotuinenHenkiloKuorma Method");
 }
 
-double clsTila::VuotuinenAurinkoKuorma() try {
+double clsTila::VuotuinenAurinkoKuorma() const try {
   return Vuosisumma([this](int m) { return AurinkoKuorma(m); });
 } catch (...) {
   NostaVirhe("clsTila:VuotuinenAurinkoKuorma Method");
 }
 
-double clsTila::VuotuinenIVKoneLampoKuorma() try {
-  return Vuosisumma([this](int m) {
-    IVHaviotTilassa(m);  // fills the month's gain if it isn't up to date
-    return ivKuormat_.arvo[static_cast<std::size_t>(m)];
-  });
+double clsTila::VuotuinenIVKoneLampoKuorma() const try {
+  return Vuosisumma([this](int m) { return IVKoneLampoKuorma(m); });
 } catch (...) {
   NostaVirhe("clsTila:VuotuinenIVKoneLampoKuorma Method");
 }
@@ -282,8 +294,10 @@ double clsTila::VuotuisetHyodynnetytLampoKuormat() try {
 }
 
 double clsTila::VuotuinenLampoEnergianTarve() try {
-  const double paikkakunta = VaadiRakennus().Perustiedot.NormVuodenLammTarveLuku;
-  const double vyohyke = VaadiSaa().NormVuodenLammTarveLuku;
+  const Laskentakohde kohde(TilanNimi);
+  const clsRakennus& rakennus = koti_.Rakennus();
+  const double paikkakunta = rakennus.Perustiedot.NormVuodenLammTarveLuku;
+  const double vyohyke = rakennus.Saa.NormVuodenLammTarveLuku;
   PaivitaSahkoOmKuorma();
   if (!ivHaviotUpToDate_) PaivitaIVHaviotTilassa();
   if (!aurKuormatUpToDate_) PaivitaAurKuormatTilassa();
@@ -319,15 +333,15 @@ void clsTila::PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistymi
 }
 
 void clsTila::LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen) {
-  Kuukausitaulu haviot{}, kuormat{};
+  IVTase tase;
   for (const clsIVKone* kone : koneet) {
     edistyminen.Nayta("Lasketaan ilmanvaihtokonetta: ", kone->KoneenTunnus);
-    LisaaKone(*kone, haviot, kuormat);
+    LisaaKone(*kone, tase);
   }
   for (int m = 0; m < kKuukausia; ++m)
-    if (OnLammityskautta(m)) haviot[static_cast<std::size_t>(m)] += Vuotoilma(m);
-  ivHaviot_.arvo = haviot;
-  ivKuormat_.arvo = kuormat;
+    if (OnLammityskautta(m)) tase.haviot[static_cast<std::size_t>(m)] += Vuotoilma(m);
+  ivHaviot_.arvo = tase.haviot;
+  ivKuormat_.arvo = tase.kuormat;
 }
 
 void clsTila::PaivitaIVKuormatTilassa() try {
@@ -354,6 +368,7 @@ void clsTila::PaivitaAurKuormatTilassa() try {
 
 void clsTila::PaivitaJohtumishaviot() try {
   if (johtumishaviotUpToDate_) return;
+  const Laskentakohde kohde(TilanNimi);
   johtumishaviot_.arvo = Rakenteet.LampoHaviot(Sisalampotila);
   johtumishaviotUpToDate_ = true;
 } catch (...) {

@@ -13,7 +13,8 @@ class clsIVKone;
 /// month up to that month's losses. Months are 0 to 11, monthly figures kWh, yearly ones MWh.
 ///
 /// Machines are joined to the space by their `LiittyyTilaansKey`. Data common to the calculation (basic data, weather,
-/// consumer groups) is read from the global building (building/Yhteiset.h). Errors: 9999 with the method's literal.
+/// machines, consumer groups) is that of the building that the space belongs to (building/Koti.h). Reading writes
+/// nothing but the electric load per m² and the caches that a bracket fills. Errors: 9999 with the method's literal.
 class clsTila : public Malli<clsTila, Alkio> {
  public:
   static const Luokka kLuokka;
@@ -40,6 +41,9 @@ class clsTila : public Malli<clsTila, Alkio> {
   std::string RakenteidenDynamiikkaStr;      ///< text of that choice
   clsRakenteet Rakenteet;
 
+  /// Takes its place in a building, and its structures with it.
+  void Kotiudu(const Koti& koti);
+
   /// At the OK of the space's dialog.
   Oma<std::function<void()>> DataMuuttui;
 
@@ -54,34 +58,34 @@ class clsTila : public Malli<clsTila, Alkio> {
   void JohtumishaviotUpToDate(bool voimassa) noexcept { johtumishaviotUpToDate_ = voimassa; }
 
   /// Conduction loss through the structures, kWh.
-  double JohtumisHaviot(int kuukausi);
+  double JohtumisHaviot(int kuukausi) const;
   /// Loss by machines and by leakage or natural ventilation, kWh: machines' losses +
   /// q × 1.2 kg/m³ × 1.006 kJ/(kg·K) × (Tsisa − Tulko) × days × 24 h, q = volume × n / 3600 m³/s. Not cut at zero.
-  double IVHaviotTilassa(int kuukausi);
+  double IVHaviotTilassa(int kuukausi) const;
   /// The part of IVHaviotTilassa that isn't the machines': leakage or natural ventilation, kWh.
   double Vuotoilma(int kuukausi) const;
-  double LampoHaviot(int kuukausi);
+  double LampoHaviot(int kuukausi) const;
   /// Internal gain from electricity, kWh: the same in every month.
   double SahkoKuorma(int kuukausi) const;
   /// Heat of persons, kWh: persons × 95.35 W × hours of use, the year's heat spread evenly over the months.
   /// Source of the heat of one person: as given for this method.
   double HenkiloKuorma(int kuukausi) const;
   /// Solar gain of the windows, kWh.
-  double AurinkoKuorma(int kuukausi);
+  double AurinkoKuorma(int kuukausi) const;
   /// Gain from machines that blow in air warmer than the room, kWh.
-  double IVKoneLampoKuorma(int kuukausi);
+  double IVKoneLampoKuorma(int kuukausi) const;
   /// Losses / gains, at most 1; 0 when there are no gains; negative with negative losses.
-  double IdeaalinenHyvaksiKayttoAste(int kuukausi);
-  double HyodynnetytLampoKuormat(int kuukausi);
+  double IdeaalinenHyvaksiKayttoAste(int kuukausi) const;
+  double HyodynnetytLampoKuormat(int kuukausi) const;
   double LampoEnergianTarve(int kuukausi);
 
-  double VuotuisetJohtumisHaviot();
-  double VuotuisetIVHaviotTilassa();
-  double VuotuisetLampoHaviot();
+  double VuotuisetJohtumisHaviot() const;
+  double VuotuisetIVHaviotTilassa() const;
+  double VuotuisetLampoHaviot() const;
   double VuotuinenSahkoKuorma();
   double VuotuinenHenkiloKuorma() const;
-  double VuotuinenAurinkoKuorma();
-  double VuotuinenIVKoneLampoKuorma();
+  double VuotuinenAurinkoKuorma() const;
+  double VuotuinenIVKoneLampoKuorma() const;
   double VuotuisetHyodynnetytLampoKuormat();
   /// Heat demand of the year, MWh, scaled by the locality's degree days / the zone's. 0 with error 1044 when the
   /// weather has none.
@@ -110,15 +114,21 @@ class clsTila : public Malli<clsTila, Alkio> {
   struct Tase {
     double haviot, kuormat, hyvaksikayttoaste;
   };
-  Tase KuukaudenTase(int kuukausi);
-  double KuukaudenTarve(int kuukausi);
+  /// What the machines take from the space and give it, kWh by month.
+  struct IVTase {
+    Kuukausitaulu haviot{}, kuormat{};
+  };
+  Tase KuukaudenTase(int kuukausi) const;
+  double KuukaudenTarve(int kuukausi) const;
   Koneet LiittyvatKoneet() const;
-  void LisaaKone(const clsIVKone& kone, Kuukausitaulu& haviot, Kuukausitaulu& kuormat) const;
+  void LisaaKone(const clsIVKone& kone, IVTase& tase) const;
+  IVTase Koneista() const;
   void LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen);
   template <class F>
   static double Vuosisumma(F&& kuukausiarvo);
   bool OnElavassaMallissa() const;
 
+  Koti koti_;
   double sahkoOmKuorma_ = 3.57856132909155;  // kWh/m² in a month
   Lippu ivHaviotUpToDate_, ivKuormatUpToDate_, aurKuormatUpToDate_, johtumishaviotUpToDate_;
   Oma<Kuukausitaulu> ivHaviot_, ivKuormat_, aurKuormat_, johtumishaviot_;  // kWh

@@ -3,6 +3,7 @@
 #include "building/Muokkausistunto.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "ui/Sidonta.h"

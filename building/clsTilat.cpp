@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/clsTilat.h"
 
-#include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 #include "ui/Edistyminen.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
@@ -75,7 +75,7 @@ double clsTilat::VuotuisetSaatohaviot() try {
 
 /// Fills the ventilation caches that aren't up to date, with one pass over the machines for all spaces.
 void clsTilat::PaivitaIVHaviot(Edistyminen& edistyminen) {
-  const KoneetTiloittain koneet = VaadiRakennus().IVKoneet.ListaaTiloittain();
+  const KoneetTiloittain koneet = Rakennus().IVKoneet.ListaaTiloittain();
   const clsTila::Koneet eiKoneita;
   for (clsTila& tila : *this) {
     const auto omat = koneet.find(tila.sKey);

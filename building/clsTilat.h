@@ -8,7 +8,7 @@
 class frmTilaYhteenveto;
 
 /// The spaces of the building.
-class clsTilat : public Malli<clsTilat, Kokoelma<clsTila>> {
+class clsTilat : public Malli<clsTilat, Kotikokoelma<clsTila>> {
  public:
   static const Luokka kLuokka;
 

@@ -3,14 +3,22 @@
 #include "building/Kokoelmamuokkaus.h"
 #include "building/Kuukausitase.h"
 #include "building/Tasehaarukka.h"
+#include "building/Toimenpideviittaukset.h"
+#include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
+#include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/lomakkeet_tilat.h"
 #include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmTilaYhteenveto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

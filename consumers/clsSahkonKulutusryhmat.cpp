@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "consumers/clsSahkonKulutusryhmat.h"
 
-#include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
@@ -57,14 +59,14 @@ double clsSahkonKulutusryhmat::SahkoLaitteidenVuosikulutus() const try {
 }
 
 double clsSahkonKulutusryhmat::VuotuinenPuhallinSahko() const try {
-  const clsRakennus* rakennus = GlobaaliRakennus();
+  const clsRakennus* rakennus = koti_.Etsi();
   return rakennus ? rakennus->IVKoneet.VuotuinenPuhallinSahko() : 0;
 } catch (...) {
   NostaVirhe("clsSahkonKulutusryhmat:VuotuinenPuhallinSahko Method");
 }
 
 double clsSahkonKulutusryhmat::LammitysSahkonVuosikulutus() const try {
-  clsRakennus& rakennus = VaadiRakennus();
+  clsRakennus& rakennus = koti_.Rakennus();
   return Aarellinen(TilojenLammityssahko(rakennus.Tilat) + KoneidenLammityssahko(rakennus.IVKoneet) +
                     rakennus.VedenKulutusryhmat.VuotuinenLkvSahkoLammityksenEnergia() +
                     rakennus.VedenKulutusryhmat.VuotuinenProsessivedenSahkoLammityksenEnergia());

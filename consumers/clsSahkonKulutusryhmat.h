@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include "building/Koti.h"
 #include "consumers/RivillinenKokoelma.h"
 #include "consumers/clsSahkoListaItem.h"
 #include "consumers/clsSahkonKulutusryhma.h"
@@ -9,6 +10,8 @@ class clsSahkonKulutusryhmat
     : public Malli<clsSahkonKulutusryhmat, RivillinenKokoelma<clsSahkonKulutusryhma, clsSahkoListaItem>> {
  public:
   static const Luokka kLuokka;
+  /// Takes its place in a building.
+  void Kotiudu(const Koti& koti) { koti_.Muuta(koti); }
 
   /// Adds a row to the tree: right behind its parent, so that the newest child of a title stands first, or at the end.
   clsSahkoListaItem& AddListaItem(const Tunniste& sKey, const Tunniste& Parent, std::int16_t ItemTyyppi,
@@ -18,14 +21,17 @@ class clsSahkonKulutusryhmat
   double Vuosikulutus() const;
   /// Electricity of the groups and of the machines' fans, MWh/a.
   double SahkoLaitteidenVuosikulutus() const;
-  /// Fans of all machines of the building being worked on, MWh/a; 0 when there is none.
+  /// Fans of all machines of the building, MWh/a; 0 when the groups belong to none.
   double VuotuinenPuhallinSahko() const;
   /// Electricity that goes into heat, MWh/a: electrically heated spaces with their control losses, electric coils of
-  /// the machines, electric heating of domestic and process water, all of the building being worked on.
+  /// the machines, electric heating of domestic and process water, all of the building that the groups belong to.
   double LammitysSahkonVuosikulutus() const;
   /// Internal heat gain of a space, kWh per month: a twelfth of the yearly consumption of the groups that stand in it
   /// and whose energy is used for heating. The same in every month.
   double TilanSahkoKuorma(const Tunniste& sKey) const;
   /// The same for the groups that belong to no space.
   double TiloihinLiittymatonSahkoKuorma() const { return TilanSahkoKuorma({}); }
+
+ private:
+  Koti koti_;
 };

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-std::size_t InstanssiLista::Etsi(std::size_t tiiviste, const Tunniste& tunniste) const noexcept {
+std::size_t InstanssiLista::Kohta(std::size_t tiiviste, const Tunniste& tunniste) const noexcept {
   const std::size_t peite = paikat_.size() - 1;
   std::size_t kohta = tiiviste & peite;
   while (paikat_[kohta].olio && !(paikat_[kohta].tiiviste == tiiviste && paikat_[kohta].olio->InstanssiId == tunniste))
@@ -11,25 +11,27 @@ std::size_t InstanssiLista::Etsi(std::size_t tiiviste, const Tunniste& tunniste)
   return kohta;
 }
 
-bool InstanssiLista::Add(Olio& olio) {
+bool InstanssiLista::Add(Olio& olio, Olio* omistaja) {
   if (maara_ * 2 >= paikat_.size()) Kasvata();
   const std::size_t tiiviste = olio.InstanssiId.Tiiviste();
-  Paikka& paikka = paikat_[Etsi(tiiviste, olio.InstanssiId)];
+  Paikka& paikka = paikat_[Kohta(tiiviste, olio.InstanssiId)];
   if (paikka.olio) return false;
-  paikka = {tiiviste, &olio};
+  paikka = {tiiviste, &olio, omistaja};
   ++maara_;
   return true;
 }
 
-Olio* InstanssiLista::Item(const Tunniste& instanssiId) const noexcept {
-  return paikat_.empty() ? nullptr : paikat_[Etsi(instanssiId.Tiiviste(), instanssiId)].olio;
+Instanssi InstanssiLista::Etsi(const Tunniste& instanssiId) const noexcept {
+  if (paikat_.empty()) return {};
+  const Paikka& paikka = paikat_[Kohta(instanssiId.Tiiviste(), instanssiId)];
+  return {paikka.olio, paikka.omistaja};
 }
 
 void InstanssiLista::Kasvata() {
   std::vector<Paikka> vanhat(std::max<std::size_t>(16, paikat_.size() * 2));
   vanhat.swap(paikat_);
   for (const Paikka& paikka : vanhat)
-    if (paikka.olio) paikat_[Etsi(paikka.tiiviste, paikka.olio->InstanssiId)] = paikka;
+    if (paikka.olio) paikat_[Kohta(paikka.tiiviste, paikka.olio->InstanssiId)] = paikka;
 }
 
 void InstanssiLista::Tyhjenna() noexcept {

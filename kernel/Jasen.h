@@ -28,6 +28,8 @@ struct Jasen {
   Olio* (*olio)(Olio&) = nullptr;
   /// Makes the object of a member that may hold nothing, and gives it.
   Olio& (*luo)(Olio&) = nullptr;
+  /// A copy of another object's value, kept for the file: a comparison passes over it.
+  bool kopio = false;
   /// The object may lie outside this one, reachable by its identity: it is stored as a reference then.
   bool viittaus = false;
 
@@ -97,6 +99,14 @@ constexpr Jasen Arvo(std::string_view nimi, Suure suure = {}) {
   j.nayta = [](const Olio& o, ArvoNakyma& n) { NaytaArvo(static_cast<const C&>(o).*Kentta, n); };
   LiitaKentta<Kentta>(j);
   if constexpr (!kOnTunniste<Kentta>) j.aseta = j.kirjoita;
+  return j;
+}
+
+/// A data member that holds a copy of another object's value.
+template <auto Kentta>
+constexpr Jasen Kopio(auto... tiedot) {
+  Jasen j = Arvo<Kentta>(tiedot...);
+  j.kopio = true;
   return j;
 }
 

@@ -33,7 +33,6 @@ class Sailio : public KokoelmaPohja {
     alkiot_.reserve(toinen.alkiot_.size());
     for (const auto& alkio : toinen.alkiot_) alkiot_.push_back(std::make_unique<T>(*alkio));
   }
-  Sailio(Sailio&&) noexcept = default;
   /// Deep copy: items are matched by key and reused, missing ones made, surplus ones removed; order follows the source.
   Sailio& operator=(const Sailio& toinen) {
     if (this != &toinen) SamatAvaimet(toinen) ? KopioiPaikoittain(toinen) : KopioiAvaimittain(toinen);
@@ -100,6 +99,10 @@ class Sailio : public KokoelmaPohja {
   Alkio& LisaaPohja(const Tunniste& avain) override { return Add(avain); }
   const Luokka& AlkionLuokka() const noexcept override { return T::kLuokka; }
 
+ protected:
+  /// An item has come to stand in this collection: added, or made by an assignment.
+  virtual void Saapui(T&) {}
+
  private:
   static constexpr std::size_t kPieni = 16;  // up to here a scan beats an index
   using Hakemisto = std::unordered_map<Tunniste, T*>;
@@ -116,6 +119,7 @@ class Sailio : public KokoelmaPohja {
     T& alkio = *uusi;
     alkiot_.insert(alkiot_.begin() + static_cast<std::ptrdiff_t>(indeksi), std::move(uusi));
     if (hakemisto_ && !avain.Tyhja()) hakemisto_->emplace(avain, &alkio);
+    Saapui(alkio);
     return alkio;
   }
 
@@ -152,6 +156,7 @@ class Sailio : public KokoelmaPohja {
       const auto it = lahde->sKey.Tyhja() ? vanhat.end() : vanhat.find(lahde->sKey);
       if (it == vanhat.end() || !it->second) {
         alkiot_.push_back(std::make_unique<T>(*lahde));
+        Saapui(*alkiot_.back());
       } else {
         *it->second = *lahde;
         alkiot_.push_back(std::move(it->second));

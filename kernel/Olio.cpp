@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kernel/Olio.h"
 
-#include <bit>
-#include <cstring>
+#include <algorithm>
 #include <stdexcept>
+#include <vector>
 
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Tulos.h"
@@ -13,19 +13,6 @@ namespace {
 std::vector<const Luokka*>& Luokat() {
   static std::vector<const Luokka*> luokat;
   return luokat;
-}
-
-std::uint64_t Tavut(const char* kohta) noexcept {
-  std::uint64_t tavut = 0;
-  std::memcpy(&tavut, kohta, 8);
-  return tavut;
-}
-
-/// Two names of one length and with the same ends are the same.
-bool SamaKeskelta(std::string_view x, std::string_view y) noexcept {
-  for (std::size_t i = 8; i + 8 < x.size(); i += 8)
-    if (Tavut(x.data() + i) != Tavut(y.data() + i)) return false;
-  return true;
 }
 
 Variantti LuvuksiLajin(Laji laji, const ArvoNakyma& n) {
@@ -79,36 +66,13 @@ const Jasen& VaadiJasen(const Olio& olio, std::string_view nimi) {
 
 }  // namespace
 
-Luokka::Nimenpaat::Nimenpaat(std::string_view nimi) noexcept : pituus(nimi.size()) {
-  if (nimi.size() >= 8) {
-    alku = Tavut(nimi.data());
-    loppu = Tavut(nimi.data() + nimi.size() - 8);
-  } else {
-    std::memcpy(&alku, nimi.data(), nimi.size());
-  }
-}
-
-std::size_t Luokka::Nimenpaat::Tiiviste() const noexcept {
-  constexpr std::uint64_t kPieni = 0x2020202020202020;  // the bit that tells small letters from capitals
-  const std::uint64_t sekoitus = ((alku | kPieni) ^ std::rotl(loppu | kPieni, 29) ^ pituus) * 0x9E3779B97F4A7C15;
-  return sekoitus ^ sekoitus >> 29;
-}
-
 Luokka::Luokka(std::string_view nimi, std::span<const Jasen> jasenet, Osallistuu osallistuu,
                std::span<const Tulos> tulokset)
-    : sana_(Sanaksi(nimi)),
-      jasenet_(jasenet),
-      tulokset_(tulokset),
-      osallistuu_(osallistuu),
-      numero_(Luokat().size()),
-      hakemisto_(std::bit_ceil(jasenet.size() * 4 + 1)) {
+    : sana_(Sanaksi(nimi)), jasenet_(jasenet), tulokset_(tulokset), osallistuu_(osallistuu), numero_(Luokat().size()) {
   for (const Jasen& jasen : jasenet_) {
-    if (Etsi(jasen.nimi))
+    if (Etsi(jasen.nimi) != &jasen)
       throw std::logic_error("jäsen kahdesti: " + std::string(nimi) + "." + std::string(jasen.nimi));
-    const Nimenpaat paat(jasen.nimi);
-    std::size_t kohta = paat.Tiiviste() & (hakemisto_.size() - 1);
-    while (hakemisto_[kohta].jasen) kohta = (kohta + 1) & (hakemisto_.size() - 1);
-    hakemisto_[kohta] = {paat, &jasen};
+    hakemisto_.emplace(jasen.nimi, &jasen);
   }
   Luokat().push_back(this);
 }
@@ -120,15 +84,9 @@ const Tulos& Luokka::TulosNimella(std::string_view nimi) const {
 }
 
 const Jasen* Luokka::Etsi(std::string_view nimi) const noexcept {
-  const Nimenpaat paat(nimi);
-  const std::size_t peite = hakemisto_.size() - 1;
-  for (std::size_t kohta = paat.Tiiviste() & peite; hakemisto_[kohta].jasen; kohta = (kohta + 1) & peite) {
-    const Paikka& paikka = hakemisto_[kohta];
-    const std::string_view oma = paikka.jasen->nimi;
-    if (paikka.paat == paat && SamaKeskelta(oma, nimi)) return paikka.jasen;
-    if (SamaNimi(oma, nimi)) return paikka.jasen;
-  }
-  return nullptr;
+  if (const auto it = hakemisto_.find(nimi); it != hakemisto_.end()) return it->second;
+  const auto jasen = std::ranges::find_if(jasenet_, [nimi](const Jasen& j) { return SamaNimi(j.nimi, nimi); });
+  return jasen == jasenet_.end() ? nullptr : &*jasen;
 }
 
 std::span<const Luokka* const> Luokka::Kaikki() noexcept { return Luokat(); }

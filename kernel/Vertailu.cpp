@@ -52,6 +52,7 @@ void VertaileOliot(Olio& tama, Olio& toinen, MuutostenKeraaja& muuttuneet, const
   const clsTyyppiTieto* tieto = tyypit.Etsi(tama.LuokanTiedot());
   if (!tieto) return;
   for (const Jasen* jasen : tieto->Jasenet()) {
+    if (jasen->kopio) continue;
     if (!jasen->OnOlio()) {
       VertaileArvot(tama, toinen, *jasen, muuttuneet);
       continue;

@@ -11,6 +11,11 @@ constexpr Jasen Aineesta(std::string_view nimi, Suure suure = {}) {
   j.kirjoita = j.aseta = [](Olio& o, const ArvoNakyma& n) {
     return Muunna(n, (static_cast<clsRakennekerros&>(o).*Aine).*Kentta);
   };
+  j.ota = [](const Olio& o) -> Kentanarvo { return (static_cast<const clsRakennekerros&>(o).*Aine).*Kentta; };
+  j.palauta = [](Olio& o, Kentanarvo&& arvo) {
+    (static_cast<clsRakennekerros&>(o).*Aine).*Kentta =
+        std::get<typename Osat<decltype(Kentta)>::Tyyppi>(std::move(arvo));
+  };
   return j;
 }
 

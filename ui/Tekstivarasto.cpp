@@ -12,6 +12,7 @@
 #include "kernel/Virhe.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
+#include "ui/Laskentakohde.h"
 #include "ui/Viestit.h"
 
 namespace {
@@ -123,7 +124,7 @@ std::string Teksti(int id) {
 
 void NaytaVirhe(int koodi, std::string_view lisateksti) {
   Viesti viesti = HaeViesti(koodi).value_or(Viesti{"Virhe " + std::to_string(koodi), {}, Vakavuus::Virhe});
-  viesti.teksti.append(" ").append(lisateksti);
+  viesti.teksti.append(" ").append(lisateksti).append(Laskentakohde::Liite());
   ViestitNyt().Nayta(viesti);
 }
 

@@ -3,13 +3,16 @@
 
 #include <limits>
 
-#include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
 #include "tekstit/tulokset.h"
+#include "ui/Laskentakohde.h"
 #include "ui/Tekstivarasto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 
@@ -131,10 +134,14 @@ void clsIVKone::PaivitaOsienTiedot() {
   KayntiAikaYleistiedot.IvKoneenNimi = KoneenTunnus;
 }
 
+Lammitystarveluku clsIVKone::Tarveluku() const { return {koti_.Rakennus().Perustiedot.NormVuodenLammTarveLuku}; }
+
 Kuukausitaulu clsIVKone::HaviotTilaan(double Tsisa) const try {
+  const Laskentakohde kohde(KoneenTunnus);
+  const Lammitystarveluku S = Tarveluku();
   const double poistuva = OnPoistopuhallin() ? PoistoIlmavirta11Teho : TuloIlmavirta11Teho;
-  const Kuukausitaulu poistoilma = KayntiAikaYleistiedot.LammonTarve(poistuva, Tsisa);
-  return OnTulopuhallin() ? Erotus(poistoilma, KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho)) : poistoilma;
+  const Kuukausitaulu poistoilma = KayntiAikaYleistiedot.LammonTarveTilaan(poistuva, Tsisa, S);
+  return OnTulopuhallin() ? Erotus(poistoilma, KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho, S)) : poistoilma;
 } catch (...) {
   NostaVirhe("clsIVKone:HaviotTilaan Method");
 }
@@ -146,7 +153,8 @@ double clsIVKone::HaviotTilaan(double Tsisa, int kuukausi) const try {
 }
 
 Kuukausitaulu clsIVKone::IV_LammEnergia() const try {
-  return Erotus(KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho), LtoEnergia());
+  const Laskentakohde kohde(KoneenTunnus);
+  return Erotus(KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho, Tarveluku()), LtoEnergia());
 } catch (...) {
   NostaVirhe("clsIVKone:IV_LammEnergia Method");
 }
@@ -158,18 +166,19 @@ double clsIVKone::IV_LammEnergia(int kuukausi) const try {
 }
 
 double clsIVKone::Poistoilma() const {
-  const clsTila* tila = LiittyyTilaansKey.Tyhja() ? nullptr : VaadiRakennus().Tilat.Etsi(LiittyyTilaansKey);
+  const clsTila* tila = LiittyyTilaansKey.Tyhja() ? nullptr : koti_.Rakennus().Tilat.Etsi(LiittyyTilaansKey);
   return tila ? tila->Sisalampotila : PoistoLampotila;
 }
 
 Kuukausitaulu clsIVKone::LtoEnergia() const try {
-  return KayntiAikaYleistiedot.LtoEnergia(TuloIlmavirta11Teho, Poistoilma(), LtoHyotysuhde);
+  const Laskentakohde kohde(KoneenTunnus);
+  return KayntiAikaYleistiedot.LtoEnergia(TuloIlmavirta11Teho, Poistoilma(), LtoHyotysuhde, Tarveluku());
 } catch (...) {
   NostaVirhe("clsIVKone:LtoEnergia Method");
 }
 
 double clsIVKone::LtoEnergia(int kuukausi) const try {
-  return KayntiAikaYleistiedot.LtoEnergiaPerKuukausi(TuloIlmavirta11Teho, kuukausi, Poistoilma(), LtoHyotysuhde);
+  return LtoEnergia()[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 } catch (...) {
   NostaVirhe("clsIVKone:LtoEnergia Method");
 }
@@ -201,29 +210,35 @@ double clsIVKone::PuhallinSahko(PuhaltimenTeho& tulo, PuhaltimenTeho& poisto, in
   return teho * ajat.KayntiAikaPerKuukausi(kuukausi, ajat.KayntiaikojenSyottotapaID, kTaysVirta, kTaysVirta);
 }
 
-double clsIVKone::PuhallinSahko(int kuukausi) try {
-  PaivitaPuhaltimienTiedot();
-  PuhaltimenTeho tulo = PuhaltimienSahkonKulutus.Tulopuhallin(), poisto = PuhaltimienSahkonKulutus.Poistopuhallin();
+clsPuhaltimenSahkonKulutus::Valinnat clsIVKone::PuhallinValinnat() const noexcept {
+  return {JarjestelmaTyyppiID, PuhaltimenSaatotapaID, PuhaltimenVoimansiirtoTapaID, vakioPaineOsuusID_};
+}
+
+double clsIVKone::PuhallinSahko(int kuukausi) const try {
+  const Laskentakohde kohde(KoneenTunnus);
+  PuhaltimenTeho tulo = PuhaltimienSahkonKulutus.Tulopuhallin(PuhallinValinnat());
+  PuhaltimenTeho poisto = PuhaltimienSahkonKulutus.Poistopuhallin(PuhallinValinnat());
   return PuhallinSahko(tulo, poisto, kuukausi);
 } catch (...) {
   NostaVirhe("clsIVKone:PuhallinSahko Method");
 }
 
-double clsIVKone::VuotuinenPuhallinSahko() try {
-  PaivitaPuhaltimienTiedot();
-  PuhaltimenTeho tulo = PuhaltimienSahkonKulutus.Tulopuhallin(), poisto = PuhaltimienSahkonKulutus.Poistopuhallin();
+double clsIVKone::VuotuinenPuhallinSahko() const try {
+  const Laskentakohde kohde(KoneenTunnus);
+  PuhaltimenTeho tulo = PuhaltimienSahkonKulutus.Tulopuhallin(PuhallinValinnat());
+  PuhaltimenTeho poisto = PuhaltimienSahkonKulutus.Poistopuhallin(PuhallinValinnat());
   return Vuosisumma([&](int m) { return PuhallinSahko(tulo, poisto, m); });
 } catch (...) {
   NostaVirhe("clsIVKone:VuotuinenPuhallinSahko Method");
 }
 
-double clsIVKone::Sahko() try {
+double clsIVKone::Sahko() const try {
   return (TuloilmanLammitysSahkoPatterilla ? VuotuinenIVjalkilammitysLampo() : 0) + VuotuinenPuhallinSahko();
 } catch (...) {
   NostaVirhe("clsIVKone:Sahko Method");
 }
 
-clsIVKone::Vuosiluvut clsIVKone::VuodenLuvut() try {
+clsIVKone::Vuosiluvut clsIVKone::VuodenLuvut() const try {
   using Raja = std::numeric_limits<double>;
   const clsKayntiAjat& ajat = KayntiAikaYleistiedot;
   const double tunteja =

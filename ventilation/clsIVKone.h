@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "building/Koti.h"
 #include "kernel/Laskenta.h"
 #include "ventilation/clsKayntiAjat.h"
 #include "ventilation/clsLammTehot.h"
@@ -13,7 +14,8 @@
 /// ventilation loss or gain, and the building its after-heating and fan electricity.
 ///
 /// Months are 0 to 11, monthly energy is kWh, yearly MWh. A machine without a schedule gives 0. The space and the
-/// locality's degree days are those of the global building. Errors: 9999 with the method's literal.
+/// locality's degree days are those of the building that the machine belongs to (building/Koti.h). Errors: 9999 with
+/// the method's literal.
 class clsIVKone : public Malli<clsIVKone, Alkio> {
  public:
   static const Luokka kLuokka;
@@ -53,11 +55,14 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   std::int32_t VakioPaineOsuusID() const noexcept { return vakioPaineOsuusID_; }
   void VakioPaineOsuusID(std::int32_t rivi) noexcept;
 
+  /// Takes its place in a building.
+  void Kotiudu(const Koti& koti) { koti_.Muuta(koti); }
+
   bool OnTulopuhallin() const noexcept { return IVPeriaateID != Poistoilmakone; }
   bool OnPoistopuhallin() const noexcept { return IVPeriaateID != Tuloilmakone; }
   /// Heat can be recovered: the machine moves both supply and exhaust air.
   bool OnTalteenotto() const noexcept { return OnTulopuhallin() && OnPoistopuhallin(); }
-  /// Gives the fans their copies of the machine's flows, choices and name. Every fan calculation does.
+  /// Gives the fans their copies of the machine's flows, choices and name.
   void PaivitaPuhaltimienTiedot();
   /// The fans, their copies up to date.
   clsPuhaltimenSahkonKulutus& AjantasaisetPuhaltimet() { return PaivitaPuhaltimienTiedot(), PuhaltimienSahkonKulutus; }
@@ -80,13 +85,13 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
   double SahkoPatterinEnergia(int kuukausi) const;
   double VesikiertoisenLampoPatterinEnergia(int kuukausi) const;
   /// Electricity of the fans. With constant flow only periods at exactly 100 % count.
-  double PuhallinSahko(int kuukausi);
-  double VuotuinenPuhallinSahko();
+  double PuhallinSahko(int kuukausi) const;
+  double VuotuinenPuhallinSahko() const;
   double VuotuinenIVjalkilammitysLampo() const;
   /// Electricity of the coil and the fans, MWh/a.
-  double Sahko();
+  double Sahko() const;
   double LammitystehonTarve() const { return 0; }
-  Vuosiluvut VuodenLuvut();
+  Vuosiluvut VuodenLuvut() const;
 
   /// Raised when the dialog's OK has changed what the machine needs of heat and electricity.
   Oma<std::function<void()>> LampoSahkoKulutusMuuttui;
@@ -104,8 +109,11 @@ class clsIVKone : public Malli<clsIVKone, Alkio> {
 
   bool OnElavassaMallissa() const;
 
+  Lammitystarveluku Tarveluku() const;
+  clsPuhaltimenSahkonKulutus::Valinnat PuhallinValinnat() const noexcept;
   double PuhallinSahko(PuhaltimenTeho& tulo, PuhaltimenTeho& poisto, int kuukausi) const;
 
+  Koti koti_;
   double sisaanpuhallusLampotila_ = 16.0;
   std::int32_t vakioPaineOsuusID_ = 1;
 };

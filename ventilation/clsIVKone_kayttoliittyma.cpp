@@ -3,6 +3,7 @@
 #include "building/Muokkausistunto.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
@@ -10,6 +11,7 @@
 #include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmIlmanvaihtokone.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/clsIVKoneet.h"
 
-#include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/tulokset.h"
@@ -55,7 +55,7 @@ double clsIVKoneet::Poistoilmavirtojen11Summa() const try {
 
 double clsIVKoneet::VuotuinenPuhallinSahko() const try {
   double summa = 0;
-  for (clsIVKone& kone : *this) summa += kone.VuotuinenPuhallinSahko();
+  for (const clsIVKone& kone : *this) summa += kone.VuotuinenPuhallinSahko();
   return Aarellinen(summa);
 } catch (...) {
   NostaVirhe("clsIVKoneet:VuotuinenPuhallinSahko Method");
@@ -81,7 +81,7 @@ KoneetTiloittain clsIVKoneet::ListaaTiloittain() const try {
 
 std::vector<clsIVKone*> clsIVKoneet::ListaaTilaanLiittymattomatIVKoneet() const try {
   std::vector<clsIVKone*> liittymattomat;
-  const clsTilat& tilat = VaadiRakennus().Tilat;
+  const clsTilat& tilat = Rakennus().Tilat;
   for (clsIVKone& kone : *this)
     if (!tilat.Etsi(kone.LiittyyTilaansKey)) liittymattomat.push_back(&kone);
   return liittymattomat;

@@ -15,7 +15,7 @@ class frmIVKoneYhteenveto;
 using KoneetTiloittain = std::unordered_map<Tunniste, std::vector<clsIVKone*>>;
 
 /// The ventilation machines of the building. Errors: 9999 with the method's literal.
-class clsIVKoneet : public Malli<clsIVKoneet, Kokoelma<clsIVKone>> {
+class clsIVKoneet : public Malli<clsIVKoneet, Kotikokoelma<clsIVKone>> {
  public:
   static const Luokka kLuokka;
 

@@ -4,8 +4,14 @@
 #include <optional>
 
 #include "building/Kokoelmamuokkaus.h"
+#include "building/LisaaKopio.h"
+#include "building/Toimenpideviittaukset.h"
+#include "building/Yhteiset.h"
+#include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "tekstit/lomakkeet_ilmanvaihto.h"
 #include "tekstit/lomakkeet_tilat.h"
 #include "tekstit/rakennus.h"

@@ -3,12 +3,13 @@
 
 #include <algorithm>
 
-#include "building/Yhteiset.h"
-#include "building/clsRakennus.h"
+#include "kernel/Luvut.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/tulokset.h"
+#include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
+#include "ui/Laskentakohde.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ventilation/LammitysTaulukko.h"
@@ -37,6 +38,14 @@ constexpr Tulos kTulokset[] = {
 constexpr int kMinuuttejaVuorokaudessa = 1440;
 constexpr double kMinuuttejaTunnissa = 60, kTuntejaVuorokaudessa = 24, kTuntejaViikossa = 168, kPaiviaViikossa = 7;
 constexpr double kKesanLtoRaja = 5;  // %
+
+/// Error 1015 with its cause: which temperature, and what the fan leaves of it.
+void KerroLampotilasta(clsKayntiAika::Kohdelampotila lampotila, double lampeneminen) {
+  NaytaVirhe(virheet::kTuloilmanLampotilaVaara,
+             Teksti(lampotila.tilan ? tekstit::kKoneenTilanLampotila : tekstit::kKoneenTuloilma) + " " +
+                 Muotoile(lampotila.C, "0.0") + " °C, " + Teksti(tekstit::kKoneenLampeneminen) + " " +
+                 Muotoile(lampeneminen, "0.0") + " °C");
+}
 
 }  // namespace
 
@@ -79,22 +88,23 @@ void clsKayntiAika::KopioiKaynti(const clsKayntiAika& lahde) {
   dTPuhallin = lahde.dTPuhallin;
 }
 
-Kuukausitaulu clsKayntiAika::KayntiJaksonLampo(double q, double lampotila) const try {
+Kuukausitaulu clsKayntiAika::KayntiJaksonLampo(double q, Kohdelampotila lampotila, Lammitystarveluku S) const try {
   if (TuloIlmavirtaProsentti <= 0 || KayntiJaksojenLkm == 0) return {};
-  const double S = VaadiRakennus().Perustiedot.NormVuodenLammTarveLuku;
+  const double T = lampotila.C - dTPuhallin;
+  if (!OnLammitystaulukonLampotila(T)) return KerroLampotilasta(lampotila, dTPuhallin), Kuukausitaulu{};
   const double virta = TuloIlmavirtaProsentti * q / 100;
-  return LammitysKertoimet(Alkaa, Paattyy, lampotila - dTPuhallin, virta * KayntiJaksojenLkm / kPaiviaViikossa, S);
+  return LammitysKertoimet(Alkaa, Paattyy, T, virta * KayntiJaksojenLkm / kPaiviaViikossa, S.Kd);
 } catch (...) {
-  Ilmoita("Yksittäisen käyntiajan. Lämpönergialaskennassa tuli virhe!", {}, Vakavuus::Virhe);
+  Ilmoita("Yksittäisen käyntiajan. Lämpönergialaskennassa tuli virhe!" + Laskentakohde::Liite(), {}, Vakavuus::Virhe);
   return {};
 }
 
-double clsKayntiAika::KayntiJaksonLampo(double q, int kuukausi) const {
-  return KayntiJaksonLampo(q, Tsp)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+double clsKayntiAika::KayntiJaksonLampo(double q, int kuukausi, Lammitystarveluku S) const {
+  return KayntiJaksonLampo(q, OmaLampotila(), S)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 }
 
 double clsKayntiAika::LtoEnergiaHyotySuhde(double Tsp, double LtoHyoty, double Tp, int jakso) try {
-  if (!OnLammitystaulukonLampotila(Tsp)) return NaytaVirhe(virheet::kTuloilmanLampotilaVaara), 0;
+  if (!OnLammitystaulukonLampotila(Tsp)) return KerroLampotilasta({Tsp}, 0), 0;
   if (jakso == KolmasNeljannes) return LtoHyoty > kKesanLtoRaja ? 100 : 0;
   const Pysyvyys ulkoilma = Ulkolampotilat(jakso);
   if (ulkoilma.tunnit.empty()) return NaytaVirhe(virheet::kJaksoTuntematon), 0;

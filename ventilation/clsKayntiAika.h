@@ -5,6 +5,11 @@
 
 class PuhaltimenTeho;
 
+/// Degree days of the locality's normal year, K·d: a machine's heat is in proportion to them.
+struct Lammitystarveluku {
+  double Kd = 0;
+};
+
 /// One running period of a ventilation machine: a time of day on some days of the week, in one season.
 /// Months are 0 (January) to 11.
 class clsKayntiAika : public Malli<clsKayntiAika, Alkio> {
@@ -44,12 +49,20 @@ class clsKayntiAika : public Malli<clsKayntiAika, Alkio> {
   /// Takes runs, times, flow and temperatures of another period; key, season and identity stay.
   void KopioiKaynti(const clsKayntiAika& lahde);
 
+  /// What the air is warmed to: the period's own set-point, or the temperature of the space (Tsisa) whose loss is
+  /// computed.
+  struct Kohdelampotila {
+    double C = 0;  ///< °C
+    bool tilan = false;
+  };
+  Kohdelampotila OmaLampotila() const noexcept { return {Tsp, false}; }
+
   /// By month, kWh: energy that warms q m³/s of supply air at full power from outdoors to `lampotila` − `dTPuhallin`,
-  /// whatever the season; each run counts for a seventh of the days. 0 without flow or runs. Error 1015 and 0 for a
-  /// temperature outside 15 to 30 °C. A failure shows a message and gives 0.
-  Kuukausitaulu KayntiJaksonLampo(double q, double lampotila) const;
+  /// whatever the season; each run counts for a seventh of the days. 0 without flow or runs. Error 1015, which tells
+  /// the two temperatures, and 0 for a difference outside 15 to 30 °C. A failure shows a message and gives 0.
+  Kuukausitaulu KayntiJaksonLampo(double q, Kohdelampotila lampotila, Lammitystarveluku S) const;
   /// The same of one month to the period's own set-point.
-  double KayntiJaksonLampo(double q, int kuukausi) const;
+  double KayntiJaksonLampo(double q, int kuukausi, Lammitystarveluku S) const;
 
   /// Energy efficiency of heat recovery over a season, %, by the season's outdoor temperatures: set-point `Tsp` °C,
   /// temperature efficiency `LtoHyoty` %, exhaust air `Tp` °C. In summer 100 as soon as the efficiency exceeds 5.

@@ -13,7 +13,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Arvo<&clsKayntiAjat::KayntiaikojenSyottotapaID>("KayntiaikojenSyottotapaID"),
     Arvo<&clsKayntiAjat::KayntiAikojenSyottoTapa>("KayntiAikojenSyottoTapa"),
-    Arvo<&clsKayntiAjat::IvKoneenNimi>("IvKoneenNimi"),
+    Kopio<&clsKayntiAjat::IvKoneenNimi>("IvKoneenNimi"),
 };
 
 constexpr std::array<const char*, 5> kVuosijaksot{"EkaNeljannes", "TokaNeljannes", "KolmasNeljannes", "NeljasNeljannes",
@@ -21,8 +21,8 @@ constexpr std::array<const char*, 5> kVuosijaksot{"EkaNeljannes", "TokaNeljannes
 constexpr double kPieninLto = 0.001;  // %
 
 /// The period's heat times the efficiency of recovery, which is that of the season in which the heat is needed.
-Kuukausitaulu JaksonLto(const clsKayntiAika& jakso, double q, double Tp, double LtoHyoty) {
-  Kuukausitaulu lampo = jakso.KayntiJaksonLampo(q, jakso.Tsp);
+Kuukausitaulu JaksonLto(const clsKayntiAika& jakso, double q, double Tp, double LtoHyoty, Lammitystarveluku S) {
+  Kuukausitaulu lampo = jakso.KayntiJaksonLampo(q, jakso.OmaLampotila(), S);
   std::array<std::optional<double>, clsKayntiAika::KokoVuosi> hyotysuhteet;
   for (int kuukausi = 0; kuukausi < kKuukausia; ++kuukausi) {
     const auto m = static_cast<std::size_t>(kuukausi);
@@ -119,35 +119,38 @@ Kuukausitaulu clsKayntiAjat::Kuukausisummat(F&& arvot) const {
   return summat;
 }
 
-Kuukausitaulu clsKayntiAjat::LammonTarve(double q) const try {
-  return Kuukausisummat([q](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, jakso.Tsp); });
+Kuukausitaulu clsKayntiAjat::LammonTarve(double q, Lammitystarveluku S) const try {
+  return Kuukausisummat(
+      [=](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, jakso.OmaLampotila(), S); });
 } catch (...) {
   NostaVirhe("clsKayntiAjat:LammonTarve Method");
 }
 
-Kuukausitaulu clsKayntiAjat::LammonTarve(double q, double lampotila) const try {
-  return Kuukausisummat([=](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, lampotila); });
+Kuukausitaulu clsKayntiAjat::LammonTarveTilaan(double q, double Tsisa, Lammitystarveluku S) const try {
+  return Kuukausisummat([=](const clsKayntiAika& jakso) { return jakso.KayntiJaksonLampo(q, {Tsisa, true}, S); });
 } catch (...) {
-  NostaVirhe("clsKayntiAjat:LammonTarve Method");
+  NostaVirhe("clsKayntiAjat:LammonTarveTilaan Method");
 }
 
-double clsKayntiAjat::LammonTarvePerKuukausi(double q, int kuukausi) const try {
-  return LammonTarve(q)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+double clsKayntiAjat::LammonTarvePerKuukausi(double q, int kuukausi, Lammitystarveluku S) const try {
+  return LammonTarve(q, S)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 } catch (...) {
   NostaVirhe("clsKayntiAjat:LammonTarvePerKuukausi Method");
 }
 
-Kuukausitaulu clsKayntiAjat::LtoEnergia(double q, double Tp, double LtoHyoty) const try {
+Kuukausitaulu clsKayntiAjat::LtoEnergia(double q, double Tp, double LtoHyoty, Lammitystarveluku S) const try {
   if (LtoHyoty <= kPieninLto) return {};
-  Kuukausitaulu summat = Kuukausisummat([=](const clsKayntiAika& jakso) { return JaksonLto(jakso, q, Tp, LtoHyoty); });
+  Kuukausitaulu summat =
+      Kuukausisummat([=](const clsKayntiAika& jakso) { return JaksonLto(jakso, q, Tp, LtoHyoty, S); });
   for (double& summa : summat) summa = std::max(summa, 0.0);
   return summat;
 } catch (...) {
   NostaVirhe("clsKayntiAjat:LtoEnergia Method");
 }
 
-double clsKayntiAjat::LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const try {
-  return LtoEnergia(q, Tp, LtoHyoty)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
+double clsKayntiAjat::LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty,
+                                            Lammitystarveluku S) const try {
+  return LtoEnergia(q, Tp, LtoHyoty, S)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 } catch (...) {
   NostaVirhe("clsKayntiAjat:LtoEnergiaPerKuukausi Method");
 }

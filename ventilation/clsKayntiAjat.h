@@ -39,14 +39,14 @@ class clsKayntiAjat : public Malli<clsKayntiAjat, Kokoelma<clsKayntiAika>> {
   Kayntisumma Vuosijaksolta(int vuosijakso) const;
 
   /// By month: heat that warms the supply air, q m³/s at full power, from outdoors to each period's set-point.
-  Kuukausitaulu LammonTarve(double q) const;
-  /// The same to one temperature, °C, in all periods.
-  Kuukausitaulu LammonTarve(double q, double lampotila) const;
-  double LammonTarvePerKuukausi(double q, int kuukausi) const;
+  Kuukausitaulu LammonTarve(double q, Lammitystarveluku S) const;
+  /// The same to the temperature of a space, °C, in all periods.
+  Kuukausitaulu LammonTarveTilaan(double q, double Tsisa, Lammitystarveluku S) const;
+  double LammonTarvePerKuukausi(double q, int kuukausi, Lammitystarveluku S) const;
   /// By month: heat recovered from exhaust air of Tp °C at a temperature efficiency of LtoHyoty %; 0 up to 0.001 % and
   /// where the sum isn't positive.
-  Kuukausitaulu LtoEnergia(double q, double Tp, double LtoHyoty) const;
-  double LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty) const;
+  Kuukausitaulu LtoEnergia(double q, double Tp, double LtoHyoty, Lammitystarveluku S) const;
+  double LtoEnergiaPerKuukausi(double q, int kuukausi, double Tp, double LtoHyoty, Lammitystarveluku S) const;
   /// Electricity of one fan.
   double PuhallinSahkoPerKuukausi(PuhaltimenTeho& puhallin, int kuukausi) const;
   /// Running hours of the periods whose flow is from `ala` to `yla` %, entered by `syottotapa`.

@@ -23,19 +23,19 @@ constexpr Jasen kJasenet[] = {
                                                                             Suure("kW").Rajat(0).Tavallisesti(0, 100)),
     Arvo<&Kulutus::Teho11Prosentti>("Teho11Prosentti", Suure("%").Rajat(30, 100)),
     Arvo<&Kulutus::OsaTehoProsentti>("OsaTehoProsentti", Suure("%").Rajat(30, 100)),
-    Arvo<&Kulutus::TuloIlmavirta11Teho>("TuloIlmavirta11Teho", "m³/s"),
-    Arvo<&Kulutus::PoistoIlmavirta11Teho>("PoistoIlmavirta11Teho", "m³/s"),
+    Kopio<&Kulutus::TuloIlmavirta11Teho>("TuloIlmavirta11Teho", "m³/s"),
+    Kopio<&Kulutus::PoistoIlmavirta11Teho>("PoistoIlmavirta11Teho", "m³/s"),
     Arvo<&Kulutus::Teho11TiedonLaatuIDTulo>("Teho11TiedonLaatuIDTulo"),
     Arvo<&Kulutus::Teho11TiedonLaatuIDPoisto>("Teho11TiedonLaatuIDPoisto"),
     Arvo<&Kulutus::OsaTehoTiedonLaatuIDTulo>("OsaTehoTiedonLaatuIDTulo"),
     Arvo<&Kulutus::OsaTehoTiedonLaatuIDPoisto>("OsaTehoTiedonLaatuIDPoisto"),
-    Arvo<&Kulutus::VakioPaineOsuusID>("VakioPaineOsuusID"),
-    Arvo<&Kulutus::PuhaltimenVoimansiirtoTapaID>("PuhaltimenVoimansiirtoTapaID"),
-    Arvo<&Kulutus::PuhaltimenSaatotapaID>("PuhaltimenSaatotapaID"),
-    Arvo<&Kulutus::JarjestelmaTyyppiID>("JarjestelmaTyyppiID"),
-    Arvo<&Kulutus::IVPeriaateID>("IVPeriaateID"),
-    Arvo<&Kulutus::PuhaltimenSaatotapa>("PuhaltimenSaatotapa"),
-    Arvo<&Kulutus::KoneenTunnus>("KoneenTunnus"),
+    Kopio<&Kulutus::VakioPaineOsuusID>("VakioPaineOsuusID"),
+    Kopio<&Kulutus::PuhaltimenVoimansiirtoTapaID>("PuhaltimenVoimansiirtoTapaID"),
+    Kopio<&Kulutus::PuhaltimenSaatotapaID>("PuhaltimenSaatotapaID"),
+    Kopio<&Kulutus::JarjestelmaTyyppiID>("JarjestelmaTyyppiID"),
+    Kopio<&Kulutus::IVPeriaateID>("IVPeriaateID"),
+    Kopio<&Kulutus::PuhaltimenSaatotapa>("PuhaltimenSaatotapa"),
+    Kopio<&Kulutus::KoneenTunnus>("KoneenTunnus"),
     Lapsi<&Kulutus::TuloPuhParam>("TuloPuhParam"),
     Lapsi<&Kulutus::PoistoPuhParam>("PoistoPuhParam"),
 };
@@ -66,14 +66,14 @@ bool clsPuhaltimenSahkonKulutus::OnTulopuhallin() const noexcept { return IVPeri
 
 bool clsPuhaltimenSahkonKulutus::OnPoistopuhallin() const noexcept { return IVPeriaateID != clsIVKone::Tuloilmakone; }
 
-PuhaltimenTeho clsPuhaltimenSahkonKulutus::Puhallin(double taysteho) const {
+PuhaltimenTeho clsPuhaltimenSahkonKulutus::Puhallin(double taysteho, const Valinnat& koneen) const {
   clsMivSaato saato;
-  saato.IlmavirranSaatotapa = PuhaltimenSaatotapaID;
-  saato.VoimansiirtoID = PuhaltimenVoimansiirtoTapaID;
-  saato.PaineenKorotuksenVakioOsuus = VakioPaineOsuusID * kOsuudenAskel;
+  saato.IlmavirranSaatotapa = koneen.saatotapa;
+  saato.VoimansiirtoID = koneen.voimansiirto;
+  saato.PaineenKorotuksenVakioOsuus = koneen.vakiopaine * kOsuudenAskel;
   saato.IlmavirtaPros = Teho11Prosentti;
   saato.P1 = taysteho;
-  return {JarjestelmaTyyppiID, saato};
+  return {koneen.jarjestelma, saato};
 }
 
 double clsPuhaltimenSahkonKulutus::TuloSahkoOminaisteho() const try {

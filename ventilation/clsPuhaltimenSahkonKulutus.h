@@ -3,7 +3,8 @@
 #include "ventilation/PuhaltimenTeho.h"
 #include "ventilation/clsPuhallinSahkoLaskParametrit.h"
 
-/// Electric powers of a machine's two fans. Flows, choices and name are copies that the machine keeps up to date.
+/// Electric powers of a machine's two fans. Flows, choices and name are copies of the machine's, written when its
+/// dialog is accepted and when the object is saved; a calculation of the machine gives its own and doesn't read them.
 /// Errors: 9999 with the method's literal.
 class clsPuhaltimenSahkonKulutus : public Malli<clsPuhaltimenSahkonKulutus> {
  public:
@@ -41,9 +42,16 @@ class clsPuhaltimenSahkonKulutus : public Malli<clsPuhaltimenSahkonKulutus> {
   double TallennettuTuloSahkoOsaTeho() const noexcept { return tuloSahkoOsaTeho_; }
   double TallennettuPoistoSahkoOsaTeho() const noexcept { return poistoSahkoOsaTeho_; }
 
+  /// The machine's choices on which the power of its fans depends.
+  struct Valinnat {
+    std::int32_t jarjestelma, saatotapa, voimansiirto, vakiopaine;
+  };
   /// The fans' power at any flow.
-  PuhaltimenTeho Tulopuhallin() const { return Puhallin(TuloSahkoTeho11); }
-  PuhaltimenTeho Poistopuhallin() const { return Puhallin(PoistoSahkoTeho11); }
+  PuhaltimenTeho Tulopuhallin(const Valinnat& koneen) const { return Puhallin(TuloSahkoTeho11, koneen); }
+  PuhaltimenTeho Poistopuhallin(const Valinnat& koneen) const { return Puhallin(PoistoSahkoTeho11, koneen); }
+  /// The same with the copies.
+  PuhaltimenTeho Tulopuhallin() const { return Tulopuhallin(Kopioidut()); }
+  PuhaltimenTeho Poistopuhallin() const { return Poistopuhallin(Kopioidut()); }
 
   bool OnTulopuhallin() const noexcept;
   bool OnPoistopuhallin() const noexcept;
@@ -53,7 +61,10 @@ class clsPuhaltimenSahkonKulutus : public Malli<clsPuhaltimenSahkonKulutus> {
   bool NaytaKayttoliittyma();
 
  private:
-  PuhaltimenTeho Puhallin(double taysteho) const;
+  Valinnat Kopioidut() const noexcept {
+    return {JarjestelmaTyyppiID, PuhaltimenSaatotapaID, PuhaltimenVoimansiirtoTapaID, VakioPaineOsuusID};
+  }
+  PuhaltimenTeho Puhallin(double taysteho, const Valinnat& koneen) const;
 
   double tuloSahkoOsaTeho_ = 0, poistoSahkoOsaTeho_ = 0;
 };

@@ -7,7 +7,9 @@
 #include <sstream>
 
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Luvut.h"
 #include "kernel/Tekstitiedosto.h"
@@ -15,6 +17,7 @@
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Tekstivarasto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

@@ -6,8 +6,12 @@
 #include <filesystem>
 
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
+#include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
 #include "kernel/Hakemistot.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace fs = std::filesystem;
 

@@ -4,10 +4,15 @@
 #include <fstream>
 #include <sstream>
 
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
 #include "kernel/Hakemistot.h"
 #include "ventilation/LammitysTaulukko.h"
 #include "ventilation/Ulkolampotilat.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace mittaus {
 

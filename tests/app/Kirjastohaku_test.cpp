@@ -8,7 +8,10 @@
 #include <QTimer>
 
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "tests/app/Koekoti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "ui/Lomake.h"

@@ -12,7 +12,9 @@
 #include "app/Valikkotaulu.h"
 #include "app/frmMain.h"
 #include "building/Kuukausitase.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "tests/app/Koekoti.h"
 #include "tests/qt/Ikkunatesti.h"
@@ -20,6 +22,7 @@
 #include "tests/tuki/Lahdekoodi.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

@@ -23,6 +23,8 @@
 
 #include "app/Ohjelma.h"
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
+#include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "settings/Asetusavaimet.h"
 #include "tests/app/Koekoti.h"

@@ -9,12 +9,14 @@
 
 #include "batch/Rinnakkain.h"
 #include "batch/Tulokset.h"
+#include "building/clsTilat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Tietokanta.h"
 #include "kernel/Versio.h"
 #include "tekstit/tulokset.h"
 #include "tekstit/viestit.h"
 #include "tests/batch/Malliauditoinnit.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

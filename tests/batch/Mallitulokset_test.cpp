@@ -9,6 +9,7 @@
 #include "bench/vertailu/Mallirakennus.h"
 #include "bench/vertailu/Vertailulaskenta.h"
 #include "building/Tasehaarukka.h"
+#include "building/clsPerustiedot.h"
 #include "kernel/Luvut.h"
 #include "kernel/Sha256.h"
 #include "kernel/Tulos.h"

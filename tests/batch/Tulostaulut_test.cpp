@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <set>
 
+#include "building/clsTilat.h"
 #include "kernel/Tulos.h"
 #include "tests/batch/Malliauditoinnit.h"
 

@@ -2,7 +2,11 @@
 // The first model that is generated from the basic data.
 #include <cmath>
 
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
 #include "tests/building/Koerakennus.h"
 
 namespace {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Structures and materials picked from the library into the dialogs; a stand-in answers in the server's place.
+#include "measures/clsSaastotoimenpiteet.h"
 #include "tests/building/Koerakennus.h"
 #include "tests/tuki/Koerakennekirjasto.h"
 

@@ -5,8 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "building/Yhteiset.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
+#include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tests/tuki/Koeviestit.h"
 #include "tests/tuki/Lahdekoodi.h"

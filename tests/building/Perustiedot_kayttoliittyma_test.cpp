@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The basic-data dialog and the heat summary, driven as a person would, without a screen.
 #include "kernel/Luvut.h"
+#include "settings/clsProjektiAsetukset.h"
 #include "tests/building/Koerakennus.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/frmLampoYhteenveto.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The dialogs of structures and layers, driven as a person would, without a screen.
 #include "kernel/Luvut.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "tests/building/Koerakennus.h"
 #include "ui/Kenttatarkistus.h"
 

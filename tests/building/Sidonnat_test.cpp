@@ -6,9 +6,12 @@
 #include "building/Kerrosmuokkaus.h"
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "settings/clsKatselmoijienTiedot.h"
 #include "tests/building/Koerakennus.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/Sidonta.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "kernel/Tietokanta.h"
 #include "kernel/Vertailu.h"
 #include "kernel/Virhe.h"
+#include "settings/clsProjektiAsetukset.h"
 #include "tests/building/Koerakennus.h"
 #include "tests/kernel/Koehakemisto.h"
 

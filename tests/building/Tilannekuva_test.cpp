@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The picture of the whole object, the change notice, and the register behind them.
 #include "kernel/Kokoelma.h"
+#include "settings/clsProjektiAsetukset.h"
 #include "tests/building/Koerakennus.h"
 
 namespace {

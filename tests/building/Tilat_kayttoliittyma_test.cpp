@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of spaces and the dialog of a space, driven as a person would, without a screen.
 #include "kernel/Luvut.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "tests/building/Koerakennus.h"
 #include "ui/Kenttatarkistus.h"
+#include "ventilation/clsIVKoneet.h"
 
 namespace {
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "building/Tasehaarukka.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Vertailu.h"
 #include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "supply/clsSahkoTariffienVertailu.h"
 #include "tests/building/Koerakennus.h"
 
 namespace {

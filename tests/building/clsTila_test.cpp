@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "building/Tasehaarukka.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
 #include "tests/building/Koerakennus.h"
 #include "tests/tuki/Arpa.h"
 
@@ -58,6 +60,24 @@ TEST_F(clsTilaTesti, YearlyDemandAloneIsScaledToTheLocality) {
   rakennus->Saa.NormVuodenLammTarveLuku = 0;
   EXPECT_EQ(tila.VuotuinenLampoEnergianTarve(), 0);
   EXPECT_EQ(viestit.Naytetyt().size(), 1u) << "error 1044";
+}
+
+TEST_F(clsTilaTesti, WithoutDegreeDaysOnlyTheDemandIsZero) {
+  clsTila& tila = LisaaTila(1000);
+  LisaaRakenne(tila, Rakennelaji::Ulkoseina, 100, 0.3);
+  LisaaIkkuna(tila, 10, kEtela);
+  tila.TilanHenkilomaara = 20;
+  const auto luvut = [&] {
+    const Tasehaarukka haarukka(*rakennus);
+    return std::vector{tila.VuotuisetJohtumisHaviot(), tila.VuotuinenAurinkoKuorma(), tila.VuotuisetSaatohaviot(),
+                       rakennus->VuotuisetLampoHaviot(), rakennus->VuotuisetHyodynnetytLampoKuormat()};
+  };
+  const std::vector<double> oikeat = luvut();
+  for (const double puuttuva : {0.0, -100.0}) {
+    rakennus->Saa.NormVuodenLammTarveLuku = puuttuva;
+    EXPECT_EQ(luvut(), oikeat);
+    EXPECT_EQ(rakennus->VuotuinenLampoEnergianTarveTilat(), 0);
+  }
 }
 
 TEST_F(clsTilaTesti, ControlLossesAreTheUnsavedShareOfUtilisedGains) {

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "building/clsRakennus.h"
+#include "building/clsTilat.h"
 #include "kernel/Projektitiedosto.h"
 #include "tests/tuki/Koepuu.h"
 

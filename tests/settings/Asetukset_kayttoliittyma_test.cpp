@@ -4,6 +4,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
 #include "settings/Asetusavaimet.h"
+#include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tests/measures/Asetuskansio.h"
 #include "tests/tuki/Koeviestit.h"

@@ -2,6 +2,7 @@
 // The list of machines, the dialog of a machine and the calculator of heat recovery, driven as a person would, without
 // a screen.
 #include "kernel/Luvut.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "tests/tuki/Lahdekoodi.h"
 #include "tests/ventilation/Koekone.h"
 #include "ui/Ikkunaton.h"

@@ -4,6 +4,7 @@
 #include "tests/building/Koerakennus.h"
 #include "ventilation/LammitysTaulukko.h"
 #include "ventilation/MivSovitteet.h"
+#include "ventilation/clsIVKoneet.h"
 #include "ventilation/clsVoimasiirto.h"
 
 struct Kaynti {

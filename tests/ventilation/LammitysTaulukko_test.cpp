@@ -3,6 +3,7 @@
 
 #include "tests/building/Koerakennus.h"
 #include "ventilation/Ulkolampotilat.h"
+#include "ventilation/clsKayntiAjat.h"
 
 namespace {
 

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measures/Muunnelma.h"
+
+#include <bit>
+
+#include <sstream>
+
+#include "building/Tasehaarukka.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
+#include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "tests/tuki/Arpa.h"
+#include "tests/ventilation/Koekone.h"
+
+namespace {
+
+/// Visits the object and all that it holds, of whatever class.
+template <class F>
+void Kierra(Olio& olio, F&& kay) {
+  kay(olio);
+  if (KokoelmaPohja* kokoelma = olio.Kokoelmana())
+    for (int i = 1; i <= kokoelma->Count(); ++i) Kierra(kokoelma->Pohja(i), kay);
+  if (KokoelmaPohja* rivit = olio.ListaItemeina())
+    for (int i = 1; i <= rivit->Count(); ++i) Kierra(rivit->Pohja(i), kay);
+  for (const Jasen& jasen : olio.LuokanTiedot().Jasenet())
+    if (Olio* lapsi = jasen.OnOlio() ? jasen.olio(olio) : nullptr) Kierra(*lapsi, kay);
+}
+
+/// Every field of the tree with all its bits, and where each object lies.
+std::string Kuva(Olio& juuri) {
+  std::ostringstream kuva;
+  Kierra(juuri, [&kuva](Olio& olio) {
+    kuva << &olio << ' ' << olio.InstanssiId.Teksti() << '\n';
+    for (const Jasen& jasen : olio.LuokanTiedot().Jasenet()) {
+      if (jasen.OnOlio()) continue;
+      std::visit(
+          [&kuva](const auto& arvo) {
+            using T = std::remove_cvref_t<decltype(arvo)>;
+            if constexpr (std::is_same_v<T, double>)
+              kuva << std::bit_cast<std::uint64_t>(arvo);
+            else if constexpr (std::is_same_v<T, float>)
+              kuva << std::bit_cast<std::uint32_t>(arvo);
+            else if constexpr (std::is_same_v<T, Kellonaika>)
+              kuva << arvo.minuutit;
+            else if constexpr (std::is_same_v<T, Tunniste>)
+              kuva << arvo.Teksti();
+            else
+              kuva << arvo;
+          },
+          jasen.ota(olio));
+      kuva << '\n';
+    }
+  });
+  return kuva.str();
+}
+
+/// Figures of the building and of each space and machine, by object; one that can't be computed is missing.
+class Luvut {
+ public:
+  explicit Luvut(clsRakennus& r) {
+    Ota(&r, [&] { return r.VuotuinenBruttoLampoEnergia(); });
+    Ota(&r, [&] { return r.VuotuinenBruttoSahkoEnergia(); });
+    Ota(&r, [&] { return r.VedenKulutusryhmat.VuotuinenVedenKulutus(); });
+    for (clsTila& tila : r.Tilat) {
+      Ota(&tila, [&] { return tila.VuotuinenLampoEnergianTarve(); });
+      Ota(&tila, [&] { return tila.VuotuisetSaatohaviot(); });
+      Ota(&tila, [&] { return tila.VuotuinenAurinkoKuorma(); });
+    }
+    for (clsIVKone& kone : r.IVKoneet) {
+      Ota(&kone, [&] { return kone.VuotuinenIVjalkilammitysLampo(); });
+      Ota(&kone, [&] { return kone.VuotuinenPuhallinSahko(); });
+    }
+  }
+  const std::vector<double>& Olion(const Olio* olio) const { return luvut_.at(olio); }
+  friend bool operator==(const Luvut&, const Luvut&) = default;
+
+ private:
+  template <class F>
+  void Ota(const Olio* olio, F&& laske) {
+    std::vector<double>& luvut = luvut_[olio];
+    try {
+      luvut.push_back(laske());
+    } catch (const Virhe&) {
+    }
+  }
+  std::map<const Olio*, std::vector<double>> luvut_;
+};
+
+class MuunnelmaTesti : public KoneTesti {
+ protected:
+  MuunnelmaTesti() {
+    LuoKoulu();
+    for (int i = 0; i < 2; ++i) LisaaRakenne(LisaaTila(900), Rakennelaji::Ulkoseina, 80, 0.4 + i);
+    for (const int tila : {1, 2, 2}) {
+      clsIVKone& kone = LisaaKone(rakennus->Tilat.Item(tila).sKey);
+      kone.LtoHyotysuhde = 40;
+      kone.PuhaltimienSahkonKulutus.TuloSahkoTeho11 = 3;
+      Kayta(kone, Toimistoajat());
+    }
+    for (const int tila : {0, 1, 2}) {
+      clsSahkonKulutusryhma& ryhma = rakennus->SahkonKulutusryhmat.Add("sKeyRyhma" + std::to_string(tila));
+      if (tila) ryhma.LiittyyTilaansKey = rakennus->Tilat.Item(tila).sKey;
+      ryhma.EnergiaHyodynnetaanLammityksessa = true;
+      ryhma.LaskentaperusteNumber = ryhma.LaskentayksikkoNumber = ryhma.KayttoaikaHpD = ryhma.KayttoaikaDpA = 20;
+    }
+    rakennus->Perustiedot.LammonHankinta.Energiamuodot.Add("sKeyMuoto").Hyotysuhde = 80;
+    rakennus->PaivitaInstanssiIdLista();
+  }
+
+  static clsMuuttunutAttribuutti& Lisaa(clsMuuttuneetAttribuutit& lista, const Olio& olio, std::string_view nimi,
+                                        Laji laji, double arvo, std::string teksti = {}) {
+    lista.Lisaa({nimi, olio.LuokanNimi(), laji, olio.InstanssiId, 0, arvo, {}, std::move(teksti)});
+    return lista.Item(lista.Count());
+  }
+};
+
+TEST_F(MuunnelmaTesti, WritesFieldsRawAndPutsThemBack) {
+  clsIVKone& kone = rakennus->IVKoneet.Item(1);
+  clsRakenne& seina = rakennus->Tilat.Item(1).Rakenteet.Item(1);
+  seina.LaskeU_arvoMateriaaleista = true;
+  kone.SisaanpuhallusLampotila(17);
+  kone.KayntiAikaYleistiedot.Item("1KokoVuosi").Tsp = 20;
+  clsMuuttuneetAttribuutit lista;
+  Lisaa(lista, kone, "SisaanpuhallusLampotila", Laji::Kaksinkertainen, 19);
+  Lisaa(lista, kone, "SisaanpuhallusLampotila", Laji::Kaksinkertainen, 22);
+  Lisaa(lista, seina, "U_arvo", Laji::Kaksinkertainen, 0.11);
+  Lisaa(lista, seina, "LaskeU_arvoMateriaaleista", Laji::Totuus, 0);
+  const std::string kuva = Kuva(*rakennus);
+  const double u = seina.U_arvo();
+  {
+    const Muunnelma muunnelma(*rakennus, lista);
+    EXPECT_TRUE(muunnelma.Ohitetut().empty());
+    EXPECT_EQ(kone.SisaanpuhallusLampotila(), 22);
+    EXPECT_EQ(kone.KayntiAikaYleistiedot.Item("1KokoVuosi").Tsp, 20) << "the periods have rows of their own";
+    EXPECT_EQ(seina.U_arvo(), 0.11);
+    EXPECT_TRUE(MalliVarattu());
+  }
+  EXPECT_FALSE(MalliVarattu());
+  EXPECT_EQ(seina.U_arvo(), u);
+  EXPECT_EQ(Kuva(*rakennus), kuva);
+  rakennus->LiitaSaastoToimenpide(lista);
+  EXPECT_EQ(kone.SisaanpuhallusLampotila(), 22) << "for good";
+  EXPECT_EQ(kone.KayntiAikaYleistiedot.Item("1KokoVuosi").Tsp, 20);
+}
+
+TEST_F(MuunnelmaTesti, PassesOverAndNamesWhatCantBeWritten) {
+  clsTila& tila = rakennus->Tilat.Item(1);
+  const Tunniste avain = tila.sKey;
+  clsMuuttuneetAttribuutit lista;
+  Lisaa(lista, tila, "Sisalampotila", Laji::Kaksinkertainen, 19);
+  Lisaa(lista, tila, "EiOle", Laji::Kaksinkertainen, 1);
+  Lisaa(lista, tila, "sKey", Laji::Teksti, 0, "sKeyUusi");
+  Lisaa(lista, tila, "InstanssiId", Laji::Teksti, 0, "clsTila 1");
+  Lisaa(lista, tila, "Rakenteet", Laji::Teksti, 0, "x");
+  Lisaa(lista, rakennus->SahkonKulutusryhmat.Item(1), "LaskentaperusteID", Laji::Lyhyt, 70000);
+  Lisaa(lista, rakennus->SahkonKulutusryhmat.Item(1), "LaskentaperusteID", Laji::Pitka, 70000);
+  Lisaa(lista, tila, "SaatotapaID", Laji::Pitka, 3e9);
+  Lisaa(lista, tila, "BruttoAla", Laji::Teksti, 0, "suuri");
+  Lisaa(lista, tila, "BruttoAla", static_cast<Laji>(13), 5);
+  Lisaa(lista, tila, "BruttoAla", Laji::Kaksinkertainen, 5).TietoTyyppi = 256 + 5;
+  Lisaa(lista, tila, "BruttoAla", Laji::Kaksinkertainen, 5).InstanssiId = "clsTila 2";
+  Lisaa(lista, tila, "Kokonaistilavuus", Laji::Kaksinkertainen, 700);
+  const std::string kuva = Kuva(*rakennus);
+  {
+    const Muunnelma muunnelma(*rakennus, lista);
+    EXPECT_EQ(muunnelma.Ohitetut().size(), 11u);
+    EXPECT_EQ(muunnelma.Ohitetut().front(), "clsTila.EiOle");
+    EXPECT_EQ(tila.Sisalampotila, 19) << "what stands before and behind them is written";
+    EXPECT_EQ(tila.Kokonaistilavuus, 700);
+    EXPECT_EQ(rakennus->Tilat.Etsi(avain), &tila);
+  }
+  EXPECT_EQ(Kuva(*rakennus), kuva);
+}
+
+TEST_F(MuunnelmaTesti, ListsLieOnEachOther) {
+  clsTila& tila = rakennus->Tilat.Item(1);
+  clsMuuttuneetAttribuutit alempi, ylempi;
+  Lisaa(alempi, tila, "Sisalampotila", Laji::Kaksinkertainen, 19);
+  Lisaa(alempi, tila, "Vuotoilmanvaihto", Laji::Kaksinkertainen, 0.05);
+  Lisaa(ylempi, tila, "Sisalampotila", Laji::Kaksinkertainen, 18);
+  const std::string kuva = Kuva(*rakennus);
+  const double alku = rakennus->VuotuinenLampoEnergianTarveTilat();
+  {
+    Muunnelma muunnelma(*rakennus, alempi);
+    const double yhden = rakennus->VuotuinenLampoEnergianTarveTilat();
+    muunnelma.Liita(ylempi);
+    const double molempien = rakennus->VuotuinenLampoEnergianTarveTilat();
+    EXPECT_LT(yhden, alku);
+    EXPECT_LT(molempien, yhden);
+  }
+  EXPECT_EQ(Kuva(*rakennus), kuva);
+  EXPECT_EQ(rakennus->VuotuinenLampoEnergianTarveTilat(), alku);
+}
+
+/// The law: whatever is varied, and whatever is read meanwhile, the building is then what it was; and the figures of
+/// the spaces and machines that a variation doesn't name are the same under it.
+TEST_F(MuunnelmaTesti, RandomVariationsLeaveNoTrace) {
+  Arpa arpa;
+  std::vector<Olio*> oliot;
+  Kierra(*rakennus, [&](Olio& olio) {
+    if (rakennus->HaeInstanssi(olio.LuokanNimi(), olio.InstanssiId).olio == &olio) oliot.push_back(&olio);
+  });
+  const auto arvottu = [&arpa]() -> double {
+    constexpr double kArvot[] = {0, 1, -1, 2, 4, 0.5, 1e-9, 16, 21, 35, 60, 100, 400, 32767, 40000, 1e12, -3e9, 1e300};
+    return kArvot[arpa() % std::size(kArvot)];
+  };
+  const std::string kuva = Kuva(*rakennus);
+  const Luvut alku(*rakennus);
+  int kirjoitettuja = 0, ennallaan = 0;
+  for (int kierros = 0; kierros < 300; ++kierros) {
+    clsMuuttuneetAttribuutit lista;
+    const int maara = 1 + static_cast<int>(arpa() % 4);
+    for (int i = 0; i < maara; ++i) {
+      const Olio& olio = *oliot[arpa() % oliot.size()];
+      const auto jasenet = olio.LuokanTiedot().Jasenet();
+      const Jasen& jasen = jasenet[arpa() % jasenet.size()];
+      const std::string teksti =
+          arpa() % 2 ? rakennus->Tilat.Item(1 + static_cast<int>(arpa() % 3)).sKey.Teksti() : "åäö \"1,5\"";
+      Lisaa(lista, olio, jasen.nimi, jasen.OnOlio() ? Laji::Kaksinkertainen : jasen.laji, arvottu(), teksti);
+    }
+    {
+      const Muunnelma muunnelma(*rakennus, lista);
+      kirjoitettuja += lista.Count() - static_cast<int>(muunnelma.Ohitetut().size());
+      const std::string alla = Kuva(*rakennus);
+      const Luvut nyt(*rakennus);
+      EXPECT_EQ(Kuva(*rakennus), alla) << "reading writes nothing";
+      const auto tilat = muunnelma.Tilat();
+      const auto koneet = muunnelma.Koneet();
+      for (clsTila& tila : rakennus->Tilat)
+        if (std::ranges::find(tilat, &tila) == tilat.end()) {
+          EXPECT_EQ(nyt.Olion(&tila), alku.Olion(&tila));
+          ++ennallaan;
+        }
+      for (clsIVKone& kone : rakennus->IVKoneet)
+        if (std::ranges::find(koneet, &kone) == koneet.end()) {
+          EXPECT_EQ(nyt.Olion(&kone), alku.Olion(&kone));
+          ++ennallaan;
+        }
+    }
+    ASSERT_EQ(Kuva(*rakennus), kuva) << "round " << kierros;
+    ASSERT_TRUE(Luvut(*rakennus) == alku) << "round " << kierros;
+  }
+  EXPECT_GT(kirjoitettuja, 300);
+  EXPECT_GT(ennallaan, 300);
+}
+
+}  // namespace
