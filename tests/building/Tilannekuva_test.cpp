@@ -63,13 +63,13 @@ TEST_F(TilannekuvaTesti, EveryPartOfTheObjectButItsFileComesBack) {
 
 TEST_F(TilannekuvaTesti, TheRegisterFollowsWhatComesAndGoes) {
   LuoKoulu();
-  const auto loytyy = [&](const Tunniste& id) { return rakennus->HaeInstanssi("clsTila", id); };
+  const auto loytyy = [&](const Tunniste& id) { return rakennus->HaeInstanssi("clsTila", id).olio; };
   clsTila& uusi = rakennus->Tilat.Add("uusi");
   const Tunniste id = uusi.InstanssiId;
   rakennus->Muuttui("Tilan lisäys");
   EXPECT_EQ(loytyy(id), &uusi);
   const auto kuva = rakennus->Tilannekuva();
-  EXPECT_EQ(kuva->HaeInstanssi("clsTila", id), &kuva->Tilat.Item("uusi")) << "a register of its own";
+  EXPECT_EQ(kuva->HaeInstanssi("clsTila", id).olio, &kuva->Tilat.Item("uusi")) << "a register of its own";
   rakennus->Tilat.Remove("uusi");
   rakennus->RekisteriVanheni();
   EXPECT_EQ(loytyy(id), nullptr);
