@@ -3,6 +3,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -33,7 +34,10 @@ void Dialogikehys::Mahduta(const QSize& naytto) {
   const int reuna = 2 * style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
   const QSize kehys(reuna, reuna + style()->pixelMetric(QStyle::PM_TitleBarHeight));
   ensurePolished();
-  resize(Mahtuva(sizeHint(), naytto - kehys));
+  const auto* alue = findChild<QScrollArea*>(QStringLiteral("qt_vieritysalue"));
+  const QSize vierittamatta = sizeHint() - alue->sizeHint() + alue->widget()->minimumSizeHint();
+  const QSize koko = sizeHint().boundedTo(naytto * 2 / 3).expandedTo(vierittamatta);
+  resize(Mahtuva(koko, naytto - kehys));
 }
 
 void Dialogikehys::reject() { lomake_.KayttajaPeruuttaa(); }

@@ -10,7 +10,8 @@ class Lomakeikkuna;
 class Dialogikehys : public QDialog {
  public:
   Dialogikehys(Lomakeikkuna& lomake, QWidget* sisalto, QWidget* vanhempi);
-  /// Takes the size of its contents, but no more than a screen of this size has room for.
+  /// Takes the size that its contents ask for, but no more than two thirds of a screen of this size, unless they need
+  /// more; and never more than the screen has.
   void Mahduta(const QSize& naytto);
   void reject() override;
 
