@@ -3,7 +3,7 @@
 """Makes the guide's page of quantities: rakenna_suureet.py LUMIVIRTA-SUUREET TEXTS FORMS PAGE.md.
 
 The program tells the tables of members and results; a member's Finnish name is the label of its field, by the form's
-label whose buddy is the field that bears the member's name. A field whose limits (",N,lower,upper" of its Tag) aren't
+label whose buddy is the field that bears the member's name. A field whose limits (",N,lower,upper,unusual" of its Tag) aren't
 those of its member stops the build: a range stands in one place, and the forms follow it.
 """
 import collections
@@ -71,7 +71,7 @@ def kenttien_rajat(lomake):
     rajat = {}
     for osa in xml.parse(lomake).iter("widget") if lomake.is_file() else []:
         for p in osa.findall("property"):
-            if p.get("name") == "Tag" and (m := re.match(r"\d*,N,([^,]*),?([^,]*)$", "".join(p.itertext()).strip())):
+            if p.get("name") == "Tag" and (m := re.match(r"\d*,N,([^,]*),?([^,]*)(?:,[^,]*)?$", "".join(p.itertext()).strip())):
                 rajat[osa.get("name").removeprefix("txt")] = tuple(r.replace(".", ",") for r in m.groups())
     return rajat
 
