@@ -2,6 +2,7 @@
 #include "ui/Komento.h"
 
 #include <exception>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -45,11 +46,16 @@ std::string AktiivisenOtsikko() {
 void SuoritaVartioituna(const std::function<void()>& komento) {
   const std::string paneeli = ViestitNyt().Paneeli();
   const std::string ikkuna = AktiivisenOtsikko();
+  const auto kerro = [&](const std::exception& virhe) {
+    ViestitNyt().AsetaPaneeli(paneeli);
+    ViestitNyt().Nayta(Virheviesti(virhe, ikkuna));
+  };
   try {
     komento();
   } catch (const std::exception& virhe) {
-    ViestitNyt().AsetaPaneeli(paneeli);
-    ViestitNyt().Nayta(Virheviesti(virhe, ikkuna));
+    kerro(virhe);
+  } catch (...) {
+    kerro(std::runtime_error("tuntematon virhe"));
   }
 }
 
