@@ -20,8 +20,8 @@ struct Muokkaustoimet {
   std::function<void()> voimaan{};
   /// The object's own event for those who listen to it, also outside the living building.
   std::function<void()> tapahtuma{};
-  /// After an error: the object is as it was at opening, and the dialog, still open, shows it anew. Left out, the fields
-  /// keep what the person has written.
+  /// After an error: the object is as it was at opening, and the dialog, still open, shows it anew. Left out, the
+  /// fields keep what the person has written.
   std::function<void()> virheenJalkeen{};
   /// After Cancel has restored the object.
   std::function<void()> peruttu{};

@@ -50,7 +50,7 @@ std::string PikanappaintenTaulu() {
   return taulu + "\n";
 }
 
-TEST(Opas, PikanappaimetOvatValikonNappaimia) {
+TEST(Opas, ShortcutsAreTheMenusKeys) {
   const Koekoti koti;
   EXPECT_NE(OppaanSivu("nappaimet.md").find(PikanappaintenTaulu()), std::string::npos) << PikanappaintenTaulu();
 }
@@ -96,7 +96,7 @@ class OppaanEsimerkki : public ::testing::Test {
   std::unique_ptr<frmMain> ikkuna_;
 };
 
-TEST_F(OppaanEsimerkki, PerustiedotJaVakioOsuus) {
+TEST_F(OppaanEsimerkki, BasicDataAndConstantShare) {
   KunAuki("cmdPeruuta", [](Lomake& perustiedot) {
     EXPECT_NE(OppaanSivu("tyonkulku.md").find(perustiedot.Etsi("txtLampo1").Teksti()), std::string::npos);
     KunAuki("cmdPeruuta");
@@ -105,7 +105,7 @@ TEST_F(OppaanEsimerkki, PerustiedotJaVakioOsuus) {
   EXPECT_TRUE(rakennus().Perustiedot.NaytaKayttoliityma());
 }
 
-TEST_F(OppaanEsimerkki, LampoyhteenvedonLuvutOvatOppaanLukuja) {
+TEST_F(OppaanEsimerkki, FiguresOfTheHeatSummaryAreTheGuides) {
   rakennus().NaytaLampoYhteenvetoDlg();
   ikkuna_->PaivitaValikot();
   QApplication::processEvents();
@@ -125,7 +125,7 @@ TEST_F(OppaanEsimerkki, LampoyhteenvedonLuvutOvatOppaanLukuja) {
   }
 }
 
-TEST_F(OppaanEsimerkki, RakenteetJaKerros) {
+TEST_F(OppaanEsimerkki, StructuresAndALayer) {
   KunAuki("cmdPeruuta", [](Lomake& rakenteet) {
     rakenteet.Etsi("tabRakenne").Indeksi(1);
     QApplication::processEvents();
@@ -138,7 +138,7 @@ TEST_F(OppaanEsimerkki, RakenteetJaKerros) {
   EXPECT_FALSE(tila().Rakenteet.NaytaKayttoliityma(tila().TilanNimi, tila().Sisalampotila));
 }
 
-TEST_F(OppaanEsimerkki, Tilat) {
+TEST_F(OppaanEsimerkki, Spaces) {
   AsetaQtLomakkeet(nullptr);  // a window of its own has the room that it needs
   rakennus().Tilat.NaytaKayttoliittyma();
   QApplication::processEvents();
@@ -147,7 +147,7 @@ TEST_F(OppaanEsimerkki, Tilat) {
   EXPECT_FALSE(tila().NaytaKayttoliittyma());
 }
 
-TEST_F(OppaanEsimerkki, KoneKayntiajatJaPuhaltimet) {
+TEST_F(OppaanEsimerkki, MachineSchedulesAndFans) {
   AsetaQtLomakkeet(nullptr);
   rakennus().IVKoneet.NaytaKayttoliittyma();
   QApplication::processEvents();
@@ -164,7 +164,7 @@ TEST_F(OppaanEsimerkki, KoneKayntiajatJaPuhaltimet) {
   EXPECT_EQ(kone.Sahko(), sahko);
 }
 
-TEST_F(OppaanEsimerkki, KuukausitaseenLuvutOvatOppaanLukuja) {
+TEST_F(OppaanEsimerkki, FiguresOfTheMonthlyBalanceAreTheGuides) {
   KunAuki("cmdSulje");
   NaytaKuukausitase(rakennus());
   const Kuukausitase tase = LaskeKuukausitase(rakennus());

@@ -54,7 +54,7 @@ class KohdelaskentaTesti : public MalliauditointiTesti {
   Koehakemisto hakemisto_;
 };
 
-TEST_F(KohdelaskentaTesti, UudemmanOhjelmanTiedostoJaPuuttuvaTiedostoTorjutaan) {
+TEST_F(KohdelaskentaTesti, ANewerProgramsFileAndAMissingFileAreRefused) {
   const std::string uudempi = Muutettu("UPDATE clsRakennus SET Major = " + std::to_string(kVersioMajor + 1));
   for (const Tulostusmuoto muoto : {Tulostusmuoto::Yhteenveto, Tulostusmuoto::Json})
     for (const std::string& tiedosto : {uudempi, std::string("puuttuu.lvt")}) {
@@ -70,7 +70,7 @@ TEST_F(KohdelaskentaTesti, UudemmanOhjelmanTiedostoJaPuuttuvaTiedostoTorjutaan) 
 }
 
 /// A user whose data directory is missing or can't be filled has the files of the package.
-TEST_F(KohdelaskentaTesti, IlmanTietokansiotaLuetaanAsennetutTiedostot) {
+TEST_F(KohdelaskentaTesti, WithoutADataDirectoryTheInstalledFilesAreRead) {
   const std::string kohde = "'" + Tiedostot().front().string() + "'";
   const Ajo tavallinen = Aja(kohde);
   const Ymparistomuuttuja koti("LUMIVIRTA_KOTI", "/ei/ole");
@@ -93,7 +93,7 @@ TEST_F(KohdelaskentaTesti, PuuttuvaTulosOnVirhe) {
   EXPECT_TRUE(ajo.tuloste.starts_with("[\n  {\n") && ajo.tuloste.ends_with("\n  }\n]\n"));
 }
 
-TEST_F(KohdelaskentaTesti, VirheellinenMerkkiKorvataanJaKerrotaan) {
+TEST_F(KohdelaskentaTesti, AnInvalidCharacterIsReplacedAndTold) {
   const std::string json =
       LaskeKohde(Muutettu("UPDATE clsTila SET TilanNimi = CAST(x'4BE4790A61C3B6EDA08080' AS TEXT)"),
                  Tulostusmuoto::Json, 0)
@@ -116,7 +116,7 @@ std::vector<std::string> Luvut(const std::string& yhteenveto, const std::string&
   return luvut;
 }
 
-TEST_F(KohdelaskentaTesti, YhteenvedonSarakeTasmaaJaSuuretLuvutPysyvatErillaan) {
+TEST_F(KohdelaskentaTesti, TheSummarysColumnAddsUpAndLargeNumbersStayApart) {
   // 0.004 and the sums of the machines would give a hundredth more than what is seen
   const std::string tiedosto = Muutettu("UPDATE clsRakennus SET MuuLampo = 12345678.004");
   const std::string yhteenveto = LaskeKohde(tiedosto, Tulostusmuoto::Yhteenveto, 0).tulos;
@@ -132,7 +132,7 @@ TEST_F(KohdelaskentaTesti, YhteenvedonSarakeTasmaaJaSuuretLuvutPysyvatErillaan) 
   EXPECT_EQ(Luvut(yhteenveto, "Mitattu − laskettu")[0], Muotoile(mitattu - yhteensa, "### ##0.00"));
 }
 
-TEST_F(KohdelaskentaTesti, SamatHuomautuksetOvatYksiRiviJokaKertooKohteet) {
+TEST_F(KohdelaskentaTesti, EqualNoticesAreOneLineThatTellsTheirObjects) {
   const std::string tiedosto = Muutettu(
       "UPDATE clsIVKone SET SisaanpuhallusLampotila = 5; UPDATE clsKayntiAika SET Tsp = 5, TuloIlmavirtaProsentti = "
       "100");
@@ -142,7 +142,7 @@ TEST_F(KohdelaskentaTesti, SamatHuomautuksetOvatYksiRiviJokaKertooKohteet) {
   EXPECT_TRUE(Sisaltaa(viestit, "kertaa")) << viestit;
 }
 
-TEST_F(KohdelaskentaTesti, TiedostotLasketaanRinnakkainJarjestyksessa) {
+TEST_F(KohdelaskentaTesti, FilesAreComputedInParallelAndToldInOrder) {
   std::string sanat;
   for (const fs::path& tiedosto : Tiedostot()) sanat += " '" + tiedosto.string() + "'";
   const Ajo yksin = Aja("--json --rinnakkain=1" + sanat), monta = Aja("--json --rinnakkain=4" + sanat + sanat);
@@ -152,7 +152,7 @@ TEST_F(KohdelaskentaTesti, TiedostotLasketaanRinnakkainJarjestyksessa) {
   EXPECT_TRUE(monta.tuloste == "[" + oliot + "," + oliot + "\n]\n") << "the same to the last digit";
 }
 
-TEST_F(KohdelaskentaTesti, VirheellinenKomentoKertooKaytosta) {
+TEST_F(KohdelaskentaTesti, AFaultyCommandTellsTheUsage) {
   for (const char* sanat : {"", "--xml a.lvt", "--rinnakkain=0 a.lvt", "--rinnakkain=2x a.lvt"}) {
     const Ajo ajo = Aja(sanat);
     EXPECT_EQ(ajo.paluuarvo, 2) << sanat;

@@ -42,7 +42,7 @@ struct Talletetut {
 
 using MallituloksetTesti = MalliauditointiTesti;
 
-TEST_F(MallituloksetTesti, TulosMuuttuuVainSyystaJokaOnKirjattu) {
+TEST_F(MallituloksetTesti, AResultChangesOnlyForAReasonWrittenDown) {
   const Talletetut talletetut;
   EXPECT_EQ(talletetut.kohteet.size(), 11u) << "ten buildings and the heading";
   // "# date sum reason": the sum is that of the rows, so that they change only by the tool, which asks for the reason.
@@ -77,7 +77,7 @@ void VertaaRiippumattomaan(clsRakennus& rakennus, const std::string& nimi) {
   vertaa("VuotuinenIVjalkilammitysLampo", toinen.jalkilammitys);
 }
 
-TEST_F(MallituloksetTesti, RiippumatonLaskentaSaaSamatLuvut) {
+TEST_F(MallituloksetTesti, TheIndependentCalculationGetsTheSameFigures) {
   for (const fs::path& tiedosto : Tiedostot()) VertaaRiippumattomaan(*Avaa(tiedosto), tiedosto.stem().string());
   // every kind of structure, schedule, machine and heat supply
   const auto rakennus = mittaus::TeeMallirakennus(12, 30);
@@ -92,7 +92,7 @@ void OppaassaOn(const std::string& sivu, double mwh, const char* kuvio) {
   EXPECT_NE(teksti.find(Muotoile(mwh, kuvio)), std::string::npos) << sivu << ": " << Muotoile(mwh, kuvio);
 }
 
-TEST_F(MallituloksetTesti, OppaanEsimerkinLuvutOvatMalliauditoinninLuvut) {
+TEST_F(MallituloksetTesti, TheGuidesExampleHasTheSampleAuditsFigures) {
   const auto rakennus = Avaa(Tiedostot().front());
   const auto tarkista = [&] {
     const double tilat = rakennus->VuotuinenLampoEnergianTarveTilat();

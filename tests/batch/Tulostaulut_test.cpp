@@ -9,7 +9,7 @@ namespace {
 
 using TulostaulutTesti = MalliauditointiTesti;
 
-TEST_F(TulostaulutTesti, JokaisellaLuvullaOnNimiJaOmaAvain) {
+TEST_F(TulostaulutTesti, EveryFigureHasANameAndItsOwnKey) {
   int lukuja = 0;
   for (const Luokka* luokka : Luokka::Kaikki()) {
     std::set<std::string_view> avaimet;

@@ -32,7 +32,7 @@ class LammitysSahko : public Asetuskansio {
   const clsSahkonKulutusryhmat& ryhmat_ = rakennus_.SahkonKulutusryhmat;
 };
 
-TEST_F(LammitysSahko, SisaltaaSahkolammitetynTilanTarpeenJaSaatohaviot) {
+TEST_F(LammitysSahko, HoldsTheDemandAndControlLossesOfAnElectricallyHeatedSpace) {
   clsTila& tila = rakennus_.Tilat.Item("a");
   const double tilanSahko = tila.VuotuinenLampoEnergianTarve() + tila.VuotuisetSaatohaviot();
   EXPECT_GT(tilanSahko, 0);
@@ -41,7 +41,7 @@ TEST_F(LammitysSahko, SisaltaaSahkolammitetynTilanTarpeenJaSaatohaviot) {
   EXPECT_EQ(ryhmat_.LammitysSahkonVuosikulutus(), 0);
 }
 
-TEST_F(LammitysSahko, SahkollaLammitettyKayttovesiSiirtyySahkoonKiertoineen) {
+TEST_F(LammitysSahko, ElectricallyHeatedTapWaterMovesToElectricityWithItsLoop) {
   rakennus_.Tilat.Item("a").Sahkolammitys = false;
   rakennus_.VedenKulutusryhmat.LKVKiertoVirtaama = 0.1;
   EXPECT_EQ(ryhmat_.LammitysSahkonVuosikulutus(), 0);

@@ -23,7 +23,7 @@ std::vector<std::string> Rivit(const clsSahkonKulutusryhmat& ryhmat) {
   return nimet;
 }
 
-TEST(clsSahkonKulutusryhma, TehopohjainenKulutusOnTehoKertaaAikaMegawattitunteina) {
+TEST(clsSahkonKulutusryhma, ConsumptionByPowerIsPowerTimesTimeInMegawattHours) {
   clsSahkonKulutusryhma ryhma;
   EXPECT_EQ(ryhma.Vuosikulutus(), 0);
   TaytaSadanWatinLaite(ryhma);
@@ -33,7 +33,7 @@ TEST(clsSahkonKulutusryhma, TehopohjainenKulutusOnTehoKertaaAikaMegawattituntein
   EXPECT_DOUBLE_EQ(ryhma.Vuosikulutus(), 1.752);
 }
 
-TEST(clsSahkonKulutusryhma, EnergiapohjainenKulutusOnKilowattituntejaTaiSyotetty) {
+TEST(clsSahkonKulutusryhma, ConsumptionByEnergyIsKilowattHoursOrTyped) {
   clsSahkonKulutusryhma ryhma;
   ryhma.LaskentatapaEnergiapohjainen(true);
   ryhma.LaskentaperusteNumber = 350;  // kWh per device
@@ -50,7 +50,7 @@ TEST(clsSahkonKulutusryhma, EnergiapohjainenKulutusOnKilowattituntejaTaiSyotetty
   EXPECT_DOUBLE_EQ(ryhma.Vuosikulutus(), 350 * 12 * 3 / 1e6);
 }
 
-TEST(clsSahkonKulutusryhma, LaskentatavatOvatAinaVastakkaisetMyosNimellaAsetettuina) {
+TEST(clsSahkonKulutusryhma, TheTwoModesAreOppositeAlsoWhenSetByName) {
   clsSahkonKulutusryhma ryhma;
   AsetaJasen(ryhma, "LaskentatapaEnergiapohjainen", true);
   EXPECT_FALSE(std::get<bool>(HaeJasen(ryhma, "LaskentatapaTehopohjainen")));
@@ -58,7 +58,7 @@ TEST(clsSahkonKulutusryhma, LaskentatavatOvatAinaVastakkaisetMyosNimellaAsetettu
   EXPECT_FALSE(std::get<bool>(HaeJasen(ryhma, "LaskentatapaEnergiapohjainen")));
 }
 
-TEST(clsSahkonKulutusryhma, AaretonKulutusOnVirheEikaTulos) {
+TEST(clsSahkonKulutusryhma, AnInfiniteConsumptionIsAnErrorAndNoResult) {
   clsSahkonKulutusryhma ryhma;
   TaytaSadanWatinLaite(ryhma);
   ryhma.KulutusryhmienLukumaara = std::numeric_limits<double>::max();
@@ -70,7 +70,7 @@ TEST(clsSahkonKulutusryhma, AaretonKulutusOnVirheEikaTulos) {
   }
 }
 
-TEST(clsSahkonKulutusryhmat, LampokuormaaTuleeVainHyodynnetystaSahkostaJaOmastaTilasta) {
+TEST(clsSahkonKulutusryhmat, HeatGainComesOnlyFromUsedElectricityAndTheOwnSpace) {
   clsSahkonKulutusryhmat ryhmat;
   struct {
     const char* tila;
@@ -89,7 +89,7 @@ TEST(clsSahkonKulutusryhmat, LampokuormaaTuleeVainHyodynnetystaSahkostaJaOmastaT
   EXPECT_DOUBLE_EQ(ryhmat.SahkoLaitteidenVuosikulutus(), 5 * 0.876);
 }
 
-TEST(clsSahkonKulutusryhmat, UusinRiviTuleeHetiOtsikkonsaJalkeenJaLuotuListanLoppuun) {
+TEST(clsSahkonKulutusryhmat, TheNewestRowComesBehindItsHeadingAMadeOneLast) {
   clsSahkonKulutusryhmat ryhmat;
   ryhmat.AddListaItem("sKeySahkoYhteensa", "", 1, "Yhteensä");
   ryhmat.AddListaItem("sKeyLVISahko", "sKeySahkoYhteensa", 1, "LVI", 0, true);
@@ -108,7 +108,7 @@ TEST(clsSahkonKulutusryhmat, UusinRiviTuleeHetiOtsikkonsaJalkeenJaLuotuListanLop
   EXPECT_EQ(ryhmat.CountListaItems(), 7);
 }
 
-TEST(clsSahkonKulutusryhmat, KopioPalauttaaRyhmatJaRivitSamoihinOlioihin) {
+TEST(clsSahkonKulutusryhmat, ACopyRestoresGroupsAndRowsIntoTheSameObjects) {
   clsSahkonKulutusryhmat ryhmat;
   clsSahkonKulutusryhma& ryhma = ryhmat.Add("a");
   clsSahkoListaItem& rivi = ryhmat.AddListaItem("a", "", 0, "Pumppu");

@@ -17,7 +17,7 @@ void TaytaSuihkut(clsVedenKulutusryhma& ryhma) {
 
 constexpr double kSuihkujenLampo = 146 * 4.19 * 50 / 3.6 / 1000;  // MWh/a from 5 to 55 °C
 
-TEST(clsVedenKulutusryhma, MuuntokerroinTekeeYksikostaKuutioitaVuodessa) {
+TEST(clsVedenKulutusryhma, TheFactorMakesAUnitCubicMetresAYear) {
   constexpr double kKuutiota[] = {36, 36, 36, 36, 129.6e3, 2160, 36};  // 1 unit × 10 × 10 × 360, by unit
   for (std::int16_t yksikko = 0; yksikko < 7; ++yksikko) {
     clsVedenKulutusryhma ryhma;
@@ -30,7 +30,7 @@ TEST(clsVedenKulutusryhma, MuuntokerroinTekeeYksikostaKuutioitaVuodessa) {
   }
 }
 
-TEST(clsVedenKulutusryhma, LammitysSeuraaKayttolampotilaaEikaLampimanOsuutta) {
+TEST(clsVedenKulutusryhma, HeatingFollowsTheUseTemperatureNotTheHotShare) {
   clsVedenKulutusryhma ryhma;
   TaytaSuihkut(ryhma);
   EXPECT_DOUBLE_EQ(ryhma.VedenKulutus(), 146);
@@ -44,7 +44,7 @@ TEST(clsVedenKulutusryhma, LammitysSeuraaKayttolampotilaaEikaLampimanOsuutta) {
   EXPECT_DOUBLE_EQ(ryhma.VedenLammityksenEnergia(), kSuihkujenLampo * 40 / 50) << "from the group's own cold water";
 }
 
-TEST(clsVedenKulutusryhma, TuntematonYksikkoOnVirhe) {
+TEST(clsVedenKulutusryhma, AnUnknownUnitIsAnError) {
   clsVedenKulutusryhma ryhma;
   TaytaSuihkut(ryhma);
   for (const std::int16_t yksikko : {-1, 7}) {
@@ -70,7 +70,7 @@ class VesiryhmatTesti : public testing::Test {
   clsVedenKulutusryhma& pesuri_ = ryhmat_.Add("b", clsVedenKulutusryhma::Prosessivesi);
 };
 
-TEST_F(VesiryhmatTesti, UusiRyhmaSaaLajinsaLampotilatMuttaPitaaTunnisteensa) {
+TEST_F(VesiryhmatTesti, ANewGroupGetsItsKindsTemperaturesButKeepsItsIdentity) {
   ryhmat_.LKVTiedot.KylmanLampotila = 7;
   const clsVedenKulutusryhma& uusi = ryhmat_.Add("c", clsVedenKulutusryhma::Kayttovesi);
   EXPECT_EQ(uusi.VedenTiedot.KylmanLampotila, 7);
@@ -79,7 +79,7 @@ TEST_F(VesiryhmatTesti, UusiRyhmaSaaLajinsaLampotilatMuttaPitaaTunnisteensa) {
   EXPECT_FALSE(uusi.VedenTiedot.InstanssiId == ryhmat_.LKVTiedot.InstanssiId);
 }
 
-TEST_F(VesiryhmatTesti, KayttoJaProsessivesiLasketaanErikseen) {
+TEST_F(VesiryhmatTesti, TapAndProcessWaterAreComputedApart) {
   EXPECT_DOUBLE_EQ(ryhmat_.VuotuinenVedenKulutus(), 292);
   EXPECT_DOUBLE_EQ(ryhmat_.VuotuinenKvKulutus(), 146);
   EXPECT_DOUBLE_EQ(ryhmat_.VuotuinenKylmanProsessivedenKulutus(), 146);
@@ -88,7 +88,7 @@ TEST_F(VesiryhmatTesti, KayttoJaProsessivesiLasketaanErikseen) {
   EXPECT_DOUBLE_EQ(ryhmat_.VuotuinenProsessivedenLammityksenEnergia(), kSuihkujenLampo);
 }
 
-TEST_F(VesiryhmatTesti, KiertoLisataanKayttoveteenJaSahkolammitysSiirtaaLammonSahkoonLajeittain) {
+TEST_F(VesiryhmatTesti, TheLoopAddsToTapWaterAndElectricHeatingMovesHeatByKind) {
   ryhmat_.LKVKiertoVirtaama = 0.1;  // 5 K all year
   EXPECT_DOUBLE_EQ(ryhmat_.VuotuinenLkvLammityksenEnergia(), kSuihkujenLampo + 18.3522);
   EXPECT_EQ(ryhmat_.VuotuinenLkvSahkoLammityksenEnergia(), 0);

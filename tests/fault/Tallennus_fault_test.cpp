@@ -105,7 +105,7 @@ int KutsujaTallennuksessa(const std::function<void()>& tallenna) {
 
 }  // namespace
 
-TEST_F(Tallennusvirheet, VirheMissaTahansaKutsussaJattaaEhjanTiedoston) {
+TEST_F(Tallennusvirheet, AnErrorInAnyCallLeavesAWholeFile) {
   const int kutsuja = KutsujaTallennuksessa([&] { Tallenna(uusi); });
   ASSERT_GT(kutsuja, 20);
   for (const Isku isku : {Isku::Virhe, Isku::PysyvaVirhe})
@@ -128,7 +128,7 @@ TEST_F(Tallennusvirheet, VirheMissaTahansaKutsussaJattaaEhjanTiedoston) {
   OdotaTallennusOnnistuu();
 }
 
-TEST_F(Tallennusvirheet, TappoMissaTahansaKutsussaJattaaEhjanTiedoston) {
+TEST_F(Tallennusvirheet, AKillInAnyCallLeavesAWholeFile) {
   const int kutsuja = KutsujaTallennuksessa([&] { Tallenna(uusi); });
   int kuoli = 0;
   for (int n = 1; n <= kutsuja; ++n) {
@@ -142,7 +142,7 @@ TEST_F(Tallennusvirheet, TappoMissaTahansaKutsussaJattaaEhjanTiedoston) {
   OdotaTallennusOnnistuu();
 }
 
-TEST_F(Tallennusvirheet, TappoMillaTahansaHetkellaJattaaEhjanTiedoston) {
+TEST_F(Tallennusvirheet, AKillAtAnyMomentLeavesAWholeFile) {
   Arpa satunnainen;
   for (int i = 0; i < 200; ++i) {
     SCOPED_TRACE(i);
@@ -155,7 +155,7 @@ TEST_F(Tallennusvirheet, TappoMillaTahansaHetkellaJattaaEhjanTiedoston) {
   OdotaTallennusOnnistuu();
 }
 
-TEST_F(Tallennusvirheet, TaysiLevyKerrotaanJaVanhaSailyy) {
+TEST_F(Tallennusvirheet, AFullDiskIsToldAndTheFormerStays) {
   signal(SIGXFSZ, SIG_IGN);
   rlimit raja{}, ahdas{};
   getrlimit(RLIMIT_FSIZE, &raja);
@@ -193,7 +193,7 @@ class Tavallinen {
 
 }  // namespace
 
-TEST_F(Tallennusvirheet, SuojattuHakemistoKerrotaanEikaMitaanMuutu) {
+TEST_F(Tallennusvirheet, AReadOnlyFolderIsToldAndNothingChanges) {
   const fs::path kansio = fs::path(hakemisto.Projekti()).parent_path();
   std::string kuvaus;
   {
@@ -212,7 +212,7 @@ TEST_F(Tallennusvirheet, SuojattuHakemistoKerrotaanEikaMitaanMuutu) {
   EXPECT_FALSE(fs::exists(hakemisto.Varakopio()));
 }
 
-TEST_F(Tallennusvirheet, LevyIlmanOikeuksiaEiEstaTallennusta) {
+TEST_F(Tallennusvirheet, ADiskWithoutModesDoesNotStopASave) {
   for (const int virhe : {ENOTSUP, EPERM, ENOSYS}) {
     kutsut::EstaOikeudet(virhe);
     for (koe::Rakennus* puu : {&uusi, &vanha}) {
@@ -224,7 +224,7 @@ TEST_F(Tallennusvirheet, LevyIlmanOikeuksiaEiEstaTallennusta) {
 }
 
 /// Two users, each with an AppPath, save one project again and again while a third reads it.
-TEST_F(Tallennusvirheet, KaksiTallentajaaEiTuhoaToistensaTyota) {
+TEST_F(Tallennusvirheet, TwoSaversSpareEachOthersWork) {
   const std::string malli = hakemisto.Malli();
   std::vector<pid_t> lapset;
   for (int k = 0; k < 2; ++k) {
@@ -250,7 +250,7 @@ TEST_F(Tallennusvirheet, KaksiTallentajaaEiTuhoaToistensaTyota) {
   OdotaEiKeskenerisia();
 }
 
-TEST_F(Tallennusvirheet, VarakopioSaaOllaToisellaLevylla) {
+TEST_F(Tallennusvirheet, TheBackupMayLieOnAnotherDisk) {
   std::string nimi = "/dev/shm/lumivirta-koe-XXXXXX";
   if (!mkdtemp(nimi.data())) GTEST_SKIP() << "no /dev/shm";
   const std::string malli = hakemisto.Malli(), ohjelma = AppPath();
@@ -290,11 +290,11 @@ class VaurioitunutTiedosto : public Tallennusvirheet {
 
 }  // namespace
 
-TEST_F(VaurioitunutTiedosto, KatkaistuEiKaadaEikaMuutu) {
+TEST_F(VaurioitunutTiedosto, ACutFileNeitherCrashesNorChanges) {
   for (std::size_t n = 0; n < ennen.size(); n += n < 200 ? 20 : 700) EXPECT_FALSE(Avaa(ennen.substr(0, n))) << n;
 }
 
-TEST_F(VaurioitunutTiedosto, VaihtuneetTavutEivatKaadaEivatkaMuutaTiedostoa) {
+TEST_F(VaurioitunutTiedosto, ChangedBytesNeitherCrashNorChangeTheFile) {
   Arpa satunnainen;
   int luettiin = 0;
   for (int i = 0; i < 600; ++i) {

@@ -31,7 +31,7 @@ class Asetusvarasto : public testing::Test {
   std::vector<std::string> siirretyt_;
 };
 
-TEST_F(Asetusvarasto, ArvoSailyyMerkilleen) {
+TEST_F(Asetusvarasto, AValueStaysToTheLetter) {
   for (std::string_view arvo : {"", "22000000", "  alussa ja lopussa  ", "a=b=c", "[osio]", "; ei kommentti",
                                 "Öljylämmitys Åbo €", "rivi 1\nrivi 2\r\n", "C:\\nimi\\", "\\\\n", "\"lainaus\""}) {
     TallennaAsetus("Osio", "Avain", arvo);
@@ -39,7 +39,7 @@ TEST_F(Asetusvarasto, ArvoSailyyMerkilleen) {
   }
 }
 
-TEST_F(Asetusvarasto, OsiotJaAvaimetOvatSamatKirjainkoostaRiippumatta) {
+TEST_F(Asetusvarasto, SectionsAndKeysIgnoreLetterCase) {
   TallennaAsetus("Asetukset_kayttaja", "NäytaTervehdys", "1");
   TallennaAsetus("ASETUKSET_KAYTTAJA", "NÄYTATERVEHDYS", "0");
   EXPECT_EQ(HaeAsetus("asetukset_Kayttaja", "näytatervehdys", ""), "0");
@@ -47,7 +47,7 @@ TEST_F(Asetusvarasto, OsiotJaAvaimetOvatSamatKirjainkoostaRiippumatta) {
   EXPECT_EQ(HaeAsetus("Muu", "NäytaTervehdys", "ei"), "ei");
 }
 
-TEST_F(Asetusvarasto, KasinMuokattuTiedostoSailyyMuutoksenYmparilla) {
+TEST_F(Asetusvarasto, AFileEditedByHandStaysAroundAChange) {
   Kirjoita("\uFEFF; oma muistiinpano\r\n\r\n[Settings]\r\nMainLeft = 15\r\nTuntematon=x\r\n\r\n[Toinen]\r\nA=1");
   EXPECT_EQ(HaeAsetus("Settings", "MainLeft", ""), " 15");
   EXPECT_EQ(HaeAsetus("Settings", "A", "ei"), "ei");
@@ -56,7 +56,7 @@ TEST_F(Asetusvarasto, KasinMuokattuTiedostoSailyyMuutoksenYmparilla) {
   EXPECT_EQ(Sisalto(), "; oma muistiinpano\n\n[Settings]\nMainLeft = 15\nTuntematon=x\nMainTop=20\n\n[Toinen]\na=2\n");
 }
 
-TEST_F(Asetusvarasto, VioittunutTiedostoSiirtyySyrjaanJaSiitaKerrotaan) {
+TEST_F(Asetusvarasto, ADamagedFileIsPutAsideAndTold) {
   const std::string vioittunut = "[Settings]\nMainLeft=1\n"s + "\0\0\0PK\x03"s;
   Kirjoita(vioittunut);
   EXPECT_EQ(HaeAsetus("Settings", "MainLeft", "1000"), "1000");
@@ -70,7 +70,7 @@ TEST_F(Asetusvarasto, VioittunutTiedostoSiirtyySyrjaanJaSiitaKerrotaan) {
   EXPECT_EQ(HaeAsetus("Settings", "MainLeft", ""), "2");
 }
 
-TEST_F(Asetusvarasto, VioittumisestaKerrotaanMyosMyohemmin) {
+TEST_F(Asetusvarasto, DamageIsToldLaterToo) {
   AsetaVioittumisilmoitus(nullptr);
   Kirjoita("roskaa\n");
   HaeAsetus("Settings", "MainLeft", "");
@@ -78,14 +78,14 @@ TEST_F(Asetusvarasto, VioittumisestaKerrotaanMyosMyohemmin) {
   EXPECT_EQ(siirretyt_.size(), 1u);
 }
 
-TEST_F(Asetusvarasto, KelvotonPaikkaAntaaOletuksetJaTallennusNostaaVirheen) {
+TEST_F(Asetusvarasto, AnUnfitPlaceGivesDefaultsAndSavingRaises) {
   fs::create_directories(tiedosto_);  // a directory in the file's place
   EXPECT_EQ(HaeAsetus("Settings", "MainLeft", "1000"), "1000");
   EXPECT_THROW(TallennaAsetus("Settings", "MainLeft", "1"), Virhe);
   EXPECT_TRUE(fs::is_directory(tiedosto_));
 }
 
-TEST_F(Asetusvarasto, KaksiOhjelmaaEiKumoaToistensaMuutoksia) {
+TEST_F(Asetusvarasto, TwoProgramsDontUndoEachOthersChanges) {
   constexpr int kAvaimia = 40;
   const auto kirjoita = [](const std::string& etuliite) {
     for (int i = 0; i < kAvaimia; ++i) TallennaAsetus("Osio", etuliite + std::to_string(i), "x");

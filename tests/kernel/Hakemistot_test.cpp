@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-TEST(Sha256, VastaaStandardinEsimerkkeja) {
+TEST(Sha256, AgreesWithTheStandardsExamples) {
   EXPECT_EQ(Sha256("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),
             "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
   EXPECT_EQ(Sha256(std::string(1000000, 'a')), "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
@@ -26,13 +26,13 @@ class AppPathTesti : public testing::Test {
   Koehakemisto koti_;
 };
 
-TEST_F(AppPathTesti, IlmanOmiaTiedostojaOnKayttajanDatahakemisto) {
+TEST_F(AppPathTesti, WithoutFilesOfItsOwnItIsTheUsersDataFolder) {
   const Ymparistomuuttuja koti("LUMIVIRTA_KOTI", std::nullopt);
   const Ymparistomuuttuja data("XDG_DATA_HOME", (koti_ / "data").string());
   EXPECT_EQ(AppPath(), (koti_ / "data/lumivirta/").string());
 }
 
-TEST_F(AppPathTesti, SuhteellinenXdgHakemistoEiKelpaa) {
+TEST_F(AppPathTesti, ARelativeXdgFolderWontDo) {
   const Ymparistomuuttuja koti("HOME", koti_.Polku().string());
   const Ymparistomuuttuja asetukset("XDG_CONFIG_HOME", "asetukset");
   EXPECT_EQ(AsetusHakemisto(), koti_ / ".config/lumivirta");
@@ -58,7 +58,7 @@ class SiemennysTesti : public testing::Test {
   fs::path kohde_ = juuri_ / "oma/lumivirta";
 };
 
-TEST_F(SiemennysTesti, PaivitysKorvaaVainKoskemattomatTiedostot) {
+TEST_F(SiemennysTesti, AnUpdateReplacesOnlyUntouchedFiles) {
   Toimita({{"a.txt", "a1"},
            {"b.txt", "b1"},
            {"KayttajanPolttoainekanta.mdb", "k1"},
@@ -88,7 +88,7 @@ TEST_F(SiemennysTesti, PaivitysKorvaaVainKoskemattomatTiedostot) {
   EXPECT_EQ(Kayttajan("b.txt"), "minun b");
 }
 
-TEST_F(SiemennysTesti, PoistettuTiedostoPalautuuIlmanPaivitystakin) {
+TEST_F(SiemennysTesti, ARemovedFileComesBackWithoutAnUpdateToo) {
   Toimita({{"a.txt", "a1"}, {"b.txt", "b1"}});
   Siemenna();
   fs::remove(kohde_ / "b.txt");
@@ -96,7 +96,7 @@ TEST_F(SiemennysTesti, PoistettuTiedostoPalautuuIlmanPaivitystakin) {
   EXPECT_EQ(Kayttajan("b.txt"), "b1");
 }
 
-TEST_F(SiemennysTesti, KeskeytynytPaivitysJatkuuSeuraavallaKerralla) {
+TEST_F(SiemennysTesti, AnInterruptedUpdateGoesOnTheNextTime) {
   Toimita({{"a.txt", "a1"}, {"b.txt", "b1"}});
   Siemenna();
   Toimita({{"a.txt", "a2"}, {"b.txt", "b2"}});
@@ -109,14 +109,14 @@ TEST_F(SiemennysTesti, KeskeytynytPaivitysJatkuuSeuraavallaKerralla) {
   EXPECT_EQ(Kayttajan("b.txt"), "b2");
 }
 
-TEST_F(SiemennysTesti, LuettelonPolkuEiPaaseHakemistosta) {
+TEST_F(SiemennysTesti, APathOfTheListStaysInTheFolder) {
   Toimita({{"a.txt", "a1"}});
   KirjoitaTiedosto(lahde_ / "tehdastiedot.txt", "00  ../karannut.txt\n00  /tmp/karannut.txt\n");
   EXPECT_EQ(Siemenna().virhe, "");
   EXPECT_FALSE(fs::exists(kohde_.parent_path() / "karannut.txt"));
 }
 
-TEST(Lukitus, ToinenOdottaaJaLuopuu) {
+TEST(Lukitus, TheSecondWaitsAndGivesUp) {
   const Koehakemisto koti;
   const std::string tiedosto = koti / "lukko";
   {
@@ -126,7 +126,7 @@ TEST(Lukitus, ToinenOdottaaJaLuopuu) {
   EXPECT_NO_THROW(Lukitus(tiedosto, std::chrono::milliseconds(20)));
 }
 
-TEST(KirjoitaTiedosto, EpaonnistuminenJattaaEntisenEikaRoskia) {
+TEST(KirjoitaTiedosto, FailureLeavesTheFormerAndNoLitter) {
   const Koehakemisto koti;
   fs::create_directories(koti / "kansio/sisalla");
   EXPECT_THROW(KirjoitaTiedosto(koti / "kansio", "uusi"), std::system_error);
@@ -134,7 +134,7 @@ TEST(KirjoitaTiedosto, EpaonnistuminenJattaaEntisenEikaRoskia) {
   EXPECT_EQ(std::distance(fs::directory_iterator(koti.Polku()), {}), 1);
 }
 
-TEST(KirjoitaTiedosto, SailyttaaLinkinJaOikeudet) {
+TEST(KirjoitaTiedosto, KeepsTheLinkAndTheMode) {
   const Koehakemisto koti;
   KirjoitaTiedosto(koti / "oikea/tiedosto.ini", "1");
   fs::permissions(koti / "oikea/tiedosto.ini", fs::perms::owner_read | fs::perms::owner_write);
@@ -145,7 +145,7 @@ TEST(KirjoitaTiedosto, SailyttaaLinkinJaOikeudet) {
   EXPECT_EQ(fs::status(koti / "oikea/tiedosto.ini").permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
-TEST(LyhennaPolku, LaskeeMerkkeinaJaKatkaiseeVinoviivasta) {
+TEST(LyhennaPolku, CountsCharactersAndCutsAtASlash) {
   EXPECT_EQ(LyhennaPolku("/koti/matti/kohteet/a.lvt", 19), "/ko.../a.lvt");
   EXPECT_EQ(LyhennaPolku("/koti/matti/kohteet/a.lvt", 20), "/ko.../kohteet/a.lvt");
   EXPECT_EQ(LyhennaPolku("/Työpöytä/Åäö.lvt", 17), "/Työpöytä/Åäö.lvt") << "17 characters in 23 bytes";

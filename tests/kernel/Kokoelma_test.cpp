@@ -18,7 +18,7 @@ std::vector<std::string> Avaimet(const koe::Tilat& tilat) {
 
 }  // namespace
 
-TEST(Kokoelma, PaikatAlkavatYhdestaJaAvaimetEivatErotaKirjainkokoa) {
+TEST(Kokoelma, PlacesBeginAtOneAndKeysIgnoreLetterCase) {
   koe::Tilat tilat;
   koe::Tila& a = tilat.Add("a");
   koe::Tila& o = tilat.Add("Ö");
@@ -31,7 +31,7 @@ TEST(Kokoelma, PaikatAlkavatYhdestaJaAvaimetEivatErotaKirjainkokoa) {
   EXPECT_THROW(tilat.Remove("b"), std::out_of_range);
 }
 
-TEST(Kokoelma, AvaimettomiaSaaOllaMonta) {
+TEST(Kokoelma, ManyMayBeWithoutAKey) {
   koe::Tilat tilat;
   EXPECT_TRUE(tilat.Add().sKey.Tyhja());
   tilat.Add("");
@@ -39,7 +39,7 @@ TEST(Kokoelma, AvaimettomiaSaaOllaMonta) {
   EXPECT_EQ(tilat.Etsi(""), nullptr);
 }
 
-TEST(Kokoelma, JarjestysSailyyPoistossaJaLisayksessa) {
+TEST(Kokoelma, OrderStaysInRemovalAndAddition) {
   koe::Tilat tilat;
   for (const char* avain : {"a", "b", "c"}) tilat.Add(avain);
   tilat.LisaaJalkeen("a", "a2");
@@ -50,7 +50,7 @@ TEST(Kokoelma, JarjestysSailyyPoistossaJaLisayksessa) {
 }
 
 // Beyond a few items the keys are found through an index: it must follow every change.
-TEST(Kokoelma, SuuressaKokoelmassaAvaimetLoytyvatMuutostenJalkeen) {
+TEST(Kokoelma, InALargeCollectionKeysAreFoundAfterChanges) {
   koe::Tilat tilat;
   for (int i = 0; i < 100; ++i) tilat.Add("avain" + std::to_string(i));
   for (int i = 0; i < 100; i += 2) tilat.Remove("AVAIN" + std::to_string(i));

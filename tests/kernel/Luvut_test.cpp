@@ -10,7 +10,7 @@
 
 namespace {
 
-TEST(Luvut, MuotoileeSuomeksi) {
+TEST(Luvut, FormatsInFinnish) {
   struct Rivi {
     double arvo;
     const char* kuvio;
@@ -39,7 +39,7 @@ TEST(Luvut, MuotoileeSuomeksi) {
   EXPECT_EQ(Muotoile(std::nan(""), "0.00"), "---");
 }
 
-TEST(Luvut, LukeeKirjoitetunJaLiitetynLuvun) {
+TEST(Luvut, ReadsATypedAndAPastedNumber) {
   const std::pair<const char*, double> rivit[] = {
       {"1 000,5", 1000.5},
       {"1\u202F234\u2009567.25", 1234567.25},
@@ -55,7 +55,7 @@ TEST(Luvut, LukeeKirjoitetunJaLiitetynLuvun) {
   EXPECT_FALSE(std::signbit(LueLuku("-0").value()));
 }
 
-TEST(Luvut, HylkaaMuunKuinLuvun) {
+TEST(Luvut, RefusesWhatIsNoNumber) {
   const std::string liian_suuri(400, '9');
   for (std::string_view teksti :
        {"", " ", "-", ",", "--5", "5-", "1e5", "1.000,5", "1,2,3", "0x10", "nan", "inf", "12 kWh", "1\t2", "1\n2",
@@ -66,14 +66,14 @@ TEST(Luvut, HylkaaMuunKuinLuvun) {
   }
 }
 
-TEST(Luvut, TyhjaKenttaOnNollaVainPyydettaessa) {
+TEST(Luvut, AnEmptyFieldIsZeroOnlyWhenAsked) {
   EXPECT_EQ(LueLukuTaiNolla(""), 0.0);
   EXPECT_EQ(LueLukuTaiNolla(" \u00A0"), 0.0);
   EXPECT_EQ(LueLukuTaiNolla("4,5"), 4.5);
   EXPECT_FALSE(LueLukuTaiNolla("x"));
 }
 
-TEST(Luvut, LyhinMuotoLukeutuuTakaisinSamana) {
+TEST(Luvut, TheShortestFormReadsBackTheSame) {
   EXPECT_EQ(LyhinMuoto(0.1), "0.1");
   EXPECT_EQ(LyhinMuoto(-0.0), "0");
   EXPECT_EQ(LyhinMuoto(1e-7), "0.0000001");
@@ -85,7 +85,7 @@ TEST(Luvut, LyhinMuotoLukeutuuTakaisinSamana) {
   }
 }
 
-TEST(Luvut, NaytettyLukuLukeutuuTakaisinPuolenViimeisenDesimaalinTarkkuudella) {
+TEST(Luvut, AShownNumberReadsBackWithinHalfItsLastDecimal) {
   Arpa arpa;
   std::uniform_real_distribution<double> jakauma(-1e7, 1e7);
   for (int i = 0; i < 2000; ++i) {
@@ -94,7 +94,7 @@ TEST(Luvut, NaytettyLukuLukeutuuTakaisinPuolenViimeisenDesimaalinTarkkuudella) {
   }
 }
 
-TEST(Luvut, PyoristaaKokonaisluvuksiParilliseen) {
+TEST(Luvut, RoundsToAnIntegerHalfToEven) {
   EXPECT_EQ(PyoristaKokonaisluvuksi(0.5), 0);
   EXPECT_EQ(PyoristaKokonaisluvuksi(1.5), 2);
   EXPECT_EQ(PyoristaKokonaisluvuksi(-2147483648.5), std::numeric_limits<std::int32_t>::min());
@@ -102,7 +102,7 @@ TEST(Luvut, PyoristaaKokonaisluvuksiParilliseen) {
   EXPECT_THROW(PyoristaKokonaisluvuksi(std::nan("")), std::out_of_range);
 }
 
-TEST(Luvut, PyoristaaDesimaaleihinParilliseen) {
+TEST(Luvut, RoundsToDecimalsHalfToEven) {
   EXPECT_EQ(PyoristaParilliseen(99.65, 1), 99.6);
   EXPECT_EQ(PyoristaParilliseen(99.6500001, 1), 99.7);
   EXPECT_EQ(PyoristaParilliseen(33.3 + 33.3 + 33.4, 1), 100.0);

@@ -11,7 +11,7 @@
 using testing::ElementsAre;
 using testing::MatchesRegex;
 
-TEST(Tunniste, OnLuokanNimiJa32Heksanumeroa) {
+TEST(Tunniste, IsTheClassNameAnd32HexDigits) {
   const std::string teksti = koe::Tila().InstanssiId.Teksti();
   EXPECT_THAT(teksti, MatchesRegex("KoeTila [0-9A-F]+"));
   EXPECT_EQ(teksti.size(), std::string("KoeTila ").size() + 32);
@@ -21,7 +21,7 @@ TEST(Tunniste, OnLuokanNimiJa32Heksanumeroa) {
   EXPECT_EQ(eri.size(), 2000u);
 }
 
-TEST(Tunniste, KirjainkokoEiErotaEikaMuotoMuuta) {
+TEST(Tunniste, LetterCaseDoesntTellApartNorChangesTheForm) {
   const Tunniste guid("clsTila 0A1B2C3D4E5F60718293A4B5C6D7E8F9");
   EXPECT_EQ(guid, Tunniste("CLSTILA 0a1b2c3d4e5f60718293a4b5c6d7e8f9"));
   EXPECT_NE(guid, Tunniste("clsTila 0A1B2C3D4E5F60718293A4B5C6D7E8F8"));
@@ -34,7 +34,7 @@ TEST(Tunniste, KirjainkokoEiErotaEikaMuotoMuuta) {
   EXPECT_EQ(Tunniste::Lue("clsTila 0A1B2C3D4E5F60718293A4B5C6D7E8F9", Sanaksi("muu")), guid);
 }
 
-TEST(Jasentaulu, NimellaAsetettuArvoMuunnetaanJasenenLajiin) {
+TEST(Jasentaulu, AValueSetByNameIsConvertedToTheMembersKind) {
   koe::Rakennus r;
   AsetaJasen(r, "kaksin", std::string("21,5"));
   AsetaJasen(r, "Lyhyt", 2.5);
@@ -50,7 +50,7 @@ TEST(Jasentaulu, NimellaAsetettuArvoMuunnetaanJasenenLajiin) {
   EXPECT_EQ(std::get<Olio*>(HaeJasen(r, "Tilat")), &r.TilatKokoelma);
 }
 
-TEST(Jasentaulu, KelpaamatonArvoJattaaJasenenEnnalleen) {
+TEST(Jasentaulu, AnUnfitValueLeavesTheMemberAsItWas) {
   koe::Rakennus r;
   r.Lyhyt = 5;
   EXPECT_THROW(AsetaJasen(r, "Lyhyt", 40000.0), TuntematonJasen);
@@ -63,7 +63,7 @@ TEST(Jasentaulu, KelpaamatonArvoJattaaJasenenEnnalleen) {
   EXPECT_EQ(r.Lyhyt, 5);
 }
 
-TEST(Kopiointi, KopioOnIrtiAlkuperaisestaJaSailyttaaTunnisteet) {
+TEST(Kopiointi, ACopyIsApartFromItsSourceAndKeepsIdentities) {
   koe::Hakemisto hakemisto;
   koe::Rakennus r;
   koe::Tayta(r);
@@ -75,7 +75,7 @@ TEST(Kopiointi, KopioOnIrtiAlkuperaisestaJaSailyttaaTunnisteet) {
   EXPECT_THAT(koe::Erot(*kopio, r, hakemisto.Malli()), ElementsAre("KoeRatkaisu.Kuvaus"));
 }
 
-TEST(Kopiointi, KohteenOliotKaytetaanUudelleenAvaimenMukaan) {
+TEST(Kopiointi, ObjectsOfTheTargetAreReusedByKey) {
   koe::Rakennus r, kohde;
   koe::Tayta(r);
   r.Kopioi(kohde);

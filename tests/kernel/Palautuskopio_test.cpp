@@ -47,7 +47,7 @@ std::vector<fs::path> Kopiot() {
 
 }  // namespace
 
-TEST_F(Palautus, ElavanOhjelmanKopiotaEiTarjotaEikaMuidenPoisteta) {
+TEST_F(Palautus, ALiveProgramsCopyIsNotOfferedNorOthersRemoved) {
   Palautuskopio oma, toinen;
   oma.Kirjoita(puu, {}, {});
   toinen.Kirjoita(puu, {}, {});
@@ -60,7 +60,7 @@ TEST_F(Palautus, ElavanOhjelmanKopiotaEiTarjotaEikaMuidenPoisteta) {
   EXPECT_TRUE(fs::exists(toinen.Polku()));
 }
 
-TEST_F(Palautus, KuolleenOhjelmanKopioTietaaTiedostonsaJaTarjotaanYhdelle) {
+TEST_F(Palautus, ADeadProgramsCopyKnowsItsFileAndIsOfferedToOne) {
   KuoleKopioineen();
   const auto jaaneet = Palautuskopio::OtaJaaneet();
   ASSERT_THAT(jaaneet, SizeIs(1));
@@ -74,7 +74,7 @@ TEST_F(Palautus, KuolleenOhjelmanKopioTietaaTiedostonsaJaTarjotaanYhdelle) {
   EXPECT_THAT(koe::Erot(luettu, puu, hakemisto.Malli()), IsEmpty());
 }
 
-TEST_F(Palautus, OtettuKopioOnOmaJaSailytettyEiOleEnaaKopio) {
+TEST_F(Palautus, ATakenCopyIsOnesOwnAndAKeptOneNoCopyAnyMore) {
   KuoleKopioineen();
   {
     Palautuskopio oma = std::move(Palautuskopio::OtaJaaneet().at(0));
@@ -88,7 +88,7 @@ TEST_F(Palautus, OtettuKopioOnOmaJaSailytettyEiOleEnaaKopio) {
   EXPECT_THAT(Palautuskopio::OtaJaaneet(), IsEmpty());
 }
 
-TEST_F(Palautus, KopioOnYksityinenEikaKoskeVarmuuskopioon) {
+TEST_F(Palautus, ACopyIsPrivateAndLeavesTheBackupAlone) {
   KirjoitaTiedosto(hakemisto.Varakopio(), "projektin varmuuskopio");
   Palautuskopio kopio;
   kopio.Kirjoita(puu, hakemisto.Projekti(), {});
@@ -104,7 +104,7 @@ TEST_F(Palautus, KopioOnYksityinenEikaKoskeVarmuuskopioon) {
   EXPECT_THROW(Palautuskopio().Kirjoita(puu, {}, {}), Projektivirhe);
 }
 
-TEST_F(Palautus, TyhjaNimiJaKeskeneraisetSiivotaan) {
+TEST_F(Palautus, AnEmptyNameAndHalfMadeFilesAreSwept) {
   KirjoitaTiedosto(AppPath() + "~palautus 1-2.lvt", "");
   KirjoitaTiedosto(AppPath() + "~palautus 1.lvt.uusi-abcdef", "kesken");
   KirjoitaTiedosto(AppPath() + "~palautus 1.lvt.uusi-abcdef-journal", "kesken");
@@ -112,7 +112,7 @@ TEST_F(Palautus, TyhjaNimiJaKeskeneraisetSiivotaan) {
   EXPECT_THAT(Kopiot(), IsEmpty());
 }
 
-TEST_F(Palautus, TunnusHuomaaMuunKadenMuutoksenMuttaEiSiirtoa) {
+TEST_F(Palautus, TheMarkSeesAnothersChangeButNoMove) {
   const std::string tiedosto = hakemisto.Projekti();
   const Tiedostotunnus tunnus = Tiedostotunnus::Lue(raportti.tunnus.Teksti());
   EXPECT_FALSE(tunnus.Tyhja());

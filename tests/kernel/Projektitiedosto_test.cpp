@@ -60,7 +60,7 @@ Projektivirhe::Syy VirheenSyy(const std::function<void()>& tehtava) {
 
 }  // namespace
 
-TEST_F(Projektitiedosto, LuettuPuuOnSamaKuinTallennettu) {
+TEST_F(Projektitiedosto, ATreeReadIsTheOneSaved) {
   Tallenna(30);
   EXPECT_EQ(Hae(), 0) << testing::PrintToString(raportti.esimerkit);
   EXPECT_THAT(Erot(), IsEmpty());
@@ -78,7 +78,7 @@ TEST_F(Projektitiedosto, LuettuPuuOnSamaKuinTallennettu) {
   EXPECT_EQ(luettu.Kuluttajat.Count(), 2);
 }
 
-TEST_F(Projektitiedosto, UusiTallennusSailyttaaTunnisteetJaUusiiRiviavaimet) {
+TEST_F(Projektitiedosto, ANewSaveKeepsIdentitiesAndRenewsRowKeys) {
   Tallenna();
   const auto tunnisteet = Sarake("KoeTila", "InstanssiId"), avaimet = Sarake("KoeTila", "ObjID");
   Tallenna(puu);
@@ -88,7 +88,7 @@ TEST_F(Projektitiedosto, UusiTallennusSailyttaaTunnisteetJaUusiiRiviavaimet) {
   EXPECT_EQ(std::set(uudet.begin(), uudet.end()).size(), 5u);
 }
 
-TEST_F(Projektitiedosto, RivitRiippuvatVanhemmissaan) {
+TEST_F(Projektitiedosto, RowsHangOnTheirParents) {
   Tallenna(2);
   EXPECT_THAT(Sarake("KoeRakennus", "ParentID || '/' || MyRealNameInParentObj || '/' || OrderID"),
               ElementsAre("Root/Laskentakohde/1"));
@@ -100,7 +100,7 @@ TEST_F(Projektitiedosto, RivitRiippuvatVanhemmissaan) {
   EXPECT_THAT(Sarake("KoeRakenne", "Kerrokset"), Contains("Empty").Times(4));
 }
 
-TEST_F(Projektitiedosto, TyhjaKokoelmaOnYksiRiviJaTyhjaTekstiSanaEmpty) {
+TEST_F(Projektitiedosto, AnEmptyCollectionIsOneRowAndAnEmptyTextTheWordEmpty) {
   Tallenna(puu);
   EXPECT_EQ(Sarake("KoeTilat", "ObjID").size(), 1u);
   EXPECT_THAT(Sarake("KoeTila", "ObjID"), IsEmpty());
@@ -110,7 +110,7 @@ TEST_F(Projektitiedosto, TyhjaKokoelmaOnYksiRiviJaTyhjaTekstiSanaEmpty) {
   EXPECT_EQ(luettu.KohteenNimi, "");
 }
 
-TEST_F(Projektitiedosto, KayttajanTekstiEiOleMerkki) {
+TEST_F(Projektitiedosto, AUsersTextIsNoMark) {
   for (const char* teksti : {"Empty", "IsObjectGet", "IsObjectMethod", "IsObjectGetReference"}) {
     puu.KohteenNimi = teksti;
     Tallenna(puu);
@@ -119,7 +119,7 @@ TEST_F(Projektitiedosto, KayttajanTekstiEiOleMerkki) {
   }
 }
 
-TEST_F(Projektitiedosto, ViittausJaaTiedostonUlkopuolelleJaOmaTallentuu) {
+TEST_F(Projektitiedosto, AReferenceStaysOutOfTheFileAndAnOwnedOneIsSaved) {
   Tallenna(1);
   EXPECT_THAT(Sarake("KoeToimenpide", "Ennen"), ElementsAre("IsObjectGetReference"));
   EXPECT_EQ(Hae(), 0);
@@ -134,7 +134,7 @@ TEST_F(Projektitiedosto, ViittausJaaTiedostonUlkopuolelleJaOmaTallentuu) {
   EXPECT_EQ(luettu.Saasto.Oma->sKey, "sKeyKelluva");
 }
 
-TEST_F(Projektitiedosto, PitkaTekstiJaMerkistoSailyvat) {
+TEST_F(Projektitiedosto, LongTextAndEncodingStay) {
   puu.KohteenNimi.assign(1'000'000, 'x');
   puu.KohteenNimi += "ÅÄÖ€😀\t\n'\";--";
   Tallenna(puu);
@@ -142,14 +142,14 @@ TEST_F(Projektitiedosto, PitkaTekstiJaMerkistoSailyvat) {
   EXPECT_EQ(luettu.KohteenNimi, puu.KohteenNimi);
 }
 
-TEST_F(Projektitiedosto, TunnisteetonSaaTekstinJaSiitaIlmoitetaan) {
+TEST_F(Projektitiedosto, OneWithoutIdentityGetsTextAndIsTold) {
   puu.TilatKokoelma.InstanssiId = {};
   EXPECT_THAT(Tallenna(puu).ilmanTunnistetta, ElementsAre("KoeTilat"));
   EXPECT_THAT(Sarake("KoeTilat", "InstanssiId"), ElementsAre("InstanssiId puuttuu!!"));
   EXPECT_EQ(puu.TilatKokoelma.InstanssiId, "InstanssiId puuttuu!!");
 }
 
-TEST_F(Projektitiedosto, LukuTekstisarakkeessaOnLyhinDesimaali) {
+TEST_F(Projektitiedosto, ANumberInATextColumnIsTheShortestDecimal) {
   koe::TeeMalli(hakemisto.Malli(), "ALTER TABLE KoeRyhma RENAME COLUMN Teho TO T; ALTER TABLE KoeRyhma ADD Teho TEXT");
   koe::Tayta(puu);
   puu.Kuluttajat.Item(1).Teho = 0.1;
@@ -159,7 +159,7 @@ TEST_F(Projektitiedosto, LukuTekstisarakkeessaOnLyhinDesimaali) {
   EXPECT_EQ(luettu.Kuluttajat.Item(1).Teho, 0.1);
 }
 
-TEST_F(Projektitiedosto, ArvoJotaEiVoiLukeaTakaisinEiTallennu) {
+TEST_F(Projektitiedosto, AValueThatCantBeReadBackIsNotSaved) {
   Tallenna();
   puu.TilatKokoelma.Item(3).Lampotila = NAN;
   EXPECT_EQ(VirheenSyy([&] { Tallenna(puu); }), Projektivirhe::Syy::Arvo);
@@ -172,7 +172,7 @@ TEST_F(Projektitiedosto, ArvoJotaEiVoiLukeaTakaisinEiTallennu) {
   EXPECT_EQ(luettu.TilatKokoelma.Count(), 5);
 }
 
-TEST_F(Projektitiedosto, RivienJaSarakkeidenJarjestysEiVaikuta) {
+TEST_F(Projektitiedosto, OrderOfRowsAndColumnsDoesntMatter) {
   Tallenna(20);
   for (const Luokka* luokka : koe::kLuokat) {
     const std::string nimi(luokka->Nimi());
@@ -189,7 +189,7 @@ TEST_F(Projektitiedosto, RivienJaSarakkeidenJarjestysEiVaikuta) {
   for (int i = 1; i <= 20; ++i) EXPECT_EQ(luettu.TilatKokoelma.Item(i).sKey, puu.TilatKokoelma.Item(i).sKey);
 }
 
-TEST_F(Projektitiedosto, VanhempiJaUudempiTiedostoLatautuvatHiljaa) {
+TEST_F(Projektitiedosto, AnOlderAndANewerFileLoadSilently) {
   Tallenna();
   Muuta(
       "ALTER TABLE KoeTila DROP COLUMN Lampotila; ALTER TABLE KoeTila ADD Tuleva TEXT; DROP TABLE KoeListarivi;"
@@ -202,7 +202,7 @@ TEST_F(Projektitiedosto, VanhempiJaUudempiTiedostoLatautuvatHiljaa) {
   EXPECT_THAT(raportti.tuntemattomat, testing::UnorderedElementsAre("KoeTila.Tuleva", "KoeRakennus.Tulevat"));
 }
 
-TEST_F(Projektitiedosto, MalliJostaPuuttuuJasenTaiSisaltoEiHukkaaSita) {
+TEST_F(Projektitiedosto, ATemplateWithoutAMemberLosesNothing) {
   Tallenna();
   koe::TeeMalli(hakemisto.Malli(), "ALTER TABLE KoeTila DROP COLUMN Lampotila");
   try {
@@ -220,7 +220,7 @@ TEST_F(Projektitiedosto, MalliJostaPuuttuuJasenTaiSisaltoEiHukkaaSita) {
   EXPECT_EQ(luettu.TilatKokoelma.Count(), 5);
 }
 
-TEST_F(Projektitiedosto, LatausKorvaaKokoelmienAlkiot) {
+TEST_F(Projektitiedosto, LoadingReplacesTheItemsOfCollections) {
   Tallenna();
   koe::Tayta(luettu, 9);
   EXPECT_EQ(Hae(), 0);
@@ -236,7 +236,7 @@ struct Vaurio {
 };
 class VaurioitunutProjekti : public Projektitiedosto, public testing::WithParamInterface<Vaurio> {};
 
-TEST_P(VaurioitunutProjekti, LaskeeVauriotJaLukeeMuun) {
+TEST_P(VaurioitunutProjekti, CountsDamageAndReadsTheRest) {
   Tallenna(5);
   Muuta(GetParam().sql);
   EXPECT_EQ(Hae(), GetParam().maara) << testing::PrintToString(raportti.esimerkit);
@@ -263,7 +263,7 @@ INSTANTIATE_TEST_SUITE_P(
         Vaurio{"OmaVanhempansa", "UPDATE KoeRakenteet SET ParentID=ObjID", 5 + 5 + 15 + 5 + 5, 5}),
     [](const auto& tapaus) { return tapaus.param.nimi; });
 
-TEST_F(Projektitiedosto, VersioLuetaanAvaamattaMuuta) {
+TEST_F(Projektitiedosto, TheVersionIsReadWithoutOpeningMore) {
   Tietokanta(hakemisto.Projekti(), Tietokanta::Tapa::Uusi)
       .Aja(
           "CREATE TABLE clsRakennus (Major INTEGER, Minor INTEGER, Revision INTEGER);"
@@ -277,7 +277,7 @@ TEST_F(Projektitiedosto, VersioLuetaanAvaamattaMuuta) {
   EXPECT_EQ(VirheenSyy([&] { HaeTiedostonVersio(hakemisto.Projekti()); }), Projektivirhe::Syy::EiProjekti);
 }
 
-TEST_F(Projektitiedosto, VierasTiedostoEiOleProjekti) {
+TEST_F(Projektitiedosto, AForeignFileIsNoProject) {
   for (const std::string_view sisalto : {"", "Tämä on tekstiä eikä tietokanta. ", "SQLite format 3"}) {
     KirjoitaTiedosto(hakemisto.Projekti(), sisalto);
     EXPECT_EQ(VirheenSyy([&] { HaeTiedostonVersio(hakemisto.Projekti()); }), Projektivirhe::Syy::EiProjekti);
@@ -288,7 +288,7 @@ TEST_F(Projektitiedosto, VierasTiedostoEiOleProjekti) {
 }
 
 /// Tables that compute their rows, without end or beyond all memory, and what isn't a file at all.
-TEST_F(Projektitiedosto, LaskevatTaulutJaPutketTorjutaanHeti) {
+TEST_F(Projektitiedosto, ComputingTablesAndPipesAreRefusedAtOnce) {
   Tallenna();
   const std::string ehja = LueTiedosto(hakemisto.Projekti());
   for (const char* sql :
@@ -308,14 +308,14 @@ TEST_F(Projektitiedosto, LaskevatTaulutJaPutketTorjutaanHeti) {
   EXPECT_EQ(VirheenSyy([&] { Tallenna(puu); }), Projektivirhe::Syy::Kirjoitus);
 }
 
-TEST_F(Projektitiedosto, VaurioitunutEdellinenSailyyJosPyydetaan) {
+TEST_F(Projektitiedosto, ADamagedFormerFileIsKeptWhenAsked) {
   Tallenna();
   const std::string vanha = LueTiedosto(hakemisto.Projekti());
   Tallenna(puu, {.sailytaEnnen = true});
   EXPECT_EQ(LueTiedosto(hakemisto.Projekti() + ".ennen"), vanha);
 }
 
-TEST_F(Projektitiedosto, MallinPuuttuminenKerrotaanEikaMitaanMuutu) {
+TEST_F(Projektitiedosto, AMissingTemplateIsToldAndNothingChanges) {
   Tallenna();
   const std::string vanha = LueTiedosto(hakemisto.Projekti());
   fs::remove(hakemisto.Malli());
@@ -324,7 +324,7 @@ TEST_F(Projektitiedosto, MallinPuuttuminenKerrotaanEikaMitaanMuutu) {
   EXPECT_FALSE(fs::exists(hakemisto.Varakopio()));
 }
 
-TEST_F(Projektitiedosto, JaanytVarakopioSailyyAjanMukaanNimettyna) {
+TEST_F(Projektitiedosto, ALeftBackupIsKeptNamedByItsTime) {
   KirjoitaTiedosto(hakemisto.Varakopio(), "ainoa ehjä kopio");
   EXPECT_EQ(JaanytVarakopio(), hakemisto.Varakopio());
   for (int i = 1; i <= 7; ++i) {
@@ -340,7 +340,7 @@ TEST_F(Projektitiedosto, JaanytVarakopioSailyyAjanMukaanNimettyna) {
 }
 
 /// The clock has been set back, and two are put aside in one second.
-TEST_F(Projektitiedosto, JuuriSivuunPantuEiKatoa) {
+TEST_F(Projektitiedosto, TheOneJustPutAsideIsNeverRemoved) {
   const auto aika = fs::file_time_type::clock::now();
   for (int i = 1; i <= 8; ++i) {
     KirjoitaTiedosto(hakemisto.Varakopio(), std::to_string(i));
@@ -359,7 +359,7 @@ TEST_F(Projektitiedosto, VarmuuskopioOnYhtaYksityinenKuinProjekti) {
     EXPECT_EQ(fs::status(tiedosto).permissions(), fs::perms(0600)) << tiedosto;
 }
 
-TEST_F(Projektitiedosto, UusiTiedostoSaaVanhanOikeudetJaLinkkiJaaLinkiksi) {
+TEST_F(Projektitiedosto, TheNewFileGetsTheOldModeAndALinkStaysALink) {
   Tallenna();
   const fs::path linkki = hakemisto / "linkki.lvt";
   fs::create_symlink(hakemisto.Projekti(), linkki);
@@ -371,7 +371,7 @@ TEST_F(Projektitiedosto, UusiTiedostoSaaVanhanOikeudetJaLinkkiJaaLinkiksi) {
   EXPECT_THAT(Sarake("KoeRakennus", "KohteenNimi"), ElementsAre("muutettu"));
 }
 
-TEST_F(Projektitiedosto, KirjoitussuojaPalauttaaOikeudet) {
+TEST_F(Projektitiedosto, WriteProtectionRestoresTheMode) {
   Tallenna();
   chmod(hakemisto.Projekti().c_str(), 0664);
   AsetaKirjoitussuoja(hakemisto.Projekti());

@@ -27,7 +27,7 @@ using Vertailu = Rekisteri;
 
 }  // namespace
 
-TEST_F(Rekisteri, MallinSarakeOnAttribuuttiJosLuokallaOnSe) {
+TEST_F(Rekisteri, ATemplateColumnIsAnAttributeIfTheClassHasIt) {
   const std::string toinen = (hakemisto / "toinen.tmp").string();
   koe::TeeMalli(toinen, "ALTER TABLE KoeTila ADD Uusi TEXT; ALTER TABLE KoeTila DROP COLUMN Yla");
   clsTyyppiTiedot uudet;
@@ -37,7 +37,7 @@ TEST_F(Rekisteri, MallinSarakeOnAttribuuttiJosLuokallaOnSe) {
   EXPECT_EQ(uudet.Item("koetila").Jasenet().size(), 5u);
 }
 
-TEST_F(Rekisteri, JokainenOlioLoytyyTunnisteellaan) {
+TEST_F(Rekisteri, EveryObjectIsFoundByItsIdentity) {
   EXPECT_EQ(PaivitaIdLista(puu, tyypit), 0);
   koe::Tila& tila = puu.TilatKokoelma.Item(3);
   EXPECT_EQ(tyypit.Nimet.Etsi("KoeTila")->Item(tila.InstanssiId), &tila);
@@ -49,7 +49,7 @@ TEST_F(Rekisteri, JokainenOlioLoytyyTunnisteellaan) {
   EXPECT_EQ(tyypit.Nimet.Etsi("KoeTila")->Count(), 0);
 }
 
-TEST_F(Rekisteri, ToinenSamastaTunnisteestaSaaUuden) {
+TEST_F(Rekisteri, TheSecondOfOneIdentityGetsANewOne) {
   const Tunniste tunniste = puu.TilatKokoelma.Item(1).InstanssiId;
   puu.TilatKokoelma.Item(4).InstanssiId = tunniste;
   EXPECT_EQ(PaivitaIdLista(puu, tyypit), 1);
@@ -58,7 +58,7 @@ TEST_F(Rekisteri, ToinenSamastaTunnisteestaSaaUuden) {
   EXPECT_EQ(tyypit.Nimet.Etsi("KoeTila")->Count(), 5);
 }
 
-TEST_F(Vertailu, MuutosKertooArvotEnnenJaJalkeen) {
+TEST_F(Vertailu, AChangeTellsValuesBeforeAndAfter) {
   const auto ennen = puu.Kopioi();
   puu.KohteenNimi = "uusi";
   puu.TilatKokoelma.Item(2).Lampotila += 1;
@@ -75,7 +75,7 @@ TEST_F(Vertailu, MuutosKertooArvotEnnenJaJalkeen) {
   EXPECT_EQ(lampotila.arvoJalkeen - lampotila.arvoEnnen, 1);
 }
 
-TEST_F(Vertailu, ReaaliluvunPieniEroEiOleMuutos) {
+TEST_F(Vertailu, ASmallDifferenceOfARealIsNoChange) {
   const auto ennen = puu.Kopioi();
   ennen->Kaksin = 20;
   puu.Kaksin = 20.000004;
@@ -84,7 +84,7 @@ TEST_F(Vertailu, ReaaliluvunPieniEroEiOleMuutos) {
   EXPECT_THAT(koe::Erot(puu, *ennen, hakemisto.Malli()), ElementsAre("KoeRakennus.Kaksin"));
 }
 
-TEST_F(Vertailu, ParitonAlkioOhitetaanJaEriLuokistaIlmoitetaan) {
+TEST_F(Vertailu, AnOddItemIsPassedOverAndUnequalClassesAreTold) {
   const auto ennen = puu.Kopioi();
   puu.TilatKokoelma.Remove(1);
   puu.TilatKokoelma.Add("sKeyUusi").Lampotila = 5;

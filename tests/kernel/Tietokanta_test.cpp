@@ -19,13 +19,13 @@ class TietokantaTesti : public testing::Test {
 
 }  // namespace
 
-TEST(Lauseeksi, KaantaaMuutMurteetMuttaEiTekstia) {
+TEST(Lauseeksi, TranslatesOtherDialectsButNoText) {
   EXPECT_EQ(Lauseeksi("DELETE * FROM a"), "DELETE FROM a");
   EXPECT_EQ(Lauseeksi("SELECT * FROM a WHERE b = True AND c = false"), "SELECT * FROM a WHERE b <> 0 AND c = 0");
   EXPECT_EQ(Lauseeksi("SELECT '= True, ''DELETE * FROM'"), "SELECT '= True, ''DELETE * FROM'");
 }
 
-TEST_F(TietokantaTesti, ArvotSidotaanJaTotuusOnMiinusYksi) {
+TEST_F(TietokantaTesti, ValuesAreBoundAndTrueIsMinusOne) {
   Tietokanta kanta(Tiedosto(), Tietokanta::Tapa::Uusi);
   kanta.Aja("CREATE TABLE t (nimi TEXT, luku REAL, kylla BOOLEAN)");
   kanta.Aja("INSERT INTO t VALUES (?, ?, ?)", "O'Hara; DROP TABLE t", 0.1, true);
@@ -38,7 +38,7 @@ TEST_F(TietokantaTesti, ArvotSidotaanJaTotuusOnMiinusYksi) {
   EXPECT_FALSE(rivit.Seuraava());
 }
 
-TEST_F(TietokantaTesti, HyvaksymatonTransaktioPeruuntuu) {
+TEST_F(TietokantaTesti, AnUncommittedTransactionRollsBack) {
   Tietokanta kanta(Tiedosto(), Tietokanta::Tapa::Uusi);
   kanta.Aja("CREATE TABLE t (a)");
   {
@@ -48,7 +48,7 @@ TEST_F(TietokantaTesti, HyvaksymatonTransaktioPeruuntuu) {
   EXPECT_FALSE(Kysely(kanta, "SELECT * FROM t").Seuraava());
 }
 
-TEST_F(TietokantaTesti, VirheKertooTiedostonJaSyyn) {
+TEST_F(TietokantaTesti, AnErrorTellsFileAndCause) {
   KirjoitaTiedosto(Tiedosto(), std::string(5000, 'x'));
   try {
     Tietokanta kanta(Tiedosto());

@@ -24,7 +24,7 @@ Kerros Jaettu(double paksuus_m, double lambda, double lambda2, double osuus2) {
 // cavity 0.09, plywood 19 mm, mineral wool 140 mm with 9.5 % of timber, plasterboard 25 mm.
 // Published: section resistances 3.971 and 1.715.  R' = 1 / (0.905 / 3.971 + 0.095 / 1.715) = 3.530;
 // bridged layer 1 / (0.905 / 3.333 + 0.095 / 1.077) = 2.780, R'' = 0.638 + 2.780 = 3.418;  R = 3.474, U = 0.288.
-TEST(Lammonlapaisy, PuurunkoinenSeinaOnJulkaistunEsimerkinMukainen) {
+TEST(Lammonlapaisy, ATimberWallAgreesWithThePublishedExample) {
   const Kerros seina[] = {Yhtenainen(0.025, 0.25), Jaettu(0.140, 0.042, 0.13, 0.095), Yhtenainen(0.019, 0.13),
                           Vastus(0.09), Yhtenainen(0.102, 0.77)};
   const auto tulos = LaskeLammonlapaisy(seina, 0.13, 0.04, 21, -26);
@@ -39,7 +39,7 @@ TEST(Lammonlapaisy, PuurunkoinenSeinaOnJulkaistunEsimerkinMukainen) {
 
 // Brick 270 mm, lambda 0.60, plaster 10 and 20 mm, lambda 1.0:
 // R = 0.13 + 0.01 + 0.45 + 0.02 + 0.04 = 0.65, U = 1.538.
-TEST(Lammonlapaisy, MuurattuSeinaOnVastustenSumma) {
+TEST(Lammonlapaisy, AMasonryWallIsTheSumOfResistances) {
   const Kerros seina[] = {Yhtenainen(0.010, 1.0), Yhtenainen(0.270, 0.60), Yhtenainen(0.020, 1.0)};
   const auto tulos = LaskeLammonlapaisy(seina, 0.13, 0.04, 20, -6);
   EXPECT_NEAR(tulos.R, 0.65, 1e-12);
@@ -57,7 +57,7 @@ TEST(Lammonlapaisy, MuurattuSeinaOnVastustenSumma) {
 // Surfaces 0.2.  R' = 1 / (0.72 / 6.2 + 0.18 / 4.7 + 0.08 / 3.2 + 0.02 / 1.7)
 //                   = 1 / (0.116129 + 0.038298 + 0.025 + 0.011765) = 5.2303;
 // R'' = 0.2 + 1 / (0.9 / 4 + 0.1 / 1) + 1 / (0.8 / 2 + 0.2 / 0.5) = 0.2 + 3.076923 + 1.25 = 4.526923.
-TEST(Lammonlapaisy, KaksiEpayhtenaistaKerrostaOnNeljaLohkoa) {
+TEST(Lammonlapaisy, TwoInhomogeneousLayersAreFourSections) {
   const Kerros katto[] = {Jaettu(0.2, 0.05, 0.2, 0.1), Jaettu(0.1, 0.05, 0.2, 0.2)};
   const auto tulos = LaskeLammonlapaisy(katto, 0.16, 0.04, 20, 0);
   EXPECT_NEAR(tulos.R_yla, 5.2303, 1e-4);
@@ -66,7 +66,7 @@ TEST(Lammonlapaisy, KaksiEpayhtenaistaKerrostaOnNeljaLohkoa) {
   EXPECT_NEAR(tulos.lampotilat.back(), 20 * 0.04 / 4.526923, 1e-6);  // ends at the outer film
 }
 
-TEST(Lammonlapaisy, KerrosJotaEiLasketaEiVaikuta) {
+TEST(Lammonlapaisy, ALayerLeftOutHasNoEffect) {
   const Kerros eriste = Yhtenainen(0.1, 0.04);
   Kerros verhous = Jaettu(0.02, 0.1, 0.2, 0.5);
   verhous.mukana = false;
@@ -77,7 +77,7 @@ TEST(Lammonlapaisy, KerrosJotaEiLasketaEiVaikuta) {
   EXPECT_EQ(tulos.kerrosvastukset, (std::vector<double>{2.5, 0, 0, 0, 0}));
 }
 
-TEST(Lammonlapaisy, IlmanVastustaEiOleArvoa) {
+TEST(Lammonlapaisy, WithoutResistanceThereIsNoValue) {
   const Kerros mitaton[] = {Yhtenainen(0, 0.04), Jaettu(0.1, 0.04, 0, 0.1)};  // the second one is bridged
   EXPECT_EQ(LammonlapaisyU(mitaton, 0, 0), std::nullopt);
   EXPECT_EQ(LammonlapaisyU({}, -0.13, 0), std::nullopt);
@@ -88,14 +88,14 @@ TEST(Lammonlapaisy, IlmanVastustaEiOleArvoa) {
   EXPECT_NEAR(*LammonlapaisyU({}, 0.13, 0.04), 1 / 0.17, 1e-12);  // the surfaces alone are a resistance
 }
 
-TEST(Lammonlapaisy, OsuusNollaJaSataProsenttiaOvatYhtenaisia) {
+TEST(Lammonlapaisy, SharesOfZeroAndAHundredAreHomogeneous) {
   for (const auto& [osuus, R] : {std::pair{0.0, 4.0}, {-1.0, 4.0}, {1.0, 1.0}, {7.0, 1.0}}) {
     const Kerros kerros[] = {Jaettu(0.2, 0.05, 0.2, osuus)};
     EXPECT_NEAR(*LammonlapaisyU(kerros, 0.13, 0.04), 1 / (0.17 + R), 1e-12) << osuus;
   }
 }
 
-TEST(Lammonlapaisy, IlmavaliRunkopuidenValissaKayttaaKiinteaaVastustaVainIlmalle) {
+TEST(Lammonlapaisy, AnAirGapBetweenStudsHasFixedResistanceForAirOnly) {
   Kerros vali = Jaettu(0.022, 0, 0.11, 0.25);  // battens 0.2, air 0.18
   vali.vastus = 0.18;
   const Kerros rakenne[] = {vali};
@@ -103,7 +103,7 @@ TEST(Lammonlapaisy, IlmavaliRunkopuidenValissaKayttaaKiinteaaVastustaVainIlmalle
 }
 
 /// Random structures of many inhomogeneous layers, more than the sections are spread out for.
-TEST(Lammonlapaisy, VastusOnAinaAlaJaYlarajanValissa) {
+TEST(Lammonlapaisy, ResistanceLiesBetweenTheLowerAndUpperLimits) {
   Arpa arpa;
   std::uniform_real_distribution<double> luku(0.01, 1.0);
   for (int kierros = 0; kierros < 60; ++kierros) {

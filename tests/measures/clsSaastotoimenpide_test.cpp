@@ -9,7 +9,7 @@
 namespace {
 
 // The numbers of the kinds are those of the project file.
-TEST(clsMuuttuneetAttribuutit, MuutosKirjautuuLajinsaNumerollaOmalleAvaimelleen) {
+TEST(clsMuuttuneetAttribuutit, AChangeIsEnteredByItsKindUnderItsKey) {
   constexpr std::pair<Laji, int> kNumerot[] = {{Laji::Teksti, 8}, {Laji::Kaksinkertainen, 5}, {Laji::Totuus, 11}};
   clsMuuttuneetAttribuutit muutokset;
   std::set<std::string> avaimet;
@@ -28,14 +28,14 @@ TEST(clsMuuttuneetAttribuutit, MuutosKirjautuuLajinsaNumerollaOmalleAvaimelleen)
 
 using clsSaastotoimenpideTesti = Asetuskansio;
 
-TEST_F(clsSaastotoimenpideTesti, UusiToimenpideOnPaivattyTekijallaJaKelluu) {
+TEST_F(clsSaastotoimenpideTesti, ANewMeasureIsDatedHasItsAuthorAndFloats) {
   const clsSaastotoimenpide toimenpide;
   EXPECT_EQ(toimenpide.ToimenpiteenPaivays, TamaPaiva());
   EXPECT_TRUE(toimenpide.ToimenpiteenTekijanNimi.starts_with("In Excel: '"));
   EXPECT_TRUE(toimenpide.MuuttuneetAttribuutit.Kelluva());
 }
 
-TEST_F(clsSaastotoimenpideTesti, YliKymmenesosanMuutosPerustassaMitatoiTiedot) {
+TEST_F(clsSaastotoimenpideTesti, ATenthsChangeOfTheBaseMakesFiguresStale) {
   clsSaastotoimenpide toimenpide;
   for (void (clsSaastotoimenpide::*aseta)(double) noexcept :
        {static_cast<void (clsSaastotoimenpide::*)(double) noexcept>(&clsSaastotoimenpide::LampoEnergiaEnnen),
@@ -51,7 +51,7 @@ TEST_F(clsSaastotoimenpideTesti, YliKymmenesosanMuutosPerustassaMitatoiTiedot) {
   EXPECT_EQ(toimenpide.LampoEnergiaEnnen(), 99.8);
 }
 
-TEST_F(clsSaastotoimenpideTesti, KelluvaRyhmaLuodaanTyypinMukaanJaKopioituuErilliseksi) {
+TEST_F(clsSaastotoimenpideTesti, AFloatingGroupIsMadeByTypeAndCopiedApart) {
   clsSaastotoimenpide toimenpide;
   const Jasen& ennen = *clsSaastotoimenpide::kLuokka.Etsi("Ennen");
   EXPECT_TRUE(ennen.viittaus);

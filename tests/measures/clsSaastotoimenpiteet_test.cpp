@@ -9,7 +9,7 @@ namespace {
 
 using clsSaastotoimenpiteetTesti = Asetuskansio;
 
-TEST_F(clsSaastotoimenpiteetTesti, ToimenpiteetLoytyvatKohteensaTunnisteella) {
+TEST_F(clsSaastotoimenpiteetTesti, MeasuresAreFoundByTheIdentityOfTheirObject) {
   clsSaastotoimenpiteet toimenpiteet;
   const clsSahkonKulutusryhma kohde, toinen;
   for (const char* avain : {"a", "b", "c"}) toimenpiteet.Add(avain);
@@ -19,7 +19,7 @@ TEST_F(clsSaastotoimenpiteetTesti, ToimenpiteetLoytyvatKohteensaTunnisteella) {
   EXPECT_TRUE(toimenpiteet.LiittyykoToimenpidetta(toinen.InstanssiId).empty());
 }
 
-TEST(clsValitutToimenpiteet, RiviLisataanAnnetunRivinJalkeenTaiLoppuun) {
+TEST(clsValitutToimenpiteet, ARowIsAddedBehindTheGivenOneOrLast) {
   clsToimenpiteidenJarjestelija jarjestelija;
   clsValitutToimenpiteet& rivit = jarjestelija.ValitutToimenpiteet;
   rivit.Add("yhteensä", "");

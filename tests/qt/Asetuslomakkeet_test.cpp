@@ -47,7 +47,7 @@ class Asetuslomakkeet : public Ikkunatesti {
   Koeviestit viestit;
 };
 
-TEST_F(Asetuslomakkeet, KaikkiValilehdetMahtuvatNaytolle) {
+TEST_F(Asetuslomakkeet, AllPagesFitTheScreen) {
   frmOptions lomake;
   lomake.cmbValuutta.Rivit({"mk", "euro"});
   lomake.cmbValuutta.Indeksi(1);
@@ -69,7 +69,7 @@ TEST_F(Asetuslomakkeet, KaikkiValilehdetMahtuvatNaytolle) {
   }
 }
 
-TEST_F(Asetuslomakkeet, VirheellinenKenttaTuodaanEsiinPiilossaOlevaltaValilehdelta) {
+TEST_F(Asetuslomakkeet, AFaultyFieldIsBroughtForthFromAHiddenPage) {
   frmOptions lomake;
   bool hyvaksytty = false;
   lomake.OkKlikattu = [&] { hyvaksytty = true; };
@@ -87,7 +87,7 @@ TEST_F(Asetuslomakkeet, VirheellinenKenttaTuodaanEsiinPiilossaOlevaltaValilehdel
   EXPECT_NE(viestit.Naytetyt()[0].teksti.find("vähintään 0, enintään 100."), std::string::npos);
 }
 
-TEST_F(Asetuslomakkeet, OhjelmanTiedotKopioituvat) {
+TEST_F(Asetuslomakkeet, TheProgramsDataAreCopied) {
   QTimer::singleShot(0, [] {
     auto& lomake = static_cast<frmAbout&>(*AvoimetLomakkeet().back());
     TallennaKuva(lomake);
@@ -119,7 +119,7 @@ class Selainvale : public QObject {
   QUrl avattu;
 };
 
-TEST_F(Asetuslomakkeet, VainVerkkosivuAvautuuSelaimeen) {
+TEST_F(Asetuslomakkeet, OnlyAWebPageOpensInTheBrowser) {
   const Selainvale selain;
   NaytaWWW("www.esimerkki.fi/katselmus");
   EXPECT_EQ(selain.avattu.toString(), "http://www.esimerkki.fi/katselmus");
@@ -129,7 +129,7 @@ TEST_F(Asetuslomakkeet, VainVerkkosivuAvautuuSelaimeen) {
   EXPECT_EQ(selain.avattu.host(), "www.esimerkki.fi");
 }
 
-TEST_F(Asetuslomakkeet, KaavioKertooOsansaArvonJaTallentuuKuvana) {
+TEST_F(Asetuslomakkeet, AChartTellsItsPartsValueAndIsSavedAsAPicture) {
   frmKuukausitase lomake;
   Taulukko rivit;
   for (int termi = 0; termi < 12; ++termi) {
@@ -170,7 +170,7 @@ TEST_F(Asetuslomakkeet, KaavioKertooOsansaArvonJaTallentuuKuvana) {
   EXPECT_NE(viestit.Naytetyt().back().teksti.find("/ei/ole/tase.png"), std::string::npos);
 }
 
-TEST_F(Asetuslomakkeet, KaavioNayttaaNollatJaTyhjanIlmanVirhetta) {
+TEST_F(Asetuslomakkeet, AChartShowsZerosAndNothingWithoutError) {
   frmKuukausitase lomake;
   lomake.Nayta();
   lomake.chtTase.Kaavio({});

@@ -29,7 +29,7 @@ QString Leikepoyta(Kaaviokuva& kuva) {
   return QGuiApplication::clipboard()->text();
 }
 
-TEST(Kaaviokuvat, ViikonJokainenJaksoKertooAikansa) {
+TEST(Kaaviokuvat, EveryPeriodOfTheWeekTellsItsTime) {
   Viikkokuva kuva;
   kuva.AsetaKaavio(
       Viikkokuvaus("Joulu-helmikuu", {{5, {380}, {1065}, 100}, {5, {1065}, {380}, 50}, {2, {0}, {0}, 40}}));
@@ -45,7 +45,7 @@ TEST(Kaaviokuvat, ViikonJokainenJaksoKertooAikansa) {
   EXPECT_EQ(rivit[2], QStringLiteral("ma\t06:20\t17:45\t100,0"));
 }
 
-TEST(Kaaviokuvat, KayranPisteetKertovatArvonsaJaAukotOvatTyhjia) {
+TEST(Kaaviokuvat, PointsOfACurveTellTheirValuesAndGapsAreEmpty) {
   constexpr double kEi = std::numeric_limits<double>::quiet_NaN();
   Kayrakuva kuva;
   kuva.AsetaKaavio({.otsikko = "Tehot",
@@ -61,7 +61,7 @@ TEST(Kaaviokuvat, KayranPisteetKertovatArvonsaJaAukotOvatTyhjia) {
   EXPECT_TRUE(Leikepoyta(kuva).endsWith(QStringLiteral("\n70\t\t\n100\t2,000\t")));
 }
 
-TEST(Kaaviokuvat, TyhjatPiirtyvatJaSietavatOsoittimen) {
+TEST(Kaaviokuvat, EmptyOnesAreDrawnAndBearThePointer) {
   Viikkokuva viikko;
   Kayrakuva kayra;
   for (Kaaviokuva* kuva : {static_cast<Kaaviokuva*>(&viikko), static_cast<Kaaviokuva*>(&kayra)}) {

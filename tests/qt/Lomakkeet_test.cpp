@@ -108,7 +108,7 @@ bool OnKirjaimia(const QString& teksti) {
   return std::ranges::any_of(teksti, [](QChar merkki) { return merkki.isLetter(); });
 }
 
-TEST_P(Lomakkeet, KaikillaTeksteillaOnRiviTekstivarastossa) {
+TEST_P(Lomakkeet, AllTextsHaveARowInTheStore) {
   EXPECT_FALSE(lomake_.Otsikko().empty());
   EXPECT_EQ(lomake_.Otsikko().find("[String"), std::string::npos);
   for (const auto& ohjain : lomake_.Ohjaimet())
@@ -116,7 +116,7 @@ TEST_P(Lomakkeet, KaikillaTeksteillaOnRiviTekstivarastossa) {
       EXPECT_EQ(teksti.find("[String"), std::string::npos) << ohjain->Nimi() << ": " << teksti;
 }
 
-TEST_P(Lomakkeet, JokaisellaKentallaOnNimiJaOtsikollaKentta) {
+TEST_P(Lomakkeet, EveryFieldHasANameAndEveryCaptionAField) {
   for (const QWidget* kentta : Kentat()) {
     EXPECT_FALSE(kentta->accessibleName().isEmpty()) << Nimi(kentta);
     EXPECT_FALSE(kentta->toolTip().isEmpty()) << Nimi(kentta);
@@ -130,7 +130,7 @@ TEST_P(Lomakkeet, JokaisellaKentallaOnNimiJaOtsikollaKentta) {
   }
 }
 
-TEST_P(Lomakkeet, KullakinNakyvallaOnOmaPikakirjain) {
+TEST_P(Lomakkeet, EachVisibleOneHasItsOwnLetter) {
   KullakinSivulla([this] {
     QStringList otsikot;
     for (const QLabel* otsikko : Lapset<QLabel>())
@@ -153,7 +153,7 @@ TEST_P(Lomakkeet, KullakinNakyvallaOnOmaPikakirjain) {
   });
 }
 
-TEST_P(Lomakkeet, SarkainKulkeeLukujarjestyksessa) {
+TEST_P(Lomakkeet, TheTabKeyGoesInReadingOrder) {
   QWidgetList jarjestys;
   for (QWidget* w = juuri_->nextInFocusChain(); w != juuri_; w = w->nextInFocusChain())
     if (juuri_->isAncestorOf(w) && w->isVisible() && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy())
@@ -163,11 +163,11 @@ TEST_P(Lomakkeet, SarkainKulkeeLukujarjestyksessa) {
     EXPECT_TRUE(LuetaanEnnen(jarjestys[i - 1], jarjestys[i])) << Nimi(jarjestys[i - 1]) << " -> " << Nimi(jarjestys[i]);
 }
 
-TEST_P(Lomakkeet, MikaanOtsikkoEiLeikkaannu) { TarkistaOtsikot(); }
+TEST_P(Lomakkeet, NoCaptionIsClipped) { TarkistaOtsikot(); }
 
 /// Screens as the toolkit measures them, in pixels of the desktop's scale: 1366 x 768 at 125 % and 1920 x 1080 at
 /// 200 %. What doesn't fit scrolls, and each field can be reached; the buttons stay in view.
-TEST_P(Lomakkeet, MahtuuPienelleNaytolleJaNapitNakyvat) {
+TEST_P(Lomakkeet, FitsASmallScreenWithItsButtonsInView) {
   auto* kehys = dynamic_cast<Dialogikehys*>(juuri_->window());
   ASSERT_NE(kehys, nullptr);
   for (const QSize naytto : {QSize(1092, 614), QSize(960, 540)}) {

@@ -74,7 +74,7 @@ class Tilaluettelo : public Luettelotesti {
   std::string tehty_;
 };
 
-TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
+TEST_F(Tilaluettelo, ClickingAHeadingSortsAndTheSumStaysLast) {
   NapsautaOtsikkoa(Lista(), 0);
   EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Aula", "Sali", "Öljyvarasto", "Yhteensä"}));
   EXPECT_EQ(lomake_.lvwTilat.Indeksi(), 0);
@@ -92,7 +92,7 @@ TEST_F(Tilaluettelo, OtsikonNapsautusLajitteleeJaSummaPysyyViimeisena) {
   EXPECT_EQ(Sarake(Lista(), 1), QStringList({"2", "1", "1 290"})) << "new rows are sorted as the former were";
 }
 
-TEST_F(Tilaluettelo, LajiteltuOtsikkoMahtuuNuolineenJaMuutSaavatTilansaTakaisin) {
+TEST_F(Tilaluettelo, ASortedHeadingFitsWithItsArrowAndOthersGetTheirRoomBack) {
   const auto leveydet = [this] {
     QList<int> kaikki;
     for (int s = 0; s < Lista().model()->columnCount(); ++s) kaikki << Lista().columnWidth(s);
@@ -109,7 +109,7 @@ TEST_F(Tilaluettelo, LajiteltuOtsikkoMahtuuNuolineenJaMuutSaavatTilansaTakaisin)
   EXPECT_EQ(leveydet(), alussa);
 }
 
-TEST_F(Tilaluettelo, TeemanVaihtuessaSummaJaLukitutKentatSaavatSenVarit) {
+TEST_F(Tilaluettelo, SumAndLockedFieldsTakeTheThemesColours) {
   const auto vari = [this] { return Lista().model()->index(3, 0).data(Qt::ForegroundRole).value<QBrush>().color(); };
   frmTila tila;
   Nayta(tila);
@@ -127,7 +127,7 @@ TEST_F(Tilaluettelo, TeemanVaihtuessaSummaJaLukitutKentatSaavatSenVarit) {
   QApplication::setPalette(entinen);
 }
 
-TEST_F(Tilaluettelo, ValitutRivitTaiKaikkiLeikepoydalle) {
+TEST_F(Tilaluettelo, ChosenRowsOrAllGoToTheClipboard) {
   Napsauta(Lista(), 0);
   Napsauta(Lista(), 1, Qt::ShiftModifier);
   QTest::keyClick(&Lista(), Qt::Key_C, Qt::ControlModifier);
@@ -138,7 +138,7 @@ TEST_F(Tilaluettelo, ValitutRivitTaiKaikkiLeikepoydalle) {
   EXPECT_TRUE(Leikepoyta().endsWith("Aula\t200\nYhteensä\t1290\n")) << Leikepoyta().toStdString();
 }
 
-TEST_F(Tilaluettelo, EnterJaKaksoisnapsautusMuokkaavatEivatkaSulje) {
+TEST_F(Tilaluettelo, EnterAndDoubleClickEditAndDontClose) {
   Napsauta(Lista(), 1);
   QTest::keyClick(&Lista(), Qt::Key_Return);
   EXPECT_EQ(tehty_, "sali ");
@@ -149,7 +149,7 @@ TEST_F(Tilaluettelo, EnterJaKaksoisnapsautusMuokkaavatEivatkaSulje) {
   EXPECT_EQ(lomake_.lvwTilat.Indeksi(), 2);
 }
 
-TEST_F(Tilaluettelo, InsertLisaaJaDeletePoistaaNimenKysyen) {
+TEST_F(Tilaluettelo, InsertAddsAndDeleteAsksByName) {
   QTest::keyClick(&Lista(), Qt::Key_Insert);
   EXPECT_EQ(tehty_, "+");
   QString kysymys;
@@ -183,7 +183,7 @@ class Puuluettelo : public Tilaluettelo {
   }
 };
 
-TEST_F(Puuluettelo, HaaratAukeavatNappaimillaJaPysyvatTaytettaessa) {
+TEST_F(Puuluettelo, BranchesOpenByKeysAndStayWhenFilled) {
   EXPECT_EQ(Sarake(Lista(), 0), QStringList({"Koulu", "Sali", "Aula", "Muut", "Yhteensä"}));
   TallennaKuva(lomake_, "_puu");
   Lista().setCurrentIndex(Paikka("Muut"));
@@ -199,7 +199,7 @@ TEST_F(Puuluettelo, HaaratAukeavatNappaimillaJaPysyvatTaytettaessa) {
   EXPECT_EQ(Valittu(Lista()), "Koulu");
 }
 
-TEST_F(Puuluettelo, MerkitysNakyyMerkkinaJaSelitteenaEikaVainVarina) {
+TEST_F(Puuluettelo, AMeaningShowsAsAMarkAndInWordsNotByColourOnly) {
   const QModelIndex aula = Paikka("Aula", 1);
   EXPECT_FALSE(aula.data(Qt::DecorationRole).value<QIcon>().isNull());
   EXPECT_EQ(aula.data(Qt::AccessibleDescriptionRole), "Liian pieni");
@@ -209,7 +209,7 @@ TEST_F(Puuluettelo, MerkitysNakyyMerkkinaJaSelitteenaEikaVainVarina) {
   EXPECT_TRUE(Paikka("Koulu").data(Qt::FontRole).value<QFont>().bold());
 }
 
-TEST_F(Puuluettelo, SoluaMuokataanF2llaJaOhjelmaPaattaaMitaSiinaNakyy) {
+TEST_F(Puuluettelo, ACellIsEditedByF2AndTheProgramDecidesWhatItShows) {
   lomake_.lvwTilat.KunMuokataan([this](int rivi, int sarake, const std::string& teksti) {
     lomake_.lvwTilat.Rivi(rivi, {"Sali", std::to_string(sarake) + "/" + teksti});
   });
@@ -225,7 +225,7 @@ TEST_F(Puuluettelo, SoluaMuokataanF2llaJaOhjelmaPaattaaMitaSiinaNakyy) {
   EXPECT_FALSE(Paikka("Aula", 1).flags().testFlag(Qt::ItemIsEditable));
 }
 
-TEST_F(Puuluettelo, RiviRaahataanSallitunRivinAlle) {
+TEST_F(Puuluettelo, ARowIsDraggedUnderAnAllowedRow) {
   Tunniste siirretty, kohde;
   const Luettelo& lista = lomake_.lvwTilat.Kohde().Lista();
   lomake_.lvwTilat.KunSiirretaan([&](int, int ylempi) { return lista.Avain(ylempi) == Tunniste("muut"); },
@@ -244,7 +244,7 @@ TEST_F(Puuluettelo, RiviRaahataanSallitunRivinAlle) {
   EXPECT_FALSE(Paikka("Aula").flags().testFlag(Qt::ItemIsDragEnabled));
 }
 
-TEST_F(Puuluettelo, NimisarakeSaaTilanJaKapeneeVasta) {
+TEST_F(Puuluettelo, TheNameColumnTakesTheRoomAndNarrowsLast) {
   int muut = 0;
   for (int s = 1; s < Lista().model()->columnCount(); ++s) muut += Lista().columnWidth(s);
   EXPECT_EQ(Lista().columnWidth(0), Lista().viewport()->width() - muut);
@@ -264,7 +264,7 @@ class Rakenneluettelo : public Luettelotesti {
   frmRakenteet lomake_;
 };
 
-TEST_F(Rakenneluettelo, VirheellinenKenttaPalauttaaValinnan) {
+TEST_F(Rakenneluettelo, AFaultyFieldRestoresTheChoice) {
   Nayta(lomake_);
   int valintoja = 0;
   lomake_.RakenneValittu = [&] { ++valintoja; };
@@ -283,7 +283,7 @@ TEST_F(Rakenneluettelo, VirheellinenKenttaPalauttaaValinnan) {
   EXPECT_EQ(valitut[0].row(), 1) << "what is shown as chosen is what the fields tell of";
 }
 
-TEST_F(Rakenneluettelo, LiitetytRivitTulevatLomakkeelle) {
+TEST_F(Rakenneluettelo, PastedRowsComeToTheForm) {
   Nayta(lomake_);
   Taulukko rivit;
   lomake_.RivitLiitetty = [&](const Taulukko& liitetyt) { rivit = liitetyt; };
@@ -292,7 +292,7 @@ TEST_F(Rakenneluettelo, LiitetytRivitTulevatLomakkeelle) {
   EXPECT_EQ(rivit, (Taulukko{{"Nimi", "Pinta-ala"}, {"Seinä", "1 200,5"}}));
 }
 
-TEST_F(Rakenneluettelo, SuljettuSivuEiAukeaJaAuetessaanSailyttaaSivun) {
+TEST_F(Rakenneluettelo, AClosedPageDoesntOpenAndAnOpenedFormKeepsItsPage) {
   Nayta(lomake_);
   auto& sivut = Etsi<QTabWidget>(lomake_, "tabRakenne");
   EXPECT_FALSE(sivut.isTabEnabled(2));

@@ -59,7 +59,7 @@ class Opas : public ::testing::Test {
   QLineEdit* haku_ = Osa<QLineEdit>(ikkuna_, "haku");
 };
 
-TEST(OppaanSisalto, JokaisellaLomakkeenAiheellaOnOmaSivunsa) {
+TEST(OppaanSisalto, EachTopicOfAFormHasItsPage) {
   const Ohjeluettelo luettelo = Luettelo();
   QStringList rivit = Lue(QString::fromStdString(Lahdekoodi("data/ohjeet.csv"))).split('\n', Qt::SkipEmptyParts);
   rivit.removeFirst();
@@ -71,7 +71,7 @@ TEST(OppaanSisalto, JokaisellaLomakkeenAiheellaOnOmaSivunsa) {
   for (const int aihe : aiheet) EXPECT_EQ(std::ranges::count(luettelo.Aihe(aihe)->aiheet, aihe), 1) << "aihe " << aihe;
 }
 
-TEST(OppaanSisalto, LinkitJaKuvatOvatOlemassa) {
+TEST(OppaanSisalto, LinksAndPicturesExist) {
   const QDir kansio(Koti() + "Ohje");
   const QStringList sivut = kansio.entryList({"*.html"});
   EXPECT_GT(sivut.size(), 20);
@@ -91,7 +91,7 @@ TEST(OppaanSisalto, LinkitJaKuvatOvatOlemassa) {
   }
 }
 
-TEST_F(Opas, AiheAvautuuJaPuuSeuraa) {
+TEST_F(Opas, ATopicOpensAndTheTreeFollows) {
   ikkuna_.Avaa(33);
   EXPECT_EQ(Sivu(), "rakenteet.html");
   EXPECT_EQ(selain_->source().fragment(), "rakennekerrokset");
@@ -101,7 +101,7 @@ TEST_F(Opas, AiheAvautuuJaPuuSeuraa) {
   EXPECT_EQ(Sivu(), "sisallys.html");
 }
 
-TEST_F(Opas, NappaimillaPaaseeSivultaToiselle) {
+TEST_F(Opas, KeysLeadFromPageToPage) {
   ikkuna_.activateWindow();
   ikkuna_.Avaa(kOhjeTervetuloa);
   puu_->setFocus();
@@ -119,7 +119,7 @@ TEST_F(Opas, NappaimillaPaaseeSivultaToiselle) {
   EXPECT_EQ(Sivu(), "sisallys.html");
 }
 
-TEST_F(Opas, HakuLoytaaSivutJoillaOnKaikkiSanat) {
+TEST_F(Opas, SearchFindsPagesWithAllWordsInAnyForm) {
   ikkuna_.Avaa(kOhjeSisallys);
   QTest::keyClicks(haku_, QStringLiteral("NORMIT vakio-os"));
   ASSERT_GT(osumat_->count(), 1);
@@ -146,7 +146,7 @@ TEST_F(Opas, HakuLoytaaSivutJoillaOnKaikkiSanat) {
   EXPECT_FALSE(ikkuna_.isVisible());
 }
 
-TEST_F(Opas, JokainenSivuMahtuuIkkunaan) {
+TEST_F(Opas, EveryPageFitsTheWindow) {
   const Ohjeluettelo luettelo = Luettelo();
   for (const Ohjeluettelo::Rivi& rivi : luettelo.Rivit()) {
     if (rivi.sivu.find('#') != std::string::npos) continue;
@@ -163,7 +163,7 @@ QWidget* Oppaanikkuna() {
   return nullptr;
 }
 
-TEST(OhjeenAvaus, F1ValintaikkunassaAvaaSenSivunJaOpastaVoiKayttaa) {
+TEST(OhjeenAvaus, F1InADialogOpensItsPageAndTheGuideCanBeUsed) {
   AsetaQtLomakkeet(nullptr);
   QtOhje ohje;
   QString sivu;
@@ -188,7 +188,7 @@ TEST(OhjeenAvaus, F1ValintaikkunassaAvaaSenSivunJaOpastaVoiKayttaa) {
   AsetaLomakesovitin(nullptr);
 }
 
-TEST(OhjeenAvaus, PuuttuvaOpasKerrotaan) {
+TEST(OhjeenAvaus, AMissingGuideIsTold) {
   const std::string koti = AppPath();
   const QTemporaryDir tyhja;
   AsetaAppPath(tyhja.path().toStdString());

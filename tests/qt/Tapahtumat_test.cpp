@@ -67,7 +67,7 @@ class Tapahtumat : public Ikkunatesti {
   QtViestit viestit_;
 };
 
-TEST_F(Tapahtumat, NappaimistollaKirjoitetaanJaHyvaksytaan) {
+TEST_F(Tapahtumat, TypingAndApprovingByKeyboard) {
   double kk = 0, vuosi = 0;
   KunAuki([](QWidget* dialogi) {
     auto* kuukausi = dialogi->findChild<QLineEdit*>("txtKk_kulutus");
@@ -86,14 +86,14 @@ TEST_F(Tapahtumat, NappaimistollaKirjoitetaanJaHyvaksytaan) {
   EXPECT_EQ(kk, 2.5);
 }
 
-TEST_F(Tapahtumat, PikakirjainVieKenttaan) {
+TEST_F(Tapahtumat, ALetterLeadsToTheField) {
   frmPerustiedot lomake;
   NaytaAktiivisena(lomake);
   QTest::keyClick(&Etsi<QLineEdit>(lomake, "txtKohteenNimi"), Qt::Key_B, Qt::AltModifier);
   EXPECT_TRUE(Etsi<QLineEdit>(lomake, "txtBruttoAla").hasFocus());
 }
 
-TEST_F(Tapahtumat, RullaEiMuutaListaaJollaEiOleKohdistusta) {
+TEST_F(Tapahtumat, TheWheelDoesntChangeAListWithoutFocus) {
   frmPerustiedot lomake;
   lomake.cmbPaikkakunta.Indeksi(5);
   NaytaAktiivisena(lomake);
@@ -110,7 +110,7 @@ TEST_F(Tapahtumat, RullaEiMuutaListaaJollaEiOleKohdistusta) {
   EXPECT_EQ(lomake.cmbPaikkakunta.Indeksi(), 6);
 }
 
-TEST_F(Tapahtumat, VainYksiVertailuvuosiJaSenVoiTyhjentaa) {
+TEST_F(Tapahtumat, OnlyOneComparisonYearAndItCanBeCleared) {
   frmPerustiedot lomake;
   int tapahtumia = 0;
   lomake.KulutustietoMuuttui = [&] { ++tapahtumia; };
@@ -126,7 +126,7 @@ TEST_F(Tapahtumat, VainYksiVertailuvuosiJaSenVoiTyhjentaa) {
   EXPECT_EQ(tapahtumia, 1);
 }
 
-TEST_F(Tapahtumat, TaydennysNakyyKunKentastaPoistutaan) {
+TEST_F(Tapahtumat, CompletionShowsWhenTheFieldIsLeft) {
   frmLampoYhteenveto lomake;
   lomake.MuuLampoMuuttui = [&](double arvo) { lomake.txtMuuLampo.arvo.Luku(arvo, "### ##0.00"); };
   NaytaAktiivisena(lomake);
@@ -137,7 +137,7 @@ TEST_F(Tapahtumat, TaydennysNakyyKunKentastaPoistutaan) {
   EXPECT_EQ(kentta.text(), "1 234,50");
 }
 
-TEST_F(Tapahtumat, PeruuttajaltaEiKysytaKeskeneraisistaKentista) {
+TEST_F(Tapahtumat, OneWhoCancelsIsNotAskedOfHalfTypedFields) {
   for (const bool hiirella : {false, true}) {
     frmPerustiedot lomake;
     int huomautuksia = 0;
@@ -158,7 +158,7 @@ TEST_F(Tapahtumat, PeruuttajaltaEiKysytaKeskeneraisistaKentista) {
   }
 }
 
-TEST_F(Tapahtumat, ModaalitonLomakeOnPaaikkunanSisallaJaSulkeutuuItse) {
+TEST_F(Tapahtumat, AModelessFormIsInsideTheMainWindowAndClosesItself) {
   QMainWindow paaikkuna;
   auto* alue = new QMdiArea;
   paaikkuna.setCentralWidget(alue);
@@ -187,7 +187,7 @@ TEST_F(Tapahtumat, ModaalitonLomakeOnPaaikkunanSisallaJaSulkeutuuItse) {
   EXPECT_TRUE(alue->subWindowList().isEmpty());
 }
 
-TEST_F(Tapahtumat, SamatIlmoituksetYhdistetaanKomennonLopussa) {
+TEST_F(Tapahtumat, EqualMessagesAreJoinedAtTheCommandsEnd) {
   EXPECT_EQ(Laatikot([] {
               SuoritaKomento([] {
                 for (int i = 0; i < 3; ++i) Ilmoita("Jako nollalla");
@@ -198,7 +198,7 @@ TEST_F(Tapahtumat, SamatIlmoituksetYhdistetaanKomennonLopussa) {
             QStringList({"Jako nollalla\n\n(Sama ilmoitus tuli 3 kertaa.)", "Muu"}));
 }
 
-TEST_F(Tapahtumat, VirheKomennossaNakyyJaOsoitinPalautuu) {
+TEST_F(Tapahtumat, AnErrorInACommandShowsAndThePointerComesBack) {
   viestit_.AsetaPaneeli("Valmis!");
   const QStringList laatikot = Laatikot([] {
     SuoritaKomento([] {
@@ -214,7 +214,7 @@ TEST_F(Tapahtumat, VirheKomennossaNakyyJaOsoitinPalautuu) {
   EXPECT_EQ(viestit_.Paneeli(), "Valmis!");
 }
 
-TEST_F(Tapahtumat, KysymyksenNapitOvatSuomeksiJaTiimalasiVaistyy) {
+TEST_F(Tapahtumat, AQuestionsButtonsAreFinnishAndTheHourglassGivesWay) {
   QStringList napit;
   KunAuki([&](QWidget* laatikko) {
     for (const QAbstractButton* nappi : laatikko->findChildren<QPushButton*>()) napit << nappi->text().remove('&');
@@ -229,7 +229,7 @@ TEST_F(Tapahtumat, KysymyksenNapitOvatSuomeksiJaTiimalasiVaistyy) {
   EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(Tapahtumat, KaavioKopioituuKuvanaJaLukuina) {
+TEST_F(Tapahtumat, AChartIsCopiedAsPictureAndNumbers) {
   KunAuki([](QWidget* dialogi) {
     QTest::mouseClick(dialogi->findChild<QPushButton*>("cmdKopioi"), Qt::LeftButton);
     QTest::keyClick(dialogi, Qt::Key_Escape);

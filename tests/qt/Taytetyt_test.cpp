@@ -49,7 +49,7 @@ class Taytetyt : public Ikkunatesti {
   }
 };
 
-TEST_F(Taytetyt, PerustiedotMahtuvatKenttiinsa) {
+TEST_F(Taytetyt, BasicDataFitTheirFields) {
   frmPerustiedot lomake;
   lomake.txtKohteenNimi.Teksti("Työväenopiston ja kirjaston yhteisrakennus, Åkerlundinkatu 12");
   lomake.cmbKayttotarkoitus.Indeksi(24);
@@ -76,7 +76,7 @@ TEST_F(Taytetyt, PerustiedotMahtuvatKenttiinsa) {
   OdotaMahtuvan(lomake);
 }
 
-TEST_F(Taytetyt, YhteenvetoMahtuuKenttiinsa) {
+TEST_F(Taytetyt, TheSummaryFitsItsFields) {
   frmLampoYhteenveto lomake;
   lomake.BruttoAla = 345678.9;
   lomake.Kokonaistilavuus = 1234567.89;
@@ -94,7 +94,7 @@ TEST_F(Taytetyt, YhteenvetoMahtuuKenttiinsa) {
   OdotaMahtuvan(lomake);
 }
 
-TEST_F(Taytetyt, PienetLomakkeetMahtuvatKenttiinsa) {
+TEST_F(Taytetyt, SmallFormsFitTheirFields) {
   frmSplash alku;
   alku.lblVersio.Otsikko("2.0.1 SP2");
   alku.Nayta();
@@ -117,7 +117,7 @@ TEST_F(Taytetyt, PienetLomakkeetMahtuvatKenttiinsa) {
 /// The screen of a small laptop.
 constexpr QSize kPieniNaytto{1050, 840};
 
-TEST_F(Taytetyt, RakenteidenIkkunaMahtuuKunKerroksiaOnMonta) {
+TEST_F(Taytetyt, TheStructuresWindowFitsWithManyLayers) {
   frmRakenteet lomake;
   Taulukko rakenteet, kerrokset;
   std::vector<std::string> nimet;
@@ -143,7 +143,7 @@ TEST_F(Taytetyt, RakenteidenIkkunaMahtuuKunKerroksiaOnMonta) {
   EXPECT_FALSE(alue->verticalScrollBar()->isVisible() || alue->horizontalScrollBar()->isVisible());
 }
 
-TEST_F(Taytetyt, MuutostenLuetteloMahtuuIkkunaansa) {
+TEST_F(Taytetyt, TheListOfChangesFitsItsWindow) {
   KunAuki("cmdOk", OdotaMahtuvan);
   const std::vector<std::string> rivi{"Työväenopiston juhlasali ja lämpiö",
                                       "Puurunko 150, tuulensuoja 50",
@@ -175,7 +175,7 @@ void TaytaKone(frmIlmanvaihtokone& lomake) {
   lomake.lblHuomautus.Otsikko(Teksti(3037));
 }
 
-TEST_F(Taytetyt, KoneenLomakkeetMahtuvatKenttiinsa) {
+TEST_F(Taytetyt, TheMachinesFormsFitTheirFields) {
   frmIlmanvaihtokone kone;
   TaytaKone(kone);
   kone.Nayta();
@@ -215,7 +215,7 @@ int Piirretty(const QWidget& pinta) {
   return maara;
 }
 
-TEST_F(Taytetyt, PeriaatekuvaVaihtuuJaSeuraaTeemanVareja) {
+TEST_F(Taytetyt, ThePictureOfTheSystemChangesAndFollowsTheTheme) {
   frmIlmanvaihtokone kone;
   kone.Nayta();
   auto* pinta = Juuri(kone).findChild<QWidget*>("imgPeriaate");

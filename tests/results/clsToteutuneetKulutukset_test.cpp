@@ -22,7 +22,7 @@ TEST_F(ToteutuneetTesti, VertailuvuosiOnEnsimmainenMerkittyTaiTyhja) {
   EXPECT_EQ(kulutukset_.VertailuVuodenTiedot().Lampo, 200);
 }
 
-TEST_F(ToteutuneetTesti, VuosiLoytyyJarjestyksellaTaiVuosiluvulla) {
+TEST_F(ToteutuneetTesti, AYearIsFoundByOrderOrByYear) {
   EXPECT_EQ(kulutukset_.Vuosi(2)->Lampo, 200);
   EXPECT_EQ(kulutukset_.Vuosi(4), nullptr);
   kulutukset_.Item(2).sKey = "Tot 2024";

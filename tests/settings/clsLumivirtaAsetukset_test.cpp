@@ -28,7 +28,7 @@ class AsetuksetTesti : public Asetuskansio {
   Koeviestit viestit_;
 };
 
-TEST_F(AsetuksetTesti, ValuuttaVaihtaaNaytonKertoimenJaNimen) {
+TEST_F(AsetuksetTesti, ACurrencyChangesTheFactorAndTheName) {
   TallennaAsetus(Avain::Valuutta, "1");
   TallennaAsetus(Avain::TotSahko, MiljoonasosinaTekstina(25.5));
   TallennaAsetus(Avain::TotLampo, MiljoonasosinaTekstina(24));
@@ -43,7 +43,7 @@ TEST_F(AsetuksetTesti, ValuuttaVaihtaaNaytonKertoimenJaNimen) {
   EXPECT_EQ(a.NayttoKerroin(Energialaji::Vesi), 1936.27);
 }
 
-TEST_F(AsetuksetTesti, PuuttuvatJaKelvottomatArvotKorvautuvatOletuksilla) {
+TEST_F(AsetuksetTesti, MissingAndUnfitValuesGetDefaults) {
   TallennaAsetus(Avain::YleinenALV, "kaksikymmentä");
   TallennaAsetus(Avain::Valuutta, "99");
   TallennaAsetus(Avain::Veroluokka1, "");
@@ -58,7 +58,7 @@ TEST_F(AsetuksetTesti, PuuttuvatJaKelvottomatArvotKorvautuvatOletuksilla) {
   EXPECT_EQ(HaeKokonaisluku(Avain::MainLeft), 1000);
 }
 
-TEST_F(AsetuksetTesti, TotuusarvoLuetaanVanhoistakinMuodoista) {
+TEST_F(AsetuksetTesti, ATruthValueIsReadFromOldFormsToo) {
   for (const char* tosi : {"-1", "1", "true", "TOSI"}) {
     TallennaAsetus(Avain::KaytaLVI, tosi);
     EXPECT_TRUE(Luettu().KaytaKohtTulostuksissaALVHintoja) << tosi;
@@ -69,14 +69,14 @@ TEST_F(AsetuksetTesti, TotuusarvoLuetaanVanhoistakinMuodoista) {
   }
 }
 
-TEST_F(AsetuksetTesti, MiljoonasosatPalautuvatSamana) {
+TEST_F(AsetuksetTesti, MillionthsComeBackTheSame) {
   for (const double arvo : {22.0, 7.021846, 4.330839, 0.0, 25.5, 1.000001, 8.2}) {
     TallennaAsetus(Avain::YleinenALV, MiljoonasosinaTekstina(arvo));
     EXPECT_EQ(Luettu().YleinenALV, arvo);
   }
 }
 
-TEST_F(AsetuksetTesti, SiirrettyOhjelmaLoytaaTietokantansa) {
+TEST_F(AsetuksetTesti, AMovedProgramFindsItsDatabases) {
   const std::string oma = (koti_ / "oma kanta.mdb").string();
   KirjoitaTiedosto(oma, "");
   TallennaAsetus(Avain::Kayttajakohtainen, oma);
@@ -87,7 +87,7 @@ TEST_F(AsetuksetTesti, SiirrettyOhjelmaLoytaaTietokantansa) {
   EXPECT_EQ(HaeAsetus("Asetukset_Tietokannat", "Vakiokanta", ""), "/ei/ole/Tietokanta_perus.mdb");
 }
 
-TEST_F(AsetuksetTesti, NimiKysytaanJarjestelmaltaVainKerran) {
+TEST_F(AsetuksetTesti, TheNameIsAskedOfTheSystemOnce) {
   EXPECT_EQ(clsLumivirtaAsetukset().strCurrentUserRealName, "Aino Åberg");
   TallennaAsetus(Avain::CurrentUserRealName, "EmptyString");
   const std::string nimi = clsLumivirtaAsetukset().strCurrentUserRealName;
@@ -96,7 +96,7 @@ TEST_F(AsetuksetTesti, NimiKysytaanJarjestelmaltaVainKerran) {
   EXPECT_EQ(HaeAsetus(Avain::CurrentUserRealName), nimi);
 }
 
-TEST_F(AsetuksetTesti, KaynnistysJattaaAvaimetJaKorvaaPolttoainekantojenPolut) {
+TEST_F(AsetuksetTesti, StartingLeavesKeysAndReplacesThePathsOfFuelBases) {
   TallennaAsetus(Avain::TotSahko, "24000000");
   TallennaAsetus(Avain::Energia_Vakiokanta, "/vanha/paikka/VakioPolttoainekanta.mdb");
   PaivitaKaynnistyksessa();
@@ -109,7 +109,7 @@ TEST_F(AsetuksetTesti, KaynnistysJattaaAvaimetJaKorvaaPolttoainekantojenPolut) {
   EXPECT_TRUE(viestit_.Naytetyt().empty());
 }
 
-TEST_F(AsetuksetTesti, KirjoittamatonVarastoEiEstaKaynnistysta) {
+TEST_F(AsetuksetTesti, AStoreThatCantBeWrittenDoesntPreventStarting) {
   std::filesystem::remove_all(AsetusHakemisto());
   KirjoitaTiedosto(AsetusHakemisto(), "tiedosto hakemiston paikalla");
   PaivitaKaynnistyksessa();
@@ -117,7 +117,7 @@ TEST_F(AsetuksetTesti, KirjoittamatonVarastoEiEstaKaynnistysta) {
   EXPECT_EQ(Luettu().YleinenALV, 22);
 }
 
-TEST_F(AsetuksetTesti, VioittunutAsetustiedostoKerrotaan) {
+TEST_F(AsetuksetTesti, ADamagedSettingsFileIsTold) {
   KirjoitaTiedosto(AsetusHakemisto() / "asetukset.ini", "roskaa");
   PaivitaKaynnistyksessa();
   EXPECT_EQ(viestit_.Esiintymia("asetukset.ini.vioittunut"), 1);

@@ -48,7 +48,7 @@ class AurinkoLaskinTesti : public Koetiedostot {
 // At 60 degrees, half way from 55 to 65:  Fh(15) = (0.81 + 0.72) / 2 = 0.765;
 // Fo(25) = 1 - 25/30 x (0.07 + 0.05) / 2 = 0.95;  Ff(10) = 1 - 10/30 x 0.06 = 0.98.
 // 234.6651 x 0.765 x 0.95 x 0.98 = 167.132 MJ.
-TEST_F(AurinkoLaskinTesti, IkkunanEnergiaOnKuinKasinLaskettu) {
+TEST_F(AurinkoLaskinTesti, AWindowsEnergyIsAsComputedByHand) {
   AurinkoLaskin laskin = Laskin();
   laskin.Vyohykkeet.Add({});
   laskin.HorisonttiKulma(kEtela, 15);
@@ -62,7 +62,7 @@ TEST_F(AurinkoLaskinTesti, IkkunanEnergiaOnKuinKasinLaskettu) {
   EXPECT_NEAR(laskin.AurinkoEnergia(4), 234.6651 * 0.6762, 5e-4);
 }
 
-TEST_F(AurinkoLaskinTesti, KulmaNollaJaVaakatasoOvatVarjostamattomia) {
+TEST_F(AurinkoLaskinTesti, AngleZeroAndHorizontalAreUnshaded) {
   const double aprilli[] = {158.04, 287.64, 386.28, 290.16, 431.64};  // by orientation, MJ/m²
   for (int suuntaus = kPohjoinen; suuntaus <= kVaaka; ++suuntaus) {
     AurinkoLaskin laskin = Laskin();
@@ -74,7 +74,7 @@ TEST_F(AurinkoLaskinTesti, KulmaNollaJaVaakatasoOvatVarjostamattomia) {
   }
 }
 
-TEST_F(AurinkoLaskinTesti, IkkunatLasketaanYhteenVyohykkeittain) {
+TEST_F(AurinkoLaskinTesti, WindowsAreSummedByZone) {
   AurinkoLaskin laskin = Laskin();
   laskin.Vyohykkeet.Add({});
   laskin.Vyohykkeet.Add({});
@@ -88,7 +88,7 @@ TEST_F(AurinkoLaskinTesti, IkkunatLasketaanYhteenVyohykkeittain) {
   EXPECT_NEAR(laskin.AurinkoEnergia(4, 2), 386.28 * 0.6075, 1e-9);
 }
 
-TEST_F(AurinkoLaskinTesti, PuuttuvaTaiVaaraTietoOnVirheEikaJataTulosta) {
+TEST_F(AurinkoLaskinTesti, AMissingOrWrongDatumIsAnErrorAndLeavesNoResult) {
   AurinkoLaskin laskin;
   const auto laske = [&] { laskin.Laske(); };
   EXPECT_EQ(Virheteksti(laske), "Aurinkolaskennan säätiedostoa ei ole luettu.");
@@ -111,7 +111,7 @@ TEST_F(AurinkoLaskinTesti, PuuttuvaTaiVaaraTietoOnVirheEikaJataTulosta) {
   EXPECT_NE(Virheteksti(laske).find("ei ole luettu"), std::string::npos);
 }
 
-TEST_F(AurinkoLaskinTesti, TiedostoLuetaanKerranJaUnohdetaanPyydettaessa) {
+TEST_F(AurinkoLaskinTesti, AFileIsReadOnceAndForgottenWhenAsked) {
   const auto huhtikuu = [&](const std::string& saatiedosto) {
     AurinkoLaskin laskin = Laskin();
     laskin.LataaSaa(saatiedosto);
@@ -136,7 +136,7 @@ TEST_F(AurinkoLaskinTesti, TiedostoLuetaanKerranJaUnohdetaanPyydettaessa) {
   EXPECT_NEAR(huhtikuu(saa), 2 * ennen, 1e-9);
 }
 
-TEST_F(AurinkoLaskinTesti, YhdenIkkunanLaskentaEiVaraaMuistia) {
+TEST_F(AurinkoLaskinTesti, ComputingOneWindowAllocatesNothing) {
   const auto laske = [&] {
     AurinkoLaskin laskin;
     laskin.LataaSaa(saa);

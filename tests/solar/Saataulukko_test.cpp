@@ -7,7 +7,7 @@ namespace {
 
 using SaataulukkoTesti = Koetiedostot;
 
-TEST_F(SaataulukkoTesti, LukeeKuukausirivitJarjestyksestaRivinvaihdostaJaMerkistostaRiippumatta) {
+TEST_F(SaataulukkoTesti, ReadsMonthsWhateverOrderLineEndsAndEncoding) {
   std::string crlf;
   for (const char c : kSaaVyohyke1) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
   const auto tammi = kSaaVyohyke1.find("1,-3.97"), touko = kSaaVyohyke1.find("5,10.76");
@@ -24,7 +24,7 @@ TEST_F(SaataulukkoTesti, LukeeKuukausirivitJarjestyksestaRivinvaihdostaJaMerkist
   }
 }
 
-TEST_F(SaataulukkoTesti, ViallinenTiedostoKertooTiedostonRivinJaSyyn) {
+TEST_F(SaataulukkoTesti, AFaultyFileTellsFileLineAndCause) {
   const struct {
     std::string etsi, tilalle, odotettu;
   } tapaukset[] = {

@@ -8,7 +8,7 @@ namespace {
 using enum Ilmansuunta;
 using VarjostustaulukkoTesti = Koetiedostot;
 
-TEST_F(VarjostustaulukkoTesti, OnLineaarinenKulmassaJaLeveysasteessaJaVakioUlkopuolella) {
+TEST_F(VarjostustaulukkoTesti, IsLinearInAngleAndLatitudeAndConstantBeyond) {
   const Varjostustaulukko fh(Kirjoita("CenFh_Table.txt", kFh));
   struct Tapaus {
     double leveysaste, kulma;
@@ -34,7 +34,7 @@ TEST_F(VarjostustaulukkoTesti, OnLineaarinenKulmassaJaLeveysasteessaJaVakioUlkop
         << t.leveysaste << " astetta, kulma " << t.kulma << ", suunta " << Indeksi(t.suunta);
 }
 
-TEST_F(VarjostustaulukkoTesti, RivienJarjestysTyhjatRivitJaMerkistoEivatVaikuta) {
+TEST_F(VarjostustaulukkoTesti, OrderOfLinesEmptyLinesAndEncodingDontMatter) {
   const Varjostustaulukko taulukko(
       Kirjoita("a.txt",
                "\xEF\xBB\xBF"
@@ -44,7 +44,7 @@ TEST_F(VarjostustaulukkoTesti, RivienJarjestysTyhjatRivitJaMerkistoEivatVaikuta)
   EXPECT_NEAR(taulukko.Kerroin(60, 20, Etela), 0.625, 1e-12);
 }
 
-TEST_F(VarjostustaulukkoTesti, ViallinenTiedostoKertooTiedostonRivinJaSyyn) {
+TEST_F(VarjostustaulukkoTesti, AFaultyFileTellsFileLineAndCause) {
   const struct {
     std::string sisalto, odotettu;
   } tapaukset[] = {

@@ -8,7 +8,7 @@ namespace {
 
 using clsVesitariffiTesti = Asetuskansio;
 
-TEST_F(clsVesitariffiTesti, VesitariffiJaVertailuAlkavatAsetustenArvonlisaverolla) {
+TEST_F(clsVesitariffiTesti, WaterTariffAndComparisonBeginWithTheSettingsTax) {
   Asetukset().dblVesiALV = 24;
   for (const bool alvHinnat : {false, true}) {
     Asetukset().KaytaKohtTulostuksissaALVHintoja = alvHinnat;

@@ -39,7 +39,7 @@ using Luokat =
 TYPED_TEST_SUITE(Jasentaulu, Luokat);
 
 /// Two rows of a table that show one member by mistake would give one value.
-TYPED_TEST(Jasentaulu, JokainenArvoAsettuuNimellaOmaanJaseneensa) {
+TYPED_TEST(Jasentaulu, EveryValueSetByNameGoesToItsMember) {
   TypeParam olio;
   int arvo = 1000;
   for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
@@ -53,7 +53,7 @@ TYPED_TEST(Jasentaulu, JokainenArvoAsettuuNimellaOmaanJaseneensa) {
   }
 }
 
-TYPED_TEST(Jasentaulu, TotuusarvoVaihtuuVainOmassaJasenessaan) {
+TYPED_TEST(Jasentaulu, ATruthValueChangesOnlyInItsMember) {
   for (const Jasen& jasen : TypeParam::kLuokka.Jasenet()) {
     if (jasen.laji != Laji::Totuus) continue;
     TypeParam olio;

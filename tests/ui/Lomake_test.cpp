@@ -83,7 +83,7 @@ class Lomakekerros : public ::testing::Test {
   std::unique_ptr<frmKoe> lomake_;
 };
 
-TEST_F(Lomakekerros, VainKayttajanMuutosNostaaTapahtuman) {
+TEST_F(Lomakekerros, OnlyAChangeByThePersonRaisesTheEvent) {
   int tapahtumia = 0;
   lomake_->txtLuku.KunMuuttuu([&] { ++tapahtumia; });
   lomake_->txtLuku.Teksti("5,00");
@@ -94,7 +94,7 @@ TEST_F(Lomakekerros, VainKayttajanMuutosNostaaTapahtuman) {
   EXPECT_TRUE(lomake_->txtLuku.Muuttunut());
 }
 
-TEST_F(Lomakekerros, MuuttumatontaKenttaaEiJasenneta) {
+TEST_F(Lomakekerros, AnUnchangedFieldIsNotParsed) {
   double arvo = 21.504;
   std::int32_t vuosi = 1974;
   lomake_->txtLuku.Luku(arvo, "0.00");
@@ -116,7 +116,7 @@ TEST_F(Lomakekerros, MuuttumatontaKenttaaEiJasenneta) {
   }
 }
 
-TEST_F(Lomakekerros, KirjoitettavaKenttaTaytetaanVastaKunSiitaPoistutaan) {
+TEST_F(Lomakekerros, AFieldBeingTypedIsFilledWhenItIsLeft) {
   double arvo = 21.5;
   lomake_->txtLuku.KunMuuttuu([&] { lomake_->txtLuku.Luku(22, "0.00"); });
   lomake_->txtLuku.Luku(arvo, "0.00");
@@ -129,7 +129,7 @@ TEST_F(Lomakekerros, KirjoitettavaKenttaTaytetaanVastaKunSiitaPoistutaan) {
   EXPECT_FALSE(lomake_->txtLuku.Muuttunut());
 }
 
-TEST_F(Lomakekerros, VirheNaytetaanJaOhjelmaJatkuu) {
+TEST_F(Lomakekerros, AnErrorIsShownAndTheProgramGoesOn) {
   viestit_.AsetaPaneeli("ennen");
   lomake_->cmdMuuta.KunKlikataan([&] {
     viestit_.AsetaPaneeli("kesken");
@@ -147,7 +147,7 @@ TEST_F(Lomakekerros, VirheNaytetaanJaOhjelmaJatkuu) {
   EXPECT_EQ(viestit_.Esiintymia("levy on täynnä"), 1);
 }
 
-TEST_F(Lomakekerros, KaannosPaneeTekstitTagienMukaan) {
+TEST_F(Lomakekerros, TranslationPutsTextsByTheTags) {
   EXPECT_EQ(lomake_->Otsikko(), Teksti(1281));
   EXPECT_EQ(lomake_->lblHinta.Otsikko(), "Investointi (mk)");
   EXPECT_EQ(lomake_->txtLuku.Kohde().Vihje(), Teksti(1281));
@@ -162,7 +162,7 @@ TEST_F(Lomakekerros, KaannosPaneeTekstitTagienMukaan) {
   EXPECT_EQ(lomake_->lvwRivit.Kohde().Osat()[0].otsikko, "Investointi (t€)");
 }
 
-TEST_F(Lomakekerros, KenttatarkistusEhdoittain) {
+TEST_F(Lomakekerros, FieldChecksByCondition) {
   struct Tapaus {
     const char* luku;
     const char* piilossa;
@@ -173,7 +173,8 @@ TEST_F(Lomakekerros, KenttatarkistusEhdoittain) {
   for (const Tapaus& t :
        {Tapaus{"1 0,5", "0", nullptr, "", false}, Tapaus{"1.5", "1 000,5", nullptr, "", false},
         Tapaus{"", "0", "", "txtLuku", true}, Tapaus{"1,49", "0", " vähintään 1,5, enintään 100.", "txtLuku", false},
-        Tapaus{"100,01", "0", " vähintään 1,5, enintään 100.", "txtLuku", false}, Tapaus{"50", "-1", " vähintään 0.", "txtPiilossa", false}}) {
+        Tapaus{"100,01", "0", " vähintään 1,5, enintään 100.", "txtLuku", false},
+        Tapaus{"50", "-1", " vähintään 0.", "txtPiilossa", false}}) {
     SCOPED_TRACE(std::string(t.luku) + " / " + t.piilossa);
     frmKoe lomake;
     nyt += 5000;
@@ -191,7 +192,7 @@ TEST_F(Lomakekerros, KenttatarkistusEhdoittain) {
   }
 }
 
-TEST_F(Lomakekerros, PoisKaytostaTaiPiilotettuaKenttaaEiTarkisteta) {
+TEST_F(Lomakekerros, ADisabledOrHiddenFieldIsNotChecked) {
   lomake_->txtLuku.Teksti("x");
   lomake_->txtLuku.Kaytossa(false);
   lomake_->txtPiilossa.Teksti("x");
@@ -199,7 +200,7 @@ TEST_F(Lomakekerros, PoisKaytostaTaiPiilotettuaKenttaaEiTarkisteta) {
   EXPECT_TRUE(TarkistaLukukentat(*lomake_));
 }
 
-TEST_F(Lomakekerros, TarkistusNayttaaYhdenViestinSekunnissa) {
+TEST_F(Lomakekerros, CheckingShowsOneMessageASecond) {
   lomake_->txtLuku.Teksti("x");
   const auto naytti = [&](std::uint32_t aika) {
     nyt = aika;

@@ -43,7 +43,7 @@ class Perustiedot : public Dialogit {
   int kulutuksia_ = 0;
 };
 
-TEST_F(Perustiedot, OminaiskulutuksetSeuraavatVertailuvuottaTilavuuttaJaAlaa) {
+TEST_F(Perustiedot, SpecificConsumptionsFollowYearVolumeAndArea) {
   Ikkuna().KayttajaKirjoittaa("txtKokonaistilavuus", "4 000");
   Ikkuna().KayttajaKirjoittaa("txtLampo1", "200");
   Ikkuna().KayttajaKirjoittaa("txtLampo2", "300");
@@ -58,7 +58,7 @@ TEST_F(Perustiedot, OminaiskulutuksetSeuraavatVertailuvuottaTilavuuttaJaAlaa) {
   EXPECT_EQ(lomake_.txtLampoKuutioille.Teksti(), "75,0");
 }
 
-TEST_F(Perustiedot, KeskeneraisestaLuvustaKerrotaanVastaKunKentastaPoistutaan) {
+TEST_F(Perustiedot, AHalfTypedNumberIsToldWhenTheFieldIsLeft) {
   lomake_.txtKulutusTietojenViimVuosi.Teksti("2025");
   lomake_.NaytaVuodet();
   Ikkuna().KayttajaKirjoittaa("txtSahko1", "");
@@ -82,7 +82,7 @@ class Vakioosuus : public Dialogit {
   double kk_ = 1.26, vuosi_ = 15.12;
 };
 
-TEST_F(Vakioosuus, KentatSeuraavatToisiaan) {
+TEST_F(Vakioosuus, TheFieldsFollowEachOther) {
   EXPECT_TRUE(Kysy([](Ikkunaton& l) {
     l.KayttajaKirjoittaa("txtKk_kulutus", "2,5");
     EXPECT_EQ(l.Teksti("txtVuosi_kulutus"), "30,0");
@@ -97,7 +97,7 @@ TEST_F(Vakioosuus, KentatSeuraavatToisiaan) {
   EXPECT_DOUBLE_EQ(kk_, 20 / 12.0);
 }
 
-TEST_F(Vakioosuus, MuuttamatonPysyyTarkkanaJaPeruttuEnnallaan) {
+TEST_F(Vakioosuus, UnchangedStaysExactAndCancelledAsItWas) {
   EXPECT_TRUE(Kysy([](Ikkunaton& l) {
     EXPECT_EQ(l.Teksti("txtKk_kulutus"), "1,3");
     l.KayttajaPainaa("cmdOk");
@@ -138,7 +138,7 @@ class Lampoyhteenveto : public Dialogit {
   frmLampoYhteenveto lomake_;
 };
 
-TEST_F(Lampoyhteenveto, SummatErotusJaOminaisarvot) {
+TEST_F(Lampoyhteenveto, SumsDifferenceAndSpecificValues) {
   EXPECT_EQ(lomake_.txtVedenLammitysYht.arvo.Teksti(), "99,50");
   EXPECT_EQ(lomake_.txtYhteensa.arvo.Teksti(), "1 600,00");
   EXPECT_EQ(lomake_.txtHaviot.arvo.Teksti(), "100,00");
@@ -152,7 +152,7 @@ TEST_F(Lampoyhteenveto, SummatErotusJaOminaisarvot) {
   EXPECT_EQ(lomake_.txtToteutunutKulutus.kuutioille.Teksti(), "0,00");
 }
 
-TEST_F(Lampoyhteenveto, MuuLampoMuuttaaSummanJaVirheellinenEstaaOkn) {
+TEST_F(Lampoyhteenveto, OtherHeatChangesTheSumAndAFaultyOneBlocksOk) {
   double muu = -1;
   int okeja = 0;
   lomake_.MuuLampoMuuttui = [&](double arvo) { muu = arvo; };
@@ -174,7 +174,7 @@ TEST_F(Lampoyhteenveto, MuuLampoMuuttaaSummanJaVirheellinenEstaaOkn) {
   EXPECT_EQ(okeja, 1);
 }
 
-TEST_F(Lampoyhteenveto, HaviodialogiAvautuuJaMuuttuuEriKaavoilla) {
+TEST_F(Lampoyhteenveto, TheLossesOpenAndChangeByTheirFormulas) {
   ikkunattomat_.KunNaytetaan("frmLammonTuotonJaJaonHaviot", [](Ikkunaton& l) {
     // Net heat Y = 1600 − 100 = 1500.
     EXPECT_EQ(l.Teksti("txtSaatoHaviot"), "160,00");
@@ -196,7 +196,7 @@ TEST_F(Lampoyhteenveto, HaviodialogiAvautuuJaMuuttuuEriKaavoilla) {
   EXPECT_TRUE(viestit_.Naytetyt().empty());
 }
 
-TEST_F(Dialogit, HavioilleEiHyotysuhdettaKunSummaEiOlePositiivinen) {
+TEST_F(Dialogit, LossesHaveNoEfficiencyUnlessTheSumIsPositive) {
   ikkunattomat_.KunNaytetaan("frmLammonTuotonJaJaonHaviot", [](Ikkunaton& l) {
     EXPECT_EQ(l.Teksti("txtHyotysuhdeSaato"), "0,0");
     EXPECT_EQ(l.Teksti("txtHyotysuhdeLammonTuotto"), "0,0");
@@ -207,7 +207,7 @@ TEST_F(Dialogit, HavioilleEiHyotysuhdettaKunSummaEiOlePositiivinen) {
   EXPECT_TRUE(viestit_.Naytetyt().empty());
 }
 
-TEST_F(Lampoyhteenveto, KaavioSaaOtsikotIlmanKaksoispistettaJaOsuudet) {
+TEST_F(Lampoyhteenveto, TheChartHasCaptionsWithoutColonsAndShares) {
   ikkunattomat_.KunNaytetaan("frmJakaumaGraafi", [](Ikkunaton& l) {
     const Kaaviotiedot& kaavio = l.Etsi("chtReport").Kaavio();
     EXPECT_EQ(kaavio.otsikko, "Koulu");

@@ -34,7 +34,7 @@ std::string Nimet(const Luettelo& lista, const std::vector<int>& rivit) {
   return nimet;
 }
 
-TEST(Luettelo, PuuSeuraaYlempienAvaimiaJaHaaratSulkeutuvat) {
+TEST(Luettelo, TheTreeFollowsParentKeysAndBranchesClose) {
   Luettelo lista;
   lista.Tayta(Kulutusrivit());
   EXPECT_EQ(Nimet(lista, lista.Jarjestys()), "Yhteensä Valaistus Aula Sali Muu Hissi");
@@ -49,13 +49,13 @@ TEST(Luettelo, PuuSeuraaYlempienAvaimiaJaHaaratSulkeutuvat) {
       << "branches stay as the person had them";
 }
 
-TEST(Luettelo, KehanRivitJaOrvotNakyvatYlimpina) {
+TEST(Luettelo, RowsOfACircleAndOrphansShowOnTop) {
   Luettelo lista;
   lista.Tayta({Rivi("a", "b", {"A"}), Rivi("b", "a", {"B"}), Rivi("c", "c", {"C"}), Rivi("d", "ei ole", {"D"})});
   EXPECT_EQ(Nimet(lista, lista.Jarjestys()), "B A C D");
 }
 
-TEST(Luettelo, LajitteluPitaaHaaratJaKolmasKertaPalauttaaJarjestyksen) {
+TEST(Luettelo, SortingKeepsBranchesAndTheThirdTimeRestoresTheOrder) {
   Luettelo lista;
   lista.Tayta(Kulutusrivit());
   lista.Lajittele(1);
@@ -66,7 +66,7 @@ TEST(Luettelo, LajitteluPitaaHaaratJaKolmasKertaPalauttaaJarjestyksen) {
   EXPECT_EQ(Nimet(lista, lista.Jarjestys()), "Yhteensä Valaistus Aula Sali Muu Hissi");
 }
 
-TEST(Luettelo, SamojenRivienTayttoKertooVainMuuttuneet) {
+TEST(Luettelo, FillingWithTheSameRowsTellsOnlyTheChanged) {
   Luettelo lista;
   lista.Tayta(Kulutusrivit());
   lista.Lajittele(1);
@@ -80,7 +80,7 @@ TEST(Luettelo, SamojenRivienTayttoKertooVainMuuttuneet) {
   EXPECT_FALSE(lista.Tayta(rivit));
 }
 
-TEST(Luettelo, RivinMuutosVaihtaaSarakkeenLajin) {
+TEST(Luettelo, AChangedRowChangesTheColumnsKind) {
   Luettelo lista;
   lista.Tayta(Kulutusrivit());
   EXPECT_TRUE(lista.OnLukusarake(1));
@@ -132,7 +132,7 @@ class Puulomake : public ::testing::Test {
   std::unique_ptr<frmPuu> lomake_;
 };
 
-TEST_F(Puulomake, SuljetunHaaranRiviinEiPaaseEnnenAvaamista) {
+TEST_F(Puulomake, ARowOfAClosedBranchIsOutOfReach) {
   EXPECT_EQ(Puu().Kohde().Osat()[1].tasaus, Tasaus::Oikea);
   EXPECT_THROW(Ikkuna().KayttajaValitsee("lvwPuu", "Hissi"), std::logic_error);
   Ikkuna().KayttajaAvaa("lvwPuu", "Muu", true);
@@ -140,7 +140,7 @@ TEST_F(Puulomake, SuljetunHaaranRiviinEiPaaseEnnenAvaamista) {
   EXPECT_EQ(Puu().Valittu(), Tunniste("hissi"));
 }
 
-TEST_F(Puulomake, VainSallittuSoluOttaaTekstin) {
+TEST_F(Puulomake, OnlyAnAllowedCellTakesText) {
   Puu().KunMuokataan([this](int rivi, int sarake, const std::string& teksti) {
     EXPECT_EQ(sarake, 1);
     Puu().Rivi(rivi, {"Aula", teksti + ",0"});
@@ -151,7 +151,7 @@ TEST_F(Puulomake, VainSallittuSoluOttaaTekstin) {
   EXPECT_THROW(Ikkuna().KayttajaMuokkaa("lvwPuu", "Aula", 0, "8"), std::logic_error);
 }
 
-TEST_F(Puulomake, RiviSiirtyyVainSinneMinneSaa) {
+TEST_F(Puulomake, ARowMovesOnlyWhereItMay) {
   std::string siirto;
   Puu().KunSiirretaan([this](int, int ylempi) { return ylempi != Rivi("hissi"); },
                       [&](int rivi, int ylempi) { siirto = std::to_string(rivi) + ">" + std::to_string(ylempi); });
@@ -164,7 +164,7 @@ TEST_F(Puulomake, RiviSiirtyyVainSinneMinneSaa) {
   EXPECT_THROW(Ikkuna().KayttajaSiirtaa("lvwPuu", "Muu", "Valaistus"), std::logic_error);
 }
 
-TEST_F(Puulomake, ValintaPysyyAvaimessaTaiPaikassaan) {
+TEST_F(Puulomake, TheChoiceStaysAtItsKeyOrPlace) {
   Puu().Valitse("aula");
   auto rivit = Kulutusrivit();
   rivit.insert(rivit.begin(), {{"Uusi"}, "uusi", "valo"});

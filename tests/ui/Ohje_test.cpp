@@ -22,7 +22,7 @@ class Muistava : public Ohjenaytto {
   int aihe_ = 0;
 };
 
-TEST(Ohje, LomakkeenOhjeOnPaallimmaisenLomakkeen) {
+TEST(Ohje, HelpIsThatOfTheUppermostForm) {
   AlustaTekstit();
   Ikkunattomat ikkunat(Lahdekoodi("ui/forms"));
   Muistava ohje;
@@ -44,7 +44,7 @@ TEST(Ohje, LomakkeenOhjeOnPaallimmaisenLomakkeen) {
   EXPECT_EQ(haviot, Ohjeaihe("frmLammonTuotonJaJaonHaviot", 0)) << "valintaikkuna on yhteenvedon päällä";
 }
 
-TEST(Ohjeluettelo, AiheLoytyyJaTuntematonAntaaSisallyksen) {
+TEST(Ohjeluettelo, ATopicIsFoundAndAnUnknownOneGivesTheContents) {
   const Ohjeluettelo luettelo(
       "0\tsisallys.html\tSisällys\t1\n"
       "rikkinäinen rivi\n"

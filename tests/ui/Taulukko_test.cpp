@@ -16,14 +16,14 @@ Solut Lajiteltuna(const Solut& solut, bool laskeva = false) {
   return tulos;
 }
 
-TEST(Taulukko, TekstitSuomalaisessaAakkosjarjestyksessa) {
+TEST(Taulukko, TextsInFinnishAlphabeticalOrder) {
   EXPECT_EQ(Lajiteltuna({"Öljy", "Zeniitti", "ähky", "Åbo", "auto", "Čapek", "", "élan", "Eteinen"}),
             (Solut{"", "auto", "Čapek", "élan", "Eteinen", "Zeniitti", "Åbo", "ähky", "Öljy"}));
   EXPECT_EQ(Lajiteltuna({"Luokka 10", "luokka 2", "Luokka 002b", "Luokka"}),
             (Solut{"Luokka", "luokka 2", "Luokka 002b", "Luokka 10"}));
 }
 
-TEST(Taulukko, LuvutArvonMukaanJaSamatEnnallaan) {
+TEST(Taulukko, NumbersByValueAndEqualOnesStay) {
   EXPECT_EQ(Lajiteltuna({"1 200,5", "-3", "90", "---", ""}), (Solut{"---", "", "-3", "90", "1 200,5"}));
   EXPECT_EQ(Lajiteltuna({"1 200,5", "-3", "90", "---", ""}, true), (Solut{"1 200,5", "90", "-3", "---", ""}));
   EXPECT_EQ(Lajiteltuna({"10", "9", "Sali"}), (Solut{"9", "10", "Sali"})) << "one text makes a column of texts";
@@ -31,12 +31,12 @@ TEST(Taulukko, LuvutArvonMukaanJaSamatEnnallaan) {
   EXPECT_EQ(Jarjestyksessa({{"b"}, {"a"}}, -1, false), (std::vector<int>{0, 1}));
 }
 
-TEST(Taulukko, LeikepoydanTekstiOnTaulukkolaskentaanSopiva) {
+TEST(Taulukko, TheClipboardsTextFitsASpreadsheet) {
   const Taulukko rivit{{"Tila", "Ala (m²)"}, {"Luokka\t1", "1 200,5"}, {"12 34", "7"}};
   EXPECT_EQ(TaulukkoTekstina(rivit), "Tila\tAla (m²)\nLuokka 1\t1200,5\n12 34\t7\n");
 }
 
-TEST(Taulukko, LiitettyTekstiJaetaanRiveiksi) {
+TEST(Taulukko, PastedTextIsDividedIntoRows) {
   EXPECT_EQ(TaulukkoTekstista("Nimi\tAla\r\n\"Sali \"\"A\"\"\n2 krs\"\t12,5\r\n\t\r\nAula\t\r\n"),
             (Taulukko{{"Nimi", "Ala"}, {"Sali \"A\"\n2 krs", "12,5"}, {"Aula", ""}}));
   EXPECT_TRUE(TaulukkoTekstista("").empty());

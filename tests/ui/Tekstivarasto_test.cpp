@@ -41,7 +41,7 @@ class Tekstivarasto : public testing::Test {
   Koeviestit viestit_;
 };
 
-TEST_F(Tekstivarasto, TekstitOvatVarastonKielella) {
+TEST_F(Tekstivarasto, TextsAreInTheLanguageOfTheStore) {
   EXPECT_EQ(Teksti(1001), "Uusi");
   EXPECT_EQ(Teksti(1002), "");  // a null text is no error
   EXPECT_EQ(Teksti(1003), "[String 1003 is missing]");
@@ -52,7 +52,7 @@ TEST_F(Tekstivarasto, TekstitOvatVarastonKielella) {
   EXPECT_EQ(Valintalista("frmTila", "cmbSuuntaus"), std::vector<std::string>{"a"});
 }
 
-TEST_F(Tekstivarasto, ViestinOtsikkoTuleeTasosta) {
+TEST_F(Tekstivarasto, AMessagesTitleComesFromItsLevel) {
   NaytaVirhe(1008, "5 - 10");
   EXPECT_EQ(Viimeinen().teksti, "Arvo ei ole luku. 5 - 10");
   EXPECT_EQ(Viimeinen().otsikko, "Virhe");
@@ -63,7 +63,7 @@ TEST_F(Tekstivarasto, ViestinOtsikkoTuleeTasosta) {
   EXPECT_EQ(Viimeinen().otsikko, "");
 }
 
-TEST_F(Tekstivarasto, PuuttuvastaVarastostaKerrotaanJaOhjelmaJatkuu) {
+TEST_F(Tekstivarasto, AMissingStoreIsToldAndTheProgramGoesOn) {
   PoistaVarasto();
   EXPECT_EQ(HaeKielitunnus(), "");
   EXPECT_EQ(Viimeinen().teksti, "Virhe 1040 " + AppPath() + "StrVarasto.mdb");
@@ -76,7 +76,7 @@ TEST_F(Tekstivarasto, PuuttuvastaVarastostaKerrotaanJaOhjelmaJatkuu) {
   EXPECT_THROW(Valintalista("frmTila", "cmbSuuntaus"), Virhe);
 }
 
-TEST_F(Tekstivarasto, TuntematonTaiPuuttuvaKieliKerrotaan) {
+TEST_F(Tekstivarasto, AnUnknownOrMissingLanguageIsTold) {
   Aja("UPDATE Kieli SET Kielitunnus = 'Norsk'");
   AlustaTekstit();
   EXPECT_EQ(Teksti(1001), "[String 1001 is missing]");
@@ -86,7 +86,7 @@ TEST_F(Tekstivarasto, TuntematonTaiPuuttuvaKieliKerrotaan) {
   EXPECT_EQ(viestit_.Esiintymia("Virhe 1040"), 2);
 }
 
-TEST_F(Tekstivarasto, ValintalistaOnIdJarjestyksessaNimienKirjainkoostaRiippumatta) {
+TEST_F(Tekstivarasto, AChoiceListIsInIdOrderWhateverTheLetterCase) {
   const std::vector<std::string> suunnat = {"Pohjoinen", "Itä", "Etelä"};
   EXPECT_EQ(Valintalista("FRMRakenteet", "cmbsuuntaus"), suunnat);
   EXPECT_TRUE(Valintalista("frmTila' OR '1'='1", "cmbSuuntaus").empty());

@@ -10,7 +10,7 @@
 
 namespace {
 
-TEST(Viestit, OdotusPalauttaaOsoittimenJaPaneelinSisakkainJaVirheenTullessa) {
+TEST(Viestit, WaitingRestoresPointerAndPanelNestedAndAfterErrors) {
   Koeviestit viestit;
   viestit.AsetaPaneeli("Valmis!");
   try {
