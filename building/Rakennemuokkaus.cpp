@@ -10,6 +10,7 @@
 #include "building/Toimenpideviittaukset.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "building/clsSaa.h"
 #include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Luvut.h"
@@ -29,6 +30,9 @@ constexpr const char* kUarvo = "0.00#";
 constexpr const char* kAla = "### ##0.0#";
 constexpr const char* kKulma = "0.#";
 constexpr const char* kEiArvoa = "---";
+constexpr const char* kKonduktanssi = "### ##0.0";  // W/K
+constexpr const char* kOsuus = "0.0";               // %
+constexpr int kUsarake = 3;
 
 const Sidontataulu kRatkaisunSidonnat{
     "frmRakenteet",
@@ -105,6 +109,36 @@ std::string ValinnanRivi(const ComboBox& valinta, std::int32_t rivi) {
   const auto& rivit = valinta.Kohde().Rivit();
   const auto i = static_cast<std::size_t>(rivi);
   return rivi >= 0 && i < rivit.size() ? rivit[i].front() : std::string();
+}
+
+/// Conduction loss of the structure in a year, kWh.
+double VuosiHavio(const clsRakenne& rakenne, double Tsisa) {
+  double havio = 0;
+  for (int m = 0; m < kKuukausia; ++m) havio += rakenne.LampoHaviot(Tsisa, m);
+  return havio;
+}
+
+/// Difference of indoor and outdoor temperature over the year, Kh.
+double Astetunnit(double Tsisa) {
+  constexpr double kTuntiaVuorokaudessa = 24;
+  double astetunnit = 0;
+  for (int m = 0; m < kKuukausia; ++m)
+    astetunnit +=
+        (Tsisa - VaadiSaa().Keskilampotila(m)) * kPaivatKuukaudessa[static_cast<std::size_t>(m)] * kTuntiaVuorokaudessa;
+  return astetunnit;
+}
+
+/// Adds the cells of conductance, W/K, as the mean of the year, and of the share of the loss, %.
+void LisaaHavio(Luettelorivi& rivi, double havio, double yhteensa, double Tsisa) {
+  constexpr double kWperkW = 1000;
+  if (const double astetunnit = Astetunnit(Tsisa); astetunnit > 0)
+    rivi.LisaaLuku(havio * kWperkW / astetunnit, kKonduktanssi);
+  else
+    rivi.solut.emplace_back(kEiArvoa);
+  if (yhteensa > 0)
+    rivi.LisaaLuku(havio / yhteensa * 100, kOsuus);
+  else
+    rivi.solut.emplace_back(kEiArvoa);
 }
 
 bool OnIkkuna(const clsRakenne& rakenne) { return rakenne.Rakennetyyppi == Rakennelaji::Ikkuna; }
@@ -200,14 +234,18 @@ Rakenneratkaisu& Rakennemuokkaus::Ratkaisu() {
   return *rakenne.RakenneRatkaisu;
 }
 
-std::vector<std::string> Rakennemuokkaus::Rivi(const clsRakenne& rakenne) const {
+Luettelorivi Rakennemuokkaus::Rivi(const clsRakenne& rakenne, double havioYhteensa) const {
   const frmRakenteet& l = KayttoLiittyma;
-  return {rakenne.NaytettavaNimi(),
-          ValinnanRivi(l.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1),
-          Muotoile(rakenne.PintaAla, kAla),
-          Muotoile(rakenne.U_arvo(), kUarvo),
-          Rajoittuu(rakenne) ? ValinnanRivi(l.cmbTyyppi, rakenne.TyyppiID) : "",
-          OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : ""};
+  Luettelorivi rivi{{rakenne.NaytettavaNimi(), ValinnanRivi(l.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1)},
+                    rakenne.sKey};
+  rivi.LisaaLuku(rakenne.PintaAla, kAla);
+  rivi.LisaaLuku(rakenne.U_arvo(), kUarvo);
+  rivi.solut.push_back(Rajoittuu(rakenne) ? ValinnanRivi(l.cmbTyyppi, rakenne.TyyppiID) : "");
+  rivi.solut.push_back(OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : "");
+  LisaaHavio(rivi, VuosiHavio(rakenne, Tsisa_), havioYhteensa, Tsisa_);
+  if (rakenne.U_arvo() <= 0)
+    rivi.piirteet = {.merkitys = Merkitys::Huomio, .merkitty = kUsarake, .selite = Teksti(tekstit::kUarvoPuuttuu)};
+  return rivi;
 }
 
 bool Rakennemuokkaus::Naytetaan(const clsRakenne& rakenne) const {
@@ -215,29 +253,38 @@ bool Rakennemuokkaus::Naytetaan(const clsRakenne& rakenne) const {
   return naytettavat == frmRakenteet::kKaikki || naytettavat == rakenne.Rakennetyyppi;
 }
 
-/// Fills the list and shows the structure of that key, whatever its kind; the first one when there is none.
-void Rakennemuokkaus::NaytaLuettelo(const Tunniste& valittava) {
-  Taulukko rivit;
-  rivit_.clear();
+Luettelosisalto Rakennemuokkaus::Rivit(const Tunniste& valittava) const {
+  double yhteensa = 0, naytetty = 0;
+  for (const clsRakenne& rakenne : rakenteet_) yhteensa += VuosiHavio(rakenne, Tsisa_);
+  Luettelosisalto sisalto;
   for (const clsRakenne& rakenne : rakenteet_) {
     if (!Naytetaan(rakenne) && rakenne.sKey != valittava) continue;
-    rivit_.push_back(rakenne.sKey);
-    rivit.push_back(Rivi(rakenne));
+    sisalto.rivit.push_back(Rivi(rakenne, yhteensa));
+    naytetty += VuosiHavio(rakenne, Tsisa_);
   }
-  KayttoLiittyma.lvwRakenteet.Rivit(std::move(rivit));
-  const auto paikka = std::ranges::find(rivit_, valittava);
-  const int rivi = paikka == rivit_.end() ? 0 : static_cast<int>(paikka - rivit_.begin());
-  KayttoLiittyma.ValitseRakenne(rivi);
-  muokattava_ = rivit_.empty() ? Tunniste() : rivit_[static_cast<std::size_t>(rivi)];
+  Luettelorivi summat{{Teksti(tekstit::kRakenteetYhteensa), "", "", "", "", ""}};
+  LisaaHavio(summat, naytetty, yhteensa, Tsisa_);
+  sisalto.summat = std::move(summat.solut);
+  return sisalto;
+}
+
+/// Fills the list and shows the structure of that key, whatever its kind; the first one when there is none.
+void Rakennemuokkaus::NaytaLuettelo(const Tunniste& valittava) {
+  const ListView& lista = KayttoLiittyma.lvwRakenteet;
+  lista.Tayta(Rivit(valittava));
+  lista.Valitse(valittava);
+  KayttoLiittyma.ValitseRakenne(lista.Indeksi());
+  muokattava_ = lista.Valittu();
   LueDataluokka();
   PaivitaKentat();
 }
 
-/// The list isn't filled anew: what the person has selected there stays.
-void Rakennemuokkaus::PaivitaRivi(const clsRakenne& rakenne) {
-  const auto paikka = std::ranges::find(rivit_, rakenne.sKey);
-  if (paikka != rivit_.end())
-    KayttoLiittyma.lvwRakenteet.Rivi(static_cast<int>(paikka - rivit_.begin()), Rivi(rakenne));
+/// A structure has changed, and with it the share of each. Rows that didn't change stay, and so does what is selected.
+void Rakennemuokkaus::PaivitaRivit() {
+  const ListView& lista = KayttoLiittyma.lvwRakenteet;
+  const Tunniste valittu = lista.Valittu();
+  lista.Tayta(Rivit(muokattava_));
+  lista.Valitse(valittu);
 }
 
 /// The picture, the U-value of the layers, and with it the structure's own when that is the source.
@@ -262,9 +309,9 @@ void Rakennemuokkaus::PaivitaKentat() {
 
 void Rakennemuokkaus::KayttoLiittyma_RakenneValittu() {
   KirjoitaDataluokka();
-  if (const clsRakenne* entinen = Muokattava()) PaivitaRivi(*entinen);
-  const int rivi = KayttoLiittyma.lvwRakenteet.Indeksi();
-  muokattava_ = rivi < 0 ? Tunniste() : rivit_[static_cast<std::size_t>(rivi)];
+  PaivitaRivit();
+  KayttoLiittyma.ValitseRakenne(KayttoLiittyma.lvwRakenteet.Indeksi());
+  muokattava_ = KayttoLiittyma.lvwRakenteet.Valittu();
   LueDataluokka();
   PaivitaKentat();
 }
@@ -349,7 +396,7 @@ void Rakennemuokkaus::RakKirjasto_RakenneValittu(const Rakenneratkaisu& ratkaisu
   const bool naytetaan = haettava_ == muokattava_;
   if (naytetaan) KirjoitaDataluokka();
   rakenne->OtaRatkaisu(ratkaisu);
-  PaivitaRivi(*rakenne);
+  PaivitaRivit();
   if (!naytetaan) return;
   LueDataluokka();
   PaivitaKentat();

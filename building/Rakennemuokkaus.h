@@ -30,13 +30,15 @@ class Rakennemuokkaus {
 
   bool Naytetaan(const clsRakenne& rakenne) const;
   void NaytaLuettelo(const Tunniste& valittava);
-  void PaivitaRivi(const clsRakenne& rakenne);
+  void PaivitaRivit();
   void NaytaUarvo();
   void NaytaKerrokset(int valittava);
   void NaytaHaku(const std::string& teksti);
   void PaivitaKentat();
   bool Lukittu() const;
-  std::vector<std::string> Rivi(const clsRakenne& rakenne) const;
+  /// `havioYhteensa`: conduction loss of all structures in a year, kWh.
+  Luettelorivi Rivi(const clsRakenne& rakenne, double havioYhteensa) const;
+  Luettelosisalto Rivit(const Tunniste& valittava) const;
 
   clsRakenne* Muokattava() const { return rakenteet_.Etsi(muokattava_); }
   /// The solution of the chosen structure; made if it has none.
@@ -71,9 +73,8 @@ class Rakennemuokkaus {
 
   clsRakenteet& rakenteet_;
   frmRakenteet KayttoLiittyma;
-  std::vector<Tunniste> rivit_;  // keys of the structures in the list
-  Tunniste muokattava_;          // key of the chosen one
-  Tunniste haettava_;            // key of the one for which the library is open
+  Tunniste muokattava_;  // key of the chosen one
+  Tunniste haettava_;    // key of the one for which the library is open
   std::unique_ptr<Rakennekirjastopyynto> haku_;
   double Tsisa_;  // °C
 };
