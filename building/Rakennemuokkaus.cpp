@@ -395,7 +395,9 @@ void Rakennemuokkaus::RakKirjasto_RakenneValittu(const Rakenneratkaisu& ratkaisu
   if (!rakenne) return;
   const bool naytetaan = haettava_ == muokattava_;
   if (naytetaan) KirjoitaDataluokka();
+  const std::int32_t entinen = rakenne->Rakennetyyppi;
   rakenne->OtaRatkaisu(ratkaisu);
+  if (rakenne->Rakennetyyppi != entinen) AsetaOletusrajoittuminen(*rakenne);
   PaivitaRivit();
   if (!naytetaan) return;
   LueDataluokka();

@@ -158,6 +158,7 @@ void AlustaPerustiedot(clsPerustiedot& perustiedot) try {
   perustiedot.Kokonaistilavuus = 0;
   perustiedot.KayttoTarkoitusID = 0;
   perustiedot.ValmistumisVuosi = 0;
+  perustiedot.LammTarveLukuPaikkakuntaID(perustiedot.LammTarveLukuPaikkakuntaID());  // and its degree days
   AlustaLammonHankinta(perustiedot.LammonHankinta);
   AlustaSahkonHankinta(perustiedot.SahkonHankinta);
   AlustaVedenHankinta(perustiedot.VedenHankinta);
@@ -242,6 +243,11 @@ bool VahvistaRakennekirjasto(const TilanLahtotiedot& tiedot) try {
   NostaVirhe("modAlkuarvojaRakennukseen:VahvistaRakennekirjasto Method");
 }
 
+void AsetaOletusrajoittuminen(clsRakenne& rakenne) {
+  rakenne.TyyppiID = RajoittuminenTyypista(rakenne.Rakennetyyppi);
+  rakenne.TyyppiStr = Valinnan("frmRakenteet", "cmbTyyppi", rakenne.TyyppiID);
+}
+
 void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakennekirjasto* kirjasto) try {
   rakenne.Rakennetyyppi = tiedot.rakennetyyppi;
   rakenne.U_arvo(tiedot.u_arvo);
@@ -254,8 +260,7 @@ void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakenne
     ratkaisu.Kuvaus = ratkaisu.Kuvaus.empty() ? tiedot.nimi : tiedot.nimi + ". " + ratkaisu.Kuvaus;
   }
   rakenne.PintaAla = Naytettyna(tiedot.ala, "0.0");
-  rakenne.TyyppiID = RajoittuminenTyypista(tiedot.rakennetyyppi);
-  rakenne.TyyppiStr = Valinnan("frmRakenteet", "cmbTyyppi", rakenne.TyyppiID);
+  AsetaOletusrajoittuminen(rakenne);
   rakenne.SuuntausID = tiedot.suuntaus;
   rakenne.SuuntausStr = Valinnan("frmRakenteet", "cmbSuuntaus", tiedot.suuntaus);
   AsetaVarjostus(rakenne.HorisVarjostus, "cmbHorisVarjTyyppi", 15);

@@ -58,6 +58,9 @@ struct RakenteenLahtotiedot {
 /// Fills a structure; `kirjasto` may be nothing when no solution is named.
 void LuoRakenne(clsRakenne& rakenne, const RakenteenLahtotiedot& tiedot, Rakennekirjasto* kirjasto);
 
+/// What a structure of its kind borders on at first.
+void AsetaOletusrajoittuminen(clsRakenne& rakenne);
+
 /// Values of a row by the name of its column.
 using Oletusarvorivi = std::map<std::string, std::string, std::less<>>;
 /// The default row of a use-type code and a year of completion; `tila` 0 structural solutions, 1 consumption figures of

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int kVarjostussivu = 2;
+constexpr std::int32_t kIkkunat = 3;  // kind shown
 
 template <class K, class... L>
 void AsetaKaytossa(bool kaytossa, const K& kahva, const L&... muut) {
@@ -38,6 +39,7 @@ void frmRakenteet::KuunteleLuetteloa() {
     if (!TarkistaLukukentat(*this)) return cmbRakennetyyppi.Indeksi(naytettavatRivi_);
     naytettavatRivi_ = cmbRakennetyyppi.Indeksi();
     Nosta(NaytettavatValittu);
+    if (Naytettavat() == kIkkunat && tilanne_.ikkuna) tabRakenne.Indeksi(kVarjostussivu);
   });
   lvwRakenteet.KunKlikataan([this] { txtNimi.Kohdista(); });
   lvwRakenteet.KunLiitetaan([this](const Taulukko& rivit) {

@@ -144,8 +144,10 @@ void LisaaIVKone(const Rivi& rivi, const clsTila& tila, clsIVKoneet& koneet) {
   kone.PuhaltimenSaatotapa = Valinta(kLomake, "cmbPuhaltimenSaatotapa", kone.PuhaltimenSaatotapaID);
   kone.PuhaltimenVoimansiirtoTapa =
       Valinta(kLomake, "cmbPuhaltimenVoimansiirtoTapa", kone.PuhaltimenVoimansiirtoTapaID);
-  kone.PuhaltimienSahkonKulutus.TuloSahkoTeho11 = Luku(rivi, "TuloSahkoTeho");
-  kone.PuhaltimienSahkonKulutus.PoistoSahkoTeho11 = Luku(rivi, "PoistoSahkoTeho");
+  clsPuhaltimenSahkonKulutus& puhaltimet = kone.PuhaltimienSahkonKulutus;
+  puhaltimet.TuloSahkoTeho11 = Luku(rivi, "TuloSahkoTeho");
+  puhaltimet.PoistoSahkoTeho11 = Luku(rivi, "PoistoSahkoTeho");
+  puhaltimet.Teho11TiedonLaatuIDTulo = puhaltimet.Teho11TiedonLaatuIDPoisto = clsPuhaltimenSahkonKulutus::Annettu;
   kone.KayntiAikaYleistiedot.IvKoneenNimi = kone.KoneenTunnus;
   kone.KayntiAikaYleistiedot.LuoJaksot(kone.SisaanpuhallusLampotila(), kone.IlmanLampeneminenPuhaltimessa);
   TaytaKayntiajat(rivi.at("Kayntiajat"), kone.KayntiAikaYleistiedot);

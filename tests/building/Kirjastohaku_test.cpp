@@ -76,7 +76,8 @@ TEST_F(Kirjastohaku, PickedSolutionTakesThePlaceOfTheStructuresOwn) {
     kirjasto.Valitse(Kirjastoikkuna());
     const Taulukko& rivit = l.Etsi("lvwRakenteet").Rivit();
     ASSERT_EQ(rivit.size(), 1u) << "stays though only walls are shown";
-    EXPECT_EQ(rivit[0], (std::vector<std::string>{"Kirjaston ikkuna", "Ikkuna", "150,0", "1,25", "", "Pohjoinen"}));
+    EXPECT_EQ(rivit[0], (std::vector<std::string>{"Kirjaston ikkuna", "Ikkuna", "150,0", "1,25", "", "Pohjoinen",
+                                                  "187,5", "97,1"}));  // beside the door of 5,6 W/K
     EXPECT_TRUE(l.Etsi("cmbSuuntaus").Nakyva());
     EXPECT_EQ(l.Teksti("txtAurinkoenergianlapaisy"), "55");
     l.KayttajaPainaa("cmdKopioiRakenne");
@@ -104,6 +105,25 @@ TEST_F(Kirjastohaku, PickGoesToTheStructureForWhichItWasAsked) {
   EXPECT_EQ(Seina().RakenneRatkaisu->Kerrokset.Count(), 1);
   EXPECT_FALSE(Ovi().RakenneRatkaisu);
   EXPECT_EQ(Ovi().PintaAla, 5);
+}
+
+TEST_F(Kirjastohaku, AStructureOfAnotherKindBordersOnWhatItsKindDoes) {
+  Muokkaa([this](Ikkunaton& l) {
+    Rakenneratkaisu ratkaisu = Kirjastoseina();
+    const auto valitse = [&](const char* rajoittuu, const char* laji) {
+      l.KayttajaValitsee("cmbTyyppi", rajoittuu);
+      l.KayttajaPainaa("cmdHaeKirjastosta");
+      ratkaisu.Rakennetyyppi = laji;
+      kirjasto.Valitse(ratkaisu);
+      return l.Etsi("cmbTyyppi").Indeksi();
+    };
+    EXPECT_EQ(valitse("Puskuritila", "Ulkoseinä"), kPuskuritila) << "of the same kind: what the person chose stays";
+    EXPECT_EQ(valitse("Ulkoilma", "Alapohja"), kMaa);
+    EXPECT_EQ(valitse("Maa", "Yläpohja"), kUlkoilma);
+    l.KayttajaPainaa("cmdOk");
+  });
+  EXPECT_EQ(Seina().TyyppiID, kUlkoilma);
+  EXPECT_EQ(Seina().TyyppiStr, "Ulkoilma");
 }
 
 TEST_F(Kirjastohaku, WordThatIsNotKnownKeepsTheKindAndUnknownUTheValue) {

@@ -30,6 +30,7 @@ class DialogiTesti : public RakennusTesti {
 TEST_F(DialogiTesti, TheFirstOkMakesTheModel) {
   ikkunat.KunNaytetaan("frmPerustiedot", [](Ikkunaton& lomake) {
     EXPECT_EQ(lomake.Otsikko(), "Perustiedot");
+    EXPECT_EQ(lomake.Teksti("txtNormVuodenLammTarveLuku"), "4 366") << "of the locality shown at first";
     TaytaOmakotitalo(lomake);
     EXPECT_EQ(lomake.Teksti("txtNormVuodenLammTarveLuku"), "5 068");
     EXPECT_EQ(lomake.Teksti("txtLampoNelioille"), "127,5") << "20 400 kWh over 160 m²";

@@ -48,7 +48,8 @@ class RakenneDialogi : public RakennusTesti {
 TEST_F(RakenneDialogi, EachStructureShowsItsOwnDataAndKeepsWhatWasWritten) {
   EXPECT_TRUE(Muokkaa([](Ikkunaton& l) {
     EXPECT_EQ(l.Otsikko(), "Sali: Tilan rakenteet");
-    EXPECT_EQ(Rakenteet(l)[0], (std::vector<std::string>{"Tiiliseinä", "Ulkoseinä", "120,12", "0,28", "Ulkoilma", ""}));
+    EXPECT_EQ(Rakenteet(l)[0],
+              (std::vector<std::string>{"Tiiliseinä", "Ulkoseinä", "120,12", "0,28", "Ulkoilma", "", "33,6", "55,3"}));
     EXPECT_EQ(Rakenteet(l)[2][0], "Ovi") << "without a solution the kind names it";
     EXPECT_EQ(l.Teksti("txtUarvo"), "0,28");
     EXPECT_EQ(l.Teksti("txtPaksuus"), "0") << "not summed before the layers are touched";
@@ -74,6 +75,34 @@ TEST_F(RakenneDialogi, EachStructureShowsItsOwnDataAndKeepsWhatWasWritten) {
   EXPECT_EQ(Ikkuna().RakenneRatkaisu->Verhokerroin, 60);
   EXPECT_EQ(tila.Rakenteet.Item(3).U_arvo(), 1.25);
   EXPECT_FALSE(tila.Rakenteet.Item(3).RakenneRatkaisu) << "no solution is made for its own sake";
+}
+
+// W/K: wall 120,123 × 0,28, window 12 × 1,8, door 4 × 1,4.
+TEST_F(RakenneDialogi, ListTellsConductanceAndShareAndMarksAStructureWithoutUvalue) {
+  Muokkaa([](Ikkunaton& l) {
+    const Ohjain& lista = l.Etsi("lvwRakenteet");
+    const auto haviot = [&](std::size_t rivi) {
+      return Rakenteet(l).at(rivi).at(6) + " " + Rakenteet(l).at(rivi).at(7);
+    };
+    EXPECT_EQ(haviot(1), "21,6 35,5");
+    EXPECT_EQ(haviot(2), "5,6 9,2");
+    EXPECT_EQ(lista.Summarivi().at(6) + " " + lista.Summarivi().at(7), "60,8 100,0");
+    l.KayttajaValitsee("cmbTyyppi", "Huonelämpöinen tila");
+    l.KayttajaValitsee("lvwRakenteet", "Ovi");
+    EXPECT_EQ(haviot(0), "0,0 0,0") << "between warm spaces nothing is conducted";
+    EXPECT_EQ(haviot(2), "5,6 20,6") << "the share of each follows";
+    EXPECT_EQ(lista.Indeksi(), 2) << "and the choice stays";
+    l.KayttajaValitsee("cmbRakennetyyppi", "Ovi");
+    EXPECT_EQ(lista.Summarivi().at(7), "20,6") << "the sum is of the rows shown";
+    l.KayttajaPainaa("cmdLisaaRakenne");
+    EXPECT_EQ(lista.Lista().Piirteet(0).merkitys, Merkitys::Tavallinen);
+    EXPECT_EQ(lista.Lista().Piirteet(1).merkitys, Merkitys::Huomio) << "the new one has no U-value yet";
+    EXPECT_FALSE(lista.Lista().Piirteet(1).selite.empty());
+    l.KayttajaKirjoittaa("txtUarvo", "1,1");
+    l.KayttajaValitsee("lvwRakenteet", "Ovi");
+    EXPECT_EQ(lista.Lista().Piirteet(1).merkitys, Merkitys::Tavallinen);
+    Ok(l);
+  });
 }
 
 TEST_F(RakenneDialogi, TypeOfShadingSuggestsAnAngleThatCanBeChanged) {
@@ -229,6 +258,7 @@ TEST_F(RakenneDialogi, FilterChoosesTheKindThatIsAdded) {
     l.KayttajaValitsee("cmbRakennetyyppi", "Ikkuna");
     ASSERT_EQ(Rakenteet(l).size(), 1u);
     EXPECT_EQ(l.Teksti("txtNimi"), "Ikkuna");
+    EXPECT_EQ(l.Etsi("tabRakenne").Indeksi(), 2) << "shading is what a window has of its own";
     l.KayttajaPainaa("cmdLisaaRakenne");
     EXPECT_EQ(Rakenteet(l).size(), 2u);
     EXPECT_EQ(l.Kohdistettu(), "txtNimi");

@@ -108,6 +108,7 @@ class QtTextBox : public QtOhjain {
   QtTextBox(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QLineEdit& kentta)
       : QtOhjain(ikkuna, std::move(kuvaus), &kentta), kentta_(kentta) {
     Ulkoasu();
+    if (Lukittu()) kentta.setFocusPolicy(Qt::ClickFocus);  // copied from by the mouse; no stop of the Tab key
     connect(&kentta, &QLineEdit::textEdited, this,
             [this](const QString& teksti) { KayttajaKirjoittaa(teksti.toStdString()); });
     kentta.installEventFilter(this);
