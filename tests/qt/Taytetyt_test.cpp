@@ -124,7 +124,8 @@ TEST_F(Taytetyt, TheStructuresWindowFitsWithManyLayers) {
   for (int i = 1; i <= 12; ++i) {
     nimet.push_back("Mineraalivilla puurungon välissä, tuulensuojattu " + std::to_string(i));
     kerrokset.push_back({std::to_string(i), nimet.back(), "1 234,56", "Kyllä", std::to_string(i), "Kyllä", "12,345"});
-    rakenteet.push_back({nimet.back(), "Kantava väliseinä", "123 456,78", "0,123", "Huonelämpöinen tila", ""});
+    rakenteet.push_back(
+        {nimet.back(), "Kantava väliseinä", "123 456,78", "0,123", "Huonelämpöinen tila", "", "12 345,6", "100,0"});
   }
   lomake.lvwRakenteet.Rivit(rakenteet);
   lomake.lvwKerrokset.Rivit(kerrokset);
