@@ -7,6 +7,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSet>
@@ -130,16 +133,21 @@ TEST_P(Lomakkeet, EveryFieldHasANameAndEveryCaptionAField) {
   }
 }
 
+/// Captions that should have a letter.
+QStringList Kirjaimelliset(const QList<QLabel*>& nimiot, const QList<QAbstractButton*>& napit) {
+  QStringList otsikot;
+  for (const QLabel* nimio : nimiot)
+    if (nimio->buddy() && !nimio->buddy()->property("readOnly").toBool()) otsikot << nimio->text();
+  for (const QAbstractButton* nappi : napit)
+    if (!OnVastausnappi(nappi) && OnKirjaimia(nappi->text())) otsikot << nappi->text();
+  return otsikot;
+}
+
 TEST_P(Lomakkeet, EachVisibleOneHasItsOwnLetter) {
   KullakinSivulla([this] {
-    QStringList otsikot;
-    for (const QLabel* otsikko : Lapset<QLabel>())
-      if (otsikko->buddy() && !otsikko->buddy()->property("readOnly").toBool()) otsikot << otsikko->text();
-    for (const QAbstractButton* nappi : Lapset<QAbstractButton>())
-      if (!OnVastausnappi(nappi) && OnKirjaimia(nappi->text())) otsikot << nappi->text();
     QSet<QString> varatut, kaikki;
     QStringList ilman;
-    for (const QString& otsikko : otsikot) {
+    for (const QString& otsikko : Kirjaimelliset(Lapset<QLabel>(), Lapset<QAbstractButton>())) {
       const QString kirjain = Pikakirjain(otsikko);
       EXPECT_FALSE(varatut.contains(kirjain)) << otsikko.toStdString();
       if (kirjain.isEmpty())
@@ -150,6 +158,25 @@ TEST_P(Lomakkeet, EachVisibleOneHasItsOwnLetter) {
         if (merkki.isLetter()) kaikki << merkki.toLower();
     }
     EXPECT_TRUE(ilman.isEmpty() || varatut == kaikki) << "kirjaimia olisi: " << ilman.join(", ").toStdString();
+  });
+}
+
+TEST_P(Lomakkeet, InsideTheMainWindowMenusKeepTheirLetters) {
+  QMainWindow paaikkuna;
+  auto* alue = new QMdiArea;
+  paaikkuna.setCentralWidget(alue);
+  for (const char* valikko : {"&Tiedosto", "&Muokkaa", "&Näytä", "&Rakennus", "S&äästö"})
+    paaikkuna.menuBar()->addMenu(valikko);
+  paaikkuna.show();
+  AsetaQtLomakkeet(alue);
+  Paljas lomake(GetParam());
+  lomake.Nayta();
+  juuri_ = &Juuri(lomake);
+  KullakinSivulla([this] {
+    for (const QString& otsikko : Kirjaimelliset(Lapset<QLabel>(), Lapset<QAbstractButton>())) {
+      const QString kirjain = Pikakirjain(otsikko);
+      EXPECT_FALSE(!kirjain.isEmpty() && QStringLiteral("tmnrä").contains(kirjain)) << otsikko.toStdString();
+    }
   });
 }
 

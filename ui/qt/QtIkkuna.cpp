@@ -4,6 +4,7 @@
 #include <Lomaketaulu.h>
 
 #include <QApplication>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QTreeView>
@@ -26,6 +27,17 @@ void KeraaOhjaimet(QWidget& widget, const std::function<void(QWidget&)>& tee) {
       if (!w->objectName().startsWith(QLatin1String("qt_"))) tee(*w);
       KeraaOhjaimet(*w, tee);
     }
+}
+
+/// Letters by which Alt opens the menus of the main window.
+QSet<QChar> Valikkokirjaimet(const QWidget& ikkuna) {
+  QSet<QChar> kirjaimet;
+  const auto* valikkorivi = ikkuna.findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+  if (!valikkorivi) return kirjaimet;
+  for (const QAction* valikko : valikkorivi->actions())
+    if (const QKeySequence nappaimet = QKeySequence::mnemonic(valikko->text()); !nappaimet.isEmpty())
+      kirjaimet << QChar(nappaimet[0].key()).toLower();
+  return kirjaimet;
 }
 
 bool OnTaytettava(const Ohjain& ohjain) {
@@ -67,8 +79,8 @@ void QtIkkuna::Otsikko(const std::string& otsikko) {
     if (w) w->setWindowTitle(teksti);
 }
 
-void QtIkkuna::Viimeistele() {
-  JaaPikakirjaimet(*this);
+void QtIkkuna::Viimeistele(const QSet<QChar>& varatutKirjaimet) {
+  JaaPikakirjaimet(*this, varatutKirjaimet);
   NimeaKentat(*this);
 }
 
@@ -90,7 +102,7 @@ QWidget* QtIkkuna::Vanhempi() const {
 
 Dialogikehys* QtIkkuna::TeeDialogi() {
   Irrota();
-  Viimeistele();
+  Viimeistele({});
   dialogi_ = new Dialogikehys(*this, juuri_, Vanhempi());
   dialogi_->Mahduta(dialogi_->screen()->availableSize());
   Aloita();
@@ -98,7 +110,7 @@ Dialogikehys* QtIkkuna::TeeDialogi() {
 }
 
 Alikehys* QtIkkuna::TeeAlikehys() {
-  Viimeistele();
+  Viimeistele(Valikkokirjaimet(*alue_->window()));
   alikehys_ = new Alikehys(*this, juuri_);
   alue_->addSubWindow(alikehys_);
   Aloita();

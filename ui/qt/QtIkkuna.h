@@ -2,6 +2,7 @@
 #pragma once
 #include <QMdiArea>
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 #include <string>
 
@@ -27,7 +28,7 @@ class QtIkkuna : public Lomakeikkuna {
   bool Aktiivinen() const override;
 
  private:
-  void Viimeistele();
+  void Viimeistele(const QSet<QChar>& varatutKirjaimet);
   void Aloita();
   void Irrota();
   QWidget* Vanhempi() const;

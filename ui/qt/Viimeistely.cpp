@@ -2,7 +2,6 @@
 #include "ui/qt/Viimeistely.h"
 
 #include <QLabel>
-#include <QSet>
 #include <QTabWidget>
 #include <QWidget>
 #include <algorithm>
@@ -55,7 +54,10 @@ QList<QChar> Kirjaimet(const QString& otsikko) {
 
 /// A control that gets a letter.
 struct Saaja {
-  explicit Saaja(QtOhjain& o) : ohjain(&o), sivut(Sivut(o)), kirjaimet(Kirjaimet(QString::fromStdString(o.Teksti()))) {}
+  Saaja(QtOhjain& o, const QSet<QChar>& varatut)
+      : ohjain(&o), sivut(Sivut(o)), kirjaimet(Kirjaimet(QString::fromStdString(o.Teksti()))) {
+    kirjaimet.removeIf([&](QChar kirjain) { return varatut.contains(kirjain); });
+  }
   QtOhjain* ohjain;
   QWidgetList sivut;
   QList<QChar> kirjaimet;
@@ -99,10 +101,10 @@ bool AnnaKirjain(std::vector<Saaja>& saajat, Saaja& saaja, QSet<QChar>& koetut) 
 }  // namespace
 
 /// What lies on fewer pages comes first: more of the others can be seen beside it.
-void JaaPikakirjaimet(const Lomakeikkuna& ikkuna) {
+void JaaPikakirjaimet(const Lomakeikkuna& ikkuna, const QSet<QChar>& varatut) {
   std::vector<Saaja> saajat;
   for (const auto& ohjain : ikkuna.Ohjaimet())
-    if (SaaKirjaimen(Qt_(ohjain))) saajat.emplace_back(Qt_(ohjain));
+    if (SaaKirjaimen(Qt_(ohjain))) saajat.emplace_back(Qt_(ohjain), varatut);
   std::ranges::stable_sort(saajat, {}, [](const Saaja& s) { return s.sivut.size(); });
   for (Saaja& saaja : saajat) {
     QSet<QChar> koetut;
