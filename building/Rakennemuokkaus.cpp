@@ -20,6 +20,7 @@
 #include "tekstit/lomakkeet_tilat.h"
 #include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
+#include "ui/Hiljaa.h"
 #include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
@@ -111,11 +112,14 @@ std::string ValinnanRivi(const ComboBox& valinta, std::int32_t rivi) {
   return rivi >= 0 && i < rivit.size() ? rivit[i].front() : std::string();
 }
 
-/// Conduction loss of the structure in a year, kWh.
+/// Conduction loss of the structure in a year, kWh; 0 when it can't be computed, which the calculation tells of.
 double VuosiHavio(const clsRakenne& rakenne, double Tsisa) {
-  double havio = 0;
-  for (int m = 0; m < kKuukausia; ++m) havio += rakenne.LampoHaviot(Tsisa, m);
-  return havio;
+  const auto havio = LaskeHiljaa([&] {
+    double summa = 0;
+    for (int m = 0; m < kKuukausia; ++m) summa += rakenne.LampoHaviot(Tsisa, m);
+    return summa;
+  });
+  return havio.value_or(0);
 }
 
 /// Difference of indoor and outdoor temperature over the year, Kh.
@@ -144,6 +148,13 @@ void LisaaHavio(Luettelorivi& rivi, double havio, double yhteensa, double Tsisa)
 bool OnIkkuna(const clsRakenne& rakenne) { return rakenne.Rakennetyyppi == Rakennelaji::Ikkuna; }
 bool Rajoittuu(const clsRakenne& rakenne) { return rakenne.Rakennetyyppi <= Rakennelaji::Alapohja; }
 
+/// Heat should go through it to the air, but it has no U-value. The loss to the ground asks for none.
+bool UarvoPuuttuu(const clsRakenne& rakenne) {
+  const bool ilmaan = Rajoittuu(rakenne) ? rakenne.TyyppiID == kUlkoilma || rakenne.TyyppiID == kPuskuritila
+                                         : OnIkkuna(rakenne) || rakenne.Rakennetyyppi == Rakennelaji::Ovi;
+  return ilmaan && rakenne.U_arvo() <= 0;
+}
+
 /// A solution without layers; a window lets the sun through as an ordinary one.
 Rakenneratkaisu UusiRatkaisu(const std::string& nimi, std::int32_t rakennetyyppi) {
   Rakenneratkaisu ratkaisu = PuuttuvaRakenneratkaisu({}, rakennetyyppi);
@@ -164,12 +175,32 @@ Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet, double Tsisa) : rakent
 
 bool Rakennemuokkaus::Nayta(std::int32_t rakennetyyppi, const std::string& tilanNimi) {
   KayttoLiittyma.Naytettavat(rakennetyyppi);
+  std::unordered_set<Tunniste> entiset;
+  for (const clsRakenne& rakenne : rakenteet_) entiset.insert(rakenne.sKey);
   Muokkausistunto istunto(rakenteet_, KayttoLiittyma,
                           {.nimi = tilanNimi,
                            .lue = [this] { NaytaLuettelo({}); },
                            .kirjoita = [this] { KirjoitaDataluokka(); },
+                           .tarkista = [this, entiset] { return UarvotOnAnnettu(entiset); },
                            .virheenJalkeen = [this] { NaytaLuettelo(muokattava_); }});
   return istunto.Nayta();
+}
+
+bool Rakennemuokkaus::UarvotOnAnnettu(const std::unordered_set<Tunniste>& entiset) {
+  std::string nimet;
+  Tunniste ensimmainen;
+  for (const clsRakenne& rakenne : rakenteet_) {
+    if (entiset.contains(rakenne.sKey) || !UarvoPuuttuu(rakenne)) continue;
+    if (nimet.empty()) ensimmainen = rakenne.sKey;
+    nimet += "\n" + rakenne.NaytettavaNimi();
+  }
+  if (nimet.empty()) return true;
+  const Viesti kysymys{Teksti(tekstit::kUarvojaPuuttuu) + nimet, Teksti(tekstit::kHuomautus), Vakavuus::Kysymys,
+                       Napit::KyllaEi, Vastaus::Kylla};
+  if (ViestitNyt().Nayta(kysymys) == Vastaus::Ei) return true;
+  NaytaLuettelo(ensimmainen);
+  KayttoLiittyma.txtUarvo.Kohdista();
+  return false;
 }
 
 void Rakennemuokkaus::LiitaTapahtumat() {
@@ -243,7 +274,7 @@ Luettelorivi Rakennemuokkaus::Rivi(const clsRakenne& rakenne, double havioYhteen
   rivi.solut.push_back(Rajoittuu(rakenne) ? ValinnanRivi(l.cmbTyyppi, rakenne.TyyppiID) : "");
   rivi.solut.push_back(OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : "");
   LisaaHavio(rivi, VuosiHavio(rakenne, Tsisa_), havioYhteensa, Tsisa_);
-  if (rakenne.U_arvo() <= 0)
+  if (UarvoPuuttuu(rakenne))
     rivi.piirteet = {.merkitys = Merkitys::Huomio, .merkitty = kUsarake, .selite = Teksti(tekstit::kUarvoPuuttuu)};
   return rivi;
 }

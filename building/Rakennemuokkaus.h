@@ -2,6 +2,7 @@
 #pragma once
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "building/clsRakenteet.h"
@@ -36,6 +37,8 @@ class Rakennemuokkaus {
   void NaytaHaku(const std::string& teksti);
   void PaivitaKentat();
   bool Lukittu() const;
+  /// Asks of structures added here without a U-value. False when the person goes back to give it.
+  bool UarvotOnAnnettu(const std::unordered_set<Tunniste>& entiset);
   /// `havioYhteensa`: conduction loss of all structures in a year, kWh.
   Luettelorivi Rivi(const clsRakenne& rakenne, double havioYhteensa) const;
   Luettelosisalto Rivit(const Tunniste& valittava) const;

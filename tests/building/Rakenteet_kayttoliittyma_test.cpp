@@ -105,6 +105,33 @@ TEST_F(RakenneDialogi, ListTellsConductanceAndShareAndMarksAStructureWithoutUval
   });
 }
 
+TEST_F(RakenneDialogi, ANewStructureWithoutUvalueIsAskedOf) {
+  tila.Rakenteet.Item(3).U_arvo(0);  // an old one isn't asked of again
+  EXPECT_TRUE(Muokkaa([this](Ikkunaton& l) {
+    l.Etsi("lvwRakenteet").KayttajaLiittaa("Nimi\tRakennetyyppi\nUlko-ovi\tOvi\nLattia\tAlapohja\nSeinä\tUlkoseinä\n");
+    viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
+    Ok(l);
+    ASSERT_TRUE(l.Auki());
+    EXPECT_EQ(viestit.Esiintymia("\nUlko-ovi\nSeinä"), 1) << "what is on the ground needs none";
+    EXPECT_EQ(l.Teksti("txtNimi") + " " + l.Kohdistettu(), "Ulko-ovi txtUarvo");
+    l.KayttajaKirjoittaa("txtUarvo", "1");
+    viestit.AsetaSeuraavaVastaus(Vastaus::Ei);
+    Ok(l);
+    EXPECT_EQ(viestit.Naytetyt().back().teksti.find("Ulko-ovi"), std::string::npos);
+  }));
+  EXPECT_EQ(tila.Rakenteet.Count(), 6);
+}
+
+TEST_F(RakenneDialogi, AColdSpaceOnTheGroundOpensInSilence) {
+  LisaaRakenne(tila, Rakennelaji::Alapohja, 100, 0.3).TyyppiID = kMaa;
+  ikkunat.KunNaytetaan("frmRakenteet", [](Ikkunaton& l) {
+    EXPECT_EQ(Rakenteet(l).at(3).at(7), "---");
+    Ok(l);
+  });
+  tila.Rakenteet.NaytaKayttoliityma("Sali", 2);
+  EXPECT_TRUE(viestit.Naytetyt().empty());
+}
+
 TEST_F(RakenneDialogi, TypeOfShadingSuggestsAnAngleThatCanBeChanged) {
   Muokkaa([](Ikkunaton& l) {
     l.KayttajaValitsee("lvwRakenteet", "Ikkuna");
@@ -272,6 +299,7 @@ TEST_F(RakenneDialogi, FilterChoosesTheKindThatIsAdded) {
     l.KayttajaValitsee("cmbRakennetyyppi", "Ovi");
     viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
     l.KayttajaPainaa("cmdPoistaRakenne");
+    viestit.AsetaSeuraavaVastaus(Vastaus::Ei);  // no U-value for the new ones now
     Ok(l);
   });
   ASSERT_EQ(tila.Rakenteet.Count(), 4);
@@ -358,7 +386,7 @@ TEST_F(RakenneDialogi, AFaultInPastedRowsIsToldAndNothingIsAdded) {
     l.KayttajaValitsee("cmbRakennetyyppi", "Ovi");
     liita("Nimi\nUlko-ovi\n");
     EXPECT_EQ(Rakenteet(l).size(), 2u) << "the kind shown is the kind of a row that tells none";
-    Ok(l);
+    Peruuta(l);
   });
 }
 
@@ -387,6 +415,7 @@ TEST_F(RakenneDialogi, DialogOfAnEmptySpaceAndOfOneKind) {
   }));
   ikkunat.KunNaytetaan("frmRakenteet", [](Ikkunaton& l) {
     l.KayttajaPainaa("cmdLisaaRakenne");
+    l.KayttajaKirjoittaa("txtUarvo", "0,15");
     Ok(l);
   });
   EXPECT_TRUE(tila.Rakenteet.NaytaRakenteetKayttoliittyma(Rakennelaji::Ylapohja));
