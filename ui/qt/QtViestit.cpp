@@ -2,6 +2,7 @@
 #include "ui/qt/QtViestit.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
@@ -99,10 +100,10 @@ QString Paate(const QString& suodatin) {
 
 /// Where the person chose a file last, else the documents folder.
 QString Tiedostokansio() {
-  const QString viime = Q(HaeAsetus(kOsio, kKansio, ""));
-  return !viime.isEmpty() && QFileInfo(viime).isDir()
-             ? viime
-             : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  for (const QString& kansio :
+       {Q(HaeAsetus(kOsio, kKansio, "")), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})
+    if (!kansio.isEmpty() && QFileInfo(kansio).isDir()) return kansio;
+  return QDir::homePath();
 }
 
 /// Remembering is a convenience: a choice isn't lost with it.

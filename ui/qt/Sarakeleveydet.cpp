@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int kLeveinSarake = 40;        // of any but the names, in letters
-constexpr int kKapeinNimi = 16;          // of the names, when the others need the room
+constexpr int kKapeinNimi = 24;          // of the names, when the others need the room
 constexpr std::size_t kMitattavia = 12;  // cells of a column, the longest ones
 
 std::size_t Koko(int luku) { return static_cast<std::size_t>(luku); }
