@@ -22,6 +22,7 @@
 #include "ui/Lomakekaannos.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestikooste.h"
 #include "ui/qt/QtIkkuna.h"
 
 namespace {
@@ -164,7 +165,7 @@ int KuvaaPaaikkuna(const std::string& kuva, const std::string& avattava) {
     onnistui = ikkuna.grab().save(QString::fromStdString(kuva));
     istunto.SuljeKohde();
   });
-  for (const Viesti& viesti : viestit.Naytetyt()) std::cerr << viesti.teksti << '\n';
+  std::cerr << KoosteTekstina(viestit.Naytetyt());
   AsetaViestit(nullptr);
   return onnistui ? 0 : 1;
 }

@@ -11,6 +11,7 @@
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestikooste.h"
 
 namespace mittaus {
 
@@ -152,7 +153,7 @@ int main(int argc, char** argv) try {
   mittaus::Ilmoita(std::make_index_sequence<std::size(mittaus::kToiminnot)>());
   mittaus::Taulukko taulukko;
   benchmark::RunSpecifiedBenchmarks(&taulukko);
-  for (const Viesti& viesti : viestit.Naytetyt()) std::cerr << viesti.teksti << '\n';
+  std::cerr << KoosteTekstina(viestit.Naytetyt());
   return taulukko.Epaonnistui() || !viestit.Naytetyt().empty() ? 1 : 0;
 } catch (const std::exception& virhe) {
   std::cerr << "lumivirta-bench: " << virhe.what() << '\n';

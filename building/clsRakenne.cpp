@@ -75,8 +75,8 @@ double HavioMaahan(const clsRakenne& rakenne, double Tsisa, int kuukausi) {
   if (const Kuukausitaulu* haviot = Maahaviot(Tsisa))
     return rakenne.PintaAla * (*haviot)[static_cast<std::size_t>(kuukausi)];
   const std::string nimi = rakenne.NaytettavaNimi();
-  const Laskentakohde kohde(nimi);
-  Ilmoita(Teksti(tekstit::kLiianKylmaMaanvastaiselle) + Laskentakohde::Liite());
+  const Laskentakohde kohde(nimi, Laskentakohde::Tapa::Omistajineen);
+  Ilmoita(Teksti(tekstit::kLiianKylmaMaanvastaiselle));
   return 0;
 }
 

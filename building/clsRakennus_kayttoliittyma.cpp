@@ -19,6 +19,7 @@
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
 #include "ui/Hiljaa.h"
+#include "ui/Laskentakohde.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
@@ -120,11 +121,15 @@ void clsRakennus::PaivitaLampoYhteenveto() {
 }
 
 void clsRakennus::VaroitaMaanvaraisista() const {
-  for (const clsTila& tila : Tilat)
-    for (const clsRakenne& rakenne : tila.Rakenteet)
-      if (rakenne.TyyppiID == kMaa && rakenne.U_arvo() > kSuuriMaanvarainenU)
-        NaytaVirhe(virheet::kSuuriUArvo,
-                   Teksti(tekstit::kRakenne) + " " + rakenne.NaytettavaNimi() + ", " + tila.TilanNimi);
+  for (const clsTila& tila : Tilat) {
+    const Laskentakohde tilassa(tila.TilanNimi);
+    for (const clsRakenne& rakenne : tila.Rakenteet) {
+      if (rakenne.TyyppiID != kMaa || rakenne.U_arvo() <= kSuuriMaanvarainenU) continue;
+      const std::string nimi = rakenne.NaytettavaNimi();
+      const Laskentakohde kohde(nimi, Laskentakohde::Tapa::Omistajineen);
+      NaytaVirhe(virheet::kSuuriUArvo);
+    }
+  }
 }
 
 void clsRakennus::VaroitaIlmavirroista() {

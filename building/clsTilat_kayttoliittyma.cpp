@@ -10,6 +10,7 @@
 #include "building/clsSaa.h"
 #include "building/clsTilat.h"
 #include "kernel/Luvut.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "tekstit/lomakkeet_asetukset.h"
@@ -22,48 +23,61 @@
 
 namespace {
 
-constexpr const char* kEnergia = "### ##0.00";  // MWh/a
-constexpr const char* kTilavuus = "### ##0";    // m³
-
+constexpr const char* kKokonaisina = "### ##0";
 constexpr const char* kEiLukua = "---";
 
-/// A column of the list behind the name. `taseesta`: a figure of the year's balance, not of the space itself.
-struct Sarake {
-  double (*arvo)(clsTila&);
-  const char* kuvio;
-  bool summataan;
-  bool taseesta;
+// The columns behind the name: the space's own figures, and results of its year's balance.
+constexpr const char* kAste = "°C";
+constexpr Tulos kTilasta[] = {
+    Lukutulos<&clsTila::Kokonaistilavuus>("Kokonaistilavuus", {}, "m³", kKokonaisina),
+    Lukutulos<&clsTila::BruttoAla>("BruttoAla", {}, "m²", kKokonaisina),
+    Lukutulos<&clsTila::TilanHenkilomaara>("TilanHenkilomaara", {}, "hlö", kKokonaisina),
+    Lukutulos<&clsTila::Sisalampotila>("Sisalampotila", {}, kAste, "0.0"),
 };
-constexpr Sarake kSarakkeet[] = {
-    {[](clsTila& t) { return t.Kokonaistilavuus; }, kTilavuus, true, false},
-    {[](clsTila& t) { return t.BruttoAla; }, "### ##0", true, false},
-    {[](clsTila& t) { return t.TilanHenkilomaara; }, "### ##0", true, false},
-    {[](clsTila& t) { return t.Sisalampotila; }, "0.0", false, false},
-    {[](clsTila& t) { return t.VuotuisetJohtumisHaviot(); }, kEnergia, true, true},
-    {[](clsTila& t) { return t.VuotuisetIVHaviotTilassa(); }, kEnergia, true, true},
-    {[](clsTila& t) { return t.VuotuinenAurinkoKuorma(); }, kEnergia, true, true},
-    {[](clsTila& t) { return t.VuotuinenLampoEnergianTarve(); }, kEnergia, true, true},
-};
+constexpr std::string_view kTaseesta[] = {"VuotuisetJohtumisHaviot", "VuotuisetIVHaviotTilassa",
+                                          "VuotuinenAurinkoKuorma", "VuotuinenLampoEnergianTarve"};
 
 /// The number as it is shown: what sums are taken of, so that they add up on the screen.
 double Naytettyna(double arvo, const char* kuvio) { return LueLuku(Muotoile(arvo, kuvio)).value_or(0); }
 
 /// How the demand of the space comes about: the figures of its weather zone, brought to the locality's normal year.
 std::string Erittely(clsTila& tila, const clsRakennus& rakennus) {
-  const double luvut[] = {tila.VuotuisetJohtumisHaviot(), tila.VuotuisetIVHaviotTilassa(),
-                          tila.VuotuisetHyodynnetytLampoKuormat()};
-  const auto luku = [](double arvo) { return Muotoile(arvo, kEnergia); };
-  const double vyohykkeella =
-      Naytettyna(luvut[0], kEnergia) + Naytettyna(luvut[1], kEnergia) - Naytettyna(luvut[2], kEnergia);
-  std::string teksti = tila.TilanNimi + ": " + Teksti(tekstit::kTilojenJohtuminen) + " " + luku(luvut[0]) + " + " +
-                       Teksti(tekstit::kTilojenIlmanvaihto) + " " + luku(luvut[1]) + " − " +
-                       Teksti(tekstit::kTasetermit[static_cast<std::size_t>(Tasetermi::HyodynnetytKuormat)]) + " " +
-                       luku(luvut[2]) + " = " + luku(vyohykkeella) + " MWh/a";
+  double summa = 0;
+  const auto termi = [&](std::string_view nimi, int etumerkki) {
+    const Tulos& tulos = clsTila::kLuokka.TulosNimella(nimi);
+    const double arvo = tulos.Arvo({tila});
+    summa += etumerkki * Naytettyna(arvo, tulos.kuvio);
+    return Teksti(tulos.teksti) + " " + Muotoile(arvo, tulos.kuvio);
+  };
+  const Tulos& tarve = clsTila::kLuokka.TulosNimella("VuotuinenLampoEnergianTarve");
+  const auto energia = [&](double arvo) {
+    return " = " + Muotoile(arvo, tarve.kuvio) + " " + std::string(tarve.yksikko);
+  };
+  std::string teksti = tila.TilanNimi + ": " + termi("VuotuisetJohtumisHaviot", 1);
+  teksti += " + " + termi("VuotuisetIVHaviotTilassa", 1);
+  teksti += " − " + termi("VuotuisetHyodynnetytLampoKuormat", -1);
+  teksti += energia(summa);
   if (rakennus.Saa.NormVuodenLammTarveLuku <= 0) return teksti;
   return teksti + "; " + Teksti(tekstit::kPaikkakunnanSaahanNormitettuna) + " × " +
-         Muotoile(rakennus.Perustiedot.NormVuodenLammTarveLuku, "### ##0") + " / " +
-         Muotoile(rakennus.Saa.NormVuodenLammTarveLuku, "### ##0") +
-         " °Cd = " + luku(tila.VuotuinenLampoEnergianTarve()) + " MWh/a";
+         Muotoile(rakennus.Perustiedot.NormVuodenLammTarveLuku, kKokonaisina) + " / " +
+         Muotoile(rakennus.Saa.NormVuodenLammTarveLuku, kKokonaisina) + " °Cd" + energia(tarve.Arvo({tila}));
+}
+
+/// Adds a column of numbers and its sum, which temperatures have none of.
+void LisaaSarake(Luettelosisalto& sisalto, const clsTilat& tilat, const Tulos& sarake) {
+  double summa = 0;
+  auto rivi = sisalto.rivit.begin();
+  for (clsTila& tila : tilat) {
+    const double arvo = sarake.Arvo({tila});
+    (rivi++)->LisaaLuku(arvo, sarake.kuvio);
+    summa += Naytettyna(arvo, sarake.kuvio);
+  }
+  sisalto.summat.push_back(sarake.yksikko == kAste ? std::string() : Muotoile(summa, sarake.kuvio));
+}
+
+void JataAuki(Luettelosisalto& sisalto) {
+  for (Luettelorivi& rivi : sisalto.rivit) rivi.solut.emplace_back(kEiLukua);
+  sisalto.summat.emplace_back(kEiLukua);
 }
 
 /// Rows of the list and their sums. Without the balance its figures are left open.
@@ -73,20 +87,9 @@ Luettelosisalto TilojenRivit(const clsTilat& tilat, const clsRakennus& rakennus,
     sisalto.rivit.push_back({.solut = {tila.TilanNimi},
                              .avain = tila.sKey,
                              .piirteet = {.selite = tase ? Erittely(tila, rakennus) : std::string()}});
-  for (const Sarake& sarake : kSarakkeet) {
-    if (!tase && sarake.taseesta) {
-      for (Luettelorivi& rivi : sisalto.rivit) rivi.solut.emplace_back(kEiLukua);
-      sisalto.summat.emplace_back(kEiLukua);
-      continue;
-    }
-    double summa = 0;
-    std::size_t i = 0;
-    for (clsTila& tila : tilat) {
-      sisalto.rivit[i++].LisaaLuku(sarake.arvo(tila), sarake.kuvio);
-      summa += Naytettyna(sarake.arvo(tila), sarake.kuvio);
-    }
-    sisalto.summat.push_back(sarake.summataan ? Muotoile(summa, sarake.kuvio) : std::string());
-  }
+  for (const Tulos& sarake : kTilasta) LisaaSarake(sisalto, tilat, sarake);
+  for (const std::string_view nimi : kTaseesta)
+    tase ? LisaaSarake(sisalto, tilat, clsTila::kLuokka.TulosNimella(nimi)) : JataAuki(sisalto);
   return sisalto;
 }
 
@@ -114,8 +117,8 @@ std::string Tilavuushuomautus(const clsRakennus& rakennus, const clsTilat& tilat
   constexpr double kSallittu = 1.005;
   const double rakennuksen = rakennus.Perustiedot.Kokonaistilavuus;
   if (tilat.TilavuusYht() <= kSallittu * rakennuksen) return {};
-  return Teksti(tekstit::kTilatYhteensa) + " " + Muotoile(tilat.TilavuusYht(), kTilavuus) + " m³, " +
-         Teksti(tekstit::kRakennusPerustietojenMukaan) + " " + Muotoile(rakennuksen, kTilavuus) + " m³.";
+  return Teksti(tekstit::kTilatYhteensa) + " " + Muotoile(tilat.TilavuusYht(), kKokonaisina) + " m³, " +
+         Teksti(tekstit::kRakennusPerustietojenMukaan) + " " + Muotoile(rakennuksen, kKokonaisina) + " m³.";
 }
 
 void AlustaTila(clsTila& tila) {

@@ -5,16 +5,19 @@ namespace {
 thread_local const Laskentakohde* t_sisin = nullptr;
 }
 
-Laskentakohde::Laskentakohde(const std::string& nimi) noexcept : nimi_(nimi), ulompi_(t_sisin) { t_sisin = this; }
+Laskentakohde::Laskentakohde(const std::string& nimi, Tapa tapa) noexcept : nimi_(nimi), tapa_(tapa), ulompi_(t_sisin) {
+  t_sisin = this;
+}
 Laskentakohde::~Laskentakohde() { t_sisin = ulompi_; }
 
-std::string Laskentakohde::Liite() {
-  std::string nimet;
-  const std::string* edellinen = nullptr;
-  for (const Laskentakohde* kohde = t_sisin; kohde; kohde = kohde->ulompi_) {
-    if (kohde->nimi_.empty() || &kohde->nimi_ == edellinen) continue;
-    edellinen = &kohde->nimi_;
-    nimet += (nimet.empty() ? "" : ", ") + kohde->nimi_;
-  }
-  return nimet.empty() ? nimet : " (" + nimet + ")";
+const Laskentakohde* Laskentakohde::Nimellinen(const Laskentakohde* kohde) noexcept {
+  while (kohde && kohde->nimi_.empty()) kohde = kohde->ulompi_;
+  return kohde;
+}
+
+std::string Laskentakohde::Nimi() {
+  const Laskentakohde* kohde = Nimellinen(t_sisin);
+  if (!kohde) return {};
+  const Laskentakohde* omistaja = kohde->tapa_ == Tapa::Omistajineen ? Nimellinen(kohde->ulompi_) : nullptr;
+  return omistaja ? kohde->nimi_ + " (" + omistaja->nimi_ + ")" : kohde->nimi_;
 }

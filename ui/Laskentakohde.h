@@ -2,20 +2,25 @@
 #pragma once
 #include <string>
 
-/// Names the object that is being calculated, for one scope on one thread: the messages that come on the way tell it,
-/// in parentheses at their end, an object inside another before the outer one ("(TK01, Varasto)"). Costs nothing but
-/// two stores: the name isn't copied and must live as long as the scope.
+/// Names the object that is being calculated, for one scope on one thread: the messages that come on the way are about
+/// it (Viesti::kohde). Costs nothing but two stores: the name isn't copied and must live as long as the scope.
 class Laskentakohde {
  public:
-  explicit Laskentakohde(const std::string& nimi) noexcept;
+  /// Omistajineen: the name says little without that of what it stands in, as a structure's without its space.
+  enum class Tapa : bool { Yksin, Omistajineen };
+  explicit Laskentakohde(const std::string& nimi, Tapa tapa = Tapa::Yksin) noexcept;
   ~Laskentakohde();
   Laskentakohde(const Laskentakohde&) = delete;
   Laskentakohde& operator=(const Laskentakohde&) = delete;
 
-  /// A blank and the objects of this thread in parentheses; "" when there are none.
-  static std::string Liite();
+  /// The innermost object of this thread that has a name, a part with its owner: "TK01", "Alapohja (Varasto)"; "" when
+  /// there is none.
+  static std::string Nimi();
 
  private:
+  static const Laskentakohde* Nimellinen(const Laskentakohde* kohde) noexcept;
+
   const std::string& nimi_;
+  Tapa tapa_;
   const Laskentakohde* ulompi_;
 };

@@ -12,7 +12,6 @@
 #include "kernel/Virhe.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
-#include "ui/Laskentakohde.h"
 #include "ui/Viestit.h"
 
 namespace {
@@ -124,8 +123,8 @@ std::string Teksti(int id) {
 
 void NaytaVirhe(int koodi, std::string_view lisateksti) {
   Viesti viesti = HaeViesti(koodi).value_or(Viesti{"Virhe " + std::to_string(koodi), {}, Vakavuus::Virhe});
-  viesti.teksti.append(" ").append(lisateksti).append(Laskentakohde::Liite());
-  ViestitNyt().Nayta(viesti);
+  viesti.teksti.append(" ").append(lisateksti);
+  Ilmoita(std::move(viesti));
 }
 
 bool KysyPoisto(std::string_view nimi, std::string_view seuraus) {

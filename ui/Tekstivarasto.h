@@ -24,9 +24,9 @@ void LataaTekstit(const std::string& tiedosto, const std::string& kieli,
 /// The text of the number; "[String <id> is missing]" when there is none.
 std::string Teksti(int id);
 
-/// Shows a row of the message table: its text, a blank, `lisateksti` and the objects that are being calculated
-/// (ui/Laskentakohde.h), titled by its level (1 error, 2 notice).
-/// Without the store or the row the message is "Virhe <code> <lisateksti>". Never raises.
+/// Shows a row of the message table, about the object that is being calculated (ui/Laskentakohde.h): its text, a blank
+/// and `lisateksti`, titled by its level (1 error, 2 notice). Names of objects in `lisateksti` would make each a kind
+/// of message of its own. Without the store or the row the message is "Virhe <code> <lisateksti>". Never raises.
 void NaytaVirhe(int koodi, std::string_view lisateksti = {});
 /// The question before something is removed; No is the default. True = Yes. `nimi`: what is removed; `seuraus`: what
 /// else happens, if anything.

@@ -54,3 +54,9 @@ std::vector<Viestikooste> Koosta(std::span<const Viesti> viestit) {
   for (const Viesti& viesti : viestit) LisaaKoosteisiin(koosteet, viesti);
   return koosteet;
 }
+
+std::string KoosteTekstina(std::span<const Viesti> viestit) {
+  std::string teksti;
+  for (const Viestikooste& kooste : Koosta(viestit)) teksti += kooste.Koottu().teksti + "\n";
+  return teksti;
+}

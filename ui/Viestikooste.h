@@ -26,3 +26,5 @@ class Viestikooste {
 void LisaaKoosteisiin(std::vector<Viestikooste>& koosteet, const Viesti& viesti);
 /// Messages by kind, in the order in which the kinds came.
 std::vector<Viestikooste> Koosta(std::span<const Viesti> viestit);
+/// The same as text, for programs that have no windows: each kind ends in a line feed.
+std::string KoosteTekstina(std::span<const Viesti> viestit);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ui/KerataanViestit.h"
+#include "ui/Laskentakohde.h"
 
 namespace {
 
@@ -29,6 +30,11 @@ Viestit& ViestitNyt() {
 
 void AsetaViestit(Viestit* viestit) { t_viestit = viestit; }
 
+void Ilmoita(Viesti viesti) {
+  viesti.kohde = Laskentakohde::Nimi();
+  ViestitNyt().Nayta(viesti);
+}
+
 void Ilmoita(std::string teksti, std::string otsikko, Vakavuus vakavuus) {
-  ViestitNyt().Nayta({std::move(teksti), std::move(otsikko), vakavuus});
+  Ilmoita(Viesti{std::move(teksti), std::move(otsikko), vakavuus});
 }

@@ -16,7 +16,7 @@ struct Viesti {
   Vakavuus vakavuus = Vakavuus::Tieto;
   Napit napit = Napit::Ok;
   Vastaus oletus = Vastaus::Ok;  ///< button that Enter presses
-  std::string kohde{};           ///< name of what it is about: of a space, of a machine
+  std::string kohde{};           ///< what it is about: "TK01", "Alapohja (Varasto)"; "" nothing in particular
   std::string tarkenne{};        ///< what stands behind a details button; "" none
 };
 
@@ -54,5 +54,7 @@ Viestit& ViestitNyt();
 /// Sets this thread's way, which must live until the next call; nullptr brings the first one back.
 void AsetaViestit(Viestit* viestit);
 
-/// Shows a message with an OK button.
+/// Shows a message, about the object that is being calculated (ui/Laskentakohde.h).
+void Ilmoita(Viesti viesti);
+/// The same with an OK button.
 void Ilmoita(std::string teksti, std::string otsikko = {}, Vakavuus vakavuus = Vakavuus::Tieto);

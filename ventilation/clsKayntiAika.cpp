@@ -9,7 +9,6 @@
 #include "tekstit/tulokset.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
-#include "ui/Laskentakohde.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 #include "ventilation/LammitysTaulukko.h"
@@ -95,7 +94,7 @@ Kuukausitaulu clsKayntiAika::KayntiJaksonLampo(double q, Kohdelampotila lampotil
   const double virta = TuloIlmavirtaProsentti * q / 100;
   return LammitysKertoimet(Alkaa, Paattyy, T, virta * KayntiJaksojenLkm / kPaiviaViikossa, S.Kd);
 } catch (...) {
-  Ilmoita("Yksittäisen käyntiajan. Lämpönergialaskennassa tuli virhe!" + Laskentakohde::Liite(), {}, Vakavuus::Virhe);
+  Ilmoita("Yksittäisen käyntiajan. Lämpönergialaskennassa tuli virhe!", {}, Vakavuus::Virhe);
   return {};
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ventilation/clsMivSaato.h"
 
-#include "ui/Laskentakohde.h"
 #include "ui/Viestit.h"
 #include "ventilation/MivSovitteet.h"
 #include "ventilation/Puhallinlaskenta.h"
@@ -17,7 +16,7 @@ constexpr double kNopeudenVaihto = 70;                   // %
 /// The flow lies within the fits; shows the message if not.
 bool TarkistaVirta(double x) {
   if (clsMivSaato::OnVirta(x)) return true;
-  Ilmoita("MIV-puhaltimen osatehon tulee olla välillä 30 - 100 %. Ole hyvä ja korjaa arvo!" + Laskentakohde::Liite());
+  Ilmoita("MIV-puhaltimen osatehon tulee olla välillä 30 - 100 %. Ole hyvä ja korjaa arvo!");
   return false;
 }
 

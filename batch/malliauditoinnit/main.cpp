@@ -17,6 +17,7 @@
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestikooste.h"
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
@@ -185,7 +186,7 @@ int main(int argc, char** argv) try {
   Asetukset().HaeRekisteristä();
   std::filesystem::create_directories(argv[2]);
   for (const Rivi& rivi : LueTaulukko(argv[1])) TeeMalliauditointi(rivi, argv[2]);
-  for (const Viesti& viesti : viestit.Naytetyt()) std::cerr << viesti.teksti << '\n';
+  std::cerr << KoosteTekstina(viestit.Naytetyt());
   return viestit.Naytetyt().empty() ? 0 : 1;
 } catch (const std::exception& virhe) {
   std::cerr << "lumivirta-malliauditoinnit: " << SyynKuvaus(virhe) << '\n';

@@ -447,6 +447,37 @@ TEST_F(IstuntoTesti, UndoAndRedoWalkNamedSteps) {
   EXPECT_EQ(askeleet.Uudelleentehtava(), "") << "another way was taken";
 }
 
+TEST_F(IstuntoTesti, ASpaceAddedInTheListIsOneStep) {
+  TallennettuKohde("Koulu");
+  clsRakennus& kohde = *istunto.Rakennus();
+  kohde.Tilat.NaytaKayttoliittyma();
+  Ikkunaton& luettelo = lomakkeet.Ikkuna("frmTilaYhteenveto");
+  const auto lisaa = [&](const std::string& nappi) {
+    lomakkeet.KunNaytetaan("frmTila", [&, nappi](Ikkunaton& tila) {
+      tila.KayttajaKirjoittaa("txtTilanNimi", "Aula");
+      lomakkeet.KunNaytetaan("frmRakenteet", [](Ikkunaton& rakenteet) { rakenteet.KayttajaPainaa("cmdOk"); });
+      tila.KayttajaPainaa("cmdRakenteet");
+      EXPECT_FALSE(istunto.Askeleet().VoiKumota()) << "a dialog inside another commits nothing";
+      tila.KayttajaPainaa(nappi);
+    });
+    luettelo.KayttajaPainaa("cmdLisaaTila");
+  };
+  lisaa("cmdPeruuta");
+  EXPECT_FALSE(istunto.Askeleet().VoiKumota());
+  EXPECT_TRUE(kohde.Tallennettu);
+  lisaa("cmdOk");
+  ASSERT_EQ(kohde.Tilat.Count(), 2);
+  istunto.mnuEditUndo_Click();
+  EXPECT_EQ(kohde.Tilat.Count(), 1);
+  EXPECT_EQ(luettelo.Etsi("lvwTilat").Rivit().size(), 1u);
+  EXPECT_FALSE(istunto.Askeleet().VoiKumota());
+  EXPECT_TRUE(kohde.Tallennettu);
+  istunto.mnuEditRedo_Click();
+  ASSERT_EQ(kohde.Tilat.Count(), 2);
+  EXPECT_EQ(kohde.Tilat.Item(2).TilanNimi, "Aula");
+  EXPECT_FALSE(istunto.Askeleet().VoiTehdaUudelleen());
+}
+
 TEST_F(IstuntoTesti, UndoLeavesTheFileOfTheObject) {
   const std::string eka = TallennettuKohde("Koulu");
   const std::string toka = koti.Tiedosto("Koulu 2.lvt");
