@@ -125,7 +125,7 @@ void clsRakennus::VaroitaMaanvaraisista() const {
     const Laskentakohde tilassa(tila.TilanNimi);
     for (const clsRakenne& rakenne : tila.Rakenteet) {
       if (rakenne.TyyppiID != kMaa || rakenne.U_arvo() <= kSuuriMaanvarainenU) continue;
-      const std::string nimi = rakenne.NaytettavaNimi();
+      const std::string nimi = Teksti(tekstit::kRakenne) + " " + rakenne.NaytettavaNimi();
       const Laskentakohde kohde(nimi, Laskentakohde::Tapa::Omistajineen);
       NaytaVirhe(virheet::kSuuriUArvo);
     }
