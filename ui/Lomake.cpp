@@ -14,6 +14,16 @@ std::vector<Lomake*>& Avoimet() {
   return avoimet;
 }
 
+/// The control raises no more events.
+void Vaienna(Ohjain& ohjain) {
+  for (auto* tapahtuma : {&ohjain.Muuttui, &ohjain.Klikattu, &ohjain.Poistuttu, &ohjain.Lisattava, &ohjain.Poistettava})
+    *tapahtuma = nullptr;
+  ohjain.Liitetty = nullptr;
+  ohjain.Muokattu = nullptr;
+  ohjain.SaaSiirtaa = nullptr;
+  ohjain.Siirretty = nullptr;
+}
+
 }  // namespace
 
 Lomake::Lomake(std::string nimi) : nimi_(std::move(nimi)), ikkuna_(TeeLomakeikkuna(nimi_)) {
@@ -24,7 +34,11 @@ Lomake::Lomake(std::string nimi) : nimi_(std::move(nimi)), ikkuna_(TeeLomakeikku
   };
 }
 
-Lomake::~Lomake() { Sulje(); }
+/// The heir, whose functions the controls would call when closing takes the focus from them, is already gone.
+Lomake::~Lomake() {
+  for (const auto& ohjain : Ohjaimet()) Vaienna(*ohjain);
+  Sulje();
+}
 
 void Lomake::Otsikko(std::string otsikko) {
   otsikko_ = std::move(otsikko);

@@ -204,7 +204,8 @@ TEST_F(DialogiTesti, HeatSummaryWarnsOfPoorGroundStructures) {
   lattia.U_arvo(1.2);
   rakennus->NaytaLampoYhteenvetoDlg();
   ASSERT_EQ(viestit.Naytetyt().size(), 1u);
-  EXPECT_EQ(viestit.Naytetyt()[0].kohde, lattia.NaytettavaNimi() + " (" + rakennus->Tilat.Item(1).TilanNimi + ")");
+  EXPECT_EQ(viestit.Naytetyt()[0].kohde,
+            Teksti(9220) + " " + lattia.NaytettavaNimi() + " (" + rakennus->Tilat.Item(1).TilanNimi + ")");
 }
 
 TEST_F(DialogiTesti, DegreeDaysComeFromTheTableWithTheirSources) {
