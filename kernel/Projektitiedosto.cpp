@@ -2,8 +2,7 @@
 #include "kernel/Projektitiedosto.h"
 
 #include <fcntl.h>
-
-#include <filesystem>
+#include <sqlite3.h>
 
 #include "kernel/Hakemistot.h"
 #include "kernel/Rivikirjoitin.h"
@@ -79,11 +78,19 @@ void VaadiPelkatTaulut(Tietokanta& kanta) {
 /// and costs a few steps.
 std::int64_t SallittuTyo(std::int64_t koko) { return 10'000'000 + 50 * koko; }
 
+/// Size of the open file, whatever stands under its name by now: another program may have saved there.
+std::int64_t Koko(const Tietokanta& kanta) {
+  sqlite3_file* tiedosto = nullptr;
+  sqlite3_int64 koko = 0;
+  sqlite3_file_control(kanta.Kahva(), "main", SQLITE_FCNTL_FILE_POINTER, &tiedosto);
+  if (tiedosto && tiedosto->pMethods) tiedosto->pMethods->xFileSize(tiedosto, &koko);
+  return koko;
+}
+
 /// Opens a file to be read. One that lacks its end reads as zeros there, which would pass for values.
 Tietokanta AvaaLuettavaksi(const std::string& tiedosto) {
   Tietokanta kanta(tiedosto, Tietokanta::Tapa::Muuttumaton);
-  std::error_code virhe;
-  const auto koko = static_cast<std::int64_t>(std::filesystem::file_size(tiedosto, virhe));
+  const std::int64_t koko = Koko(kanta);
   kanta.RajaaTyo(SallittuTyo(koko));
   if (Luku(kanta, "PRAGMA page_count") * Luku(kanta, "PRAGMA page_size") > koko)
     throw Projektivirhe(Syy::Vaurioitunut, tiedosto + ": tiedoston loppu puuttuu");
