@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <ranges>
+#include <vector>
 
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
@@ -73,7 +73,10 @@ class Tuloskirjoitin {
     Yrita([&] {
       std::vector<std::vector<double>> vuosi;
       for (int m = 0; m < kKuukausia; ++m) vuosi.push_back(kuukausi(m));
-      rivi.rinnakkain == 1 ? json_.Luvut(std::views::join(vuosi)) : json_.Taulukko(vuosi);
+      if (rivi.rinnakkain > 1) return json_.Taulukko(vuosi);
+      std::vector<double> luvut;
+      for (const auto& kuukauden : vuosi) luvut.push_back(kuukauden.front());
+      json_.Luvut(luvut);
     });
   }
   void Kartta(const Tuloskohde& kohde, const Tulos& rivi) {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Saving and loading of the building: the project file itself is kernel/Projektitiedosto.
+#include <algorithm>
 #include <filesystem>
-#include <ranges>
+#include <span>
 
 #include "building/Materiaalimuutokset.h"
 #include "building/Tiedostomuunnokset.h"
@@ -79,7 +80,7 @@ Eteneminen NaytaOsat(Odotus& odotus, const std::string& alku) {
 /// The message with the first of the names below it.
 void KerroLuettelo(std::string viesti, const std::vector<std::string>& nimet) {
   constexpr std::size_t kNimia = 20;
-  for (const std::string& nimi : nimet | std::views::take(kNimia)) viesti += "\n" + nimi;
+  for (const std::string& nimi : std::span(nimet).first(std::min(nimet.size(), kNimia))) viesti += "\n" + nimi;
   Ilmoita(viesti, Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
 }
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "building/Tasehaarukka.h"
 #include "building/Yhteiset.h"
@@ -74,8 +73,8 @@ Muunnelma::Muunnelma(clsRakennus& rakennus) : rakennus_(rakennus) {
 }
 
 Muunnelma::~Muunnelma() {
-  for (Entinen& entinen : entiset_ | std::views::reverse)
-    entinen.jasen->palauta(*entinen.olio, std::move(entinen.arvo));
+  for (auto entinen = entiset_.rbegin(); entinen != entiset_.rend(); ++entinen)
+    entinen->jasen->palauta(*entinen->olio, std::move(entinen->arvo));
   Tasehaarukka::Mitatoi(rakennus_);
 }
 

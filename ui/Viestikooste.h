@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <span>
+#include <string>
+#include <vector>
 
 #include "ui/Viestit.h"
 
