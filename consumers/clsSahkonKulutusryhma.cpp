@@ -34,20 +34,24 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsSahkonKulutusryhma::SyötettyKulutus>("SyötettyKulutus", "MWh/a"),
 };
 
-constexpr double kWhPerMWh = 1e6;
-constexpr double kkWhPerMWh = 1e3;
-
 }  // namespace
 
 const Luokka clsSahkonKulutusryhma::kLuokka{"clsSahkonKulutusryhma", kJasenet};
 
 clsSahkonKulutusryhma::clsSahkonKulutusryhma() : KulutusRyhma(Teksti(tekstit::kUusiKulutusryhma)) {}
 
+double clsSahkonKulutusryhma::Kulutus(double ryhmia) const noexcept {
+  if (KulutusSyotetaan()) return ryhmia * SyötettyKulutus;
+  return LaskentaperusteNumber * LaskentayksikkoNumber * KayttoaikaHpD * KayttoaikaDpA * Tasauskerroin * ryhmia /
+         Muuntokerroin();
+}
+
+double clsSahkonKulutusryhma::YhdenVuosikulutus() const try { return Aarellinen(Kulutus(1)); } catch (...) {
+  NostaVirhe("clsSahkonKulutusryhma:YhdenVuosikulutus Method");
+}
+
 double clsSahkonKulutusryhma::Vuosikulutus() const try {
-  if (KulutusSyotetaan()) return Aarellinen(KulutusryhmienLukumaara * SyötettyKulutus);
-  const double kulutus = LaskentaperusteNumber * LaskentayksikkoNumber * KayttoaikaHpD * KayttoaikaDpA * Tasauskerroin *
-                         KulutusryhmienLukumaara;
-  return Aarellinen(kulutus / (tehopohjainen_ ? kWhPerMWh : kkWhPerMWh));
+  return Aarellinen(Kulutus(KulutusryhmienLukumaara));
 } catch (...) {
   NostaVirhe("clsSahkonKulutusryhma:Vuosikulutus Method");
 }

@@ -30,13 +30,17 @@ class clsSahkonKulutusryhma : public Malli<clsSahkonKulutusryhma, Alkio> {
   bool LaskentatapaEnergiapohjainen() const noexcept { return !tehopohjainen_; }
   void LaskentatapaEnergiapohjainen(bool arvo) noexcept { tehopohjainen_ = !arvo; }
 
-  /// Yearly consumption of all the identical groups, MWh/a: the typed consumption × number when it is measured or
-  /// estimated, else the product of specific value, units, use times, equalising factor and number, as Wh (power) or
-  /// kWh (energy) turned to MWh. Error 9999 if the result isn't finite.
+  /// The consumption is typed, measured or estimated, and isn't computed.
+  bool KulutusSyotetaan() const noexcept { return !tehopohjainen_ && LaskentatapaEnergiapohjainenIndex < 2; }
+  /// What the product of the group's numbers, Wh (power) or kWh (energy), is divided by to give MWh.
+  double Muuntokerroin() const noexcept { return tehopohjainen_ ? 1e6 : 1e3; }
+  /// Yearly consumption of one group and of all the identical groups, MWh/a: the typed consumption, or the product of
+  /// specific value, units, use times and equalising factor. Error 9999 if the result isn't finite.
+  double YhdenVuosikulutus() const;
   double Vuosikulutus() const;
 
  private:
-  bool KulutusSyotetaan() const noexcept { return !tehopohjainen_ && LaskentatapaEnergiapohjainenIndex < 2; }
+  double Kulutus(double ryhmia) const noexcept;
 
   bool tehopohjainen_ = true;
 };

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "kernel/Laskenta.h"
+#include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
 #include "ui/Tekstivarasto.h"
@@ -36,11 +37,6 @@ constexpr double kkWhPerMWh = 1e3;
 // it is divided by to give m³, times and hours being multiplied in.
 constexpr std::array<double, 7> kMuuntokertoimet{1000, 1000, 1000, 1000, 1000.0 / 3600, 1000.0 / 60, 1000};
 
-double Muuntokerroin(std::int16_t laskentaperuste) {
-  if (laskentaperuste < 0 || laskentaperuste >= std::ssize(kMuuntokertoimet)) return 0;
-  return kMuuntokertoimet[static_cast<std::size_t>(laskentaperuste)];
-}
-
 }  // namespace
 
 const Luokka clsVedenKulutusryhma::kLuokka{"clsVedenKulutusryhma", kJasenet};
@@ -48,9 +44,18 @@ const Luokka clsVedenKulutusryhma::kLuokka{"clsVedenKulutusryhma", kJasenet};
 clsVedenKulutusryhma::clsVedenKulutusryhma()
     : KulutusRyhma(Teksti(tekstit::kUusiKulutusryhma)), VedenKayttolampotila(VedenTiedot.KylmanLampotila) {}
 
+void clsVedenKulutusryhma::PaivitaLampimanVedenOsuus() {
+  LampimanVedenOsuus = LueLuku(Muotoile(VedenTiedot.LampimanOsuus(VedenKayttolampotila), "0")).value_or(0);
+}
+
+double clsVedenKulutusryhma::Muuntokerroin() const {
+  const auto rivi = static_cast<std::size_t>(LaskentaperusteID);
+  return LaskentaperusteID >= 0 && rivi < kMuuntokertoimet.size() ? kMuuntokertoimet[rivi] : 0;
+}
+
 double clsVedenKulutusryhma::VedenKulutus() const try {
   return Jaa(Laskentayksikko * LaskentaperusteNumber * KayttokuvausKertaaD * KayttokuvausDpA * Tasauskerroin,
-             Muuntokerroin(LaskentaperusteID));
+             Muuntokerroin());
 } catch (...) {
   NostaVirhe("clsVedenKulutusryhma:VedenKulutus Method");
 }

@@ -24,7 +24,11 @@ class clsVedenKulutusryhma : public Malli<clsVedenKulutusryhma, Alkio> {
   double LampimanVedenOsuus = 0;               ///< share of hot water, %
   double LammityksessaHyodynnettavaOsuus = 0;  ///< stored only
 
+  /// Lets the share of hot water follow the use temperature, in whole per cent.
+  void PaivitaLampimanVedenOsuus();
   bool OnProsessivesi() const noexcept { return KulutusRyhmaTyyppi != Kayttovesi; }
+  /// What the product of the group's numbers is divided by to give m³; 0 for an unknown unit.
+  double Muuntokerroin() const;
   /// Water of the group, m³/a: units × specific consumption × use × equalising factor, divided by the unit's factor
   /// to m³. Error 9999 for an unknown unit or a result that isn't finite.
   double VedenKulutus() const;

@@ -19,3 +19,12 @@ void clsVedenTiedot::KopioiArvot(clsVedenTiedot& kohde) const noexcept {
   kohde.LamminLampotila = LamminLampotila;
   kohde.Sahkolammitys = Sahkolammitys;
 }
+
+double clsVedenTiedot::LampimanOsuus(double kayttolampotila) const noexcept {
+  const double ero = LamminLampotila - KylmanLampotila;
+  return ero <= 0 ? 0 : (kayttolampotila - KylmanLampotila) * 100 / ero;
+}
+
+double clsVedenTiedot::Kayttolampotila(double lampimanOsuus) const noexcept {
+  return lampimanOsuus * (LamminLampotila - KylmanLampotila) / 100 + KylmanLampotila;
+}

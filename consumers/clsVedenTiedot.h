@@ -14,6 +14,11 @@ class clsVedenTiedot : public Malli<clsVedenTiedot> {
   double LamminLampotila = 55.0;  ///< hot water, °C
   bool Sahkolammitys = false;     ///< heated by electricity
 
+  /// Share of hot water, %, in water of the temperature, °C: over 100 above the hot water's, below 0 under the cold
+  /// water's. 0 when the hot water isn't hotter than the cold.
+  double LampimanOsuus(double kayttolampotila) const noexcept;
+  /// The other way round: temperature, °C, of water that has the share of hot water, %.
+  double Kayttolampotila(double lampimanOsuus) const noexcept;
   /// Gives the values, not the identity, to `kohde`.
   void KopioiArvot(clsVedenTiedot& kohde) const noexcept;
 };

@@ -44,6 +44,24 @@ TEST(clsVedenKulutusryhma, HeatingFollowsTheUseTemperatureNotTheHotShare) {
   EXPECT_DOUBLE_EQ(ryhma.VedenLammityksenEnergia(), kSuihkujenLampo * 40 / 50) << "from the group's own cold water";
 }
 
+TEST(clsVedenKulutusryhma, ShareAndTemperatureTellTheSame) {
+  clsVedenKulutusryhma ryhma;
+  const struct {
+    double kylma, lammin, kaytto, osuus;
+  } kTapaukset[] = {{5, 55, 38, 66}, {5, 55, 5, 0},   {5, 55, 60, 110},
+                    {5, 58, 38, 62}, {10, 10, 38, 0}, {20, 10, 38, 0}};
+  for (const auto& t : kTapaukset) {
+    ryhma.VedenTiedot.KylmanLampotila = t.kylma;
+    ryhma.VedenTiedot.LamminLampotila = t.lammin;
+    ryhma.VedenKayttolampotila = t.kaytto;
+    ryhma.PaivitaLampimanVedenOsuus();
+    EXPECT_EQ(ryhma.LampimanVedenOsuus, t.osuus) << t.kylma << " - " << t.lammin;
+  }
+  ryhma.VedenTiedot = clsVedenTiedot();
+  EXPECT_DOUBLE_EQ(ryhma.VedenTiedot.Kayttolampotila(66), 38);
+  EXPECT_DOUBLE_EQ(ryhma.VedenTiedot.Kayttolampotila(ryhma.VedenTiedot.LampimanOsuus(41.3)), 41.3);
+}
+
 TEST(clsVedenKulutusryhma, AnUnknownUnitIsAnError) {
   clsVedenKulutusryhma ryhma;
   TaytaSuihkut(ryhma);
