@@ -8,11 +8,12 @@
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
+#include "ui/Liittaminen.h"
 #include "ui/Luettelomuokkain.h"
 #include "ui/Tekstivarasto.h"
 
-/// How the person edits a collection of the building in a list: an item added is committed by its own dialog, a copy
-/// and a removal here. Texts are told by their numbers.
+/// How the person edits a collection of the building in a list: an item added is committed by its own dialog, a copy,
+/// a removal and pasted rows here. Texts are told by their numbers.
 template <class T>
 struct Kokoelmamuokkaus {
   Kokoelma<T>& kokoelma;
@@ -23,18 +24,35 @@ struct Kokoelmamuokkaus {
   std::function<bool(T&)> muokkaa;     ///< opens the item's dialog; true when it was accepted
   std::function<void(T&)> alusta{};    ///< fills a new item
   std::function<void(T&)> kopioitu{};  ///< finishes a copy
+  // Rows of a sheet can be pasted where there are columns.
+  std::span<const Liitossarake> sarakkeet{};
+  Tekstinumero liittaminen{};
+  std::function<void(T&)> liitetty{};  ///< finishes an item of a pasted row
 
   /// The key of the item that was accepted; empty when the person gave up.
   Tunniste Lisaa() const try {
-    const Tunniste avain = Tunniste::Uusi(T::kLuokka.NimiSana());
-    T& uusi = kokoelma.Add(avain);
-    Nosta(alusta, uusi);
+    T& uusi = Uusi();
+    const Tunniste avain = uusi.sKey;
     if (muokkaa(uusi)) return avain;
     kokoelma.Remove(avain);
     VaadiRakennus().RekisteriVanheni();
     return {};
   } catch (...) {
     NostaVirhe("Kokoelmamuokkaus:Lisaa Method");
+  }
+
+  /// The key of the last item that the rows made; empty when they made none.
+  Tunniste Liita(const Taulukko& rivit) const try {
+    const auto avaimet = LiitaRivit(rivit, sarakkeet,
+                                    {.luo = [this]() -> Alkio& { return Uusi(); },
+                                     .poista = [this](const Tunniste& avain) { kokoelma.Remove(avain); }});
+    VaadiRakennus().RekisteriVanheni();
+    if (avaimet.empty()) return {};
+    for (const Tunniste& avain : avaimet) Nosta(liitetty, kokoelma.Item(avain));
+    VaadiRakennus().Muuttui(Teksti(liittaminen));
+    return avaimet.back();
+  } catch (...) {
+    NostaVirhe("Kokoelmamuokkaus:Liita Method");
   }
 
   Tunniste Kopioi(const T& lahde) const try {
@@ -58,18 +76,27 @@ struct Kokoelmamuokkaus {
     const std::string nimet = ViittaavatToimenpiteet(olio);
     return nimet.empty() ? nimet : Teksti(kaytossa) + " " + nimet;
   }
+
+ private:
+  T& Uusi() const {
+    T& uusi = kokoelma.Add(Tunniste::Uusi(T::kLuokka.NimiSana()));
+    Nosta(alusta, uusi);
+    return uusi;
+  }
 };
 
 /// The same for a list editor; the collection must live as long as the list.
 template <class T>
 Luettelotoimet Toimet(Kokoelmamuokkaus<T> muokkaus, std::function<Luettelosisalto()> sisalto) {
   const auto m = std::make_shared<const Kokoelmamuokkaus<T>>(std::move(muokkaus));
-  return {.sisalto = std::move(sisalto),
-          .nimi = [m](const Tunniste& avain) { return m->kokoelma.Item(avain).*m->nimi; },
-          .lisaa = [m] { return m->Lisaa(); },
-          .muokkaa = [m](const Tunniste& avain) { m->muokkaa(m->kokoelma.Item(avain)); },
-          .kopioi = [m](const Tunniste& avain) { return m->Kopioi(m->kokoelma.Item(avain)); },
-          .poista = [m](const Tunniste& avain) { m->Poista(avain); },
-          .lukko = Muokkauslukko,
-          .poistoeste = [m](const Tunniste& avain) { return m->Poistoeste(m->kokoelma.Item(avain)); }};
+  Luettelotoimet toimet{.sisalto = std::move(sisalto),
+                        .nimi = [m](const Tunniste& avain) { return m->kokoelma.Item(avain).*m->nimi; },
+                        .lisaa = [m] { return m->Lisaa(); },
+                        .muokkaa = [m](const Tunniste& avain) { m->muokkaa(m->kokoelma.Item(avain)); },
+                        .kopioi = [m](const Tunniste& avain) { return m->Kopioi(m->kokoelma.Item(avain)); },
+                        .poista = [m](const Tunniste& avain) { m->Poista(avain); },
+                        .lukko = Muokkauslukko,
+                        .poistoeste = [m](const Tunniste& avain) { return m->Poistoeste(m->kokoelma.Item(avain)); }};
+  if (!m->sarakkeet.empty()) toimet.liita = [m](const Taulukko& rivit) { return m->Liita(rivit); };
+  return toimet;
 }

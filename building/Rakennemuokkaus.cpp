@@ -6,7 +6,6 @@
 #include "building/LisaaKopio.h"
 #include "building/Muokkausistunto.h"
 #include "building/Rakenneleikkaus.h"
-#include "building/Rakenneliitos.h"
 #include "building/Toimenpideviittaukset.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
@@ -21,6 +20,7 @@
 #include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
 #include "ui/Hiljaa.h"
+#include "ui/Liittaminen.h"
 #include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
@@ -164,6 +164,38 @@ Rakenneratkaisu UusiRatkaisu(const std::string& nimi, std::int32_t rakennetyyppi
   ratkaisu.PintavastusSisa = pinnat.sisa;
   ratkaisu.PintavastusUlko = pinnat.ulko;
   return ratkaisu;
+}
+
+/// Makes a new structure of that kind of it.
+void Alusta(clsRakenne& rakenne, std::int32_t rakennetyyppi, const std::string& nimi) {
+  LuoRakenne(rakenne, {nimi, rakennetyyppi, 0, 0, 0, {}}, nullptr);
+  rakenne.RakenneRatkaisu.Luo() = UusiRatkaisu(nimi, rakennetyyppi);
+}
+
+/// The kind by the word of the choice list or of the library.
+Solutulos AsetaTyyppi(Olio& olio, std::string_view sana) {
+  std::vector<std::string> tyypit = Valintalista("frmRakenteet", "cmbRakennetyyppi");
+  tyypit.erase(tyypit.begin());  // "all"
+  const std::int32_t tyyppi = RakennetyyppiSanasta(sana).value_or(SananPaikka(tyypit, sana));
+  if (tyyppi < 0) return EiValinta(tyypit);
+  Alusta(static_cast<clsRakenne&>(olio), tyyppi, {});
+  return {};
+}
+
+Solutulos AsetaNimi(Olio& olio, std::string_view nimi) {
+  static_cast<clsRakenne&>(olio).RakenneRatkaisu->Nimi = nimi;
+  return {};
+}
+
+/// What pasted rows tell of structures: the kind first, since it decides what the others begin with.
+std::vector<Liitossarake> Liitossarakkeet(bool tyyppiVaaditaan) {
+  return {
+      {tekstit::kSarakeRakennetyyppi, AsetaTyyppi, tyyppiVaaditaan ? tekstit::kLiitettavaIlmanTyyppia : Tekstinumero{}},
+      {tekstit::kSarakeRakenne, AsetaNimi},
+      Jasensarake(tekstit::kSarakePintaAla, "PintaAla"),
+      Jasensarake(tekstit::kSarakeUarvo, "U_arvo"),
+      Valintasarake(tekstit::kSarakeRajoittuu, "TyyppiID", "TyyppiStr", "frmRakenteet", "cmbTyyppi"),
+      Valintasarake(tekstit::kSarakeSuuntaus, "SuuntausID", "SuuntausStr", "frmRakenteet", "cmbSuuntaus")};
 }
 
 }  // namespace
@@ -355,8 +387,7 @@ void Rakennemuokkaus::KayttoLiittyma_NaytettavatValittu() {
 
 clsRakenne& Rakennemuokkaus::LisaaRakenne(std::int32_t rakennetyyppi, const std::string& nimi) {
   clsRakenne& rakenne = rakenteet_.Add(Tunniste::Uusi(clsRakenne::kLuokka.NimiSana()));
-  LuoRakenne(rakenne, {nimi, rakennetyyppi, 0, 0, 0, {}}, nullptr);
-  rakenne.RakenneRatkaisu.Luo() = UusiRatkaisu(nimi, rakennetyyppi);
+  Alusta(rakenne, rakennetyyppi, nimi);
   return rakenne;
 }
 
@@ -391,22 +422,13 @@ void Rakennemuokkaus::KayttoLiittyma_PoistaKlikattu() {
 void Rakennemuokkaus::KayttoLiittyma_RivitLiitetty(const Taulukko& rivit) {
   if (Lukittu()) return Ilmoita(Teksti(tekstit::kRakenteitaEiVoiLisata), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
   const std::int32_t naytettavat = KayttoLiittyma.Naytettavat();
-  const Rakenneliitos liitos(
-      rivit, naytettavat == frmRakenteet::kKaikki ? std::nullopt : std::optional<std::int32_t>(naytettavat));
-  if (!liitos.virhe.empty()) return Ilmoita(liitos.virhe, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+  const bool kaikki = naytettavat == frmRakenteet::kKaikki;
   KirjoitaDataluokka();
-  Tunniste viimeinen = muokattava_;
-  for (const LiitettyRakenne& tieto : liitos.rakenteet) {
-    clsRakenne& rakenne = LisaaRakenne(tieto.rakennetyyppi, tieto.nimi);
-    viimeinen = rakenne.sKey;
-    rakenne.PintaAla = tieto.ala;
-    rakenne.U_arvo(tieto.u_arvo);
-    rakenne.TyyppiID = tieto.rajoittuu.value_or(rakenne.TyyppiID);
-    rakenne.TyyppiStr = ValinnanRivi(KayttoLiittyma.cmbTyyppi, rakenne.TyyppiID);
-    rakenne.SuuntausID = tieto.suuntaus.value_or(rakenne.SuuntausID);
-    rakenne.SuuntausStr = ValinnanRivi(KayttoLiittyma.cmbSuuntaus, rakenne.SuuntausID);
-  }
-  RakenteetMuuttuivat(viimeinen);
+  const auto avaimet =
+      LiitaRivit(rivit, Liitossarakkeet(kaikki),
+                 {.luo = [&]() -> Alkio& { return LisaaRakenne(kaikki ? Rakennelaji::Ulkoseina : naytettavat, {}); },
+                  .poista = [this](const Tunniste& avain) { rakenteet_.Remove(avain); }});
+  RakenteetMuuttuivat(avaimet.empty() ? muokattava_ : avaimet.back());
 }
 
 /// Whatever is chosen meanwhile, the pick goes to this structure. Opening for another one ends the former.

@@ -37,6 +37,15 @@ constexpr Tulos kTilasta[] = {
 constexpr std::string_view kTaseesta[] = {"VuotuisetJohtumisHaviot", "VuotuisetIVHaviotTilassa",
                                           "VuotuinenAurinkoKuorma", "VuotuinenLampoEnergianTarve"};
 
+// What pasted rows tell of spaces.
+const Liitossarake kLiitossarakkeet[] = {
+    Jasensarake(tekstit::kSarakeTila, "TilanNimi", tekstit::kLiitettavaPuuttuu),
+    Jasensarake(tekstit::kSarakeTilavuus, "Kokonaistilavuus"),
+    Jasensarake(tekstit::kSarakeBruttoala, "BruttoAla"),
+    Jasensarake(tekstit::kSarakeHenkilot, "TilanHenkilomaara"),
+    Jasensarake(tekstit::kSarakeLampotila, "Sisalampotila"),
+};
+
 /// The number as it is shown: what sums are taken of, so that they add up on the screen.
 double Naytettyna(double arvo, const char* kuvio) { return LueLuku(Muotoile(arvo, kuvio)).value_or(0); }
 
@@ -150,7 +159,9 @@ void clsTilat::LiitaTapahtumat() {
                                        .poisto = tekstit::kTilanPoisto,
                                        .kaytossa = tekstit::kTilaaEiVoiPoistaa,
                                        .muokkaa = [](clsTila& tila) { return tila.NaytaKayttoliittyma(); },
-                                       .alusta = AlustaTila},
+                                       .alusta = AlustaTila,
+                                       .sarakkeet = kLiitossarakkeet,
+                                       .liittaminen = tekstit::kTilojenLiittaminen},
              [this] { return LasketutRivit(VaadiRakennus(), *this); });
   toimet.poistonSeuraus = [](const Tunniste& avain) { return PoistonSeuraus(VaadiRakennus(), avain); };
   toimet.valittu = [this] { NaytaErittely(); };

@@ -121,6 +121,13 @@ std::string Teksti(int id) {
   return loydetty == g_tekstit.end() ? "[String " + std::to_string(id) + " is missing]" : loydetty->second;
 }
 
+std::string TekstiLuvulla(int id, std::size_t luku) {
+  std::string teksti = Teksti(id);
+  if (const auto paikka = teksti.find('#'); paikka != std::string::npos)
+    teksti.replace(paikka, 1, std::to_string(luku));
+  return teksti;
+}
+
 void NaytaVirhe(int koodi, std::string_view lisateksti) {
   Viesti viesti = HaeViesti(koodi).value_or(Viesti{"Virhe " + std::to_string(koodi), {}, Vakavuus::Virhe});
   viesti.teksti.append(" ").append(lisateksti);

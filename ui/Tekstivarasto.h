@@ -23,6 +23,8 @@ void LataaTekstit(const std::string& tiedosto, const std::string& kieli,
                   const std::string& taulu = "LumivirtaResurssit");
 /// The text of the number; "[String <id> is missing]" when there is none.
 std::string Teksti(int id);
+/// The text with the number in the place of '#'.
+std::string TekstiLuvulla(int id, std::size_t luku);
 
 /// Shows a row of the message table, about the object that is being calculated (ui/Laskentakohde.h): its text, a blank
 /// and `lisateksti`, titled by its level (1 error, 2 notice). Names of objects in `lisateksti` would make each a kind

@@ -10,18 +10,11 @@ namespace {
 
 constexpr std::size_t kNimia = 5;  // told by name
 
-/// The text with the number in the place of '#'.
-std::string Luvulla(Tekstinumero teksti, std::size_t luku) {
-  std::string tulos = Teksti(teksti);
-  if (const auto paikka = tulos.find('#'); paikka != std::string::npos) tulos.replace(paikka, 1, std::to_string(luku));
-  return tulos;
-}
-
 std::string Luettelo(std::span<const std::string> nimet) {
   std::string luettelo;
   for (const std::string& nimi : nimet.first(std::min(nimet.size(), kNimia)))
     luettelo += (luettelo.empty() ? "" : ", ") + nimi;
-  return nimet.size() > kNimia ? luettelo + " " + Luvulla(tekstit::kJaMuuta, nimet.size() - kNimia) : luettelo;
+  return nimet.size() > kNimia ? luettelo + " " + TekstiLuvulla(tekstit::kJaMuuta, nimet.size() - kNimia) : luettelo;
 }
 
 }  // namespace
@@ -40,7 +33,7 @@ Viesti Viestikooste::Koottu() const {
   Viesti koottu = viesti_;
   if (!kohteet_.empty()) koottu.teksti += "\n\n" + Teksti(tekstit::kKoskee) + " " + Luettelo(kohteet_);
   if (const auto maara = static_cast<std::size_t>(maara_); maara > 1 && maara != kohteet_.size())
-    koottu.teksti += "\n\n" + Luvulla(tekstit::kSamaIlmoitusTuli, maara);
+    koottu.teksti += "\n\n" + TekstiLuvulla(tekstit::kSamaIlmoitusTuli, maara);
   return koottu;
 }
 

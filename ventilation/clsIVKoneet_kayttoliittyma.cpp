@@ -9,6 +9,7 @@
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "building/clsTilat.h"
+#include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "measures/clsSaastotoimenpiteet.h"
@@ -100,6 +101,31 @@ Luettelosisalto KoneidenRivit(const clsIVKoneet& koneet) {
   return sisalto;
 }
 
+/// The space by its name, which must be that of one space only.
+Solutulos AsetaTila(Olio& kone, std::string_view nimi) {
+  const clsTila* loytynyt = nullptr;
+  int samoja = 0;
+  for (const clsTila& tila : VaadiRakennus().Tilat)
+    if (SamaNimi(tila.TilanNimi, nimi)) loytynyt = &tila, ++samoja;
+  if (samoja != 1) return {.hylkays = Teksti(samoja ? tekstit::kMontaSamannimista : tekstit::kEiTilojenLuettelossa)};
+  static_cast<clsIVKone&>(kone).LiittyyTilaansKey = loytynyt->sKey;
+  return {};
+}
+
+// What pasted rows tell of machines.
+const Liitossarake kLiitossarakkeet[] = {
+    Jasensarake(tekstit::kSarakeKone, "KoneenTunnus", tekstit::kLiitettavaPuuttuu),
+    Valintasarake(tekstit::kSarakePeriaate, "IVPeriaateID", "IVPeriaate", "frmIlmanvaihtokone", "cmbIVPeriaate"),
+    {tekstit::kSarakeKoneenTila, AsetaTila},
+    Jasensarake(tekstit::kSarakeTulo, "TuloIlmavirta11Teho"),
+    Jasensarake(tekstit::kSarakePoisto, "PoistoIlmavirta11Teho"),
+};
+
+void ViimeisteleLiitetty(clsIVKone& kone) {
+  kone.PoistaPeriaatteeseenKuulumattomat();
+  kone.PaivitaOsienTiedot();
+}
+
 void AlustaKone(clsIVKone& kone) {
   clsKayntiAjat& ajat = kone.KayntiAikaYleistiedot;
   ajat.LuoJaksot(kone.SisaanpuhallusLampotila(), kone.IlmanLampeneminenPuhaltimessa);
@@ -129,7 +155,10 @@ void clsIVKoneet::LiitaTapahtumat() {
                                          .kaytossa = tekstit::kKonettaEiVoiPoistaa,
                                          .muokkaa = [this](clsIVKone& kone) { return Muokkaa(kone); },
                                          .alusta = AlustaKone,
-                                         .kopioitu = [](clsIVKone& kone) { kone.PaivitaOsienTiedot(); }},
+                                         .kopioitu = [](clsIVKone& kone) { kone.PaivitaOsienTiedot(); },
+                                         .sarakkeet = kLiitossarakkeet,
+                                         .liittaminen = tekstit::kKoneidenLiittaminen,
+                                         .liitetty = ViimeisteleLiitetty},
              [this] { return KoneidenRivit(*this); }));
 }
 

@@ -67,6 +67,26 @@ TEST_F(TilaDialogi, ListTellsHowTheDemandComesAboutAndOfSpacesLargerThanTheBuild
   EXPECT_NE(Luettelo().Teksti("lblHuomautus").find("17 500 m³"), std::string::npos);
 }
 
+TEST_F(TilaDialogi, RowsOfASheetBecomeSpacesAllOrNone) {
+  rakennus->Tilat.NaytaKayttoliittyma();
+  Ohjain& lista = Luettelo().Etsi("lvwTilat");
+  lista.KayttajaLiittaa("Tila\tTilavuus\nAula\t100\n\t200\nSali\tsata\n");
+  EXPECT_EQ(viestit.Esiintymia("\nRivi 3, Tila: arvo puuttuu\nRivi 4, Tilavuus: sata – ei ole luku"), 1);
+  EXPECT_EQ(rakennus->Tilat.Count(), 1);
+  EXPECT_TRUE(rakennus->Tallennettu);
+  std::string kopio = "tila\tJohtuminen (MWh/a)\tTilavuus (m³)\tLämpötila\n";
+  lista.KayttajaLiittaa(kopio + "Aula\t9,1\t1 200,5\t17,5\nSali\t\t900000\t\nYhteensä\t\t901 200\t\n");
+  ASSERT_EQ(rakennus->Tilat.Count(), 3) << "the sums of a copied list are no space";
+  EXPECT_EQ(viestit.Esiintymia("\nRivi 3, Tilavuus: 900000"), 1) << "improbable, told of and taken";
+  const clsTila &aula = rakennus->Tilat.Item(2), &sali = rakennus->Tilat.Item(3);
+  EXPECT_EQ(aula.Kokonaistilavuus, 1200.5);
+  EXPECT_EQ(aula.Sisalampotila, 17.5);
+  EXPECT_EQ(sali.Sisalampotila, clsTila().Sisalampotila) << "an empty cell leaves what a new space has";
+  EXPECT_FALSE(sali.SaatotapaStr.empty());
+  EXPECT_EQ(lista.Indeksi(), 2) << "the last one is chosen";
+  EXPECT_FALSE(rakennus->Tallennettu);
+}
+
 TEST_F(TilaDialogi, AddedSpaceStaysOnlyAfterOk) {
   rakennus->Tilat.NaytaKayttoliittyma();
   ikkunat.KunNaytetaan("frmTila", [](Ikkunaton& l) { l.KayttajaPainaa("cmdPeruuta"); });

@@ -116,6 +116,23 @@ TEST_F(KoneDialogi, AddedMachineGetsItsScheduleAndStaysOnlyAfterOk) {
   EXPECT_FALSE(rakennus->Tallennettu);
 }
 
+TEST_F(KoneDialogi, RowsOfASheetBecomeMachinesOfTheirSpaces) {
+  rakennus->IVKoneet.NaytaKayttoliittyma();
+  Ohjain& lista = Luettelo().Etsi("lvwKoneet");
+  lista.KayttajaLiittaa("Kone\tPeriaate\tTila\nPK1\tPoistoilmakone\tKellari\n");
+  EXPECT_EQ(viestit.Esiintymia("Rivi 2, Tila: Kellari – ei ole tilojen luettelossa"), 1);
+  lista.KayttajaLiittaa(
+      "Kone\tPeriaate\tTila\tTulo (m³/s)\tPoisto (m³/s)\nPK1\tpoistoilmakone\taula\t3\t2,5\nTK2\t\t---\n");
+  ASSERT_EQ(rakennus->IVKoneet.Count(), 3);
+  const clsIVKone &poisto = rakennus->IVKoneet.Item(2), &tulo = rakennus->IVKoneet.Item(3);
+  EXPECT_EQ(poisto.IVPeriaate, "Poistoilmakone");
+  EXPECT_EQ(poisto.LiittyyTilaansKey, Kone().LiittyyTilaansKey);
+  EXPECT_EQ(poisto.TuloIlmavirta11Teho, 0) << "it has no supply fan";
+  EXPECT_EQ(poisto.PoistoIlmavirta11Teho, 2.5);
+  EXPECT_GT(poisto.KayntiAikaYleistiedot.Count(), 0);
+  EXPECT_TRUE(tulo.LiittyyTilaansKey.Tyhja());
+}
+
 TEST_F(KoneDialogi, CopyHasAScheduleAndFansOfItsOwn) {
   rakennus->IVKoneet.NaytaKayttoliittyma();
   Luettelo().KayttajaPainaa("cmdKopioiKone");
