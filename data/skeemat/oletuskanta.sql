@@ -37,7 +37,7 @@ CREATE TEMP TABLE Mitattu (PaikkakuntaID INTEGER, Vuosi INTEGER, S17 REAL, Lahde
 -- Tasokerroin: the locality's normal-year figure of the program / the normal of the same years at the station measured.
 CREATE TEMP TABLE Paikkakunta (Numero INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Tasokerroin REAL NOT NULL);
 CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Ryhma TEXT NOT NULL,
-                                   Hakusanat TEXT NOT NULL);
+                                   Kayttoryhma TEXT NOT NULL, Hakusanat TEXT NOT NULL);
 -- The solutions of a group of use types in an era of the building code.
 CREATE TEMP TABLE Oletusrakenne (
     Id INTEGER PRIMARY KEY,

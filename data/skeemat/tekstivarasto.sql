@@ -24,5 +24,5 @@ CREATE TABLE HelppiIDt (
 );
 INSERT INTO Kieli VALUES ('Suomi');
 CREATE TEMP TABLE Kayttotarkoitus (Koodi INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Ryhma TEXT NOT NULL,
-                                   Hakusanat TEXT NOT NULL);
+                                   Kayttoryhma TEXT NOT NULL, Hakusanat TEXT NOT NULL);
 CREATE TEMP TABLE Paikkakunta (Numero INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Tasokerroin REAL NOT NULL);

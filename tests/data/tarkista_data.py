@@ -187,6 +187,53 @@ class Oletuskanta(unittest.TestCase):
         self.assertIn("teraspelti", seina(69, 1990))
 
 
+class Kulutusluettelo(unittest.TestCase):
+    """What the schema itself can't hold: units of the dialogs, groups of use types, derived values."""
+    TILAT = {"taulukkoarvo", "yleisesti tunnettu", "valittu vahvistetulta väliltä", "johdettu", "oletus"}
+
+    def rivit(self, taulu):
+        return hae("Kulutusluettelo.mdb", f"SELECT Nimi, Kayttoryhmat, Yksikko, Arvo, Pienin, Suurin, Hakusanat, Lahde, Tila FROM {taulu}")
+
+    def lista(self, lomake, *valinnat):
+        return [y for v in valinnat for (y,) in hae("StrVarasto.mdb", "SELECT Suomi FROM Combotaulu "
+                                                    "WHERE frmName = ? AND cmbName = ? ORDER BY Id", lomake, v)]
+
+    def test_rows_speak_the_language_of_the_dialogs(self):
+        ryhmat = {r for (r,) in hae("Kulutusluettelo.mdb", "SELECT Kayttoryhma FROM Kayttotarkoitus")} | {""}
+        yksikot = {"Sahkolaite": self.lista("frmTarkennettuLaiteLaskenta", "cmbLaskentaOminaissuureTeho",
+                                            "cmbLaskentaOminaissuureEnergia"),
+                   "Vedenkaytto": self.lista("frmTarkennettuVesiLaskenta", "cmbLaskentaOminaissuure")}
+        for taulu, sallitut in yksikot.items():
+            for nimi, kayttoryhmat, yksikko, _, pienin, suurin, hakusanat, lahde, tila in self.rivit(taulu):
+                self.assertLessEqual(set(kayttoryhmat.split(";")), ryhmat, nimi)
+                self.assertIn(yksikko, sallitut, nimi)
+                self.assertIn(tila, self.TILAT, nimi)
+                self.assertTrue(lahde, nimi)
+                self.assertTrue(all(hakusanat.split(";")), nimi)
+                # A range that wide, or none, was typed wrong.
+                self.assertTrue(1.1 < suurin / pienin <= 30, (nimi, pienin, suurin))
+
+    def test_derived_lighting_follows_from_its_source(self):
+        johdetut = 0
+        for nimi, _, _, arvo, _, _, _, lahde, _ in self.rivit("Sahkolaite"):
+            if osuma := re.match(r"(\d+) lx .*× (\d,\d+) W/m² / 100 lx", lahde):
+                johdetut += 1
+                self.assertAlmostEqual(arvo, int(osuma[1]) * float(osuma[2].replace(",", ".")) / 100, delta=0.051, msg=nimi)
+        self.assertGreater(johdetut, 10)
+
+    def test_fields_that_the_dialog_hides_hold_one(self):
+        # dm³/kpl has no use at all, portions and persons no times a day
+        self.assertEqual(hae("Kulutusluettelo.mdb", "SELECT Nimi FROM Vedenkaytto WHERE KertaaD <> 1 AND Yksikko IN "
+                             "('dm³/kpl', 'dm³/annos', 'dm³/hlö,d') OR VrkVuosi <> 1 AND Yksikko = 'dm³/kpl' OR "
+                             "KertaaD > 24 AND Yksikko IN ('dm³/s', 'dm³/min', 'dm³/h')"), [])
+
+    def test_every_use_type_has_devices_of_its_own(self):
+        omat = {ryhma for _, ryhmat, *_ in self.rivit("Sahkolaite") for ryhma in ryhmat.split(";")}
+        for koodi in (1, 4, 11, 14, 21, 23, 31, 42, 45, 51, 66, 81):
+            (ryhma,), = hae("Kulutusluettelo.mdb", "SELECT Kayttoryhma FROM Kayttotarkoitus WHERE Koodi = ?", koodi)
+            self.assertIn(ryhma, omat, koodi)
+
+
 class Rakennekirjasto(unittest.TestCase):
     KANTA = "Rakennekirjasto/Tietokanta_perus.mdb"
 

@@ -15,6 +15,7 @@
 #include "ui/frmIVKoneYhteenveto.h"
 #include "ui/frmIlmanvaihtokone.h"
 #include "ui/frmJakaumaGraafi.h"
+#include "ui/frmKulutusluettelo.h"
 #include "ui/frmLTOhyotylaskenta.h"
 #include "ui/frmLammonTuotonJaJaonHaviot.h"
 #include "ui/frmLampoYhteenveto.h"
@@ -154,6 +155,26 @@ TEST_F(Taytetyt, TheListOfChangesFitsItsWindow) {
                                       "0,045",
                                       "0,0375"};
   EXPECT_TRUE(frmMateriaalimuutokset().Kysy(Taulukko(200, rivi)));
+}
+
+TEST_F(Taytetyt, TheCatalogueOfConsumersFitsItsWindow) {
+  std::vector<frmKulutusluettelo::Rivi> rivit;
+  for (int i = 0; i < 60; ++i) {
+    frmKulutusluettelo::Rivi& rivi = rivit.emplace_back();
+    rivi.rivi.avain = "laite" + std::to_string(i);
+    rivi.rivi.solut = {"Autonlämmityspistorasia, lohko- ja sisätilalämmitin, kello 2 h", "Valaistus"};
+    rivi.rivi.LisaaLuku(120000, "### ##0.###");
+    for (const char* solu :
+         {"kWh/vapaa yksikkö,a", "annosta vuodessa", "2 h/d, 110 d/a, kerroin 0,6", "yleisesti tunnettu"})
+      rivi.rivi.solut.push_back(solu);
+    rivi.hakusanat = "auto;lohkolämmitin";
+    rivi.selite =
+        "Autonlämmityspistorasia: tavallisesti 1 400–2 100 W/laite. Sähkö ei lämmitä tiloja. Lähde: lohko 550 W "
+        "+ sisätila 1 200 W (uutinen 2022: 900–1 500 W) (johdettu).";
+    rivi.ryhma = i / 20;
+  }
+  KunAuki("cmdOk", OdotaMahtuvan);
+  EXPECT_EQ(frmKulutusluettelo().Poimi(rivit, {"Toimistorakennus", "Kaikille yhteiset", "Muiden"}), "laite0");
 }
 
 void TaytaKone(frmIlmanvaihtokone& lomake) {
