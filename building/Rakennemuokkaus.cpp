@@ -2,6 +2,7 @@
 #include "building/Rakennemuokkaus.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "building/LisaaKopio.h"
 #include "building/Muokkausistunto.h"
@@ -13,6 +14,7 @@
 #include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "kernel/Luvut.h"
+#include "kernel/Sormenjalki.h"
 #include "kernel/Virhe.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "tekstit/lomakkeet_kirjasto.h"
@@ -20,6 +22,7 @@
 #include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
 #include "ui/Hiljaa.h"
+#include "ui/Kenttatarkistus.h"
 #include "ui/Liittaminen.h"
 #include "ui/Sidonta.h"
 #include "ui/Tekstivarasto.h"
@@ -132,18 +135,22 @@ double Astetunnit(double Tsisa) {
   return astetunnit;
 }
 
-/// Adds the cells of conductance, W/K, as the mean of the year, and of the share of the loss, %.
-void LisaaHavio(Luettelorivi& rivi, double havio, double yhteensa, double Tsisa) {
-  constexpr double kWperkW = 1000;
-  if (const double astetunnit = Astetunnit(Tsisa); astetunnit > 0)
-    rivi.LisaaLuku(havio * kWperkW / astetunnit, kKonduktanssi);
-  else
-    rivi.solut.emplace_back(kEiArvoa);
-  if (yhteensa > 0)
-    rivi.LisaaLuku(havio / yhteensa * 100, kOsuus);
-  else
-    rivi.solut.emplace_back(kEiArvoa);
-}
+/// Conduction losses of all structures.
+struct Haviot {
+  double yhteensa = 0;  // kWh/a
+  double astetunnit;    // Kh/a
+
+  /// Adds the cells of conductance, W/K, as the mean of the year, and of the share of the loss, %.
+  void Lisaa(Luettelorivi& rivi, double havio) const {
+    constexpr double kWperkW = 1000;
+    const auto lisaa = [&](bool tiedossa, double arvo, const char* kuvio) {
+      if (tiedossa) return rivi.LisaaLuku(arvo, kuvio);
+      rivi.solut.emplace_back(kEiArvoa);
+    };
+    lisaa(astetunnit > 0, havio * kWperkW / astetunnit, kKonduktanssi);
+    lisaa(yhteensa > 0, havio / yhteensa * 100, kOsuus);
+  }
+};
 
 bool OnIkkuna(const clsRakenne& rakenne) { return rakenne.Rakennetyyppi == Rakennelaji::Ikkuna; }
 bool Rajoittuu(const clsRakenne& rakenne) { return rakenne.Rakennetyyppi <= Rakennelaji::Alapohja; }
@@ -198,6 +205,26 @@ std::vector<Liitossarake> Liitossarakkeet(bool tyyppiVaaditaan) {
       Valintasarake(tekstit::kSarakeSuuntaus, "SuuntausID", "SuuntausStr", "frmRakenteet", "cmbSuuntaus")};
 }
 
+std::string Poistoeste(clsRakenne& rakenne) {
+  const std::string nimet = ViittaavatToimenpiteet(rakenne);
+  return nimet.empty() ? nimet : Teksti(tekstit::kRakennettaEiVoiPoistaa) + " " + nimet;
+}
+
+std::uint64_t Sormenjalki(clsRakenne& rakenne) { return Sormenjalki(rakenne, VaadiRakennus().TyyppiTiedot); }
+
+/// The row without its losses.
+Luettelorivi Rivi(const frmRakenteet& l, const clsRakenne& rakenne) {
+  Luettelorivi rivi{{rakenne.NaytettavaNimi(), ValinnanRivi(l.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1)},
+                    rakenne.sKey};
+  rivi.LisaaLuku(rakenne.PintaAla, kAla);
+  rivi.LisaaLuku(rakenne.U_arvo(), kUarvo);
+  rivi.solut.push_back(Rajoittuu(rakenne) ? ValinnanRivi(l.cmbTyyppi, rakenne.TyyppiID) : "");
+  rivi.solut.push_back(OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : "");
+  if (UarvoPuuttuu(rakenne))
+    rivi.piirteet = {.merkitys = Merkitys::Huomio, .merkitty = kUsarake, .selite = Teksti(tekstit::kUarvoPuuttuu)};
+  return rivi;
+}
+
 }  // namespace
 
 Rakennemuokkaus::Rakennemuokkaus(clsRakenteet& rakenteet, double Tsisa) : rakenteet_(rakenteet), Tsisa_(Tsisa) {
@@ -237,12 +264,8 @@ bool Rakennemuokkaus::UarvotOnAnnettu(const std::unordered_set<Tunniste>& entise
 
 void Rakennemuokkaus::LiitaTapahtumat() {
   frmRakenteet& lomake = KayttoLiittyma;
-  lomake.RakenneValittu = [this] { KayttoLiittyma_RakenneValittu(); };
+  lomake.luettelo.Aseta(Luettelonhoito());
   lomake.NaytettavatValittu = [this] { KayttoLiittyma_NaytettavatValittu(); };
-  lomake.LisaaKlikattu = [this] { KayttoLiittyma_LisaaKlikattu(); };
-  lomake.KopioiKlikattu = [this] { KayttoLiittyma_KopioiKlikattu(); };
-  lomake.PoistaKlikattu = [this] { KayttoLiittyma_PoistaKlikattu(); };
-  lomake.RivitLiitetty = [this](const Taulukko& rivit) { KayttoLiittyma_RivitLiitetty(rivit); };
   lomake.HaeKirjastostaKlikattu = [this] { KayttoLiittyma_HaeKirjastosta(); };
   lomake.UarvonLahdeKlikattu = [this] { KayttoLiittyma_UarvonLahdeKlikattu(); };
   lomake.RajoittuminenValittu = [this] { KayttoLiittyma_RajoittuminenValittu(); };
@@ -251,8 +274,9 @@ void Rakennemuokkaus::LiitaTapahtumat() {
 }
 
 void Rakennemuokkaus::LueDataluokka() {
-  const clsRakenne* rakenne = Muokattava();
+  clsRakenne* rakenne = Muokattava();
   if (!rakenne) return TyhjennaKentat();
+  luettu_ = Sormenjalki(*rakenne);
   const frmRakenteet& l = KayttoLiittyma;
   l.lblRakennetyypinNimi.Otsikko(ValinnanRivi(l.cmbRakennetyyppi, rakenne->Rakennetyyppi + 1));
   kSidonnat.Lue(l, *rakenne);
@@ -297,47 +321,40 @@ Rakenneratkaisu& Rakennemuokkaus::Ratkaisu() {
   return *rakenne.RakenneRatkaisu;
 }
 
-Luettelorivi Rakennemuokkaus::Rivi(const clsRakenne& rakenne, double havioYhteensa) const {
-  const frmRakenteet& l = KayttoLiittyma;
-  Luettelorivi rivi{{rakenne.NaytettavaNimi(), ValinnanRivi(l.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1)},
-                    rakenne.sKey};
-  rivi.LisaaLuku(rakenne.PintaAla, kAla);
-  rivi.LisaaLuku(rakenne.U_arvo(), kUarvo);
-  rivi.solut.push_back(Rajoittuu(rakenne) ? ValinnanRivi(l.cmbTyyppi, rakenne.TyyppiID) : "");
-  rivi.solut.push_back(OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : "");
-  LisaaHavio(rivi, VuosiHavio(rakenne, Tsisa_), havioYhteensa, Tsisa_);
-  if (UarvoPuuttuu(rakenne))
-    rivi.piirteet = {.merkitys = Merkitys::Huomio, .merkitty = kUsarake, .selite = Teksti(tekstit::kUarvoPuuttuu)};
-  return rivi;
-}
+bool Rakennemuokkaus::KaikkiNaytetaan() const { return KayttoLiittyma.Naytettavat() == frmRakenteet::kKaikki; }
 
 bool Rakennemuokkaus::Naytetaan(const clsRakenne& rakenne) const {
-  const std::int32_t naytettavat = KayttoLiittyma.Naytettavat();
-  return naytettavat == frmRakenteet::kKaikki || naytettavat == rakenne.Rakennetyyppi;
+  return KaikkiNaytetaan() || KayttoLiittyma.Naytettavat() == rakenne.Rakennetyyppi;
 }
 
 Luettelosisalto Rakennemuokkaus::Rivit(const Tunniste& valittava) const {
-  double yhteensa = 0, naytetty = 0;
-  for (const clsRakenne& rakenne : rakenteet_) yhteensa += VuosiHavio(rakenne, Tsisa_);
+  std::vector<double> havio;
+  for (const clsRakenne& rakenne : rakenteet_) havio.push_back(VuosiHavio(rakenne, Tsisa_));
+  const Haviot haviot{std::accumulate(havio.begin(), havio.end(), 0.0), Astetunnit(Tsisa_)};
+  double naytetty = 0;
   Luettelosisalto sisalto;
+  auto oma = havio.begin();
   for (const clsRakenne& rakenne : rakenteet_) {
+    const double rakenteen = *oma++;
     if (!Naytetaan(rakenne) && rakenne.sKey != valittava) continue;
-    sisalto.rivit.push_back(Rivi(rakenne, yhteensa));
-    naytetty += VuosiHavio(rakenne, Tsisa_);
+    sisalto.rivit.push_back(Rivi(KayttoLiittyma, rakenne));
+    haviot.Lisaa(sisalto.rivit.back(), rakenteen);
+    naytetty += rakenteen;
   }
   Luettelorivi summat{{Teksti(tekstit::kRakenteetYhteensa), "", "", "", "", ""}};
-  LisaaHavio(summat, naytetty, yhteensa, Tsisa_);
+  haviot.Lisaa(summat, naytetty);
   sisalto.summat = std::move(summat.solut);
   return sisalto;
 }
 
-/// Fills the list and shows the structure of that key, whatever its kind; the first one when there is none.
+/// Fills the list and chooses the structure of that key, whatever its kind; the first one when there is none.
 void Rakennemuokkaus::NaytaLuettelo(const Tunniste& valittava) {
-  const ListView& lista = KayttoLiittyma.lvwRakenteet;
-  lista.Tayta(Rivit(valittava));
-  lista.Valitse(valittava);
-  KayttoLiittyma.ValitseRakenne(lista.Indeksi());
-  muokattava_ = lista.Valittu();
+  KayttoLiittyma.lvwRakenteet.Tayta(Rivit(valittava));
+  KayttoLiittyma.luettelo.Valitse(valittava);
+}
+
+void Rakennemuokkaus::NaytaValittu() {
+  muokattava_ = KayttoLiittyma.luettelo.Valittu();
   LueDataluokka();
   PaivitaKentat();
 }
@@ -350,6 +367,14 @@ void Rakennemuokkaus::PaivitaRivit() {
   lista.Valitse(valittu);
 }
 
+/// Writes the fields to the structure that they tell of; its row, and the shares of all, follow if it has changed.
+bool Rakennemuokkaus::OtaKentat() {
+  if (!TarkistaLukukentat(KayttoLiittyma)) return false;
+  KirjoitaDataluokka();
+  if (clsRakenne* rakenne = Muokattava(); rakenne && Sormenjalki(*rakenne) != luettu_) PaivitaRivit();
+  return true;
+}
+
 /// The picture, the U-value of the layers, and with it the structure's own when that is the source.
 void Rakennemuokkaus::NaytaUarvo() {
   const clsRakenne& rakenne = rakenteet_.Item(muokattava_);
@@ -359,24 +384,12 @@ void Rakennemuokkaus::NaytaUarvo() {
   KayttoLiittyma.chtLampotilat.Kaavio(Rakenneleikkaus(rakenne, Tsisa_));
 }
 
-bool Rakennemuokkaus::Lukittu() const { return VaadiRakennus().Saastotoimenpiteet.Count() > 0; }
-
 void Rakennemuokkaus::PaivitaKentat() {
   const clsRakenne* rakenne = Muokattava();
   KayttoLiittyma.PaivitaKentat({.valittu = rakenne != nullptr,
-                                .lukittu = Lukittu(),
                                 .ikkuna = rakenne && OnIkkuna(*rakenne),
                                 .rajoittuu = rakenne && Rajoittuu(*rakenne),
                                 .kerroksia = !KayttoLiittyma.lvwKerrokset.Rivit().empty()});
-}
-
-void Rakennemuokkaus::KayttoLiittyma_RakenneValittu() {
-  KirjoitaDataluokka();
-  PaivitaRivit();
-  KayttoLiittyma.ValitseRakenne(KayttoLiittyma.lvwRakenteet.Indeksi());
-  muokattava_ = KayttoLiittyma.lvwRakenteet.Valittu();
-  LueDataluokka();
-  PaivitaKentat();
 }
 
 void Rakennemuokkaus::KayttoLiittyma_NaytettavatValittu() {
@@ -391,44 +404,53 @@ clsRakenne& Rakennemuokkaus::LisaaRakenne(std::int32_t rakennetyyppi, const std:
   return rakenne;
 }
 
-void Rakennemuokkaus::RakenteetMuuttuivat(const Tunniste& valittava) {
+Luettelotoimet Rakennemuokkaus::Luettelonhoito() {
+  return {.sisalto = [this] { return Rivit(muokattava_); },
+          .nimi = [this](const Tunniste& avain) { return rakenteet_.Item(avain).NaytettavaNimi(); },
+          .lisaa = [this] { return Lisaa(); },
+          .kopioi = [this](const Tunniste& avain) { return Kopioi(rakenteet_.Item(avain)); },
+          .poista = [this](const Tunniste& avain) { Poista(avain); },
+          .liita = [this](const Taulukko& rivit) { return Liita(rivit); },
+          .paina = [this](const Tunniste&) { KayttoLiittyma.txtNimi.Kohdista(); },
+          .valittu = [this] { NaytaValittu(); },
+          .lukko = Muokkauslukko,
+          .lisayseste = [this] { return KaikkiNaytetaan() ? Teksti(tekstit::kRakennetyyppiValitsematta) : ""; },
+          .poistoeste = [this](const Tunniste& avain) { return Poistoeste(rakenteet_.Item(avain)); },
+          .otaKentat = [this] { return OtaKentat(); }};
+}
+
+Tunniste Rakennemuokkaus::Lisattiin(const Tunniste& viimeinen) {
   VaadiRakennus().RekisteriVanheni();
-  NaytaLuettelo(valittava);
+  KayttoLiittyma.lvwRakenteet.Tayta(Rivit(viimeinen));
+  return viimeinen;
 }
 
-void Rakennemuokkaus::KayttoLiittyma_LisaaKlikattu() {
-  KirjoitaDataluokka();
-  RakenteetMuuttuivat(LisaaRakenne(KayttoLiittyma.Naytettavat(), Teksti(tekstit::kTilanUusiRakenne)).sKey);
+Tunniste Rakennemuokkaus::Lisaa() {
+  const clsRakenne& uusi = LisaaRakenne(KayttoLiittyma.Naytettavat(), Teksti(tekstit::kTilanUusiRakenne));
   KayttoLiittyma.txtNimi.Kohdista();
+  return Lisattiin(uusi.sKey);
 }
 
-void Rakennemuokkaus::KayttoLiittyma_KopioiKlikattu() {
-  KirjoitaDataluokka();
-  const clsRakenne& lahde = rakenteet_.Item(muokattava_);
+Tunniste Rakennemuokkaus::Kopioi(const clsRakenne& lahde) {
   clsRakenne& kopio = LisaaKopio(rakenteet_, lahde);
   if (kopio.RakenneRatkaisu) kopio.RakenneRatkaisu->Nimi = Teksti(tekstit::kKopio) + lahde.NaytettavaNimi();
-  RakenteetMuuttuivat(kopio.sKey);
+  return Lisattiin(kopio.sKey);
 }
 
-void Rakennemuokkaus::KayttoLiittyma_PoistaKlikattu() {
-  if (const std::string nimet = ViittaavatToimenpiteet(rakenteet_.Item(muokattava_)); !nimet.empty())
-    return Ilmoita(Teksti(tekstit::kRakennettaEiVoiPoistaa) + " " + nimet, Teksti(tekstit::kVirhe), Vakavuus::Virhe);
-  if (!KysyPoisto(rakenteet_.Item(muokattava_).NaytettavaNimi())) return;
-  if (haettava_ == muokattava_) RakKirjasto_KantaDlgSuljettu();
-  rakenteet_.Remove(muokattava_);
-  RakenteetMuuttuivat({});
+void Rakennemuokkaus::Poista(const Tunniste& avain) {
+  if (haettava_ == avain) RakKirjasto_KantaDlgSuljettu();
+  rakenteet_.Remove(avain);
+  VaadiRakennus().RekisteriVanheni();
+  KayttoLiittyma.luettelo.Nayta();
 }
 
-void Rakennemuokkaus::KayttoLiittyma_RivitLiitetty(const Taulukko& rivit) {
-  if (Lukittu()) return Ilmoita(Teksti(tekstit::kRakenteitaEiVoiLisata), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
-  const std::int32_t naytettavat = KayttoLiittyma.Naytettavat();
-  const bool kaikki = naytettavat == frmRakenteet::kKaikki;
-  KirjoitaDataluokka();
-  const auto avaimet =
-      LiitaRivit(rivit, Liitossarakkeet(kaikki),
-                 {.luo = [&]() -> Alkio& { return LisaaRakenne(kaikki ? Rakennelaji::Ulkoseina : naytettavat, {}); },
-                  .poista = [this](const Tunniste& avain) { rakenteet_.Remove(avain); }});
-  RakenteetMuuttuivat(avaimet.empty() ? muokattava_ : avaimet.back());
+Tunniste Rakennemuokkaus::Liita(const Taulukko& rivit) {
+  const bool kaikki = KaikkiNaytetaan();
+  const std::int32_t tyyppi = kaikki ? Rakennelaji::Ulkoseina : KayttoLiittyma.Naytettavat();
+  const auto avaimet = LiitaRivit(rivit, Liitossarakkeet(kaikki),
+                                  {.luo = [&]() -> Alkio& { return LisaaRakenne(tyyppi, {}); },
+                                   .poista = [this](const Tunniste& avain) { rakenteet_.Remove(avain); }});
+  return avaimet.empty() ? Tunniste() : Lisattiin(avaimet.back());
 }
 
 /// Whatever is chosen meanwhile, the pick goes to this structure. Opening for another one ends the former.

@@ -29,18 +29,19 @@ class Rakennemuokkaus {
   void TyhjennaKentat();
   void LueRatkaisu(const Rakenneratkaisu& ratkaisu);
 
+  bool KaikkiNaytetaan() const;
   bool Naytetaan(const clsRakenne& rakenne) const;
   void NaytaLuettelo(const Tunniste& valittava);
   void PaivitaRivit();
+  bool OtaKentat();
+  void NaytaValittu();
   void NaytaUarvo();
   void NaytaKerrokset(int valittava);
   void NaytaHaku(const std::string& teksti);
   void PaivitaKentat();
-  bool Lukittu() const;
   /// Asks of structures added here without a U-value. False when the person goes back to give it.
   bool UarvotOnAnnettu(const std::unordered_set<Tunniste>& entiset);
-  /// `havioYhteensa`: conduction loss of all structures in a year, kWh.
-  Luettelorivi Rivi(const clsRakenne& rakenne, double havioYhteensa) const;
+  /// Rows of the kinds shown, and that of the structure of the key.
   Luettelosisalto Rivit(const Tunniste& valittava) const;
 
   clsRakenne* Muokattava() const { return rakenteet_.Etsi(muokattava_); }
@@ -49,17 +50,19 @@ class Rakennemuokkaus {
   /// A copy of it, or a new one for a structure that has none.
   Rakenneratkaisu RatkaisuTaiUusi() const;
   clsRakenne& LisaaRakenne(std::int32_t rakennetyyppi, const std::string& nimi);
-  void RakenteetMuuttuivat(const Tunniste& valittava);
+  /// Structures have come: fills the list. The key of the last one.
+  Tunniste Lisattiin(const Tunniste& viimeinen);
   void KerroksetMuuttuivat(int valittava);
   /// Opens the dialog of the layer at that place, from 0; at the end of the layers of a new one.
   void AvaaKerros(int rivi);
 
-  void KayttoLiittyma_RakenneValittu();
+  Luettelotoimet Luettelonhoito();
+  Tunniste Lisaa();
+  Tunniste Kopioi(const clsRakenne& lahde);
+  void Poista(const Tunniste& avain);
+  Tunniste Liita(const Taulukko& rivit);
+
   void KayttoLiittyma_NaytettavatValittu();
-  void KayttoLiittyma_LisaaKlikattu();
-  void KayttoLiittyma_KopioiKlikattu();
-  void KayttoLiittyma_PoistaKlikattu();
-  void KayttoLiittyma_RivitLiitetty(const Taulukko& rivit);
   void KayttoLiittyma_HaeKirjastosta();
   void RakKirjasto_RakenneValittu(const Rakenneratkaisu& ratkaisu);
   /// Ends the pick that is going on, if any, and closes the library.
@@ -79,5 +82,6 @@ class Rakennemuokkaus {
   Tunniste muokattava_;  // key of the chosen one
   Tunniste haettava_;    // key of the one for which the library is open
   std::unique_ptr<Rakennekirjastopyynto> haku_;
-  double Tsisa_;  // °C
+  std::uint64_t luettu_ = 0;  // fingerprint of the chosen one when its row was made
+  double Tsisa_;              // °C
 };

@@ -27,7 +27,7 @@ void Luettelomuokkain::Kuuntele() {
   ohjaimet_.lista.KunLisataan([this] { Lisaa(); });
   ohjaimet_.lista.KunPoistetaan([this] { Poista(); });
   ohjaimet_.lisaa.KunKlikataan([this] { Lisaa(); });
-  ohjaimet_.muokkaa.KunKlikataan([this] { Muokkaa(); });
+  if (ohjaimet_.muokkaa) ohjaimet_.muokkaa->KunKlikataan([this] { Muokkaa(); });
   ohjaimet_.kopioi.KunKlikataan([this] { Kopioi(); });
   ohjaimet_.poista.KunKlikataan([this] { Poista(); });
 }
@@ -52,7 +52,7 @@ void Luettelomuokkain::Valitse(const Tunniste& avain) {
 }
 
 void Luettelomuokkain::RiviVaihtui() {
-  if (!Kelpaa()) return ohjaimet_.lista.Valitse(naytetty_);
+  if (!OtaKentat()) return ohjaimet_.lista.Valitse(naytetty_);
   naytetty_ = Valittu();
   PaivitaNapit();
   Nosta(toimet_.valittu);
@@ -64,7 +64,7 @@ bool Luettelomuokkain::Muokattavissa() const {
 
 void Luettelomuokkain::PaivitaNapit() const {
   ohjaimet_.lisaa.Kaytossa(true);
-  ohjaimet_.muokkaa.Kaytossa(Muokattavissa());
+  if (ohjaimet_.muokkaa) ohjaimet_.muokkaa->Kaytossa(Muokattavissa());
   ohjaimet_.kopioi.Kaytossa(!Valittu().Tyhja());
   ohjaimet_.poista.Kaytossa(Muokattavissa());
   LukitseMuokkausnapit(lomake_, Syy(toimet_.lukko));
@@ -80,16 +80,16 @@ bool Luettelomuokkain::Estetty(const std::string& syy) const {
 }
 
 void Luettelomuokkain::Lisaa() {
-  if (Estetty(Syy(toimet_.lukko)) || Estetty(Syy(toimet_.lisayseste)) || !Kelpaa()) return;
+  if (Estetty(Syy(toimet_.lukko)) || Estetty(Syy(toimet_.lisayseste)) || !OtaKentat()) return;
   if (const Tunniste avain = toimet_.lisaa(); !avain.Tyhja()) Valitse(avain);
 }
 
 void Luettelomuokkain::Muokkaa() {
-  if (Muokattavissa() && Kelpaa()) toimet_.muokkaa(Valittu());
+  if (toimet_.muokkaa && Muokattavissa() && OtaKentat()) toimet_.muokkaa(Valittu());
 }
 
 void Luettelomuokkain::Kopioi() {
-  if (Valittu().Tyhja() || Estetty(Syy(toimet_.lukko)) || !Kelpaa()) return;
+  if (Valittu().Tyhja() || Estetty(Syy(toimet_.lukko)) || !OtaKentat()) return;
   if (const Tunniste avain = toimet_.kopioi(Valittu()); !avain.Tyhja()) Valitse(avain);
 }
 
@@ -101,6 +101,6 @@ void Luettelomuokkain::Poista() {
 }
 
 void Luettelomuokkain::Liita(const Taulukko& rivit) {
-  if (Estetty(Syy(toimet_.lukko)) || !Kelpaa()) return;
+  if (Estetty(Syy(toimet_.lukko)) || !OtaKentat()) return;
   if (const Tunniste avain = toimet_.liita(rivit); !avain.Tyhja()) Valitse(avain);
 }

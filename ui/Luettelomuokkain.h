@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <optional>
+
 #include "ui/Ohjaimet.h"
 
 /// What the objects of a list do when the person edits them. Keys are those of the list's rows. The functions that
@@ -10,7 +12,8 @@ struct Luettelotoimet {
   std::function<std::string(const Tunniste&)> nimi;
   /// Makes an object and lets the person fill it. Its key; empty when the person gave up.
   std::function<Tunniste()> lisaa;
-  std::function<void(const Tunniste&)> muokkaa;
+  /// Opens the object's dialog; left out where its fields stand beside the list.
+  std::function<void(const Tunniste&)> muokkaa{};
   /// The key of a copy that stands behind its source.
   std::function<Tunniste(const Tunniste&)> kopioi;
   std::function<void(const Tunniste&)> poista;
@@ -29,8 +32,9 @@ struct Luettelotoimet {
   std::function<std::string(const Tunniste&)> poistonSeuraus{};
   /// The object may be edited and removed; all when left out.
   std::function<bool(const Tunniste&)> muokattavissa{};
-  /// What the person has written beside the list is good; false keeps the present row.
-  std::function<bool()> kelpaa{};
+  /// Takes what the person has written beside the list before another object is turned to. False, after telling why,
+  /// when it isn't good: the present row stays.
+  std::function<bool()> otaKentat{};
 };
 
 /// A list whose objects the person adds, edits, copies, removes and pastes: by the four buttons, by Insert, Enter,
@@ -40,7 +44,7 @@ class Luettelomuokkain {
   struct Ohjaimet {
     ListView lista;
     CommandButton lisaa;
-    CommandButton muokkaa;
+    std::optional<CommandButton> muokkaa;
     CommandButton kopioi;
     CommandButton poista;
   };
@@ -66,7 +70,7 @@ class Luettelomuokkain {
   void Kopioi();
   void Poista();
   void Liita(const Taulukko& rivit);
-  bool Kelpaa() const { return !toimet_.kelpaa || toimet_.kelpaa(); }
+  bool OtaKentat() const { return !toimet_.otaKentat || toimet_.otaKentat(); }
   bool Muokattavissa() const;
   /// Tells the reason, if there is one.
   bool Estetty(const std::string& syy) const;

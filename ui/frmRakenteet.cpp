@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frmRakenteet.h"
 
-#include "tekstit/viestit.h"
 #include "ui/Kenttatarkistus.h"
 #include "ui/Lomakekaannos.h"
-#include "ui/Tekstivarasto.h"
 
 namespace {
 
@@ -30,24 +28,12 @@ frmRakenteet::frmRakenteet() : Muokkauslomake("frmRakenteet") {
 }
 
 void frmRakenteet::KuunteleLuetteloa() {
-  lvwRakenteet.KunMuuttuu([this] {
-    if (!TarkistaLukukentat(*this)) return lvwRakenteet.Indeksi(rakenneRivi_);
-    rakenneRivi_ = lvwRakenteet.Indeksi();
-    Nosta(RakenneValittu);
-  });
   cmbRakennetyyppi.KunMuuttuu([this] {
     if (!TarkistaLukukentat(*this)) return cmbRakennetyyppi.Indeksi(naytettavatRivi_);
     naytettavatRivi_ = cmbRakennetyyppi.Indeksi();
     Nosta(NaytettavatValittu);
     if (Naytettavat() == kIkkunat && tilanne_.ikkuna) tabRakenne.Indeksi(kVarjostussivu);
   });
-  lvwRakenteet.KunKlikataan([this] { txtNimi.Kohdista(); });
-  lvwRakenteet.KunLiitetaan([this](const Taulukko& rivit) {
-    if (TarkistaLukukentat(*this)) Nosta(RivitLiitetty, rivit);
-  });
-  NostaaKunKelpaa(cmdLisaaRakenne, LisaaKlikattu);
-  NostaaKunKelpaa(cmdKopioiRakenne, KopioiKlikattu);
-  cmdPoistaRakenne.Nostaa(PoistaKlikattu);
   cmdHaeKirjastosta.Nostaa(HaeKirjastostaKlikattu);
 }
 
@@ -81,18 +67,12 @@ void frmRakenteet::Naytettavat(std::int32_t rakennetyyppi) {
   cmbRakennetyyppi.Indeksi(naytettavatRivi_);
 }
 
-void frmRakenteet::ValitseRakenne(int rivi) {
-  lvwRakenteet.Indeksi(rivi);
-  rakenneRivi_ = lvwRakenteet.Indeksi();
-}
-
 void frmRakenteet::PaivitaKentat(const Tilanne& tilanne) {
   tilanne_ = tilanne;
   const bool v = tilanne.valittu, ikkuna = v && tilanne.ikkuna;
-  cmdLisaaRakenne.Kaytossa(Naytettavat() != kKaikki);
-  AsetaKaytossa(v, cmdKopioiRakenne, cmdPoistaRakenne, cmdHaeKirjastosta, txtNimi, txtKuvaus, txtRakenneala,
-                chkLaskeUarvoMateriaaleista, txtPintavastusSisa, txtPintavastusUlko, txtPistemaiset, txtPistemaisetWpK,
-                txtViivamaiset, txtViivamaisetWpK, txtRw, txtPaloluokka, lvwKerrokset, cmdRakKerLisaa);
+  AsetaKaytossa(v, cmdHaeKirjastosta, txtNimi, txtKuvaus, txtRakenneala, chkLaskeUarvoMateriaaleista,
+                txtPintavastusSisa, txtPintavastusUlko, txtPistemaiset, txtPistemaisetWpK, txtViivamaiset,
+                txtViivamaisetWpK, txtRw, txtPaloluokka, lvwKerrokset, cmdRakKerLisaa);
   AsetaKaytossa(v && !tilanne.kerroksia, txtPaksuus, txtKerrostenMassaYht);
   txtUarvo.Kaytossa(v && !chkLaskeUarvoMateriaaleista.Valittu());
   cmbTyyppi.Kaytossa(v && tilanne.rajoittuu);
@@ -103,7 +83,6 @@ void frmRakenteet::PaivitaKentat(const Tilanne& tilanne) {
   if (!ikkuna && tabRakenne.Indeksi() == kVarjostussivu) tabRakenne.Indeksi(0);
   tabRakenne.SivuKaytossa(kVarjostussivu, ikkuna);
   PaivitaKerrosnapit();
-  LukitseMuokkausnapit(*this, tilanne.lukittu ? Teksti(tekstit::kOsiaEiVoiLisata) : std::string());
 }
 
 void frmRakenteet::PaivitaKerrosnapit() {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include "ui/Luettelomuokkain.h"
 #include "ui/Muokkauslomake.h"
 
 /// The structures of a space: their list, and below it the data, the layers and the shading of the chosen one.
@@ -13,7 +14,6 @@ class frmRakenteet : public Muokkauslomake {
   /// What the chosen structure leaves to the person.
   struct Tilanne {
     bool valittu = false;    ///< a structure is chosen
-    bool lukittu = false;    ///< structures may neither come nor go
     bool ikkuna = false;     ///< it is a window: direction, solar factors and shading
     bool rajoittuu = false;  ///< it borders on something: wall, roof or floor
     bool kerroksia = false;  ///< it has layers, which tell its thickness and mass
@@ -21,13 +21,8 @@ class frmRakenteet : public Muokkauslomake {
 
   frmRakenteet();
 
-  /// Another structure was chosen, or other kinds are to be shown. The fields of the former one hold good values.
-  std::function<void()> RakenneValittu;
+  /// Other kinds are to be shown. The fields hold good values.
   std::function<void()> NaytettavatValittu;
-  std::function<void()> LisaaKlikattu;
-  std::function<void()> KopioiKlikattu;
-  std::function<void()> PoistaKlikattu;
-  std::function<void(const Taulukko&)> RivitLiitetty;
   /// A solution from the library is wanted for the chosen structure.
   std::function<void()> HaeKirjastostaKlikattu;
   std::function<void()> UarvonLahdeKlikattu;
@@ -47,9 +42,7 @@ class frmRakenteet : public Muokkauslomake {
   /// Kind shown, 0 to 7, or kKaikki.
   std::int32_t Naytettavat() const;
   void Naytettavat(std::int32_t rakennetyyppi);
-  /// Shows that row as chosen; -1 none.
-  void ValitseRakenne(int rivi);
-  /// Enables fields, pages and buttons.
+  /// Enables what stands beside the list.
   void PaivitaKentat(const Tilanne& tilanne);
 
   ComboBox cmbRakennetyyppi{*this, "cmbRakennetyyppi"};
@@ -57,6 +50,7 @@ class frmRakenteet : public Muokkauslomake {
   CommandButton cmdLisaaRakenne{*this, "cmdLisaaRakenne"};
   CommandButton cmdKopioiRakenne{*this, "cmdKopioiRakenne"};
   CommandButton cmdPoistaRakenne{*this, "cmdPoistaRakenne"};
+  Luettelomuokkain luettelo{*this, {lvwRakenteet, cmdLisaaRakenne, {}, cmdKopioiRakenne, cmdPoistaRakenne}};
   CommandButton cmdHaeKirjastosta{*this, "cmdHaeKirjastosta"};
   Label lblHaku{*this, "lblHaku"};  // the structure for which the library is open
   TabStrip tabRakenne{*this, "tabRakenne"};
@@ -108,6 +102,5 @@ class frmRakenteet : public Muokkauslomake {
   void PaivitaKerrosnapit();
 
   Tilanne tilanne_;
-  int rakenneRivi_ = -1;
   int naytettavatRivi_ = 0;
 };

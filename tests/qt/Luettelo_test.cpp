@@ -14,6 +14,7 @@
 #include <QTreeView>
 
 #include "tests/qt/Ikkunatesti.h"
+#include "ui/Kenttatarkistus.h"
 #include "ui/frmRakenteet.h"
 #include "ui/frmTila.h"
 #include "ui/frmTilaYhteenveto.h"
@@ -253,8 +254,21 @@ TEST_F(Puuluettelo, TheNameColumnTakesTheRoomAndNarrowsLast) {
 class Rakenneluettelo : public Luettelotesti {
  protected:
   Rakenneluettelo() {
-    lomake_.lvwRakenteet.Rivit({{"Seinä", "Ulkoseinä", "12"}, {"Ovi", "Ovi", "2"}});
-    lomake_.ValitseRakenne(0);
+    lomake_.luettelo.Aseta(
+        {.sisalto =
+             [] {
+               return Luettelosisalto{{{{"Seinä", "Ulkoseinä", "12"}, "s"}, {{"Ovi", "Ovi", "2"}, "o"}}};
+             },
+         .liita =
+             [this](const Taulukko& rivit) {
+               liitetyt_ = rivit;
+               return Tunniste();
+             },
+         .valittu = [this] { ++valintoja_; },
+         .otaKentat = [this] { return TarkistaLukukentat(lomake_); }});
+    lomake_.luettelo.Nayta();
+    lomake_.luettelo.Valitse("s");
+    valintoja_ = 0;
     for (const auto& ohjain : lomake_.Ohjaimet())
       if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("1");
     lomake_.PaivitaKentat({.valittu = true});
@@ -262,21 +276,21 @@ class Rakenneluettelo : public Luettelotesti {
   QTreeView& Lista() { return Etsi<QTreeView>(lomake_, "lvwRakenteet"); }
 
   frmRakenteet lomake_;
+  int valintoja_ = 0;
+  Taulukko liitetyt_;
 };
 
 TEST_F(Rakenneluettelo, AFaultyFieldRestoresTheChoice) {
   Nayta(lomake_);
-  int valintoja = 0;
-  lomake_.RakenneValittu = [&] { ++valintoja; };
   Napsauta(Lista(), 1);
-  EXPECT_EQ(valintoja, 1);
+  EXPECT_EQ(valintoja_, 1);
   auto& ala = Etsi<QLineEdit>(lomake_, "txtRakenneala");
   ala.setFocus();
   QTest::keyClicks(&ala, "x");
   QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
   Napsauta(Lista(), 0);
   QCoreApplication::processEvents();
-  EXPECT_EQ(valintoja, 1);
+  EXPECT_EQ(valintoja_, 1);
   EXPECT_EQ(Valittu(Lista()), "Ovi");
   const QModelIndexList valitut = Lista().selectionModel()->selectedRows();
   ASSERT_EQ(valitut.size(), 1);
@@ -285,11 +299,9 @@ TEST_F(Rakenneluettelo, AFaultyFieldRestoresTheChoice) {
 
 TEST_F(Rakenneluettelo, PastedRowsComeToTheForm) {
   Nayta(lomake_);
-  Taulukko rivit;
-  lomake_.RivitLiitetty = [&](const Taulukko& liitetyt) { rivit = liitetyt; };
   QGuiApplication::clipboard()->setText("Nimi\tPinta-ala\r\nSeinä\t1 200,5\r\n");
   QTest::keyClick(&Lista(), Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(rivit, (Taulukko{{"Nimi", "Pinta-ala"}, {"Seinä", "1 200,5"}}));
+  EXPECT_EQ(liitetyt_, (Taulukko{{"Nimi", "Pinta-ala"}, {"Seinä", "1 200,5"}}));
 }
 
 TEST_F(Rakenneluettelo, AClosedPageDoesntOpenAndAnOpenedFormKeepsItsPage) {
