@@ -2,12 +2,19 @@
 #include "building/clsPerustiedot.h"
 
 #include "kernel/Paivamaara.h"
+#include "kernel/Tulos.h"
 
 namespace {
 
 /// Degree days of the localities' normal years, Hanko to Vaasa, K·d.
 constexpr std::array<double, 16> kLammitystarveluvut{4098, 4366, 6448, 5230, 5053, 5523, 5068, 4629,
                                                      4734, 4036, 5291, 4400, 6434, 4719, 4255, 4730};
+
+constexpr Tulos kTulokset[] = {
+    Osatulos<&clsPerustiedot::LammonHankinta>("LammonHankinta"),
+    Osatulos<&clsPerustiedot::SahkonHankinta>("SahkonHankinta"),
+    Osatulos<&clsPerustiedot::VedenHankinta>("VedenHankinta"),
+};
 
 }  // namespace
 
@@ -37,7 +44,7 @@ constexpr Jasen clsPerustiedot::kJasenet[] = {
     Arvo<&clsPerustiedot::OletusarvotLaskettu>("OletusarvotLaskettu"),
 };
 
-const Luokka clsPerustiedot::kLuokka{"clsPerustiedot", kJasenet};
+const Luokka clsPerustiedot::kLuokka{"clsPerustiedot", kJasenet, kTulokset};
 
 clsPerustiedot::clsPerustiedot() : Pvm(TamaPaiva()) {}
 
@@ -48,4 +55,9 @@ void clsPerustiedot::LammTarveLukuPaikkakuntaID(std::int32_t paikkakunta) {
   paikkakunta_ = paikkakunta;
   const auto indeksi = static_cast<std::size_t>(paikkakunta);
   if (paikkakunta >= 0 && indeksi < kLammitystarveluvut.size()) NormVuodenLammTarveLuku = kLammitystarveluvut[indeksi];
+}
+
+void clsPerustiedot::Kotiudu(const Koti& koti) {
+  for (clsEnergianHankinta* hankinta : {&LammonHankinta, &SahkonHankinta, &VedenHankinta})
+    hankinta->Energiamuodot.Kotiudu(koti);
 }

@@ -36,6 +36,8 @@ class clsPerustiedot : public Malli<clsPerustiedot> {
   clsEnergianHankinta LammonHankinta;
   clsEnergianHankinta SahkonHankinta;
   clsEnergianHankinta VedenHankinta;
+  /// Gives the supplies the building whose tariffs they name.
+  void Kotiudu(const Koti& koti);
   bool OletusarvotLaskettu = false;  ///< the first model has been generated
 
   /// Locality number, 0 (Hanko) to 15 (Vaasa).

@@ -108,18 +108,6 @@ double TilojenSumma(const clsTilat& tilat, F&& arvo) {
   return summa;
 }
 
-/// Loss of turning bought energy into the net demand, MWh, form by form.
-double Konversiohaviot(const clsEnergianHankinta& hankinta, double verkko) {
-  constexpr double kProsentti = 100;
-  double haviot = 0;
-  for (const clsEnergiamuoto& muoto : hankinta.Energiamuodot) {
-    const double osuus = muoto.OsuusNettotarpeesta / kProsentti;
-    const double hyotysuhde = muoto.Hyotysuhde / kProsentti;
-    if (hyotysuhde != 0) haviot += (1 / hyotysuhde - 1) * (verkko * osuus);
-  }
-  return Aarellinen(haviot);
-}
-
 }  // namespace
 
 const Luokka clsRakennus::kLuokka{"clsRakennus", kJasenet, kTulokset};
@@ -162,6 +150,9 @@ clsRakennus::clsRakennus()
   Tilat.Kotiudu(koti_);
   IVKoneet.Kotiudu(koti_);
   SahkonKulutusryhmat.Kotiudu(koti_);
+  Perustiedot.Kotiudu(koti_);
+  Tariffit.Kotiudu(koti_);
+  Vesitariffit.Kotiudu(koti_);
   Perustiedot.SaaTietoMuuttui.arvo = [this](int paikkakunta) { Saa.AsetaSaaPaikkakunta(paikkakunta); };
   Perustiedot.LaskeOletusarvotPerustietojenMukaan.arvo = [this] { LuoOletusmalli(); };
 }
@@ -320,30 +311,30 @@ double clsRakennus::VuotuisetSaatohaviot() try {
 
 double clsRakennus::VuotuisetLammonKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Konversiohaviot(Perustiedot.LammonHankinta,
-                         VuotuinenIVjalkilammitysLampo() + VuotuinenLampoEnergianTarveTilat());
+  return Perustiedot.LammonHankinta.Energiamuodot.Konversiohaviot(VuotuinenIVjalkilammitysLampo() +
+                                                                  VuotuinenLampoEnergianTarveTilat());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }
 
 double clsRakennus::VuotuisetLaiteSahkoKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Konversiohaviot(Perustiedot.SahkonHankinta, SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus());
+  return Perustiedot.SahkonHankinta.Energiamuodot.Konversiohaviot(SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }
 
 double clsRakennus::VuotuisetSahkoLammonKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Konversiohaviot(Perustiedot.SahkonHankinta, SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
+  return Perustiedot.SahkonHankinta.Energiamuodot.Konversiohaviot(SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }
 
 double clsRakennus::VuotuisetSahkoKonversiohaviot() try {
   const Tasehaarukka haarukka(*this);
-  return Konversiohaviot(Perustiedot.SahkonHankinta, SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus() +
-                                                         SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
+  return Perustiedot.SahkonHankinta.Energiamuodot.Konversiohaviot(SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus() +
+                                                                  SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
 }

@@ -162,6 +162,8 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   const Tiedostoversio versio{Major, Minor, Revision};
   VaadiTunnettuVersio(versio);
   LuettuTiedosto = raportti.tunnus;
+  for (clsTariffi& tariffi : Tariffit) tariffi.TaydennaMaksut();
+  for (clsVesitariffi& tariffi : Vesitariffit) tariffi.TaydennaMaksut();
   const bool muunnettu = MuunnaNykyiseksi(*this, tiedosto, versio);
   const bool paivitetty = TarjoaMateriaalienPaivitysta();
   TyyppiTiedot.Nimet.TyhjennaIdListat();

@@ -39,6 +39,10 @@ LUOKAT = {
     "clsPuhallinSahkoLaskParametrit": ("Puhaltimen tarkennettu laskenta", "frmPuhaltimenOttotehonTarkennettuLaskenta", {}),
     "clsLto": ("Lämmöntalteenotto", "frmLTOhyotylaskenta", {}),
     "clsIVKoneet": ("Ilmanvaihtokoneet yhteensä", "", {}),
+    "clsEnergianHankinta": ("Energian ja veden hankinta", "", {}),
+    "clsEnergiamuoto": ("Energiamuoto", "", {"OsuusNettotarpeesta": "=Osuus nettotarpeesta", "Hyotysuhde": "=Vuosihyötysuhde"}),
+    "clsTariffi": ("Tariffi", "", {}),
+    "clsVesitariffi": ("Vesitariffi", "", {}),
     "clsRakennus": ("Rakennus", "frmLampoYhteenveto", {}),
 }
 ALKU = """# Suureiden taulukko

@@ -16,6 +16,8 @@
 
 namespace {
 
+thread_local int g_voimassa = 0;
+
 /// The value as its type holds it; false when it doesn't.
 template <class T>
 bool Mahtuu(ArvoNakyma& arvo) {
@@ -69,6 +71,7 @@ const T* Tyyppina(const Olio& olio) {
 }  // namespace
 
 Muunnelma::Muunnelma(clsRakennus& rakennus) : rakennus_(rakennus) {
+  ++g_voimassa;
   if (GlobaaliRakennus() == &rakennus) varaus_.emplace();
 }
 
@@ -76,7 +79,10 @@ Muunnelma::~Muunnelma() {
   for (auto entinen = entiset_.rbegin(); entinen != entiset_.rend(); ++entinen)
     entinen->jasen->palauta(*entinen->olio, std::move(entinen->arvo));
   Tasehaarukka::Mitatoi(rakennus_);
+  --g_voimassa;
 }
+
+bool Muunnelma::Voimassa() noexcept { return g_voimassa > 0; }
 
 void Muunnelma::Liita(const clsMuuttuneetAttribuutit& muuttuneet) {
   Tasehaarukka::Mitatoi(rakennus_);

@@ -40,6 +40,9 @@ class Muunnelma {
   /// Leaves what has been written in the building for good.
   void Jata() noexcept { entiset_.clear(); }
 
+  /// A variation lies on some building of this thread.
+  static bool Voimassa() noexcept;
+
   /// What was passed over, "class.attribute", in the order of the lists.
   const std::vector<std::string>& Ohitetut() const noexcept { return ohitetut_; }
   /// The spaces and the machines whose figures the variation can change, in the order of the building: those that hold

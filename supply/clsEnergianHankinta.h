@@ -12,4 +12,7 @@ class clsEnergianHankinta : public Malli<clsEnergianHankinta> {
   std::string Kuvaus;
   std::int16_t Kayttotarkoitus = Lampo;  ///< what is bought
   clsEnergiamuodot Energiamuodot;
+
+  /// Adds a form of the supply's kind under a fresh key. One of heat or electricity counts as of the standard base.
+  clsEnergiamuoto& LisaaMuoto();
 };

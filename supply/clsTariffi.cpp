@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "supply/clsTariffi.h"
 
+#include "kernel/Laskenta.h"
+#include "kernel/Tulos.h"
+#include "kernel/Virhe.h"
+#include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -25,14 +30,71 @@ constexpr Jasen kJasenet[] = {
     Lapsi<&clsTariffi::Energiamaksut>("Energiamaksut"),
 };
 
-constexpr int kMaksuja = 6;
+constexpr Tulos kTulokset[] = {
+    Avaintulos(),
+    Tekstitulos<&clsTariffi::Nimi>("Nimi"),
+    Lukutulos<[](const clsTariffi& t) { return static_cast<double>(t.Tariffityyppi); }>(
+        "Tariffityyppi", tekstit::kTariffinLaji, "", "0"),
+    Lukutulos<&clsTariffi::Keskihinta>("Keskihinta", tekstit::kTariffinKeskihinta, "€/MWh"),
+    Vuositulos<&clsTariffi::VuotuisetLoistehomaksut>("VuotuisetLoistehomaksut", tekstit::kLoistehomaksut, "€/a"),
+    Vuositulos<&clsTariffi::VuotuisetPatotehomaksut>("VuotuisetPatotehomaksut", tekstit::kPatotehomaksut, "€/a"),
+    Vuositulos<&clsTariffi::VuosimaksutYht>("VuosimaksutYht", tekstit::kVuosimaksut, "€/a"),
+};
 
 }  // namespace
 
-const Luokka clsTariffi::kLuokka{"clsTariffi", kJasenet};
+const Luokka clsTariffi::kLuokka{"clsTariffi", kJasenet, kTulokset};
 
-clsTariffi::clsTariffi() : Nimi(Teksti(tekstit::kUusiTariffi)) {
+clsTariffi::clsTariffi() : Nimi(Teksti(tekstit::kUusiTariffi)) { TaydennaMaksut(); }
+
+void clsTariffi::TaydennaMaksut() try {
   for (int i = 1; i <= kMaksuja; ++i)
-    Energiamaksut.Add("EnergiaMaksu" + std::to_string(i)).Nimi =
-        std::to_string(i) + " " + Teksti(tekstit::kEnergiamaksu);
+    if (!Energiamaksut.Etsi(MaksunAvain(i)))
+      Energiamaksut.Add(MaksunAvain(i)).Nimi = std::to_string(i) + " " + Teksti(tekstit::kEnergiamaksu);
+} catch (...) {
+  NostaVirhe("clsTariffi:TaydennaMaksut Method");
+}
+
+double clsTariffi::Keskihinta() const try { return Aarellinen(Energiamaksut.Keskihinta() + Energiavero); } catch (...) {
+  NostaVirhe("clsTariffi:Keskihinta Method");
+}
+
+double clsTariffi::VuotuisetLoistehomaksut() const try {
+  return Aarellinen(LoistehomaksunMaaraytymisperuste * Loistehomaksu);
+} catch (...) {
+  NostaVirhe("clsTariffi:VuotuisetLoistehomaksut Method");
+}
+
+double clsTariffi::VuotuisetPatotehomaksut() const try {
+  return Aarellinen(TehomaksunMaaraytymisperuste * Tehomaksu);
+} catch (...) {
+  NostaVirhe("clsTariffi:VuotuisetPatotehomaksut Method");
+}
+
+double clsTariffi::VuosimaksutYht() const try {
+  return Aarellinen(MuuMaksu + Perusmaksu + VuotuisetLoistehomaksut() + VuotuisetPatotehomaksut());
+} catch (...) {
+  NostaVirhe("clsTariffi:VuosimaksutYht Method");
+}
+
+Vuosilasku clsTariffi::Lasku(double energia) const try {
+  return {.energia = Aarellinen(Energiamaksut.Keskihinta() * energia),
+          .teho = VuotuisetPatotehomaksut(),
+          .loisteho = VuotuisetLoistehomaksut(),
+          .perus = Perusmaksu,
+          .muu = MuuMaksu,
+          .vero = Energiavero * energia};
+} catch (...) {
+  NostaVirhe("clsTariffi:Lasku Method");
+}
+
+std::optional<double> clsTariffi::LuokanVero(std::int16_t veroluokka) {
+  switch (veroluokka) {
+    case Luokka2:
+      return Asetukset().dblSahkoVeroluokka2;
+    case Luokka1:
+      return Asetukset().dblSahkoVeroluokka1;
+    default:
+      return std::nullopt;
+  }
 }
