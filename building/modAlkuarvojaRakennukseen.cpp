@@ -100,18 +100,9 @@ double UlkoseinaAlaTaiNolla(const clsTila& tila, double kerroksia) {
   }
 }
 
-clsSahkoListaItem& LisaaSahkorivi(clsSahkonKulutusryhmat& ryhmat, const char* avain, const char* vanhempi, int teksti) {
-  clsSahkoListaItem& rivi = ryhmat.AddListaItem(avain, vanhempi, 1, Teksti(teksti), 0, true);
-  rivi.SiirrettyToisestaModulista = false;
-  return rivi;
-}
-
 void LisaaVesiryhma(clsVedenKulutusryhmat& ryhmat, int teksti) {
-  const Tunniste avain = Tunniste::Uusi(clsVedenKulutusryhma::kLuokka.NimiSana());
-  clsVedenKulutusryhma& ryhma = ryhmat.Add(avain, clsVedenKulutusryhma::Kayttovesi);
-  ryhma.KulutusRyhma = Teksti(teksti);
-  ryhma.VedenKayttolampotila = kKylmaVesi;
-  ryhmat.AddListaItem(avain, "sKeyNormaaliVesi", 0, ryhma.KulutusRyhma, true);
+  clsVedenKulutusryhma& ryhma = ryhmat.LisaaRyhma("sKeyNormaaliVesi", true);
+  ryhma.KulutusRyhma = ryhmat.ListaItem(ryhma.sKey).NimiTeksti = Teksti(teksti);
 }
 
 void Alusta(clsEnergianHankinta& hankinta, clsEnergianHankinta::Laji laji, int teksti) {
@@ -282,10 +273,7 @@ std::optional<Oletusarvorivi> HaeOletusarvot(int kayttotarkoituskoodi, int vuosi
 
 void LuoSahkoRyhmat(clsSahkonKulutusryhmat& ryhmat) try {
   Odotus odotus(Teksti(tekstit::kLuodaanSahkonKulutusryhmat));
-  LisaaSahkorivi(ryhmat, "sKeySahkoYhteensa", "", tekstit::kSahkoYhteensa);
-  LisaaSahkorivi(ryhmat, "sKeyMuuSahko", "sKeySahkoYhteensa", tekstit::kMuuSahko);
-  LisaaSahkorivi(ryhmat, "sKeyLVISahko", "sKeySahkoYhteensa", tekstit::kLviSahko);
-  LisaaSahkorivi(ryhmat, "sKeyValaistus", "sKeySahkoYhteensa", tekstit::kSahkonValaistus);
+  ryhmat.LuoKiinteatRivit();
 } catch (...) {
   NostaVirhe("modAlkuarvojaRakennukseen:LuoSahkoRyhmat Method");
 }
@@ -298,11 +286,8 @@ void LuoVesiRyhmat(clsVedenKulutusryhmat& ryhmat) try {
   ryhmat.ProsessiVedenTiedot.KylmanLampotila = kKylmaVesi;
   ryhmat.ProsessiVedenTiedot.LamminLampotila = kKuumaProsessivesi;
   ryhmat.LKVKiertoKayttoAika = kTuntiaVuodessa;
-  ryhmat.AddListaItem("sKeyVesiYhteensa", "", 1, Teksti(tekstit::kYhteensa), true);
-  ryhmat.AddListaItem("sKeyLkvKierto", "sKeyVesiYhteensa", 1, Teksti(tekstit::kLkvKierto), true);
-  ryhmat.AddListaItem("sKeyProsessivesi", "sKeyVesiYhteensa", 1, Teksti(tekstit::kProsessivesi), true).OnProsessiVesi =
-      true;
-  ryhmat.AddListaItem("sKeyNormaaliVesi", "sKeyVesiYhteensa", 1, Teksti(tekstit::kKayttovesi), true);
+  ryhmat.LuoKiinteatRivit();
+  ryhmat.ListaItem("sKeyProsessivesi").OnProsessiVesi = true;
   for (const int teksti : {tekstit::kKayttovesiAsukkaat, tekstit::kKeittio, tekstit::kSiivous})
     LisaaVesiryhma(ryhmat, teksti);
 } catch (...) {

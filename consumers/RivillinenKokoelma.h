@@ -33,6 +33,7 @@ class RivillinenKokoelma : public Kokoelma<T> {
     rivi.NimiTeksti = std::move(NimiTeksti);
     return rivi;
   }
+  Sailio<Rivi>& MuutettavatRivit() noexcept { return listaItemit_; }
 
  private:
   Sailio<Rivi> listaItemit_;

@@ -8,12 +8,12 @@ constexpr Jasen kJasenet[] = {
     Arvo<&Alkio::sKey>("sKey"),
     Arvo<&clsSahkoListaItem::Parent>("Parent"),
     Arvo<&clsSahkoListaItem::NimiTeksti>("NimiTeksti"),
-    Arvo<&clsSahkoListaItem::Laskentatapa>("Laskentatapa"),
+    Kopio<&clsSahkoListaItem::Laskentatapa>("Laskentatapa"),
     Arvo<&clsSahkoListaItem::ItemTyyppi>("ItemTyyppi"),
-    Arvo<&clsSahkoListaItem::Vuosikulutus>("Vuosikulutus", "MWh/a"),
+    Kopio<&clsSahkoListaItem::Vuosikulutus>("Vuosikulutus", "MWh/a"),
     Arvo<&clsSahkoListaItem::SiirrettyToisestaModulista>("SiirrettyToisestaModulista"),
-    Arvo<&clsSahkoListaItem::Collapsed>("Collapsed"),
-    Arvo<&clsSahkoListaItem::Visible>("Visible"),
+    Kopio<&clsSahkoListaItem::Collapsed>("Collapsed"),
+    Kopio<&clsSahkoListaItem::Visible>("Visible"),
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 class clsSahkoListaItem : public Malli<clsSahkoListaItem, Alkio> {
  public:
   static const Luokka kLuokka;
+  bool OnSisaltoa() const noexcept override { return !SiirrettyToisestaModulista; }
 
   Tunniste Parent;                          ///< key of the parent row; empty for the root
   std::string NimiTeksti;                   ///< caption

@@ -6,6 +6,8 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Laskenta.h"
 #include "kernel/Virhe.h"
+#include "tekstit/rakennus.h"
+#include "ui/Tekstivarasto.h"
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
@@ -15,6 +17,18 @@ constexpr Jasen kJasenet[] = {
 };
 
 constexpr double kkWhPerMWh = 1e3;
+
+// Keys of the tree's own rows, and of the rows of electrically heated water.
+const Tunniste kYhteensa = "sKeySahkoYhteensa", kMuuSahko = "sKeyMuuSahko", kLviSahko = "sKeyLVISahko",
+               kValaistus = "sKeyValaistus";
+const Tunniste kKayttovedenSahko = "sKeyLkvSahko", kProsessivedenSahko = "sKeyProsessivesiSahko";
+
+const Kiintearivi kKiinteat[] = {{kYhteensa, Rivilaji::Juuri, tekstit::kSahkoYhteensa},
+                                 {kMuuSahko, Rivilaji::Otsikko, tekstit::kMuuSahko},
+                                 {kLviSahko, Rivilaji::Otsikko, tekstit::kLviSahko},
+                                 {kValaistus, Rivilaji::Otsikko, tekstit::kSahkonValaistus}};
+
+constexpr const char* kLaskentatapa = "Tarkennettu";
 
 double TilojenLammityssahko(clsTilat& tilat) {
   double summa = 0;
@@ -42,6 +56,51 @@ clsSahkoListaItem& clsSahkonKulutusryhmat::AddListaItem(const Tunniste& sKey, co
   return rivi;
 } catch (...) {
   NostaVirhe("clsSahkonKulutusryhmat:AddListaItem Method");
+}
+
+std::span<const Kiintearivi> clsSahkonKulutusryhmat::Kiinteat() const { return kKiinteat; }
+
+Tunniste clsSahkonKulutusryhmat::OrvonPaikka(const Tunniste&) const { return kLviSahko; }
+
+std::vector<clsSahkonKulutusryhmat::Siirrettava> clsSahkonKulutusryhmat::Siirrettavat() const {
+  std::vector<Siirrettava> rivit;
+  clsRakennus* rakennus = koti_.Etsi();
+  if (!rakennus) return rivit;
+  for (clsTila& tila : rakennus->Tilat)
+    if (tila.Sahkolammitys) rivit.push_back({tila.sKey, tila.TilanNimi, tila.VuotuinenLampoEnergianTarve()});
+  for (const clsIVKone& kone : rakennus->IVKoneet) rivit.push_back({kone.sKey, kone.KoneenTunnus, kone.Sahko()});
+  const clsVedenKulutusryhmat& vesi = rakennus->VedenKulutusryhmat;
+  if (vesi.LKVTiedot.Sahkolammitys)
+    rivit.push_back(
+        {kKayttovedenSahko, Teksti(tekstit::kKayttovedenSahkolammitys), vesi.VuotuinenLkvSahkoLammityksenEnergia()});
+  if (vesi.ProsessiVedenTiedot.Sahkolammitys)
+    rivit.push_back({kProsessivedenSahko, Teksti(tekstit::kProsessivedenSahkolammitys),
+                     vesi.VuotuinenProsessivedenSahkoLammityksenEnergia()});
+  return rivit;
+}
+
+void clsSahkonKulutusryhmat::PaivitaKulutusRyhmatJaLaitteet() try {
+  const std::vector<Siirrettava> siirrettavat = Siirrettavat();  // may fail: before anything changes
+  PaivitaRyhmienRivit([](clsSahkoListaItem& rivi, const clsSahkonKulutusryhma& ryhma) {
+    rivi.NimiTeksti = ryhma.KulutusRyhma;
+    rivi.Laskentatapa = kLaskentatapa;
+    rivi.Vuosikulutus = ryhma.Vuosikulutus();
+  });
+  VaihdaSiirretyt(siirrettavat, kLviSahko);
+  RipustaJaSummaa({&clsSahkoListaItem::Vuosikulutus});
+} catch (...) {
+  NostaVirhe("clsSahkonKulutusryhmat:PaivitaKulutusRyhmatJaLaitteet Method");
+}
+
+Tunniste clsSahkonKulutusryhmat::ToimenpiteidenSolmu(const Tunniste& ryhma) const {
+  Tunniste avain = ryhma;
+  for (int i = 0; i < CountListaItems(); ++i) {  // a damaged file's circle ends too
+    const clsSahkoListaItem* rivi = ListaItems().Etsi(avain);
+    if (!rivi) break;
+    if (Laji(*rivi) == Rivilaji::Otsikko) return avain;
+    avain = rivi->Parent;
+  }
+  return kMuuSahko;
 }
 
 double clsSahkonKulutusryhmat::Vuosikulutus() const try {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include "building/Koti.h"
-#include "consumers/RivillinenKokoelma.h"
+#include "consumers/Kulutuspuu.h"
 #include "consumers/clsSahkoListaItem.h"
 #include "consumers/clsSahkonKulutusryhma.h"
 
 /// The electricity consumer groups of the building and the rows of their tree.
 class clsSahkonKulutusryhmat
-    : public Malli<clsSahkonKulutusryhmat, RivillinenKokoelma<clsSahkonKulutusryhma, clsSahkoListaItem>> {
+    : public Malli<clsSahkonKulutusryhmat, Kulutuspuu<clsSahkonKulutusryhma, clsSahkoListaItem>> {
  public:
   static const Luokka kLuokka;
   /// Takes its place in a building.
@@ -16,6 +16,14 @@ class clsSahkonKulutusryhmat
   /// Adds a row to the tree: right behind its parent, so that the newest child of a title stands first, or at the end.
   clsSahkoListaItem& AddListaItem(const Tunniste& sKey, const Tunniste& Parent, std::int16_t ItemTyyppi,
                                   std::string NimiTeksti, double Vuosikulutus = 0, bool loppuun = false);
+
+  /// Brings the rows up to date: groups, what spaces, machines and electrically heated waters of the building use, and
+  /// sums from the leaves. A heated space's row has its demand alone, without control losses;
+  /// LammitysSahkonVuosikulutus has both. A group whose title is gone hangs under building services.
+  void PaivitaKulutusRyhmatJaLaitteet();
+  /// Key of the node of the measure tree that the group belongs to: lighting, building services or other electricity,
+  /// the first of them above its row; other electricity when there is none.
+  Tunniste ToimenpiteidenSolmu(const Tunniste& ryhma) const;
 
   /// All electricity: devices and heating, MWh/a.
   double Vuosikulutus() const;
@@ -32,6 +40,13 @@ class clsSahkonKulutusryhmat
   /// The same for the groups that belong to no space.
   double TiloihinLiittymatonSahkoKuorma() const { return TilanSahkoKuorma({}); }
 
+ protected:
+  std::span<const Kiintearivi> Kiinteat() const override;
+  clsSahkonKulutusryhma& LuoRyhma(const Tunniste& avain, const Tunniste&) override { return Add(avain); }
+  Tunniste OrvonPaikka(const Tunniste&) const override;
+
  private:
+  std::vector<Siirrettava> Siirrettavat() const;
+
   Koti koti_;
 };

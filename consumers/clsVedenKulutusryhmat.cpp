@@ -2,7 +2,9 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 
 #include "kernel/Laskenta.h"
+#include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "tekstit/rakennus.h"
 
 namespace {
 
@@ -17,6 +19,15 @@ constexpr Jasen kJasenet[] = {
 
 constexpr double kProsessivedenLampotila = 70.0;  // °C
 constexpr double kkWhPerMWh = 1e3;
+constexpr double kProsentti = 100;
+
+const Tunniste kYhteensa = "sKeyVesiYhteensa", kKierto = "sKeyLkvKierto", kProsessivedenRivi = "sKeyProsessivesi",
+               kKayttovedenRivi = "sKeyNormaaliVesi";
+
+const Kiintearivi kKiinteat[] = {{kYhteensa, Rivilaji::Juuri, tekstit::kYhteensa},
+                                 {kKierto, Rivilaji::Kierto, tekstit::kLkvKierto},
+                                 {kProsessivedenRivi, Rivilaji::Otsikko, tekstit::kProsessivesi},
+                                 {kKayttovedenRivi, Rivilaji::Otsikko, tekstit::kKayttovesi}};
 
 using Ryhma = clsVedenKulutusryhma;
 constexpr auto kKaikki = [](const Ryhma&) { return true; };
@@ -28,6 +39,22 @@ double Summa(const clsVedenKulutusryhmat& ryhmat, bool (*mukana)(const Ryhma&), 
   for (const Ryhma& ryhma : ryhmat)
     if (mukana(ryhma)) summa += (ryhma.*suure)();
   return Aarellinen(summa);
+}
+
+/// Groups under the title of domestic water are domestic, all others process water.
+std::int16_t TyyppiRivilla(const Tunniste& vanhempi) {
+  return vanhempi == kKayttovedenRivi ? Ryhma::Kayttovesi : Ryhma::Prosessivesi;
+}
+
+void PaivitaLampotilat(Ryhma& ryhma, const clsVedenTiedot& tiedot) {
+  ryhma.VedenTiedot.KylmanLampotila = tiedot.KylmanLampotila;
+  ryhma.VedenTiedot.LamminLampotila = tiedot.LamminLampotila;
+}
+
+/// Share of hot water, %, that gives the use temperature; 0 where hot and cold are the same.
+double OsuusKayttolampotilasta(double kaytto, const clsVedenTiedot& tiedot) {
+  const double ero = tiedot.LamminLampotila - tiedot.KylmanLampotila;
+  return ero == 0 ? 0 : LueLuku(Muotoile((kaytto - tiedot.KylmanLampotila) * kProsentti / ero, "0")).value_or(0);
 }
 
 }  // namespace
@@ -56,6 +83,68 @@ clsVesiListaItem& clsVedenKulutusryhmat::AddListaItem(const Tunniste& sKey, cons
 
 const clsVedenTiedot& clsVedenKulutusryhmat::Tiedot(std::int16_t KulutusRyhmaTyyppi) const noexcept {
   return KulutusRyhmaTyyppi == clsVedenKulutusryhma::Kayttovesi ? LKVTiedot : ProsessiVedenTiedot;
+}
+
+std::span<const Kiintearivi> clsVedenKulutusryhmat::Kiinteat() const { return kKiinteat; }
+
+clsVedenKulutusryhma& clsVedenKulutusryhmat::LuoRyhma(const Tunniste& avain, const Tunniste& vanhempi) {
+  return Add(avain, TyyppiRivilla(vanhempi));
+}
+
+void clsVedenKulutusryhmat::Siirtyi(clsVedenKulutusryhma& ryhma, const Tunniste& vanhempi) {
+  ryhma.KulutusRyhmaTyyppi = TyyppiRivilla(vanhempi);
+  Tiedot(ryhma.KulutusRyhmaTyyppi).KopioiArvot(ryhma.VedenTiedot);
+}
+
+Tunniste clsVedenKulutusryhmat::OrvonPaikka(const Tunniste& ryhma) const {
+  const Ryhma* orpo = Etsi(ryhma);
+  return orpo && orpo->OnProsessivesi() ? kProsessivedenRivi : kKayttovedenRivi;
+}
+
+void clsVedenKulutusryhmat::PaivitaKulutusRyhmatJaLaitteet() try {
+  PaivitaRyhmienRivit([this](clsVesiListaItem& rivi, Ryhma& ryhma) {
+    rivi.NimiTeksti = ryhma.KulutusRyhma;
+    rivi.OnProsessiVesi = ryhma.OnProsessivesi();
+    rivi.Vuosikulutus = ryhma.VedenLammityksenEnergia();
+    rivi.KvVuosikulutus = ryhma.VedenKulutus();
+    rivi.LkvVuosikulutus = ryhma.LampimanVedenKulutus();
+    PaivitaLampotilat(ryhma, Tiedot(ryhma.KulutusRyhmaTyyppi));
+  });
+  ListaItem(kProsessivedenRivi).OnProsessiVesi = true;
+  clsVesiListaItem& kierto = ListaItem(kKierto);
+  kierto.ItemTyyppi = kRyhma;
+  kierto.KvVuosikulutus = kierto.LkvVuosikulutus = 0;
+  kierto.Vuosikulutus = LKVKiertopiirinHavio() / kkWhPerMWh;
+  RipustaJaSummaa(
+      {&clsVesiListaItem::Vuosikulutus, &clsVesiListaItem::KvVuosikulutus, &clsVesiListaItem::LkvVuosikulutus});
+} catch (...) {
+  NostaVirhe("clsVedenKulutusryhmat:PaivitaKulutusRyhmatJaLaitteet Method");
+}
+
+Tunniste clsVedenKulutusryhmat::ToimenpiteidenSolmu(const Ryhma& ryhma) {
+  return ryhma.OnProsessivesi() ? "sKeyProsessiVesi" : "sKeyNormaaliVesi";
+}
+
+std::vector<const clsVedenKulutusryhma*> clsVedenKulutusryhmat::VesitiedotMuuttuivat() {
+  std::vector<const Ryhma*> rajanYli;
+  for (Ryhma& ryhma : *this) {
+    const clsVedenTiedot& tiedot = Tiedot(ryhma.KulutusRyhmaTyyppi);
+    PaivitaLampotilat(ryhma, tiedot);
+    ryhma.LampimanVedenOsuus = OsuusKayttolampotilasta(ryhma.VedenKayttolampotila, tiedot);
+    if (ryhma.LampimanVedenOsuus < 0 || ryhma.LampimanVedenOsuus > kProsentti) rajanYli.push_back(&ryhma);
+  }
+  return rajanYli;
+}
+
+void clsVedenKulutusryhmat::PaivitaVedenTiedotKulutusryhmiin() {
+  for (Ryhma& ryhma : *this) LKVTiedot.KopioiArvot(ryhma.VedenTiedot);
+}
+
+double clsVedenKulutusryhmat::RivienVedenKulutus() const {
+  double summa = 0;
+  for (const clsVesiListaItem& rivi : ListaItems())
+    if (!rivi.Parent.Tyhja() && !(rivi.Parent == kYhteensa)) summa += rivi.KvVuosikulutus;
+  return summa;
 }
 
 double clsVedenKulutusryhmat::VuotuinenVedenKulutus() const try {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "consumers/RivillinenKokoelma.h"
+#include "consumers/Kulutuspuu.h"
 #include "consumers/clsVedenKulutusryhma.h"
 #include "consumers/clsVesiListaItem.h"
 
 /// The water consumer groups of the building, the rows of their tree, and the hot water circulation loop.
-class clsVedenKulutusryhmat
-    : public Malli<clsVedenKulutusryhmat, RivillinenKokoelma<clsVedenKulutusryhma, clsVesiListaItem>> {
+class clsVedenKulutusryhmat : public Malli<clsVedenKulutusryhmat, Kulutuspuu<clsVedenKulutusryhma, clsVesiListaItem>> {
  public:
   static const Luokka kLuokka;
   clsVedenKulutusryhmat();
@@ -26,6 +25,23 @@ class clsVedenKulutusryhmat
   /// Temperatures of the kind of water.
   const clsVedenTiedot& Tiedot(std::int16_t KulutusRyhmaTyyppi) const noexcept;
 
+  /// Brings the rows up to date: water, hot water and heat of the groups, the loop's loss, and sums from the leaves.
+  /// Each group then has the present temperatures of its kind. A group whose title is gone hangs under its kind's.
+  void PaivitaKulutusRyhmatJaLaitteet();
+  /// Key of the node of the measure tree that the group belongs to, by its kind.
+  static Tunniste ToimenpiteidenSolmu(const clsVedenKulutusryhma& ryhma);
+  /// The temperatures have changed: every group gets those of its kind, and its share of hot water follows its use
+  /// temperature in whole per cents (0 where hot and cold are the same). Gives the groups whose share isn't between 0
+  /// and 100 %; they keep it.
+  std::vector<const clsVedenKulutusryhma*> VesitiedotMuuttuivat();
+  /// Gives every group, whatever its kind, the temperatures and the heating of domestic water.
+  void PaivitaVedenTiedotKulutusryhmiin();
+  /// Temperatures aren't refused.
+  static bool TarkistaLKVLampotilat() { return true; }
+  static bool TarkistaProsessiVedenLampotilat() { return true; }
+  /// Water of the rows below the titles, m³/a: of every group once.
+  double RivienVedenKulutus() const;
+
   /// Water of all groups, of the domestic ones (their hot water included), of the process ones; m³/a.
   double VuotuinenVedenKulutus() const;
   double VuotuinenKvKulutus() const;
@@ -41,4 +57,10 @@ class clsVedenKulutusryhmat
   double VuotuinenProsessivedenSahkoLammityksenEnergia() const;
   /// Loss of the circulation loop, kWh/a: cooling × flow × 4.19 kJ/(kg·K) × use time.
   double LKVKiertopiirinHavio() const;
+
+ protected:
+  std::span<const Kiintearivi> Kiinteat() const override;
+  clsVedenKulutusryhma& LuoRyhma(const Tunniste& avain, const Tunniste& vanhempi) override;
+  void Siirtyi(clsVedenKulutusryhma& ryhma, const Tunniste& vanhempi) override;
+  Tunniste OrvonPaikka(const Tunniste& ryhma) const override;
 };

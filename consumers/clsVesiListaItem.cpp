@@ -9,13 +9,13 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsVesiListaItem::Parent>("Parent"),
     Arvo<&clsVesiListaItem::NimiTeksti>("NimiTeksti"),
     Arvo<&clsVesiListaItem::ItemTyyppi>("ItemTyyppi"),
-    Arvo<&clsVesiListaItem::Vuosikulutus>("Vuosikulutus", "MWh/a"),
-    Arvo<&clsVesiListaItem::KvVuosikulutus>("KvVuosikulutus", "m³/a"),
-    Arvo<&clsVesiListaItem::LkvVuosikulutus>("LkvVuosikulutus", "m³/a"),
-    Arvo<&clsVesiListaItem::OnProsessiVesi>("OnProsessiVesi"),
+    Kopio<&clsVesiListaItem::Vuosikulutus>("Vuosikulutus", "MWh/a"),
+    Kopio<&clsVesiListaItem::KvVuosikulutus>("KvVuosikulutus", "m³/a"),
+    Kopio<&clsVesiListaItem::LkvVuosikulutus>("LkvVuosikulutus", "m³/a"),
+    Kopio<&clsVesiListaItem::OnProsessiVesi>("OnProsessiVesi"),
     Arvo<&clsVesiListaItem::SiirrettyToisestaModulista>("SiirrettyToisestaModulista"),
-    Arvo<&clsVesiListaItem::Collapsed>("Collapsed"),
-    Arvo<&clsVesiListaItem::Visible>("Visible"),
+    Kopio<&clsVesiListaItem::Collapsed>("Collapsed"),
+    Kopio<&clsVesiListaItem::Visible>("Visible"),
 };
 
 }  // namespace

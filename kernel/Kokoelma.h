@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <unordered_map>
@@ -67,6 +68,22 @@ class Sailio : public KokoelmaPohja {
     const T* poistettava = &Item(avain);
     for (std::size_t i = 0; i < alkiot_.size(); ++i)
       if (alkiot_[i].get() == poistettava) return Remove(static_cast<int>(i) + 1);
+  }
+  /// Removes the items for which `poistetaan` is true, in one pass.
+  template <class F>
+  void PoistaJos(F poistetaan) {
+    std::erase_if(alkiot_, [&](const std::unique_ptr<T>& alkio) {
+      if (!poistetaan(*alkio)) return false;
+      if (hakemisto_) hakemisto_->erase(alkio->sKey);
+      return true;
+    });
+  }
+  /// Puts the item behind all others.
+  void SiirraLoppuun(const Tunniste& avain) {
+    const T* siirrettava = &Item(avain);
+    const auto on = [&](const std::unique_ptr<T>& alkio) { return alkio.get() == siirrettava; };
+    const auto paikka = std::find_if(alkiot_.begin(), alkiot_.end(), on);
+    std::rotate(paikka, paikka + 1, alkiot_.end());
   }
   void Tyhjenna() override {
     alkiot_.clear();

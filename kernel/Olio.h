@@ -88,6 +88,9 @@ class Olio {
 /// An item of a collection: bears its key.
 class Alkio : public Olio {
  public:
+  /// False for one that is made anew from other objects whenever it is shown: it holds nothing of its own.
+  virtual bool OnSisaltoa() const noexcept { return true; }
+
   Tunniste sKey;
 };
 

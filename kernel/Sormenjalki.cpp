@@ -27,17 +27,33 @@ class Summa {
   std::uint64_t arvo_ = 0xcbf29ce484222325;
 };
 
+void LisaaArvo(Summa& summa, const Olio& olio, const Jasen& jasen) {
+  ArvoNakyma arvo;
+  jasen.nayta(olio, arvo);
+  summa.Lisaa(arvo);
+}
+
+/// Display rows: what the person has made of them. Copied captions, sums and what is open or closed don't count.
+void LisaaRivit(Summa& summa, KokoelmaPohja& rivit, const clsTyyppiTiedot& tyypit) {
+  const clsTyyppiTieto* tieto = tyypit.Etsi(rivit.AlkionLuokka());
+  for (int i = 1; tieto && i <= rivit.Count(); ++i) {
+    const Alkio& rivi = rivit.Pohja(i);
+    if (!rivi.OnSisaltoa()) continue;
+    for (const Jasen* jasen : tieto->Jasenet())
+      if (!jasen->kopio) LisaaArvo(summa, rivi, *jasen);
+  }
+}
+
 void LisaaOlio(Summa& summa, Olio& olio, const clsTyyppiTiedot& tyypit) {
   summa.Lisaa(std::uint64_t{olio.LuokanTiedot().Numero()});
   if (KokoelmaPohja* kokoelma = olio.Kokoelmana())
     for (int i = 1; i <= kokoelma->Count(); ++i) LisaaOlio(summa, kokoelma->Pohja(i), tyypit);
+  if (KokoelmaPohja* rivit = olio.ListaItemeina()) LisaaRivit(summa, *rivit, tyypit);
   const clsTyyppiTieto* tieto = tyypit.Etsi(olio.LuokanTiedot());
   if (!tieto) return;
   for (const Jasen* jasen : tieto->Jasenet()) {
     if (!jasen->OnOlio()) {
-      ArvoNakyma arvo;
-      jasen->nayta(olio, arvo);
-      summa.Lisaa(arvo);
+      LisaaArvo(summa, olio, *jasen);
     } else if (Olio* lapsi = jasen->viittaus ? nullptr : jasen->olio(olio)) {
       LisaaOlio(summa, *lapsi, tyypit);
     }
