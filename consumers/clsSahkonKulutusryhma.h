@@ -39,6 +39,9 @@ class clsSahkonKulutusryhma : public Malli<clsSahkonKulutusryhma, Alkio> {
   double YhdenVuosikulutus() const;
   double Vuosikulutus() const;
 
+  /// Shows the dialog. True after OK.
+  bool NaytaKayttoliittyma();
+
  private:
   double Kulutus(double ryhmia) const noexcept;
 

@@ -37,4 +37,7 @@ class clsVedenKulutusryhma : public Malli<clsVedenKulutusryhma, Alkio> {
   /// Heat that warms the group's water from cold to its use temperature, MWh/a, with 4.19 kJ/(kg·K) and 1000 kg/m³.
   /// The share of hot water doesn't enter it.
   double VedenLammityksenEnergia() const;
+
+  /// Shows the dialog. True after OK.
+  bool NaytaKayttoliittyma();
 };

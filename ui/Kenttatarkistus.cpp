@@ -158,6 +158,14 @@ bool TarkistaKentta(Ohjain& kentta) {
   return !SamaNimi(t.tyyppi, "K") || KelpaaKellonaikana(kentta);
 }
 
+bool VaadiLuku(Ohjain& kentta, const Lukuviestit& viestit) {
+  if (LueLuku(kentta.Teksti())) return true;
+  const bool tyhja = LueLukuTaiNolla(kentta.Teksti()).has_value();
+  Hylkaa(kentta, !tyhja);
+  if (OnViestinAika()) (tyhja ? viestit.puuttuu : viestit.eiLuku)(NimiJaYksikko(kentta));
+  return false;
+}
+
 bool TarkistaLukukentat(const Lomake& lomake) {
   const auto kentat = Tarkistettavat(lomake);
   if (!std::ranges::all_of(kentat, [](Ohjain* kentta) { return TarkistaKentta(*kentta); })) return false;

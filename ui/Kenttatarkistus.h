@@ -18,6 +18,14 @@ bool TarkistaLukukentat(const Lomake& lomake);
 
 /// The same for one field.
 bool TarkistaKentta(Ohjain& kentta);
+/// What is told of a field that is empty and of one that holds no number; both get its name and unit.
+struct Lukuviestit {
+  void (*puuttuu)(const std::string& kentta);
+  void (*eiLuku)(const std::string& kentta);
+};
+/// The field holds a number, whatever its limits. If not, takes the person there, with a text that is no number
+/// selected, and tells.
+bool VaadiLuku(Ohjain& kentta, const Lukuviestit& viestit);
 /// Tells of one field: its name, a blank and `viesti`, and takes the person there.
 void HylkaaKentta(Ohjain& kentta, const std::string& viesti);
 

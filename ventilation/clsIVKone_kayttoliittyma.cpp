@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog of a machine.
 #include "building/Muokkausistunto.h"
+#include "building/Tilavalinta.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "building/clsTilat.h"
@@ -19,20 +20,8 @@ constexpr const char* kEnergia = "### ##0.00";
 constexpr const char* kHyotysuhde = "0.0#";
 constexpr const char* kLampotila = "0.0#";
 
-/// Row of the choice of spaces: 0 none, or a key that no space has.
-std::int32_t TilanRivi(const clsIVKone& kone) {
-  std::int32_t rivi = 0;
-  for (const clsTila& tila : VaadiRakennus().Tilat) {
-    ++rivi;
-    if (tila.sKey == kone.LiittyyTilaansKey) return rivi;
-  }
-  return 0;
-}
-
-void AsetaTila(clsIVKone& kone, std::int32_t rivi) {
-  kone.LiittyyTilaansKey = rivi > 0 ? VaadiRakennus().Tilat.Item(rivi).sKey : Tunniste();
-}
-
+std::int32_t KoneenTila(const clsIVKone& kone) { return TilanRivi(kone.LiittyyTilaansKey); }
+void AsetaTila(clsIVKone& kone, std::int32_t rivi) { kone.LiittyyTilaansKey = RivinTila(rivi); }
 double Sisaanpuhallus(const clsIVKone& kone) { return kone.SisaanpuhallusLampotila(); }
 double Lampeneminen(const clsIVKone& kone) { return kone.IlmanLampeneminenPuhaltimessa; }
 std::int32_t VakioPaineOsuus(const clsIVKone& kone) { return kone.VakioPaineOsuusID(); }
@@ -52,7 +41,7 @@ const Sidontataulu kSidonnat{
     "frmIlmanvaihtokone",
     {
         Tekstikentta<&clsIVKone::KoneenTunnus>("txtKoneenTunnus"),
-        Valintakentta<Funktiot<TilanRivi, AsetaTila>>("cmbLiittyyTilaan"),
+        Valintakentta<Funktiot<KoneenTila, AsetaTila>>("cmbLiittyyTilaan"),
         Valintakentta<&clsIVKone::IVPeriaateID, &clsIVKone::IVPeriaate>("cmbIVPeriaate"),
         Lukukentta<&clsIVKone::TuloIlmavirta11Teho>("txtTuloIlmavirta11Teho", "0.00#"),
         Lukukentta<&clsIVKone::PoistoIlmavirta11Teho>("txtPoistoIlmavirta11Teho", "0.00#"),
@@ -80,12 +69,6 @@ constexpr Vuosikentta kVuosikentat[] = {
     {&frmIlmanvaihtokone::txtPuhallinSahko, &clsIVKone::Vuosiluvut::puhaltimet, kEnergia},
     {&frmIlmanvaihtokone::txtLtoEnergia, &clsIVKone::Vuosiluvut::talteenotto, kEnergia},
 };
-
-std::vector<std::string> TilojenNimet() {
-  std::vector<std::string> nimet;
-  for (const clsTila& tila : VaadiRakennus().Tilat) nimet.push_back(tila.TilanNimi);
-  return nimet;
-}
 
 /// The exhaust air of a machine with a space is as warm as the space; the machine's own figure waits behind.
 void NaytaPoistolampotila(const frmIlmanvaihtokone& lomake, double oma) {

@@ -4,6 +4,8 @@
 #include <set>
 
 #include "building/Kerrosmuokkaus.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
 #include "measures/clsSaastotoimenpiteet.h"
@@ -117,6 +119,12 @@ class Sidonnat : public RakennusTesti {
     clsPuhaltimenSahkonKulutus& puhaltimet = kone.PuhaltimienSahkonKulutus;
     puhaltimet.TuloSahkoTeho11 = puhaltimet.PoistoSahkoTeho11 = 3;
     puhaltimet.TuloPuhParam.PaineenKorotus = 400;
+    // Groups by power with a unit of their own, by specific consumption, and measured.
+    for (const char* avain : {"teho", "ominaiskulutus", "mitattu"}) {
+      clsSahkonKulutusryhma& ryhma = rakennus->SahkonKulutusryhmat.Add(avain);
+      ryhma.LaskentatapaTehopohjainen(std::string_view(avain) == "teho");
+      ryhma.LaskentatapaEnergiapohjainenIndex = std::string_view(avain) == "mitattu" ? 0 : 2;
+    }
     for (const char* sivulomake : {"frmPuhaltimenOttotehonTarkennettuLaskenta"})
       ikkunat.KunNaytetaan(sivulomake, [](Ikkunaton& l) { l.KayttajaPainaa("cmdOk"); });
   }
@@ -149,6 +157,10 @@ class Sidonnat : public RakennusTesti {
         {"frmPuhaltimenOttotehonTarkennettuLaskenta",
          [this] { Kone().PuhaltimienSahkonKulutus.TuloPuhParam.NaytaKayttoliittyma("Tulo", 1); }},
         {"frmLTOhyotylaskenta", [this] { Kone().Lto.NaytaKayttoliittyma(); }},
+        {"frmTarkennettuLaiteLaskenta", [this] { rakennus->SahkonKulutusryhmat.Item(1).NaytaKayttoliittyma(); }},
+        {"frmTarkennettuLaiteLaskenta", [this] { rakennus->SahkonKulutusryhmat.Item(2).NaytaKayttoliittyma(); }},
+        {"frmTarkennettuLaiteLaskenta", [this] { rakennus->SahkonKulutusryhmat.Item(3).NaytaKayttoliittyma(); }},
+        {"frmTarkennettuVesiLaskenta", [this] { rakennus->VedenKulutusryhmat.Item(1).NaytaKayttoliittyma(); }},
     };
   }
   void MuokkaaKerrosta() const {
