@@ -114,6 +114,13 @@ class clsRakennus : public Malli<clsRakennus> {
   /// Gives the materials of all structures the figures of the structure database `tiedosto`, and its version.
   void PaivitaMateriaalitVakiokannasta(const std::string& tiedosto);
 
+  /// Some energy form of the heat or electricity supply that counts as of the standard fuel database was taken from an
+  /// older version of it than `versio`.
+  bool EnVakioKantaUudempiKuinMinun(std::int32_t versio) const;
+  /// Gives the energy forms of the heat and electricity supplies the values that the standard fuel database has now,
+  /// and tells once which it no longer has. Raises error 9999 when it can't be read.
+  void PaivitaEnMuodotVakiokannasta();
+
   // Reserved merge points: they do nothing and answer False.
   bool YhdistaEnergianHankinta(const Olio&, const Olio&) const { return false; }
   bool YhdistaTila(const Olio&, const Olio&) const { return false; }
@@ -174,6 +181,7 @@ class clsRakennus : public Malli<clsRakennus> {
   void LuoOletusmalli();
   void TyhjennaOsat();
   bool TarjoaMateriaalienPaivitysta();
+  bool TarjoaEnergiamuotojenPaivitysta();
   void VaroitaMaanvaraisista() const;
   void VaroitaIlmavirroista();
   void PaivitaLampoYhteenveto();

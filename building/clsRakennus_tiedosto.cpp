@@ -2,8 +2,10 @@
 // Saving and loading of the building: the project file itself is kernel/Projektitiedosto.
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 #include <span>
 
+#include "building/Energiamuotomuutokset.h"
 #include "building/Materiaalimuutokset.h"
 #include "building/Tiedostomuunnokset.h"
 #include "building/Versiotarkistus.h"
@@ -91,6 +93,13 @@ void KerroMenetettavasta(const Latausraportti& raportti) {
   if (!raportti.tuntemattomat.empty()) KerroLuettelo(Teksti(tekstit::kTuntemattomiaTietoja), raportti.tuntemattomat);
 }
 
+/// A question of two sentences; No is the default. True = Yes.
+bool Kysy(Tekstinumero syy, Tekstinumero kysymys) {
+  return ViestitNyt().Nayta(
+             {Teksti(syy) + " " + Teksti(kysymys), {}, Vakavuus::Kysymys, Napit::KyllaEi, Vastaus::Ei}) ==
+         Vastaus::Kylla;
+}
+
 /// What the person can do about a save that failed.
 Tekstinumero Neuvo(const std::exception& virhe) {
   using Syy = Projektivirhe::Syy;
@@ -165,7 +174,8 @@ void clsRakennus::Hae(const std::string& tiedosto) try {
   for (clsTariffi& tariffi : Tariffit) tariffi.TaydennaMaksut();
   for (clsVesitariffi& tariffi : Vesitariffit) tariffi.TaydennaMaksut();
   const bool muunnettu = MuunnaNykyiseksi(*this, tiedosto, versio);
-  const bool paivitetty = TarjoaMateriaalienPaivitysta();
+  const bool materiaalitPaivitetty = TarjoaMateriaalienPaivitysta();
+  const bool paivitetty = TarjoaEnergiamuotojenPaivitysta() || materiaalitPaivitetty;
   TyyppiTiedot.Nimet.TyhjennaIdListat();
   if (PaivitaIdLista(*this, TyyppiTiedot) > 0 && Saastotoimenpiteet.Count() > 0)
     Ilmoita(Teksti(tekstit::kMuutoksiaOhitettiin), Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
@@ -211,13 +221,7 @@ bool clsRakennus::TarjoaMateriaalienPaivitysta() try {
   Rakennetietokanta kanta(tiedosto);
   Taulukko muutokset = Materiaalimuutokset(Tilat, kanta);
   if (muutokset.empty()) return false;
-  const Vastaus vastaus =
-      ViestitNyt().Nayta({Teksti(tekstit::kVakiokantaUudempi) + " " + Teksti(tekstit::kPaivitetaankoMateriaalit),
-                          {},
-                          Vakavuus::Kysymys,
-                          Napit::KyllaEi,
-                          Vastaus::Ei});
-  if (vastaus != Vastaus::Kylla) return false;
+  if (!Kysy(tekstit::kVakiokantaUudempi, tekstit::kPaivitetaankoMateriaalit)) return false;
   if (!HyvaksyMateriaalimuutokset(std::move(muutokset))) return false;
   PaivitaMateriaalitVakiokannasta(tiedosto);
   return true;
@@ -225,4 +229,48 @@ bool clsRakennus::TarjoaMateriaalienPaivitysta() try {
   Ilmoita(Teksti(tekstit::kMateriaalejaEiPaivitetty) + "\n" + virhe.SyynKuvaus(), Teksti(tekstit::kVirhe),
           Vakavuus::Varoitus);
   return false;
+}
+
+bool clsRakennus::EnVakioKantaUudempiKuinMinun(std::int32_t versio) const {
+  for (const clsEnergianHankinta* hankinta : {&Perustiedot.LammonHankinta, &Perustiedot.SahkonHankinta})
+    for (const clsEnergiamuoto& muoto : hankinta->Energiamuodot)
+      if (muoto.OnVakiokannasta && versio > muoto.EnergiaMuotokannanVersio) return true;
+  return false;
+}
+
+void clsRakennus::PaivitaEnMuodotVakiokannasta() try {
+  Energiamuotokanta kanta(Energiamuotokanta::Laji::Vakio);
+  const Odotus odotus(Teksti(tekstit::kPaivitetaanMuotoja));
+  auto puuttuvat = Perustiedot.LammonHankinta.PaivitaEMuodotVakiokannasta(kanta);
+  const auto sahkon = Perustiedot.SahkonHankinta.PaivitaEMuodotVakiokannasta(kanta);
+  puuttuvat.insert(puuttuvat.end(), sahkon.begin(), sahkon.end());
+  if (!puuttuvat.empty()) KerroLuettelo(Teksti(tekstit::kMuotojaEiKannassa), puuttuvat);
+} catch (...) {
+  NostaVirhe("clsRakennus:PaivitaEnMuodotVakiokannasta Method");
+}
+
+/// As with the materials. An object without forms of the standard database isn't bothered with a database that can't be
+/// read; one that tells no version is told of in any case. True when the forms were brought up to date.
+bool clsRakennus::TarjoaEnergiamuotojenPaivitysta() {
+  try {
+    Energiamuotokanta kanta(Energiamuotokanta::Laji::Vakio);
+    const std::int32_t versio = kanta.Versio();
+    if (versio == -1) {
+      Ilmoita(Teksti(tekstit::kMuotojaEiVerrattu), Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
+      return false;
+    }
+    if (!EnVakioKantaUudempiKuinMinun(versio)) return false;
+    Energiamuotomuutokset muutokset = VertaaEnergiamuodot(Perustiedot, kanta);
+    if (muutokset.Tyhja()) return false;
+    if (!Kysy(tekstit::kPolttoainekantaUudempi, tekstit::kPaivitetaankoMuodot)) return false;
+    if (!HyvaksyEnergiamuotomuutokset(std::move(muutokset.rivit))) return false;
+    Ilmoita(Teksti(tekstit::kMuodotHaetaan) + " " + Teksti(tekstit::kMuotojenOsuudetSailyvat));
+    PaivitaEnMuodotVakiokannasta();
+    return true;
+  } catch (const Virhe& virhe) {
+    if (EnVakioKantaUudempiKuinMinun(std::numeric_limits<std::int32_t>::max()))
+      Ilmoita(Teksti(tekstit::kMuotojaEiVerrattu) + "\n" + virhe.SyynKuvaus(), Teksti(tekstit::kVirhe),
+              Vakavuus::Varoitus);
+    return false;
+  }
 }

@@ -115,3 +115,15 @@ void clsEnergiamuoto::Paivita(const clsEnergiamuoto& uusi) {
   tuore.LaskePaastotPolttoaineista = LaskePaastotPolttoaineista;
   Korvaa(tuore);
 }
+
+clsResurssi& clsEnergiamuoto::LisaaPolttoaine(const clsResurssi& polttoaine) try {
+  const Tunniste avain = Tunniste::Uusi(clsResurssi::kLuokka.NimiSana());
+  clsResurssi& uusi = Resurssit.Add(avain);
+  const Tunniste tunnus = uusi.InstanssiId;
+  uusi = polttoaine;
+  uusi.sKey = avain;
+  uusi.InstanssiId = tunnus;
+  return uusi;
+} catch (...) {
+  NostaVirhe("clsEnergiamuoto:LisaaPolttoaine Method");
+}

@@ -60,6 +60,8 @@ class clsEnergiamuoto : public Malli<clsEnergiamuoto, Alkio> {
   /// × the share of it, MWh; 0 with an efficiency of 0. Below 0 for a heat pump.
   double Konversiohavio(double verkko) const;
 
+  /// Adds a fuel to the list that the impact is computed from, under a fresh key.
+  clsResurssi& LisaaPolttoaine(const clsResurssi& polttoaine);
   /// Takes all that `uusi`, a row of a fuel database, tells of the form. Its place in the supply stays: key, identity,
   /// kind, share and tariffs.
   void Korvaa(const clsEnergiamuoto& uusi);

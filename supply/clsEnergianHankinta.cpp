@@ -5,9 +5,12 @@
 
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "supply/Energiamuotokanta.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "tekstit/tulokset.h"
+#include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Viestit.h"
 
 namespace {
 
@@ -37,6 +40,15 @@ constexpr Tulos kTulokset[] = {
 
 constexpr std::array kUusiMuoto{tekstit::kUusiLampomuoto, tekstit::kUusiSahkomuoto, tekstit::kUusiVesimuoto};
 
+/// The version of the standard fuel database; 0 when it can't be read, which is told where it is needed.
+std::int32_t VakiokannanVersio() {
+  try {
+    return Energiamuotokanta(Energiamuotokanta::Laji::Vakio).Versio();
+  } catch (const Virhe&) {
+    return 0;
+  }
+}
+
 }  // namespace
 
 const Luokka clsEnergianHankinta::kLuokka{"clsEnergianHankinta", kJasenet, kTulokset};
@@ -46,7 +58,35 @@ clsEnergiamuoto& clsEnergianHankinta::LisaaMuoto() try {
   muoto.Nimi = Teksti(kUusiMuoto.at(static_cast<std::size_t>(Kayttotarkoitus)));
   muoto.Tyyppi = Kayttotarkoitus;
   muoto.OnVakiokannasta = Kayttotarkoitus != Vesi;
+  if (muoto.OnVakiokannasta) muoto.EnergiaMuotokannanVersio = VakiokannanVersio();
   return muoto;
 } catch (...) {
   NostaVirhe("clsEnergianHankinta:LisaaMuoto Method");
+}
+
+std::vector<clsEnergiamuoto*> clsEnergianHankinta::VakiokannanMuodot() const {
+  std::vector<clsEnergiamuoto*> muodot;
+  for (clsEnergiamuoto& muoto : Energiamuodot) {
+    if (muoto.Tyyppi == Vesi) break;
+    if (muoto.OnVakiokannasta && muoto.IdEmuotoKannassa != 0) muodot.push_back(&muoto);
+  }
+  return muodot;
+}
+
+std::vector<std::string> clsEnergianHankinta::PaivitaEMuodotVakiokannasta(Energiamuotokanta& kanta) try {
+  std::vector<std::string> puuttuvat;
+  const auto muodot = VakiokannanMuodot();
+  if (muodot.empty()) return puuttuvat;
+  const std::int32_t versio = kanta.Versio();
+  if (versio == -1) Ilmoita(Teksti(tekstit::kMuotojenVersioLukematta), Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
+  for (clsEnergiamuoto* muoto : muodot) {
+    if (const auto rivi = kanta.Hae(muoto->IdEmuotoKannassa))
+      muoto->Paivita(kanta.Muoto(*rivi));
+    else
+      puuttuvat.push_back(muoto->Nimi);
+    if (versio != -1) muoto->EnergiaMuotokannanVersio = versio;
+  }
+  return puuttuvat;
+} catch (...) {
+  NostaVirhe("clsEnergianHankinta:PaivitaEMuodotVakiokannasta Method");
 }

@@ -2,6 +2,8 @@
 #pragma once
 #include "supply/clsEnergiamuodot.h"
 
+class Energiamuotokanta;
+
 /// How heat, electricity or water is bought.
 class clsEnergianHankinta : public Malli<clsEnergianHankinta> {
  public:
@@ -15,4 +17,11 @@ class clsEnergianHankinta : public Malli<clsEnergianHankinta> {
 
   /// Adds a form of the supply's kind under a fresh key. One of heat or electricity counts as of the standard base.
   clsEnergiamuoto& LisaaMuoto();
+
+  /// The forms that were taken from a row of the standard fuel database. Water isn't: its first form ends the search.
+  std::vector<clsEnergiamuoto*> VakiokannanMuodot() const;
+  /// Gives those forms the values and the version that the database has now; shares, tariffs and resources stay.
+  /// Returns the names of those whose row is gone: they keep their values. A database without a version is told of.
+  /// Raises error 9999 as the database does.
+  std::vector<std::string> PaivitaEMuodotVakiokannasta(Energiamuotokanta& kanta);
 };

@@ -1,21 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/Ohjaimet.h"
+#include "ui/Muutoslomake.h"
 
-/// What a newer standard library would change in the materials of the structures, before it is done.
-class frmMateriaalimuutokset : public Lomake {
+/// What a newer standard library would change in the materials of the structures. Rows: space, structure, layer,
+/// material, figure, present and new value.
+class frmMateriaalimuutokset : public Muutoslomake {
  public:
-  frmMateriaalimuutokset();
-
-  /// Shows the rows (space, structure, layer, material, figure, present and new value), modal. True when the person
-  /// takes them.
-  bool Kysy(Taulukko muutokset);
-
-  ListView lvwMuutokset{*this, "lvwMuutokset"};
-  Label lblMaara{*this, "lblMaara"};
-  CommandButton cmdOk{*this, "cmdOk"};
-  CommandButton cmdPeruuta{*this, "cmdPeruuta"};
-
- private:
-  bool hyvaksytty_ = false;
+  frmMateriaalimuutokset() : Muutoslomake("frmMateriaalimuutokset") {}
 };

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/frmMateriaalimuutokset.h"
+#include "ui/Muutoslomake.h"
 
 #include "tekstit/lomakkeet_kirjasto.h"
 #include "ui/Tekstivarasto.h"
 
-namespace {}
-
-frmMateriaalimuutokset::frmMateriaalimuutokset() : Lomake("frmMateriaalimuutokset") {
+Muutoslomake::Muutoslomake(const char* nimi) : Lomake(nimi) {
   cmdOk.KunKlikataan([this] {
     hyvaksytty_ = true;
     Sulje();
@@ -14,7 +12,7 @@ frmMateriaalimuutokset::frmMateriaalimuutokset() : Lomake("frmMateriaalimuutokse
   cmdPeruuta.KunKlikataan([this] { Sulje(); });
 }
 
-bool frmMateriaalimuutokset::Kysy(Taulukko muutokset) {
+bool Muutoslomake::Kysy(Taulukko muutokset) {
   lblMaara.Otsikko(Teksti(tekstit::kMuutoksia) + " " + std::to_string(muutokset.size()));
   lvwMuutokset.Rivit(std::move(muutokset));
   NaytaModaalisena();
