@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Makes the sample audits: project files of invented, typical Finnish buildings, by the program's own generator.
-// Arguments: the table of the buildings (data/malliauditoinnit.csv) and the folder of the project files.
+// Arguments: the table of the buildings (data/malliauditoinnit.csv), that of their consumer groups
+// (data/malliauditoinnit_ryhmat.csv), and the folder of the project files.
 #include <filesystem>
 #include <iostream>
-#include <map>
-#include <sstream>
 
+#include "batch/malliauditoinnit/Kulutusryhmat.h"
 #include "building/Yhteiset.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
-#include "kernel/Luvut.h"
-#include "kernel/Tekstitiedosto.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/KerataanViestit.h"
@@ -22,38 +21,7 @@
 
 namespace {
 
-using Rivi = std::map<std::string, std::string>;
-
 constexpr std::int32_t kMuuKayttoaika = 4;
-
-std::vector<std::string> Kentat(const std::string& rivi, char erotin = ',') {
-  std::vector<std::string> kentat;
-  std::istringstream lahde(rivi);
-  for (std::string kentta; std::getline(lahde, kentta, erotin);) kentat.push_back(kentta);
-  return kentat;
-}
-
-std::vector<Rivi> LueTaulukko(const std::string& polku) {
-  const auto rivit = LueRivit(polku);
-  const auto otsikot = Kentat(rivit.at(0));
-  std::vector<Rivi> taulukko;
-  for (std::size_t i = 1; i < rivit.size(); ++i) {
-    const auto kentat = Kentat(rivit[i]);
-    Rivi& rivi = taulukko.emplace_back();
-    for (std::size_t k = 0; k < otsikot.size(); ++k) rivi[otsikot[k]] = kentat.at(k);
-  }
-  return taulukko;
-}
-
-double Luku(const Rivi& rivi, const std::string& sarake) {
-  const auto luku = LueLuku(rivi.at(sarake));
-  if (!luku) throw std::runtime_error(rivi.at("Tunnus") + ", " + sarake + ": ei ole luku");
-  return *luku;
-}
-
-std::int32_t Kokonaisluku(const Rivi& rivi, const std::string& sarake) {
-  return PyoristaKokonaisluvuksi(Luku(rivi, sarake));
-}
 
 std::int16_t Kayttotarkoitusindeksi(int koodi) {
   const auto& koodit = clsRakennus::KayttoTarkoitusKoodit;
@@ -92,7 +60,9 @@ void TaytaPerustiedot(const Rivi& rivi, clsPerustiedot& tiedot) {
   TaytaKulutukset(rivi, tiedot.ToteutuneetKulutukset);
 }
 
-void AsetaKayttoaika(const Rivi& rivi, clsTila& tila) {
+void TaytaTila(const Rivi& rivi, clsTila& tila) {
+  tila.Sisalampotila = Luku(rivi, "Sisalampotila");
+  tila.Vuotoilmanvaihto = Luku(rivi, "Vuotoilma");
   tila.TilanKayttoaikaID = kMuuKayttoaika;
   tila.TilanKayttoaikaStr = Valintalista("frmTila", "cmbTilanKayttoaika").at(kMuuKayttoaika);
   tila.TilanKayttoaikaHpA = Luku(rivi, "KayttoaikaHpA");
@@ -165,13 +135,15 @@ void AsetaIlmanvaihto(const Rivi& rivi, clsRakennus& rakennus) {
   tila.PainovoimainenIVMaara = painovoimainen;
 }
 
-void TeeMalliauditointi(const Rivi& rivi, const std::filesystem::path& kansio) {
+void TeeMalliauditointi(const Rivi& rivi, const std::vector<Rivi>& ryhmat, const std::filesystem::path& kansio) {
   clsRakennus rakennus;
   AsetaGlobaaliRakennus(&rakennus);
   TaytaPerustiedot(rivi, rakennus.Perustiedot);
   rakennus.Perustiedot.OtaKayttoon(0);
-  for (clsTila& tila : rakennus.Tilat) AsetaKayttoaika(rivi, tila);
+  for (clsTila& tila : rakennus.Tilat) TaytaTila(rivi, tila);
   AsetaIlmanvaihto(rivi, rakennus);
+  AsetaKulutusryhmat(rivi.at("Tunnus"), ryhmat, rakennus);
+  rakennus.VedenKulutusryhmat.LKVKiertoVirtaama = Luku(rivi, "LkvKiertovirtaama");
   const auto tiedosto = kansio / (rivi.at("Tunnus") + " " + rivi.at("Nimi") + ".lvt");
   if (!rakennus.Tallenna(tiedosto.string())) throw std::runtime_error("tallennus epäonnistui: " + tiedosto.string());
 }
@@ -179,13 +151,14 @@ void TeeMalliauditointi(const Rivi& rivi, const std::filesystem::path& kansio) {
 }  // namespace
 
 int main(int argc, char** argv) try {
-  if (argc != 3) throw std::runtime_error("käyttö: lumivirta-malliauditoinnit TAULUKKO.csv KANSIO");
+  if (argc != 4) throw std::runtime_error("käyttö: lumivirta-malliauditoinnit TAULUKKO.csv RYHMAT.csv KANSIO");
   KerataanViestit viestit;
   AsetaViestit(&viestit);
   AlustaTekstit();
   Asetukset().HaeRekisteristä();
-  std::filesystem::create_directories(argv[2]);
-  for (const Rivi& rivi : LueTaulukko(argv[1])) TeeMalliauditointi(rivi, argv[2]);
+  std::filesystem::create_directories(argv[3]);
+  const auto ryhmat = LueTaulukko(argv[2]);
+  for (const Rivi& rivi : LueTaulukko(argv[1])) TeeMalliauditointi(rivi, ryhmat, argv[3]);
   std::cerr << KoosteTekstina(viestit.Naytetyt());
   return viestit.Naytetyt().empty() ? 0 : 1;
 } catch (const std::exception& virhe) {

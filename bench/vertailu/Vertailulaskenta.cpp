@@ -124,7 +124,8 @@ Vertailulaskenta::Vertailulaskenta(clsRakennus& rakennus) {
   for (const clsEnergiamuoto& muoto : tiedot.LammonHankinta.Energiamuodot)
     energiamuodot_.push_back({muoto.OsuusNettotarpeesta / 100, muoto.Hyotysuhde / 100});
   for (const clsSahkonKulutusryhma& ryhma : rakennus.SahkonKulutusryhmat)
-    if (ryhma.LiittyyTilaansKey.Tyhja()) yleiskulutus_ += ryhma.Vuosikulutus() * 1000;
+    if (ryhma.LiittyyTilaansKey.Tyhja() && ryhma.EnergiaHyodynnetaanLammityksessa)
+      yleiskulutus_ += ryhma.Vuosikulutus() * 1000;
   for (const clsTila& t : rakennus.Tilat) {
     Tila tila{t.Kokonaistilavuus,  t.BruttoAla,
               t.TilanHenkilomaara, t.TilanKayttoaikaHpA,
@@ -132,7 +133,8 @@ Vertailulaskenta::Vertailulaskenta(clsRakennus& rakennus) {
               t.Saatohyotysuhde,   0,
               rakenteet_.size(),   0};
     for (const clsSahkonKulutusryhma& ryhma : rakennus.SahkonKulutusryhmat)
-      if (ryhma.LiittyyTilaansKey == t.sKey) tila.ryhmienKulutus += ryhma.Vuosikulutus() * 1000;
+      if (ryhma.LiittyyTilaansKey == t.sKey && ryhma.EnergiaHyodynnetaanLammityksessa)
+        tila.ryhmienKulutus += ryhma.Vuosikulutus() * 1000;
     for (const clsRakenne& r : t.Rakenteet) {
       Rakenne rakenne = Poimi(r);
       rakenne.kerrostenAlku = kerrokset_.size();

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -15,6 +16,8 @@
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "building/clsTilat.h"
+#include "consumers/Kulutusluettelo.h"
+#include "consumers/clsSahkonKulutusryhma.h"
 #include "kernel/Luvut.h"
 #include "tests/app/Koekoti.h"
 #include "tests/qt/Ikkunatesti.h"
@@ -26,7 +29,7 @@
 
 namespace {
 
-constexpr double kVakioOsuus = 96;  // MWh/a, in the guide entered as other heat too
+constexpr double kVakioOsuus = 48;  // MWh/a
 
 std::string OppaanSivu(const char* sivu) {
   std::ifstream virta(Lahdekoodi(std::string("docs/opas/") + sivu));
@@ -79,7 +82,6 @@ class OppaanEsimerkki : public ::testing::Test {
     const std::string koulu = koti_.Tiedosto("Koulu.lvt");
     std::filesystem::copy_file(AppPath() + "Malliauditoinnit/K01 Koulu 1965.lvt", koulu);
     ASSERT_TRUE(istunto_.Avaa(koulu));
-    rakennus().MuuLampo = kVakioOsuus;
     rakennus().Perustiedot.LammKulVakioOsuus.kkOsuus = kVakioOsuus / 12;
     rakennus().Perustiedot.LammKulVakioOsuus.VuosiOsuus = kVakioOsuus;
   }
@@ -113,8 +115,8 @@ TEST_F(OppaanEsimerkki, FiguresOfTheHeatSummaryAreTheGuides) {
   const Lomake& yhteenveto = *AvoinLomake("frmLampoYhteenveto");
   KuvaaLomake(yhteenveto);
   const std::string opas = OppaanSivu("lampoyhteenveto.md");
-  for (const char* kentta : {"txtTilojenLammitys", "txtIlmanvaihtokoneet", "txtYhteensa", "txtToteutunutKulutus",
-                             "txtHaviot", "txtHaviotYhteensa"})
+  for (const char* kentta : {"txtTilojenLammitys", "txtIlmanvaihtokoneet", "txtKayttoVedenLammitys", "txtYhteensa",
+                             "txtToteutunutKulutus", "txtHaviot", "txtHaviotYhteensa"})
     EXPECT_NE(opas.find(yhteenveto.Etsi(kentta).Teksti()), std::string::npos)
         << kentta << ": " << yhteenveto.Etsi(kentta).Teksti();
   for (const char* nappi : {"Command4", "cmdNaytaGraafi"}) {
@@ -162,6 +164,18 @@ TEST_F(OppaanEsimerkki, MachineSchedulesAndFans) {
   });
   EXPECT_FALSE(kone.NaytaKayttoliittyma());
   EXPECT_EQ(kone.Sahko(), sahko);
+}
+
+TEST_F(OppaanEsimerkki, PickingFromTheCatalogue) {
+  KunAuki("cmdPeruuta");
+  clsSahkonKulutusryhma ryhma;
+  EXPECT_FALSE(PoimiLuettelosta(ryhma));
+  const auto laitteet = LueSahkolaitteet(51);
+  TaytaRyhma(*std::ranges::find(laitteet, "luokka_v", &Sahkolaite::Id), ryhma);
+  ryhma.LaskentayksikkoNumber = 2400;
+  const std::string opas = OppaanSivu("kulutusluettelo.md");
+  EXPECT_NE(opas.find(ryhma.KulutusRyhma), std::string::npos);
+  EXPECT_NE(opas.find(Muotoile(ryhma.Vuosikulutus(), "0.0") + " MWh/a"), std::string::npos);
 }
 
 TEST_F(OppaanEsimerkki, FiguresOfTheMonthlyBalanceAreTheGuides) {
