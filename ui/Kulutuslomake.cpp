@@ -59,6 +59,7 @@ void Kulutuslomake::NaytaKaytto(bool tunnit, bool paivat) {
 void Kulutuslomake::Nayta(Kayttokentta& kaytto, bool nakyva) {
   const TextBox& kentta = kaytto.kentta;
   if (kentta.Nakyva() == nakyva) return;
+  kentta.Kohde().PaataMuokkaus();
   if (nakyva) {
     kentta.Kohde().Teksti(kaytto.teksti, kaytto.luku);
   } else {
