@@ -142,8 +142,8 @@ void TeeMalliauditointi(const Rivi& rivi, const std::vector<Rivi>& ryhmat, const
   rakennus.Perustiedot.OtaKayttoon(0);
   for (clsTila& tila : rakennus.Tilat) TaytaTila(rivi, tila);
   AsetaIlmanvaihto(rivi, rakennus);
-  AsetaKulutusryhmat(rivi.at("Tunnus"), ryhmat, rakennus);
   rakennus.VedenKulutusryhmat.LKVKiertoVirtaama = Luku(rivi, "LkvKiertovirtaama");
+  AsetaKulutusryhmat(rivi.at("Tunnus"), ryhmat, rakennus);
   const auto tiedosto = kansio / (rivi.at("Tunnus") + " " + rivi.at("Nimi") + ".lvt");
   if (!rakennus.Tallenna(tiedosto.string())) throw std::runtime_error("tallennus epäonnistui: " + tiedosto.string());
 }
