@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 #include "batch/Rinnakkain.h"
@@ -16,6 +17,7 @@
 #include "tekstit/tulokset.h"
 #include "tekstit/viestit.h"
 #include "tests/batch/Malliauditoinnit.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
@@ -130,6 +132,22 @@ TEST_F(KohdelaskentaTesti, TheSummarysColumnAddsUpAndLargeNumbersStayApart) {
   EXPECT_EQ(Muotoile(summa, "0.00"), Muotoile(yhteensa, "0.00"));
   const double mitattu = LueLuku(Luvut(yhteenveto, "Mitattu kulutus, normitettu")[0]).value();
   EXPECT_EQ(Luvut(yhteenveto, "Mitattu − laskettu")[0], Muotoile(mitattu - yhteensa, "### ##0.00"));
+}
+
+TEST_F(KohdelaskentaTesti, TheGuideShowsTheSummaryAndTellsEveryKeyOfTheJson) {
+  const std::string opas = Sisalto(Lahdekoodi("docs/opas/komentorivi.md"));
+  const fs::path koulu = Tiedostot().front();
+  std::string yhteenveto = LaskeKohde(koulu.string(), Tulostusmuoto::Yhteenveto, 0).tulos;
+  yhteenveto.replace(yhteenveto.find(koulu.string()), koulu.string().size(), koulu.filename().string());
+  yhteenveto.pop_back();
+  EXPECT_NE(opas.find("```\n" + yhteenveto + "```"), std::string::npos) << yhteenveto;
+
+  const std::string json = LaskeKohde(koulu.string(), Tulostusmuoto::Json, 0).tulos;
+  const std::regex avain("\"(\\w+)\": ");
+  for (std::sregex_iterator it(json.begin(), json.end(), avain), loppu; it != loppu; ++it)
+    if (!(*it)[1].str().starts_with("sKey")) {
+      EXPECT_TRUE(Sisaltaa(opas, "`" + (*it)[1].str() + "`")) << (*it)[1];
+    }
 }
 
 TEST_F(KohdelaskentaTesti, EqualNoticesAreOneLineThatTellsTheirObjects) {
