@@ -3,6 +3,7 @@
 
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "building/clsSaa.h"
 #include "building/clsTilat.h"
@@ -11,6 +12,8 @@
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 #include "ventilation/clsIVKoneet.h"
@@ -45,6 +48,9 @@ constexpr Tulos kJuuri[] = {
     Kokoelmatulos<[](clsRakennus& r) -> clsIVKoneet& { return r.IVKoneet; }>("IVKoneet"),
     Osatulos<[](clsRakennus& r) -> clsSahkonKulutusryhmat& { return r.SahkonKulutusryhmat; }>("Sahkoryhmat"),
     Osatulos<[](clsRakennus& r) -> clsVedenKulutusryhmat& { return r.VedenKulutusryhmat; }>("Vesiryhmat"),
+    Osatulos<[](clsRakennus& r) -> clsPerustiedot& { return r.Perustiedot; }>("EnergianHankinta"),
+    Kokoelmatulos<[](clsRakennus& r) -> clsTariffit& { return r.Tariffit; }>("Tariffit"),
+    Kokoelmatulos<[](clsRakennus& r) -> clsVesitariffit& { return r.Vesitariffit; }>("Vesitariffit"),
 };
 
 /// Writes rows of results, and keeps the errors of those that can't be computed.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <algorithm>
-
+#include "batch/Hankintayhteenveto.h"
+#include "batch/Tekstitaulu.h"
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsPerustiedot.h"
@@ -28,68 +28,41 @@ constexpr std::string_view kHaviotJaBrutto[] = {"VuotuisetSaatohaviot", "Vuotuis
 constexpr std::string_view kSahkot[] = {"SahkoLaitteidenVuosikulutus", "LammitysSahkonVuosikulutus"};
 constexpr std::string_view kVedet[] = {"VuotuinenKvKulutus", "VuotuinenKylmanProsessivedenKulutus"};
 
-/// Characters of a UTF-8 text: its bytes less the continuation bytes.
-std::size_t Merkkeja(std::string_view teksti) {
-  return static_cast<std::size_t>(
-      std::ranges::count_if(teksti, [](char tavu) { return (static_cast<unsigned char>(tavu) & 0xC0) != 0x80; }));
-}
-
-std::string Taytto(std::string_view teksti, std::size_t leveys) {
-  return std::string(leveys - std::min(leveys, Merkkeja(teksti)), ' ');
-}
-
 /// The number as it is shown: what sums are taken of, so that the column adds up.
 double Naytetty(double arvo) { return LueLuku(Muotoile(arvo, kMaara)).value_or(arvo); }
 
-/// Rows of a name and numbers; as wide as its longest texts, a rule where a row is empty.
+/// Rows of a name and numbers.
 class Taulu {
  public:
   /// `yksikko` of the amounts, `tuhannesosa` of those for a square metre and a cubic metre of the building.
   Taulu(const clsPerustiedot& tiedot, Tekstinumero otsikko, const std::string& yksikko, const std::string& tuhannesosa)
-      : ala_(tiedot.BruttoAla), tilavuus_(tiedot.Kokonaistilavuus) {
-    rivit_.push_back({Teksti(otsikko), yksikko + "/a", tuhannesosa + "/m²,a", tuhannesosa + "/m³,a"});
-  }
+      : ala_(tiedot.BruttoAla),
+        tilavuus_(tiedot.Kokonaistilavuus),
+        taulu_({Teksti(otsikko), yksikko + "/a", tuhannesosa + "/m²,a", tuhannesosa + "/m³,a"}) {}
   /// A row of the number as it is shown, which is given back.
   double Luku(Tekstinumero nimi, double arvo) {
     arvo = Naytetty(arvo);
-    rivit_.push_back({Teksti(nimi), Muotoile(arvo, kMaara), Ominaisarvo(arvo, ala_), Ominaisarvo(arvo, tilavuus_)});
+    taulu_.Lisaa({Teksti(nimi), Muotoile(arvo, kMaara), Ominaisarvo(arvo, ala_), Ominaisarvo(arvo, tilavuus_)});
     return arvo;
   }
   /// Rows of what was computed, given as their sum so far, and of what was measured.
   void Vertailu(double laskettu, Tekstinumero mitatunNimi, double mitattu) {
-    Viiva();
+    taulu_.Viiva();
     Luku(tekstit::kLaskettuKulutus, laskettu);
     mitattu = Luku(mitatunNimi, mitattu);
     Luku(tekstit::kMitattuVahennettynaLasketulla, mitattu - laskettu);
   }
-  void Viiva() { rivit_.emplace_back(); }
   void Tulosta(std::ostream& tulos) const {
-    Rivi leveydet{};
-    std::array<std::size_t, kSarakkeita> merkkeja{};
-    for (const Rivi& rivi : rivit_)
-      for (std::size_t i = 0; i < kSarakkeita; ++i) merkkeja[i] = std::max(merkkeja[i], Merkkeja(rivi[i]));
-    for (const Rivi& rivi : rivit_) TulostaRivi(tulos, rivi, merkkeja);
+    taulu_.Tulosta(tulos);
     tulos << '\n';
   }
 
  private:
-  static constexpr std::size_t kSarakkeita = 4;
-  using Rivi = std::array<std::string, kSarakkeita>;
-
   static std::string Ominaisarvo(double maara, double jakaja) {
     return jakaja > 0 ? Muotoile(maara * kTuhat / jakaja, kMaara) : "-";
   }
-  static void TulostaRivi(std::ostream& tulos, const Rivi& rivi, const std::array<std::size_t, kSarakkeita>& leveydet) {
-    const bool viiva = rivi == Rivi{};
-    for (std::size_t i = 0; i < kSarakkeita; ++i) {
-      const std::string taytto = viiva ? std::string(leveydet[i], '-') : Taytto(rivi[i], leveydet[i]);
-      tulos << kValissa << (i == 0 ? rivi[i] + taytto : taytto + rivi[i]);
-    }
-    tulos << '\n';
-  }
-
   double ala_, tilavuus_;
-  std::vector<Rivi> rivit_;
+  Tekstitaulu taulu_;
 };
 
 /// Rows of the object's results; their sum.
@@ -148,6 +121,7 @@ void KirjoitaYhteenveto(std::ostream& tulos, const std::string& tiedosto, clsRak
   Taulu vesi(tiedot, tekstit::kYhteenvedonVesi, "m³", "dm³");
   vesi.Vertailu(Tulosrivit(vesi, rakennus.VedenKulutusryhmat, kVedet), tekstit::kMitattuKulutus, mitattu.Vesi);
   vesi.Tulosta(tulos);
+  KirjoitaHankinta(tulos, rakennus);
   for (const std::string& rivi : Viestirivit(viestit))
     tulos << kValissa << Teksti(tekstit::kHuomautus) << ": " << rivi << "\n\n";
 }
