@@ -71,6 +71,32 @@ TEST_F(KohdelaskentaTesti, ANewerProgramsFileAndAMissingFileAreRefused) {
   EXPECT_TRUE(Sisaltaa(ajo.virheet, Teksti(tekstit::kVersioUudempi))) << ajo.virheet;
 }
 
+TEST_F(KohdelaskentaTesti, TheSchoolBuysHeatAtItsTariffWithVatAsTheSettingsSay) {
+  const std::string koulu = Tiedostot().front().string();
+  const double ostettu = Avaa(koulu)->VuotuinenBruttoLampoEnergia();
+  for (const bool alv : {false, true}) {
+    Asetukset().KaytaKohtTulostuksissaALVHintoja = alv;
+    const double kustannus = (33 * ostettu + 16 * 330) * Asetukset().NayttoKerroin(Energialaji::Lampo);
+    const std::string tulos = LaskeKohde(koulu, Tulostusmuoto::Yhteenveto, 0).tulos;
+    EXPECT_TRUE(Sisaltaa(tulos, Muotoile(ostettu, "### ##0.00") + " MWh/a  " + Muotoile(kustannus, "### ##0") + " "))
+        << tulos;
+    EXPECT_EQ(Sisaltaa(tulos, "sisältävät arvonlisäveron"), alv);
+    EXPECT_TRUE(Sisaltaa(tulos, Muotoile(ostettu * 183 / 1000, "0.00") + "\n")) << tulos;
+  }
+  Asetukset().HaeRekisteristä();
+}
+
+TEST_F(KohdelaskentaTesti, ATariffThatIsGoneLeavesOnlyItsSupplyUntold) {
+  const std::string tiedosto = Muutettu("UPDATE clsEnergiamuoto SET MyyntiTariffiSkey = 'poistettu' WHERE Tyyppi = 0");
+  const Laskettu json = LaskeKohde(tiedosto, Tulostusmuoto::Json, 0);
+  EXPECT_FALSE(json.onnistui);
+  EXPECT_TRUE(Sisaltaa(json.tulos, "\"LammonHankinta\": {\n      \"Keskihinta\": null")) << json.tulos;
+  EXPECT_TRUE(Sisaltaa(json.tulos, "clsEnergiamuodot:Keskihinta Method: avainta ei ole: poistettu"));
+  const Laskettu teksti = LaskeKohde(tiedosto, Tulostusmuoto::Yhteenveto, 0);
+  EXPECT_TRUE(Sisaltaa(teksti.tulos, "Lämmön hankinta: avainta ei ole: poistettu")) << teksti.tulos;
+  EXPECT_TRUE(Sisaltaa(teksti.tulos, "Sähkön hankinta  "));
+}
+
 /// A user whose data directory is missing or can't be filled has the files of the package.
 TEST_F(KohdelaskentaTesti, WithoutADataDirectoryTheInstalledFilesAreRead) {
   const std::string kohde = "'" + Tiedostot().front().string() + "'";
