@@ -150,6 +150,8 @@ clsRakennus::clsRakennus()
   Tilat.Kotiudu(koti_);
   IVKoneet.Kotiudu(koti_);
   SahkonKulutusryhmat.Kotiudu(koti_);
+  Saastotoimenpiteet.Kotiudu(koti_);
+  ToimenpiteidenJarjestelija.Kotiudu(koti_);
   Perustiedot.Kotiudu(koti_);
   Tariffit.Kotiudu(koti_);
   Vesitariffit.Kotiudu(koti_);
@@ -341,19 +343,51 @@ double clsRakennus::VuotuisetSahkoKonversiohaviot() try {
 
 double clsRakennus::VuotuinenBruttoLampoEnergia() try {
   const Tasehaarukka haarukka(*this);
-  return Aarellinen(VuotuinenLampoEnergianTarveTilat() + VuotuinenIVjalkilammitysLampo() + VuotuisetLKVHaviot() +
-                    VuotuisetProsessiVesiHaviot() + MuuLampo + VuotuisetSaatohaviot() +
-                    VuotuisetLammonKonversiohaviot() - SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
+  return BruttoLampoEnergia(Lammityssummat());
 } catch (...) {
   NostaVirhe("clsRakennus:VuotuinenBruttoLampoEnergia Method");
 }
 
 double clsRakennus::VuotuinenBruttoSahkoEnergia() try {
   const Tasehaarukka haarukka(*this);
-  return Aarellinen(VuotuisetSahkoKonversiohaviot() + SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus() +
-                    SahkonKulutusryhmat.LammitysSahkonVuosikulutus());
+  Energiasummat summat = Lammityssummat();
+  summat.puhaltimet = IVKoneet.VuotuinenPuhallinSahko();
+  return BruttoSahkoEnergia(summat);
 } catch (...) {
   NostaVirhe("clsRakennus:VuotuinenBruttoLampoEnergia Method");
+}
+
+/// All but that of the fans.
+Energiasummat clsRakennus::Lammityssummat() {
+  return {.tarve = VuotuinenLampoEnergianTarveTilat(),
+          .saatohaviot = VuotuisetSaatohaviot(),
+          .sahkotilat = Tilat.VuotuinenLammityssahko(),
+          .jalkilammitys = VuotuinenIVjalkilammitysLampo(),
+          .patterit = IVKoneet.VuotuinenPatteriSahko()};
+}
+
+double clsRakennus::BruttoLampoEnergia(const Energiasummat& s) const try {
+  return Aarellinen(s.tarve + s.jalkilammitys + VedenKulutusryhmat.VuotuinenLkvLammityksenEnergia() +
+                    VedenKulutusryhmat.VuotuinenProsessivedenLammityksenEnergia() + MuuLampo + s.saatohaviot +
+                    Perustiedot.LammonHankinta.Energiamuodot.Konversiohaviot(LammonNettotarve(s)) -
+                    SahkonKulutusryhmat.LammitysSahkonVuosikulutus(s.sahkotilat, s.patterit));
+} catch (...) {
+  NostaVirhe("clsRakennus:BruttoLampoEnergia Method");
+}
+
+double clsRakennus::SahkonNettotarve(const Energiasummat& s) const try {
+  return SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus(s.puhaltimet) +
+         SahkonKulutusryhmat.LammitysSahkonVuosikulutus(s.sahkotilat, s.patterit);
+} catch (...) {
+  NostaVirhe("clsRakennus:SahkonNettotarve Method");
+}
+
+double clsRakennus::BruttoSahkoEnergia(const Energiasummat& s) const try {
+  return Aarellinen(Perustiedot.SahkonHankinta.Energiamuodot.Konversiohaviot(SahkonNettotarve(s)) +
+                    SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus(s.puhaltimet) +
+                    SahkonKulutusryhmat.LammitysSahkonVuosikulutus(s.sahkotilat, s.patterit));
+} catch (...) {
+  NostaVirhe("clsRakennus:BruttoSahkoEnergia Method");
 }
 
 double clsRakennus::VuotuinenBruttoLaiteSahkoEnergia() try {

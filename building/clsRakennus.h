@@ -25,6 +25,16 @@ class clsVedenKulutusryhmat;
 class clsVesitariffit;
 class frmLampoYhteenveto;
 
+/// Sums over the spaces and the machines of a building on which its gross energies rest, MWh/a.
+struct Energiasummat {
+  double tarve = 0;          ///< heat demand of the spaces
+  double saatohaviot = 0;    ///< control losses of the spaces
+  double sahkotilat = 0;     ///< demand and control losses of those heated by electricity
+  double jalkilammitys = 0;  ///< after-heating of the machines
+  double patterit = 0;       ///< the part of it that electric coils give
+  double puhaltimet = 0;     ///< electricity of the fans
+};
+
 /// A building: the root of the model. Owns every part, answers for the building's heat and electricity totals, and is
 /// what saving measures copy and patch. Holds no physics: a figure is pulled from the parts at the moment it is asked.
 ///
@@ -76,7 +86,12 @@ class clsRakennus : public Malli<clsRakennus> {
   /// Empties the register and rebuilds it by walking the tree.
   void PaivitaInstanssiIdLista();
   /// Objects have come, gone or been replaced: the register is rebuilt at the next look-up.
-  void RekisteriVanheni() noexcept { rekisteriVoimassa_ = false; }
+  void RekisteriVanheni() noexcept {
+    rekisteriVoimassa_ = false;
+    ++vaihe_;
+  }
+  /// Grows whenever objects or committed values have changed: figures kept from before it no longer hold.
+  std::uint64_t Vaihe() const noexcept { return vaihe_; }
   /// The object of that class and identity, with the item that holds it, or nothing. The one way to look into the
   /// register.
   Instanssi HaeInstanssi(std::string_view luokka, const Tunniste& instanssiId);
@@ -157,6 +172,11 @@ class clsRakennus : public Malli<clsRakennus> {
   double VuotuinenBruttoLampoEnergia();
   double VuotuinenBruttoSahkoEnergia();
   double VuotuinenBruttoLaiteSahkoEnergia();
+  /// Gross energies, and the net demands that the supplies convert, from sums that the caller has, MWh.
+  double BruttoLampoEnergia(const Energiasummat& summat) const;
+  double BruttoSahkoEnergia(const Energiasummat& summat) const;
+  double LammonNettotarve(const Energiasummat& summat) const { return summat.jalkilammitys + summat.tarve; }
+  double SahkonNettotarve(const Energiasummat& summat) const;
   /// Measured heat of the comparison year, its weather-dependent part scaled to the normal year: (Q − V) N / S + V.
   /// Warns when the constant share V exceeds Q; 0 with error 1050 when the year has no degree days S.
   double ToteutunutNormitettuLampo();
@@ -165,6 +185,9 @@ class clsRakennus : public Malli<clsRakennus> {
   /// differs from its file, measures, caches and register no longer hold, the session makes it a step of undo, and open
   /// windows show the new figures. `toiminto` is what the person sees as its name, "Tilan tiedot".
   void Muuttui(std::string_view toiminto);
+  /// The same for a change of saving measures or of their order: the model is what it was, and figures that rest on it
+  /// hold.
+  void ToimenpiteetMuuttuivat(std::string_view toiminto);
   /// Open windows show the present figures.
   void PaivitaNakymat();
   /// A window that shows results of this building: `naytaUudelleen` runs after each change while the subscription is
@@ -177,7 +200,9 @@ class clsRakennus : public Malli<clsRakennus> {
   void NaytaLampoYhteenvetoDlg();
 
  private:
+  Energiasummat Lammityssummat();
   void PoistaVoimasta();
+  void Vahvista(std::string_view toiminto);
   void LuoOletusmalli();
   void TyhjennaOsat();
   bool TarjoaMateriaalienPaivitysta();
@@ -191,6 +216,7 @@ class clsRakennus : public Malli<clsRakennus> {
   Koti koti_{*this};
   Muutosilmoitus nakymat_;
   bool rekisteriVoimassa_ = false;
+  std::uint64_t vaihe_ = 0;
   bool vaurioitunut_ = false;  // the file had values that could not be read: the next save keeps it aside
   std::unique_ptr<frmLampoYhteenveto> lampoYhteenveto_;
   Muutostilaus lampoYhteenvedonTilaus_;

@@ -48,12 +48,19 @@ class Vaiheet {
 void clsRakennus::PoistaVoimasta() {
   RekisteriVanheni();
   for (clsSaastotoimenpide& toimenpide : Saastotoimenpiteet) toimenpide.EnnenTiedotUpToDate = false;
+  ToimenpiteidenJarjestelija.Vanhenna();
   Tilat.VuotuinenLampoEnergianTarveUpToDate(false);
   IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = false;
 }
 
 void clsRakennus::Muuttui(std::string_view toiminto) {
   PoistaVoimasta();
+  Vahvista(toiminto);
+}
+
+void clsRakennus::ToimenpiteetMuuttuivat(std::string_view toiminto) { Vahvista(toiminto); }
+
+void clsRakennus::Vahvista(std::string_view toiminto) {
   Tallennettu = false;
   if (MuutosVahvistettu) MuutosVahvistettu(toiminto);
   nakymat_.Ilmoita();

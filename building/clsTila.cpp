@@ -104,12 +104,18 @@ void clsTila::AurKuormatTilassaUpToDate(bool voimassa) noexcept {
     for (clsRakenne& rakenne : Rakenteet) rakenne.MitatoiAurinkokuormat();
 }
 
+void clsTila::TaseUpToDate(bool voimassa) noexcept {
+  IVHaviotTilassaUpToDate(voimassa);
+  AurKuormatTilassaUpToDate(voimassa);
+  JohtumishaviotUpToDate(voimassa);
+}
+
 double clsTila::JohtumisHaviot(int kuukausi) const try {
   const Laskentakohde kohde(TilanNimi);
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   return johtumishaviotUpToDate_ ? johtumishaviot_.arvo[m] : Rakenteet.LampoHaviot(Sisalampotila, kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:JohtumisHaviot Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:JohtumisHaviot Method");
 }
 
 double clsTila::Vuotoilma(int kuukausi) const try {
@@ -119,7 +125,7 @@ double clsTila::Vuotoilma(int kuukausi) const try {
   return q * kIlmanTiheys * kIlmanLampokapasiteetti * (Sisalampotila - koti_.Rakennus().Saa.Keskilampotila(kuukausi)) *
          kPaivatKuukaudessa[m] * kTuntiaVuorokaudessa;
 } catch (...) {
-  NostaVirhe("clsTila:Vuotoilma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:Vuotoilma Method");
 }
 
 clsTila::Koneet clsTila::LiittyvatKoneet() const {
@@ -145,7 +151,7 @@ double clsTila::IVHaviotTilassa(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   return ivHaviotUpToDate_ ? ivHaviot_.arvo[m] : Koneista().haviot[m] + Vuotoilma(kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:IVHaviotTilassa Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:IVHaviotTilassa Method");
 }
 
 // The gains have a flag of their own, which a change leaves standing: it is the losses' flag that tells whether both
@@ -154,13 +160,13 @@ double clsTila::IVKoneLampoKuorma(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   return ivHaviotUpToDate_ && ivKuormatUpToDate_ ? ivKuormat_.arvo[m] : Koneista().kuormat[m];
 } catch (...) {
-  NostaVirhe("clsTila:IVKoneLampoKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:IVKoneLampoKuorma Method");
 }
 
 double clsTila::LampoHaviot(int kuukausi) const try {
   return JohtumisHaviot(kuukausi) + IVHaviotTilassa(kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:LampoHaviot Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:LampoHaviot Method");
 }
 
 void clsTila::PaivitaSahkoOmKuorma() try {
@@ -176,21 +182,21 @@ void clsTila::PaivitaSahkoOmKuorma() try {
     sahkoOmKuorma_ = rakennus.SahkonKulutusryhmat.TilanSahkoKuorma(sKey) / BruttoAla + yleiskuorma;
   }
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaSahkoOmKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:PaivitaSahkoOmKuorma Method");
 }
 
 double clsTila::SahkoKuorma(int kuukausi) const try {
   TarkistaKuukausi(kuukausi);
   return BruttoAla * sahkoOmKuorma_;
 } catch (...) {
-  NostaVirhe("clsTila:SahkoKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:SahkoKuorma Method");
 }
 
 double clsTila::HenkiloKuorma(int kuukausi) const try {
   TarkistaKuukausi(kuukausi);
   return TilanHenkilomaara * kHenkiloOmKuorma * TilanKayttoaikaHpA / 1000 / kKuukausia;
 } catch (...) {
-  NostaVirhe("clsTila:HenkiloKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:HenkiloKuorma Method");
 }
 
 double clsTila::AurinkoKuorma(int kuukausi) const try {
@@ -201,7 +207,7 @@ double clsTila::AurinkoKuorma(int kuukausi) const try {
     if (rakenne.PaastaaAuringon()) summa += rakenne.AurinkoKuorma(kuukausi);
   return summa;
 } catch (...) {
-  NostaVirhe("clsTila:AurinkoKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:AurinkoKuorma Method");
 }
 
 clsTila::Tase clsTila::KuukaudenTase(int kuukausi) const {
@@ -214,14 +220,14 @@ clsTila::Tase clsTila::KuukaudenTase(int kuukausi) const {
 double clsTila::IdeaalinenHyvaksiKayttoAste(int kuukausi) const try {
   return KuukaudenTase(kuukausi).hyvaksikayttoaste;
 } catch (...) {
-  NostaVirhe("clsTila:IdeaalinenHyvaksiKayttoAste Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:IdeaalinenHyvaksiKayttoAste Method");
 }
 
 double clsTila::HyodynnetytLampoKuormat(int kuukausi) const try {
   const Tase tase = KuukaudenTase(kuukausi);
   return tase.kuormat * tase.hyvaksikayttoaste;
 } catch (...) {
-  NostaVirhe("clsTila:HyodynnetytLampoKuormat Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:HyodynnetytLampoKuormat Method");
 }
 
 double clsTila::KuukaudenTarve(int kuukausi) const {
@@ -233,7 +239,7 @@ double clsTila::LampoEnergianTarve(int kuukausi) try {
   PaivitaSahkoOmKuorma();
   return KuukaudenTarve(kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:LampoEnergianTarve Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:LampoEnergianTarve Method");
 }
 
 template <class F>
@@ -246,51 +252,51 @@ double clsTila::Vuosisumma(F&& kuukausiarvo) {
 double clsTila::VuotuisetJohtumisHaviot() const try {
   return Vuosisumma([this](int m) { return JohtumisHaviot(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetJohtumisHaviot Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuisetJohtumisHaviot Method");
 }
 
 double clsTila::VuotuisetIVHaviotTilassa() const try {
   return Vuosisumma([this](int m) { return IVHaviotTilassa(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetIVHaviotTilassa Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuisetIVHaviotTilassa Method");
 }
 
 double clsTila::VuotuisetLampoHaviot() const try {
   return Vuosisumma([this](int m) { return OnLammityskautta(m) ? LampoHaviot(m) : 0.0; });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetLampoHaviot Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuisetLampoHaviot Method");
 }
 
 double clsTila::VuotuinenSahkoKuorma() try {
   PaivitaSahkoOmKuorma();
   return Vuosisumma([this](int m) { return SahkoKuorma(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenSahkoKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuinenSahkoKuorma Method");
 }
 
 double clsTila::VuotuinenHenkiloKuorma() const try {
   return Aarellinen(TilanHenkilomaara * kHenkiloOmKuorma * TilanKayttoaikaHpA / 1000000);
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenHenkiloKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuinenHenkiloKuorma Method");
 }
 
 double clsTila::VuotuinenAurinkoKuorma() const try {
   return Vuosisumma([this](int m) { return AurinkoKuorma(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenAurinkoKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuinenAurinkoKuorma Method");
 }
 
 double clsTila::VuotuinenIVKoneLampoKuorma() const try {
   return Vuosisumma([this](int m) { return IVKoneLampoKuorma(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenIVKoneLampoKuorma Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuinenIVKoneLampoKuorma Method");
 }
 
 double clsTila::VuotuisetHyodynnetytLampoKuormat() try {
   PaivitaSahkoOmKuorma();
   return Vuosisumma([this](int m) { return HyodynnetytLampoKuormat(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetHyodynnetytLampoKuormat Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuisetHyodynnetytLampoKuormat Method");
 }
 
 double clsTila::VuotuinenLampoEnergianTarve() try {
@@ -308,20 +314,20 @@ double clsTila::VuotuinenLampoEnergianTarve() try {
     if (OnLammityskautta(m)) tarve += KuukaudenTarve(m);
   return Aarellinen(tarve * (paikkakunta / vyohyke) / kkWhperMWh);
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenLampoEnergianTarve Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuinenLampoEnergianTarve Method");
 }
 
 double clsTila::VuotuisetSaatohaviot() try {
   return Aarellinen((100 - Saatohyotysuhde) * VuotuisetHyodynnetytLampoKuormat() / 100);
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetSaatohaviot Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:VuotuisetSaatohaviot Method");
 }
 
 void clsTila::PaivitaIVHaviotTilassa() try {
   Edistyminen edistyminen;
   PaivitaIVHaviotTilassa(ivHaviotUpToDate_ ? Koneet{} : LiittyvatKoneet(), edistyminen);
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method");
 }
 
 void clsTila::PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistyminen) try {
@@ -329,7 +335,7 @@ void clsTila::PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistymi
   ivHaviotUpToDate_ = true;
   ivKuormatUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method");
 }
 
 void clsTila::LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen) {
@@ -349,7 +355,7 @@ void clsTila::PaivitaIVKuormatTilassa() try {
     ivKuormat_.arvo[static_cast<std::size_t>(m)] = OnLammityskautta(m) ? IVKoneLampoKuorma(m) : 0;
   ivKuormatUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaIVKuormatTilassa Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:PaivitaIVKuormatTilassa Method");
 }
 
 void clsTila::PaivitaAurKuormatTilassa() try {
@@ -363,7 +369,7 @@ void clsTila::PaivitaAurKuormatTilassa() try {
   aurKuormat_.arvo = summa;
   aurKuormatUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaAurKuormatTilassa Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:PaivitaAurKuormatTilassa Method");
 }
 
 void clsTila::PaivitaJohtumishaviot() try {
@@ -372,5 +378,5 @@ void clsTila::PaivitaJohtumishaviot() try {
   johtumishaviot_.arvo = Rakenteet.LampoHaviot(Sisalampotila);
   johtumishaviotUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaJohtumishaviot Method", Virheenkohde{TilanNimi});
+  NostaVirhe("clsTila:PaivitaJohtumishaviot Method");
 }

@@ -56,6 +56,8 @@ class clsTila : public Malli<clsTila, Alkio> {
   void AurKuormatTilassaUpToDate(bool voimassa) noexcept;
   bool JohtumishaviotUpToDate() const noexcept { return johtumishaviotUpToDate_; }
   void JohtumishaviotUpToDate(bool voimassa) noexcept { johtumishaviotUpToDate_ = voimassa; }
+  /// All three.
+  void TaseUpToDate(bool voimassa) noexcept;
 
   /// Conduction loss through the structures, kWh.
   double JohtumisHaviot(int kuukausi) const;

@@ -27,11 +27,7 @@ const Luokka clsTilat::kLuokka{"clsTilat", kJasenet};
 
 void clsTilat::VuotuinenLampoEnergianTarveUpToDate(bool voimassa) noexcept {
   tarveUpToDate_ = voimassa;
-  for (clsTila& tila : *this) {
-    tila.IVHaviotTilassaUpToDate(voimassa);
-    tila.AurKuormatTilassaUpToDate(voimassa);
-    tila.JohtumishaviotUpToDate(voimassa);
-  }
+  for (clsTila& tila : *this) tila.TaseUpToDate(voimassa);
 }
 
 double clsTilat::TilavuusYht() const {
@@ -71,6 +67,14 @@ double clsTilat::VuotuisetSaatohaviot() try {
   return Summa(*this, [](clsTila& t) { return t.VuotuisetSaatohaviot(); });
 } catch (...) {
   NostaVirhe("clsTilat:VuotuisetSaatohaviot Method");
+}
+
+double clsTilat::VuotuinenLammityssahko() try {
+  return Summa(*this, [](clsTila& t) {
+    return t.Sahkolammitys ? t.VuotuinenLampoEnergianTarve() + t.VuotuisetSaatohaviot() : 0;
+  });
+} catch (...) {
+  NostaVirhe("clsTilat:VuotuinenLammityssahko Method");
 }
 
 /// Fills the ventilation caches that aren't up to date, with one pass over the machines for all spaces.

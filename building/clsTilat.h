@@ -19,6 +19,8 @@ class clsTilat : public Malli<clsTilat, Kotikokoelma<clsTila>> {
   /// invalidates the balance of all spaces, True declares their caches valid.
   bool VuotuinenLampoEnergianTarveUpToDate() const noexcept { return tarveUpToDate_; }
   void VuotuinenLampoEnergianTarveUpToDate(bool voimassa) noexcept;
+  /// The figures of some spaces have changed: the sum no longer holds, the caches of the others do.
+  void MitatoiSumma() noexcept { tarveUpToDate_ = false; }
 
   double TilavuusYht() const;   ///< m³
   double BruttoAlaYht() const;  ///< m²
@@ -28,6 +30,8 @@ class clsTilat : public Malli<clsTilat, Kotikokoelma<clsTila>> {
   double VuotuisetLampoHaviot();              ///< MWh/a
   double VuotuisetHyodynnetytLampoKuormat();  ///< MWh/a
   double VuotuisetSaatohaviot();              ///< MWh/a
+  /// Demand and control losses of the spaces that are heated by electricity, MWh.
+  double VuotuinenLammityssahko();
   /// Fills the solar, ventilation and conduction caches of every space.
   void PaivitaTilojenLampotaseenLahtotiedot();
 

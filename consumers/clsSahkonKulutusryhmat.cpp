@@ -5,10 +5,8 @@
 #include "building/clsTilat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Laskenta.h"
-#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
-#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 #include "ventilation/clsIVKoneet.h"
 
@@ -17,23 +15,6 @@ namespace {
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
 };
-
-constexpr Tulos kTulokset[] = {
-    Vuositulos<&clsSahkonKulutusryhmat::Vuosikulutus>("Vuosikulutus", tekstit::kSahkoKaikki),
-    Vuositulos<&clsSahkonKulutusryhmat::SahkoLaitteidenVuosikulutus>("SahkoLaitteidenVuosikulutus",
-                                                                     tekstit::kLaitteidenSahko),
-    Vuositulos<&clsSahkonKulutusryhmat::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", tekstit::kPuhaltimienSahko),
-    Vuositulos<&clsSahkonKulutusryhmat::LammitysSahkonVuosikulutus>("LammitysSahkonVuosikulutus",
-                                                                    tekstit::kLammityssahko),
-    Lukutulos<&clsSahkonKulutusryhmat::TiloihinLiittymatonSahkoKuorma>("TiloihinLiittymatonSahkoKuorma",
-                                                                       tekstit::kYleisSahkokuorma, "kWh/kk"),
-    Kokoelmatulos < [](clsSahkonKulutusryhmat& r) -> auto& {return r;
-}  // namespace
-> ("Ryhmat"), Karttatulos<[](const clsSahkonKulutusryhmat& r, const Karttakasittelija& kasittele) {
-  LueAjantasaisetRivit(r, &clsSahkoListaItem::Vuosikulutus, kasittele);
-}>("Puu", tekstit::kKulutusRiveittain, "MWh/a"),
-}
-;
 
 constexpr double kkWhPerMWh = 1e3;
 
@@ -49,23 +30,9 @@ const Kiintearivi kKiinteat[] = {{kYhteensa, Rivilaji::Juuri, tekstit::kSahkoYht
 
 constexpr const char* kLaskentatapa = "Tarkennettu";
 
-double TilojenLammityssahko(clsTilat& tilat) {
-  double summa = 0;
-  for (clsTila& tila : tilat)
-    if (tila.Sahkolammitys) summa += tila.VuotuinenLampoEnergianTarve() + tila.VuotuisetSaatohaviot();
-  return summa;
-}
-
-double KoneidenLammityssahko(const clsIVKoneet& koneet) {
-  double summa = 0;
-  for (const clsIVKone& kone : koneet)
-    if (kone.TuloilmanLammitysSahkoPatterilla) summa += kone.VuotuinenIVjalkilammitysLampo();
-  return summa;
-}
-
 }  // namespace
 
-const Luokka clsSahkonKulutusryhmat::kLuokka{"clsSahkonKulutusryhmat", kJasenet, kTulokset};
+const Luokka clsSahkonKulutusryhmat::kLuokka{"clsSahkonKulutusryhmat", kJasenet};
 
 clsSahkoListaItem& clsSahkonKulutusryhmat::AddListaItem(const Tunniste& sKey, const Tunniste& Parent,
                                                         std::int16_t ItemTyyppi, std::string NimiTeksti,
@@ -128,10 +95,10 @@ double clsSahkonKulutusryhmat::Vuosikulutus() const try {
   NostaVirhe("clsSahkonKulutusryhmat:Vuosikulutus Method");
 }
 
-double clsSahkonKulutusryhmat::SahkoLaitteidenVuosikulutus() const try {
+double clsSahkonKulutusryhmat::SahkoLaitteidenVuosikulutus(double puhaltimet) const try {
   double summa = 0;
   for (const clsSahkonKulutusryhma& ryhma : *this) summa += ryhma.Vuosikulutus();
-  return Aarellinen(summa + VuotuinenPuhallinSahko());
+  return Aarellinen(summa + puhaltimet);
 } catch (...) {
   NostaVirhe("clsSahkonKulutusryhmat:SahkoLaitteidenVuosikulutus Method");
 }
@@ -145,9 +112,15 @@ double clsSahkonKulutusryhmat::VuotuinenPuhallinSahko() const try {
 
 double clsSahkonKulutusryhmat::LammitysSahkonVuosikulutus() const try {
   clsRakennus& rakennus = koti_.Rakennus();
-  return Aarellinen(TilojenLammityssahko(rakennus.Tilat) + KoneidenLammityssahko(rakennus.IVKoneet) +
-                    rakennus.VedenKulutusryhmat.VuotuinenLkvSahkoLammityksenEnergia() +
-                    rakennus.VedenKulutusryhmat.VuotuinenProsessivedenSahkoLammityksenEnergia());
+  return LammitysSahkonVuosikulutus(rakennus.Tilat.VuotuinenLammityssahko(), rakennus.IVKoneet.VuotuinenPatteriSahko());
+} catch (...) {
+  NostaVirhe("clsSahkonKulutusryhmat:LammitysSahkonVuosikulutus Method");
+}
+
+double clsSahkonKulutusryhmat::LammitysSahkonVuosikulutus(double tilat, double patterit) const try {
+  const clsVedenKulutusryhmat& vesi = koti_.Rakennus().VedenKulutusryhmat;
+  return Aarellinen(tilat + patterit + vesi.VuotuinenLkvSahkoLammityksenEnergia() +
+                    vesi.VuotuinenProsessivedenSahkoLammityksenEnergia());
 } catch (...) {
   NostaVirhe("clsSahkonKulutusryhmat:LammitysSahkonVuosikulutus Method");
 }

@@ -28,12 +28,15 @@ class clsSahkonKulutusryhmat
   /// All electricity: devices and heating, MWh/a.
   double Vuosikulutus() const;
   /// Electricity of the groups and of the machines' fans, MWh/a.
-  double SahkoLaitteidenVuosikulutus() const;
+  double SahkoLaitteidenVuosikulutus() const { return SahkoLaitteidenVuosikulutus(VuotuinenPuhallinSahko()); }
+  double SahkoLaitteidenVuosikulutus(double puhaltimet) const;
   /// Fans of all machines of the building, MWh/a; 0 when the groups belong to none.
   double VuotuinenPuhallinSahko() const;
   /// Electricity that goes into heat, MWh/a: electrically heated spaces with their control losses, electric coils of
   /// the machines, electric heating of domestic and process water, all of the building that the groups belong to.
   double LammitysSahkonVuosikulutus() const;
+  /// The same with that of the spaces and that of the coils given, MWh/a.
+  double LammitysSahkonVuosikulutus(double tilat, double patterit) const;
   /// Internal heat gain of a space, kWh per month: a twelfth of the yearly consumption of the groups that stand in it
   /// and whose energy is used for heating. The same in every month.
   double TilanSahkoKuorma(const Tunniste& sKey) const;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <functional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <variant>
 
 #include "kernel/Olio.h"
 
@@ -24,20 +24,16 @@ struct Tuloskohde {
   }
 };
 
-/// What is called with each key and number of a map.
-using Karttakasittelija = std::function<void(std::string_view avain, double arvo)>;
-
 enum class Tuloslaji : std::uint8_t {
   Kuukausi,  ///< a number for each month
   Vuosi,     ///< a number of the year
   Luku,      ///< a number that belongs to no time
   Teksti,    ///< a name or a key
+  Arvo,      ///< a number or a text, as the object has it
   Osa,       ///< the results of a part
   Upotettu,  ///< the results of a part, shown as if they were the object's own
   Osat,      ///< the results of the items of a collection
   Kartta,    ///< a number by key
-  Totuus,    ///< yes or no
-  Ryhma,     ///< rows of the same object under a name of their own
 };
 
 /// One row of a class's table of results, beside its table of members: what is computed of an object, under what name,
@@ -52,10 +48,10 @@ struct Tulos {
   int rinnakkain = 1;                ///< values of one month side by side, such as the directions of radiation
   double (*luku)(const Tuloskohde&, int kuukausi, int sarake) = nullptr;
   std::string (*sana)(const Tuloskohde&) = nullptr;
+  std::variant<double, std::string> (*arvo)(const Tuloskohde&) = nullptr;
   void (*osat)(const Tuloskohde&, const std::function<void(Olio&)>& kasittele) = nullptr;
-  void (*kartta)(const Tuloskohde&, const Karttakasittelija& kasittele) = nullptr;
-  bool (*totta)(const Tuloskohde&) = nullptr;
-  std::span<const Tulos> ryhma{};
+  void (*kartta)(const Tuloskohde&,
+                 const std::function<void(std::string_view avain, double arvo)>& kasittele) = nullptr;
 
   bool OnLuku() const noexcept { return luku != nullptr; }
   /// The number of the year, or of one month 0 to 11.
@@ -134,10 +130,11 @@ constexpr Tulos Tekstitulos(std::string_view nimi, Tekstinumero teksti = {}) {
   t.sana = [](const Tuloskohde& k) { return std::string(tulos::Kutsu<F>(k)); };
   return t;
 }
+/// The getter gives a std::variant of number and text.
 template <auto F>
-constexpr Tulos Totuustulos(std::string_view nimi) {
-  Tulos t{.nimi = nimi, .laji = Tuloslaji::Totuus};
-  t.totta = [](const Tuloskohde& k) -> bool { return tulos::Kutsu<F>(k); };
+constexpr Tulos Arvotulos(std::string_view nimi) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Arvo};
+  t.arvo = [](const Tuloskohde& k) -> std::variant<double, std::string> { return tulos::Kutsu<F>(k); };
   return t;
 }
 /// The object's key.
@@ -171,12 +168,8 @@ constexpr Tulos Kokoelmatulos(std::string_view nimi) {
 template <auto F>
 constexpr Tulos Karttatulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Kartta, .yksikko = yksikko, .teksti = teksti};
-  t.kartta = [](const Tuloskohde& k, const Karttakasittelija& kasittele) { F(tulos::Olioksi<F>(k), kasittele); };
-  return t;
-}
-/// Rows of the same object under a name; `rivit` lives for the whole run.
-constexpr Tulos Ryhmatulos(std::string_view nimi, std::span<const Tulos> rivit) {
-  Tulos t{.nimi = nimi, .laji = Tuloslaji::Ryhma};
-  t.ryhma = rivit;
+  t.kartta = [](const Tuloskohde& k, const std::function<void(std::string_view, double)>& kasittele) {
+    F(tulos::Olioksi<F>(k), kasittele);
+  };
   return t;
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -22,12 +21,31 @@ class clsTila;
 ///  3. At the end of the scope, also by an error, the fields are put back in reverse order: the building equals what it
 ///     was to the last bit, apart from values behind a cache flag that is False.
 ///
-/// Before 2 and after 3 the cache flags are False. No object is made or removed, so the register holds throughout. What
+/// Before 2 and after 3 the cache flags of the spaces that the variation reaches, and of the building's sums, are
+/// False; what it doesn't reach keeps its caches. No object is made or removed, so the register holds throughout. What
 /// can't be written is passed over and named: an object that is gone, an attribute that its class doesn't have or that
 /// isn't written by name, a value that doesn't fit its type. A variation of the building that the windows show reserves
 /// the model (building/Mallivaraus.h).
 class Muunnelma {
  public:
+  /// What was passed over: the row of its list from 1, and "class.attribute".
+  struct Ohitettu {
+    int rivi;
+    std::string nimi;
+    std::int32_t tuntematonTyyppi = 0;  ///< the code of the value's kind when there is no such kind; else 0
+  };
+  /// The spaces and the machines whose figures a list can change: those that hold a changed attribute; spaces of a
+  /// changed machine or electricity group, before or after; machines of a changed space. No doubles; with `kaikki...`
+  /// they are all of the building, whatever the list says.
+  struct Ulottuvuus {
+    std::vector<clsTila*> tilat;
+    std::vector<clsIVKone*> koneet;
+    bool kaikkiTilat = false, kaikkiKoneet = false;
+
+    bool Sisaltaa(const clsTila& tila) const;
+    bool Sisaltaa(const clsIVKone& kone) const;
+  };
+
   explicit Muunnelma(clsRakennus& rakennus);
   Muunnelma(clsRakennus& rakennus, const clsMuuttuneetAttribuutit& muuttuneet) : Muunnelma(rakennus) {
     Liita(muuttuneet);
@@ -43,13 +61,10 @@ class Muunnelma {
   /// A variation lies on some building of this thread.
   static bool Voimassa() noexcept;
 
-  /// What was passed over, "class.attribute", in the order of the lists.
-  const std::vector<std::string>& Ohitetut() const noexcept { return ohitetut_; }
-  /// The spaces and the machines whose figures the variation can change, in the order of the building: those that hold
-  /// a changed attribute; spaces of a changed machine or electricity group, before or after; machines of a changed
-  /// space. All of them when what changed is common to the building.
-  std::vector<clsTila*> Tilat() const;
-  std::vector<clsIVKone*> Koneet() const;
+  /// What was passed over, in the order of the lists.
+  const std::vector<Ohitettu>& Ohitetut() const noexcept { return ohitetut_; }
+  /// How far the list reaches that was laid on last.
+  const Ulottuvuus& Viimeisin() const noexcept { return viimeisin_; }
 
  private:
   struct Entinen {
@@ -57,21 +72,17 @@ class Muunnelma {
     const Jasen* jasen;
     Kentanarvo arvo;
   };
-  /// How far the changes reach.
-  struct Ulottuvuus {
-    std::set<const Olio*> omistajat;  // spaces and machines
-    std::vector<Tunniste> tilat;      // keys of spaces that a machine or an electricity group belongs to
-    bool kaikkiTilat = false;
-    bool kaikki = false;
-  };
 
   bool Kirjoita(const clsMuuttunutAttribuutti& muutos);
   void Ulottuu(const Instanssi& kohde);
-  bool OnMuuttunut(const clsTila& tila) const;
+  void LisaaTila(clsTila* tila);
+  void Mitatoi(const Ulottuvuus& ulottuvuus) noexcept;
 
   clsRakennus& rakennus_;
   std::optional<Mallivaraus> varaus_;
   std::vector<Entinen> entiset_;
-  std::vector<std::string> ohitetut_;
-  Ulottuvuus ulottuvuus_;
+  std::vector<Ohitettu> ohitetut_;
+  Ulottuvuus viimeisin_;
+  Ulottuvuus aiemmat_;                   // the spaces alone, whose caches are to be invalidated
+  std::vector<clsTila*> muutetutTilat_;  // those of the last list that hold a changed attribute
 };

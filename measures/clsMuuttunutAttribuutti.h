@@ -17,4 +17,13 @@ class clsMuuttunutAttribuutti : public Malli<clsMuuttunutAttribuutti, Alkio> {
   std::string ArvoEnnenStr;      ///< old text
   std::string ArvoJalkeenStr;    ///< new text
   std::int32_t TietoTyyppi = 0;  ///< code of the value's kind, see Laji
+
+  /// The code is one of a kind that values have.
+  bool OnTunnettuTyyppi() const noexcept;
+  /// The values are texts.
+  bool OnTeksti() const noexcept { return TietoTyyppi == static_cast<std::int32_t>(Laji::Teksti); }
+  /// Writes the new value into the field raw (kernel/Jasen.h), converted by its kind: whole numbers are rounded, a half
+  /// to the even one. False, and nothing is written, for an unknown kind or a value that the kind or the field can't
+  /// hold.
+  bool Kirjoita(Olio& olio, const Jasen& jasen) const;
 };

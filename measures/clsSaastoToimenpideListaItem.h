@@ -6,6 +6,7 @@
 class clsSaastoToimenpideListaItem : public Malli<clsSaastoToimenpideListaItem, Alkio> {
  public:
   static const Luokka kLuokka;
+  bool OnSisaltoa() const noexcept override { return ItemTyyppi != 0; }
 
   Tunniste Parent;                   ///< key of the parent node; empty for the root
   std::string NimiTeksti;            ///< text

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include "kernel/Olio.h"
+#include "measures/Kustannussaastot.h"
 
 /// One row of the arranger: a measure and its net effect. Amounts are in euros without VAT.
 class clsValittuToimenpide : public Malli<clsValittuToimenpide, Alkio> {
@@ -28,4 +29,8 @@ class clsValittuToimenpide : public Malli<clsValittuToimenpide, Alkio> {
   Tunniste ToimenpidesKey;  ///< key of the measure
   Tunniste JalkeensKey;     ///< key of the row that it was put behind; empty: it was put at the end
   std::string Nimi;
+
+  /// The six savings of cost.
+  Kustannussaastot Kustannussaasto() const noexcept;
+  void AsetaKustannukset(const Kustannussaastot& saastot) noexcept;
 };

@@ -13,6 +13,7 @@ constexpr Jasen kJasenet[] = {
 }  // namespace
 
 const Luokka clsValitutToimenpiteet::kLuokka{"clsValitutToimenpiteet", kJasenet, Luokka::Osallistuu::EiRekisteriin};
+const Tunniste clsValitutToimenpiteet::kYhteensa = "sKeyValitutYhteensa";
 
 clsValittuToimenpide& clsValitutToimenpiteet::Add(const Tunniste& sKey, const Tunniste& JalkeensKey) try {
   clsValittuToimenpide& rivi = JalkeensKey.Tyhja() ? Add(sKey) : LisaaJalkeen(JalkeensKey, sKey);

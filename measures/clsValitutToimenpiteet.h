@@ -7,6 +7,8 @@
 class clsValitutToimenpiteet : public Malli<clsValitutToimenpiteet, Kokoelma<clsValittuToimenpide>> {
  public:
   static const Luokka kLuokka;
+  /// Key of the totals row.
+  static const Tunniste kYhteensa;
 
   bool LaskelmatUpToDate = false;  ///< set False by every change
 

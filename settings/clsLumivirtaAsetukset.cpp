@@ -158,6 +158,11 @@ double clsLumivirtaAsetukset::NayttoKerroin(Energialaji laji) const {
                                           : dblCurrencyConvCoeff;
 }
 
+Alvprosentit clsLumivirtaAsetukset::NaytettavatAlvt() const {
+  if (!KaytaKohtTulostuksissaALVHintoja) return {};
+  return {.lampo = dblLampoALV, .sahko = dblSahkoALV, .vesi = dblVesiALV, .yleinen = YleinenALV};
+}
+
 double clsLumivirtaAsetukset::AlvProsentti(Energialaji laji) const {
   switch (laji) {
     case Energialaji::Lampo:

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "kernel/Asetusvarasto.h"
+#include "settings/Alvprosentit.h"
 
 class frmOptions;
 
@@ -73,6 +74,8 @@ class clsLumivirtaAsetukset {
   /// What a shown amount is multiplied by: the coefficient of the currency, with the VAT of the kind when amounts are
   /// shown with it.
   double NayttoKerroin(Energialaji laji) const;
+  /// The VAT rates that shown costs bear: all 0 when amounts are shown without VAT.
+  Alvprosentit NaytettavatAlvt() const;
 
  private:
   void HaeKayttajanNimet();

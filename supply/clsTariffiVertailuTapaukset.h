@@ -7,4 +7,9 @@
 class clsTariffiVertailuTapaukset : public Malli<clsTariffiVertailuTapaukset, Kokoelma<clsTariffiVertailuTapaus>> {
  public:
   static const Luokka kLuokka;
+
+  /// Keys of the cheapest and of the dearest case at their own energies and powers, of equal ones the first; empty when
+  /// there is none.
+  Tunniste HalvinTariffisKey(const clsTariffit& tariffit) const;
+  Tunniste KalleinTariffisKey(const clsTariffit& tariffit) const;
 };

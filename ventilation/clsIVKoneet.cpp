@@ -35,6 +35,15 @@ double clsIVKoneet::VuotuinenIVjalkilammitysLampo() try {
   NostaVirhe("clsIVKoneet:VuotuinenIVjalkilammitysLampo Method");
 }
 
+double clsIVKoneet::VuotuinenPatteriSahko() const try {
+  double summa = 0;
+  for (const clsIVKone& kone : *this)
+    if (kone.TuloilmanLammitysSahkoPatterilla) summa += kone.VuotuinenIVjalkilammitysLampo();
+  return Aarellinen(summa);
+} catch (...) {
+  NostaVirhe("clsIVKoneet:VuotuinenPatteriSahko Method");
+}
+
 double clsIVKoneet::Tuloilmavirtojen11Summa() const try {
   double summa = 0;
   for (const clsIVKone& kone : *this)

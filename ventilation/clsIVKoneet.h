@@ -24,6 +24,8 @@ class clsIVKoneet : public Malli<clsIVKoneet, Kotikokoelma<clsIVKone>> {
 
   /// After-heating of the supply air of all machines, MWh/a.
   double VuotuinenIVjalkilammitysLampo();
+  /// The part of it that electric coils give, MWh/a.
+  double VuotuinenPatteriSahko() const;
   /// Supply and exhaust air flows at full power of the machines that have that fan, m³/s.
   double Tuloilmavirtojen11Summa() const;
   double Poistoilmavirtojen11Summa() const;
