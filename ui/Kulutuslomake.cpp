@@ -52,11 +52,11 @@ void Kulutuslomake::NaytaTulos(const TextBox& kentta, std::optional<double> arvo
 }
 
 void Kulutuslomake::NaytaKaytto(bool tunnit, bool paivat) {
-  Nayta(tunnit_, tunnit);
-  Nayta(paivat_, paivat);
+  NaytaKentta(tunnit_, tunnit);
+  NaytaKentta(paivat_, paivat);
 }
 
-void Kulutuslomake::Nayta(Kayttokentta& kaytto, bool nakyva) {
+void Kulutuslomake::NaytaKentta(Kayttokentta& kaytto, bool nakyva) {
   const TextBox& kentta = kaytto.kentta;
   if (kentta.Nakyva() == nakyva) return;
   kentta.Kohde().PaataMuokkaus();

@@ -45,7 +45,7 @@ class Kulutuslomake : public Muokkauslomake {
     std::string teksti{};  // while it is hidden
     std::optional<double> luku{};
   };
-  static void Nayta(Kayttokentta& kaytto, bool nakyva);
+  static void NaytaKentta(Kayttokentta& kaytto, bool nakyva);
   bool TekijatKelpaavat() const;
 
   Lukuviestit viestit_;

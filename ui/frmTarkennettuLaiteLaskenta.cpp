@@ -55,7 +55,6 @@ void frmTarkennettuLaiteLaskenta::PaivitaKentat() {
   NaytaKaytto(teho, teho);
   for (const char* nimi : {"lblh_per_a", "txth_per_a", "lblYksh_per_a"}) Etsi(nimi).Nakyva(teho);
   for (const OptionButton& moodi : optEnergiamoodit) moodi.Nakyva(!teho);
-  fraEnergiamoodit.Nakyva(!teho);
   for (const TextBox& kentta : {txtOminaissuureidenMaara, txtLaskentaYksikoidenMaara, txtTasauskerroin})
     kentta.Kaytossa(lasketaan);
   cmbLaskentaOminaissuure.Kaytossa(lasketaan);

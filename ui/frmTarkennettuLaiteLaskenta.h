@@ -22,7 +22,6 @@ class frmTarkennettuLaiteLaskenta : public Kulutuslomake {
   std::array<OptionButton, 3> optEnergiamoodit{OptionButton(*this, "optEnergiamoodit0"),
                                                OptionButton(*this, "optEnergiamoodit1"),
                                                OptionButton(*this, "optEnergiamoodit2")};
-  Frame fraEnergiamoodit{*this, "fraEnergiamoodit"};
   TextBox txtLaskentayksikko{*this, "txtLaskentayksikko"};
   TextBox txth_per_a{*this, "txth_per_a"};    // h/a, read only
   TextBox txtKulutus2{*this, "txtKulutus2"};  // measured or estimated, MWh/a

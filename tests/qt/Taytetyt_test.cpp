@@ -24,6 +24,8 @@
 #include "ui/frmPerustiedot.h"
 #include "ui/frmRakenteet.h"
 #include "ui/frmSplash.h"
+#include "ui/frmTarkennettuLaiteLaskenta.h"
+#include "ui/frmTarkennettuVesiLaskenta.h"
 #include "ui/qt/Kehys.h"
 
 namespace {
@@ -225,6 +227,54 @@ TEST_F(Taytetyt, TheMachinesFormsFitTheirFields) {
   luettelo.luettelo.PaivitaNapit();
   luettelo.Nayta();
   OdotaMahtuvan(luettelo);
+}
+
+void TaytaTekijat(const Kulutuslomake& lomake) {
+  lomake.txtKulutusRyhmanNimi.Teksti("Luokkahuoneet ja käytävät, vanhat loistelamput");
+  lomake.txtOminaissuureidenMaara.Luku(123456.5, "0.0");
+  lomake.txtLaskentaYksikoidenMaara.Luku(1234567.8, "0.0");
+  lomake.txtKayttomaaraTunnitVrk_ssa.Teksti("12,5");
+  lomake.txtKayttomaaraVrktVuodessa.Teksti("365");
+  lomake.txtTasauskerroin.Teksti("0,85");
+  lomake.txtKulutus.Luku(1234567.89, "### ##0.00");
+}
+
+TEST_F(Taytetyt, GroupsOfConsumersFitTheirFieldsInEachWayOfCalculation) {
+  for (const bool teho : {true, false}) {
+    frmTarkennettuLaiteLaskenta laite;
+    laite.cmbLiittyyTilaan.Rivit({"---", "Luokkahuone 112, maantieto ja luonnontieto"});
+    laite.cmbLiittyyTilaan.Indeksi(1);
+    laite.Yksikot(teho);
+    laite.cmbLaskentaOminaissuure.Indeksi(teho ? 2 : 6);
+    laite.optLaskentatapa[teho ? 0 : 1].Valittu(true);
+    laite.optEnergiamoodit[2].Valittu(true);
+    TaytaTekijat(laite);
+    laite.txtLaskentayksikko.Teksti("rasvakeitintä");
+    laite.txth_per_a.Luku(8760, "### ##0");
+    laite.txtKulutus2.Teksti("12345,6");
+    laite.txtKulutusRyhmienMaara.Teksti("1000");
+    laite.txtKokonaiskulutus.Luku(123456789.12, "### ##0.00");
+    laite.Taytetty();
+    laite.lblMuuntokerroin.Otsikko("1000000");
+    laite.Nayta();
+    OdotaMahtuvan(laite);
+    TallennaKuva(laite, teho ? "Teho" : "Energia");
+  }
+  frmTarkennettuVesiLaskenta vesi;
+  for (const int yksikko : {0, 1}) {
+    vesi.cmbLaskentaOminaissuure.Indeksi(yksikko);
+    TaytaTekijat(vesi);
+    vesi.txtLaskentayksikko2.Teksti("asukasta");
+    vesi.txtVedenKayttoLampotila.Teksti("38,0");
+    vesi.txtLampimanVedenOsuus.Teksti("66");
+    vesi.lblVedenTiedot.Otsikko("Kylmä vesi 5,0 °C, lämmin vesi 55,0 °C");
+    vesi.txtVedenLammittamisenEnergia.Luku(123456.78, "### ##0.00");
+    vesi.Taytetty();
+    vesi.lblMuuntokerroin.Otsikko("16,6667");
+    vesi.Nayta();
+    OdotaMahtuvan(vesi);
+    TallennaKuva(vesi, QString::number(yksikko));
+  }
 }
 
 /// Pixels of the picture that differ from the window's background.
