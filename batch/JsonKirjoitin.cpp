@@ -25,6 +25,11 @@ void JsonKirjoitin::Arvo(int luku) {
   tulos_ << luku;
 }
 
+void JsonKirjoitin::Totuus(bool arvo) {
+  Erotin();
+  tulos_ << (arvo ? "true" : "false");
+}
+
 void JsonKirjoitin::Arvo(std::string_view teksti) {
   Erotin();
   KirjoitaTeksti(teksti);

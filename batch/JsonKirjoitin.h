@@ -19,6 +19,7 @@ class JsonKirjoitin {
   void Arvo(double luku);
   void Arvo(int luku);
   void Arvo(std::string_view teksti);
+  void Totuus(bool arvo);
   void Tyhja();
   /// A range of numbers as an array.
   template <class Alue>

@@ -3,23 +3,54 @@
 
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
+#include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
 #include "building/clsSaa.h"
 #include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "settings/clsLumivirtaAsetukset.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
 
+/// A setting in force, under its member's name.
+template <auto Asetus>
+constexpr Tulos Asetustulos(std::string_view nimi) {
+  if constexpr (std::is_same_v<decltype(Asetus), bool clsLumivirtaAsetukset::*>)
+    return Totuustulos<[](clsRakennus&) { return Asetukset().*Asetus; }>(nimi);
+  else
+    return Lukutulos<[](clsRakennus&) { return Asetukset().*Asetus; }>(nimi, {}, "");
+}
+
+/// What amounts of money are shown with.
+constexpr Tulos kAsetukset[] = {
+    Asetustulos<&clsLumivirtaAsetukset::dblCurrencyConvCoeff>("dblCurrencyConvCoeff"),
+    Asetustulos<&clsLumivirtaAsetukset::dblLampoALV>("dblLampoALV"),
+    Asetustulos<&clsLumivirtaAsetukset::dblSahkoALV>("dblSahkoALV"),
+    Asetustulos<&clsLumivirtaAsetukset::dblVesiALV>("dblVesiALV"),
+    Asetustulos<&clsLumivirtaAsetukset::YleinenALV>("YleinenALV"),
+    Asetustulos<&clsLumivirtaAsetukset::KaytaKohtTulostuksissaALVHintoja>("KaytaKohtTulostuksissaALVHintoja"),
+};
+
 /// The objects at the top of the JSON; what each shows stands in the table of results of its class.
 constexpr Tulos kJuuri[] = {
+    Ryhmatulos("Asetukset", kAsetukset),
     Osatulos<[](clsRakennus& r) -> clsSaa& { return r.Saa; }>("Saa"),
     Osatulos<[](clsRakennus& r) -> Olio& { return r; }>("Rakennus"),
     Kokoelmatulos<[](clsRakennus& r) -> clsTilat& { return r.Tilat; }>("Tilat"),
     Kokoelmatulos<[](clsRakennus& r) -> clsIVKoneet& { return r.IVKoneet; }>("IVKoneet"),
+    Osatulos<[](clsRakennus& r) -> clsSahkonKulutusryhmat& { return r.SahkonKulutusryhmat; }>("Sahkoryhmat"),
+    Osatulos<[](clsRakennus& r) -> clsVedenKulutusryhmat& { return r.VedenKulutusryhmat; }>("Vesiryhmat"),
+    Osatulos<[](clsRakennus& r) -> clsPerustiedot& { return r.Perustiedot; }>("EnergianHankinta"),
+    Kokoelmatulos<[](clsRakennus& r) -> clsTariffit& { return r.Tariffit; }>("Tariffit"),
+    Kokoelmatulos<[](clsRakennus& r) -> clsVesitariffit& { return r.Vesitariffit; }>("Vesitariffit"),
 };
 
 /// Writes rows of results, and keeps the errors of those that can't be computed.
@@ -59,6 +90,12 @@ class Tuloskirjoitin {
         return json_.LopetaTaulukko();
       case Tuloslaji::Kartta:
         return Kartta(kohde, rivi);
+      case Tuloslaji::Totuus:
+        return Yrita([&] { json_.Totuus(rivi.totta(kohde)); });
+      case Tuloslaji::Ryhma:
+        json_.AlaOlio();
+        Rivit(kohde, rivi.ryhma);
+        return json_.LopetaOlio();
     }
   }
   void Kirjoita(const Tuloskohde& kohde) {

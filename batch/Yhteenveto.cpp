@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <algorithm>
-
+#include "batch/Hankintayhteenveto.h"
+#include "batch/Tekstitaulu.h"
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Luvut.h"
 #include "kernel/Tulos.h"
 #include "tekstit/tulokset.h"
@@ -15,66 +17,73 @@
 namespace {
 
 constexpr const char* kValissa = "  ";
-constexpr const char* kEnergia = "### ##0.00";
-constexpr const char* kOminaiskulutus = "### ##0.00";
-constexpr double kkWhperMWh = 1000;
+constexpr const char* kMaara = "### ##0.00";
+constexpr double kTuhat = 1000;
 
 constexpr std::string_view kLasketut[] = {"VuotuinenLampoEnergianTarveTilat", "VuotuinenIVjalkilammitysLampo",
                                           "VuotuisetLKVHaviot", "VuotuisetProsessiVesiHaviot"};
-constexpr std::string_view kMitattu = "ToteutunutNormitettuLampo";
+constexpr std::string_view kMitattuLampo = "ToteutunutNormitettuLampo";
 constexpr std::string_view kHaviotJaBrutto[] = {"VuotuisetSaatohaviot", "VuotuisetLammonKonversiohaviot",
                                                 "VuotuinenBruttoLampoEnergia"};
-
-/// Characters of a UTF-8 text: its bytes less the continuation bytes.
-std::size_t Merkkeja(std::string_view teksti) {
-  return static_cast<std::size_t>(
-      std::ranges::count_if(teksti, [](char tavu) { return (static_cast<unsigned char>(tavu) & 0xC0) != 0x80; }));
-}
-
-std::string Taytto(std::string_view teksti, std::size_t leveys) {
-  return std::string(leveys - std::min(leveys, Merkkeja(teksti)), ' ');
-}
+constexpr std::string_view kSahkot[] = {"SahkoLaitteidenVuosikulutus", "LammitysSahkonVuosikulutus"};
+constexpr std::string_view kVedet[] = {"VuotuinenKvKulutus", "VuotuinenKylmanProsessivedenKulutus"};
 
 /// The number as it is shown: what sums are taken of, so that the column adds up.
-double Naytetty(double mwh) { return LueLuku(Muotoile(mwh, kEnergia)).value_or(mwh); }
+double Naytetty(double arvo) { return LueLuku(Muotoile(arvo, kMaara)).value_or(arvo); }
 
-/// Rows of a name and numbers; as wide as its longest texts, a rule where a row is empty.
+/// Rows of a name and numbers.
 class Taulu {
  public:
-  Taulu(double ala, double tilavuus) : ala_(ala), tilavuus_(tilavuus) {
-    rivit_.push_back({"", "MWh/a", "kWh/m²,a", "kWh/m³,a"});
+  /// `yksikko` of the amounts, `tuhannesosa` of those for a square metre and a cubic metre of the building.
+  Taulu(const clsPerustiedot& tiedot, Tekstinumero otsikko, const std::string& yksikko, const std::string& tuhannesosa)
+      : ala_(tiedot.BruttoAla),
+        tilavuus_(tiedot.Kokonaistilavuus),
+        taulu_({Teksti(otsikko), yksikko + "/a", tuhannesosa + "/m²,a", tuhannesosa + "/m³,a"}) {}
+  /// A row of the number as it is shown, which is given back.
+  double Luku(Tekstinumero nimi, double arvo) {
+    arvo = Naytetty(arvo);
+    taulu_.Lisaa({Teksti(nimi), Muotoile(arvo, kMaara), Ominaisarvo(arvo, ala_), Ominaisarvo(arvo, tilavuus_)});
+    return arvo;
   }
-  void Luku(const std::string& nimi, double mwh) {
-    rivit_.push_back({nimi, Muotoile(mwh, kEnergia), Ominaisarvo(mwh, ala_), Ominaisarvo(mwh, tilavuus_)});
+  /// Rows of what was computed, given as their sum so far, and of what was measured.
+  void Vertailu(double laskettu, Tekstinumero mitatunNimi, double mitattu) {
+    taulu_.Viiva();
+    Luku(tekstit::kLaskettuKulutus, laskettu);
+    mitattu = Luku(mitatunNimi, mitattu);
+    Luku(tekstit::kMitattuVahennettynaLasketulla, mitattu - laskettu);
   }
-  void Viiva() { rivit_.emplace_back(); }
   void Tulosta(std::ostream& tulos) const {
-    Rivi leveydet{};
-    std::array<std::size_t, kSarakkeita> merkkeja{};
-    for (const Rivi& rivi : rivit_)
-      for (std::size_t i = 0; i < kSarakkeita; ++i) merkkeja[i] = std::max(merkkeja[i], Merkkeja(rivi[i]));
-    for (const Rivi& rivi : rivit_) TulostaRivi(tulos, rivi, merkkeja);
-  }
-
- private:
-  static constexpr std::size_t kSarakkeita = 4;
-  using Rivi = std::array<std::string, kSarakkeita>;
-
-  static std::string Ominaisarvo(double mwh, double jakaja) {
-    return jakaja > 0 ? Muotoile(mwh * kkWhperMWh / jakaja, kOminaiskulutus) : "-";
-  }
-  static void TulostaRivi(std::ostream& tulos, const Rivi& rivi, const std::array<std::size_t, kSarakkeita>& leveydet) {
-    const bool viiva = rivi == Rivi{};
-    for (std::size_t i = 0; i < kSarakkeita; ++i) {
-      const std::string taytto = viiva ? std::string(leveydet[i], '-') : Taytto(rivi[i], leveydet[i]);
-      tulos << kValissa << (i == 0 ? rivi[i] + taytto : taytto + rivi[i]);
-    }
+    taulu_.Tulosta(tulos);
     tulos << '\n';
   }
 
+ private:
+  static std::string Ominaisarvo(double maara, double jakaja) {
+    return jakaja > 0 ? Muotoile(maara * kTuhat / jakaja, kMaara) : "-";
+  }
   double ala_, tilavuus_;
-  std::vector<Rivi> rivit_;
+  Tekstitaulu taulu_;
 };
+
+/// Rows of the object's results; their sum.
+double Tulosrivit(Taulu& taulu, Olio& olio, std::span<const std::string_view> nimet) {
+  double summa = 0;
+  for (const std::string_view nimi : nimet) {
+    const Tulos& tulos = olio.LuokanTiedot().TulosNimella(nimi);
+    summa += taulu.Luku(tulos.teksti, tulos.Arvo({olio}));
+  }
+  return summa;
+}
+
+void TulostaLampo(std::ostream& tulos, clsRakennus& rakennus) {
+  Taulu taulu(rakennus.Perustiedot, tekstit::kYhteenvedonLampo, "MWh", "kWh");
+  const double lasketut = Tulosrivit(taulu, rakennus, kLasketut);
+  const double yhteensa = lasketut + taulu.Luku(tekstit::kMuuLampoYhteensa, rakennus.MuuLampo);
+  const Tulos& mitattu = clsRakennus::kLuokka.TulosNimella(kMitattuLampo);
+  taulu.Vertailu(yhteensa, mitattu.teksti, mitattu.Arvo({rakennus}));
+  Tulosrivit(taulu, rakennus, kHaviotJaBrutto);
+  taulu.Tulosta(tulos);
+}
 
 /// A message on one line.
 std::string Rivina(const Viesti& viesti) {
@@ -104,23 +113,15 @@ void KirjoitaYhteenveto(std::ostream& tulos, const std::string& tiedosto, clsRak
         << Muotoile(tiedot.BruttoAla, "### ##0") << " m², " << Muotoile(tiedot.Kokonaistilavuus, "### ##0")
         << " m³\n\n";
 
-  Taulu taulu(tiedot.BruttoAla, tiedot.Kokonaistilavuus);
-  const auto luku = [&](std::string_view nimi) {
-    const Tulos& rivi = clsRakennus::kLuokka.TulosNimella(nimi);
-    const double arvo = Naytetty(rivi.Arvo({rakennus}));
-    taulu.Luku(Teksti(rivi.teksti), arvo);
-    return arvo;
-  };
-  double yhteensa = Naytetty(rakennus.MuuLampo);
-  for (const std::string_view nimi : kLasketut) yhteensa += luku(nimi);
-  taulu.Luku(Teksti(tekstit::kMuuLampoYhteensa), Naytetty(rakennus.MuuLampo));
-  taulu.Viiva();
-  taulu.Luku(Teksti(tekstit::kLaskettuKulutus), yhteensa);
-  const double mitattu = luku(kMitattu);
-  taulu.Luku(Teksti(tekstit::kMitattuVahennettynaLasketulla), mitattu - yhteensa);
-  for (const std::string_view nimi : kHaviotJaBrutto) luku(nimi);
-  taulu.Tulosta(tulos);
+  TulostaLampo(tulos, rakennus);
+  const clsToteutunutKulutus& mitattu = tiedot.ToteutuneetKulutukset.VertailuVuodenTiedot();
+  Taulu sahko(tiedot, tekstit::kYhteenvedonSahko, "MWh", "kWh");
+  sahko.Vertailu(Tulosrivit(sahko, rakennus.SahkonKulutusryhmat, kSahkot), tekstit::kMitattuKulutus, mitattu.Sahko);
+  sahko.Tulosta(tulos);
+  Taulu vesi(tiedot, tekstit::kYhteenvedonVesi, "m³", "dm³");
+  vesi.Vertailu(Tulosrivit(vesi, rakennus.VedenKulutusryhmat, kVedet), tekstit::kMitattuKulutus, mitattu.Vesi);
+  vesi.Tulosta(tulos);
+  KirjoitaHankinta(tulos, rakennus);
   for (const std::string& rivi : Viestirivit(viestit))
-    tulos << "\n  " << Teksti(tekstit::kHuomautus) << ": " << rivi << '\n';
-  tulos << '\n';
+    tulos << kValissa << Teksti(tekstit::kHuomautus) << ": " << rivi << "\n\n";
 }

@@ -33,9 +33,13 @@ struct Kokoelmamuokkaus {
   Tunniste Lisaa() const try {
     T& uusi = Uusi();
     const Tunniste avain = uusi.sKey;
-    if (muokkaa(uusi)) return avain;
-    kokoelma.Remove(avain);
-    VaadiRakennus().RekisteriVanheni();
+    try {
+      if (muokkaa(uusi)) return avain;
+    } catch (...) {
+      Hylkaa(avain);
+      throw;
+    }
+    Hylkaa(avain);
     return {};
   } catch (...) {
     NostaVirhe("Kokoelmamuokkaus:Lisaa Method");
@@ -43,10 +47,9 @@ struct Kokoelmamuokkaus {
 
   /// The key of the last item that the rows made; empty when they made none.
   Tunniste Liita(const Taulukko& rivit) const try {
-    const auto avaimet = LiitaRivit(rivit, sarakkeet,
-                                    {.luo = [this]() -> Alkio& { return Uusi(); },
-                                     .poista = [this](const Tunniste& avain) { kokoelma.Remove(avain); }});
-    VaadiRakennus().RekisteriVanheni();
+    const auto avaimet = LiitaRivit(
+        rivit, sarakkeet,
+        {.luo = [this]() -> Alkio& { return Uusi(); }, .poista = [this](const Tunniste& avain) { Hylkaa(avain); }});
     if (avaimet.empty()) return {};
     for (const Tunniste& avain : avaimet) Nosta(liitetty, kokoelma.Item(avain));
     VaadiRakennus().Muuttui(Teksti(liittaminen));
@@ -79,9 +82,20 @@ struct Kokoelmamuokkaus {
 
  private:
   T& Uusi() const {
-    T& uusi = kokoelma.Add(Tunniste::Uusi(T::kLuokka.NimiSana()));
-    Nosta(alusta, uusi);
+    const Tunniste avain = Tunniste::Uusi(T::kLuokka.NimiSana());
+    T& uusi = kokoelma.Add(avain);
+    try {
+      Nosta(alusta, uusi);
+    } catch (...) {
+      Hylkaa(avain);
+      throw;
+    }
     return uusi;
+  }
+  /// It was never there.
+  void Hylkaa(const Tunniste& avain) const {
+    kokoelma.Remove(avain);
+    VaadiRakennus().RekisteriVanheni();
   }
 };
 

@@ -132,13 +132,13 @@ bool KelpaaMalliksi(const frmPerustiedot& lomake, const clsPerustiedot& tiedot) 
   return true;
 }
 
-/// After an error: the model that another was to replace, and the weather of the locality.
+/// After an error, when the basic data are again as they were: all that another model was to replace, and the weather
+/// of the locality.
 void PalautaMalli(clsPerustiedot& tiedot, clsRakennus* entinen) {
   if (!tiedot.OletusarvotLaskettu) return;
-  const auto palautetut = tiedot.Kopioi();
-  if (entinen) entinen->Kopioi(&VaadiRakennus());
-  palautetut->Kopioi(tiedot);
-  tiedot.SaaTietoMuuttui.arvo(tiedot.LammTarveLukuPaikkakuntaID());
+  if (!entinen) return tiedot.SaaTietoMuuttui.arvo(tiedot.LammTarveLukuPaikkakuntaID());
+  tiedot.Kopioi(entinen->Perustiedot);
+  VaadiRakennus().PalautaTilannekuva(*entinen);
 }
 
 /// A new object that isn't taken into use has no file and no name.
@@ -193,7 +193,7 @@ bool clsPerustiedot::NaytaKayttoliityma() try {
            [&] {
              PaaikkunaNyt().TyokalutKaytossa(3, true);
              if (luodaanUudelleen) {
-               entinenMalli = VaadiRakennus().Kopioi();
+               entinenMalli = VaadiRakennus().Tilannekuva();
                OletusarvotLaskettu = false;
              }
              OtaKayttoon(entinenPaikkakunta);

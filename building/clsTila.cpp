@@ -115,7 +115,7 @@ double clsTila::JohtumisHaviot(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   return johtumishaviotUpToDate_ ? johtumishaviot_.arvo[m] : Rakenteet.LampoHaviot(Sisalampotila, kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:JohtumisHaviot Method");
+  NostaVirhe("clsTila:JohtumisHaviot Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::Vuotoilma(int kuukausi) const try {
@@ -125,7 +125,7 @@ double clsTila::Vuotoilma(int kuukausi) const try {
   return q * kIlmanTiheys * kIlmanLampokapasiteetti * (Sisalampotila - koti_.Rakennus().Saa.Keskilampotila(kuukausi)) *
          kPaivatKuukaudessa[m] * kTuntiaVuorokaudessa;
 } catch (...) {
-  NostaVirhe("clsTila:Vuotoilma Method");
+  NostaVirhe("clsTila:Vuotoilma Method", Virheenkohde{TilanNimi});
 }
 
 clsTila::Koneet clsTila::LiittyvatKoneet() const {
@@ -151,7 +151,7 @@ double clsTila::IVHaviotTilassa(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   return ivHaviotUpToDate_ ? ivHaviot_.arvo[m] : Koneista().haviot[m] + Vuotoilma(kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:IVHaviotTilassa Method");
+  NostaVirhe("clsTila:IVHaviotTilassa Method", Virheenkohde{TilanNimi});
 }
 
 // The gains have a flag of their own, which a change leaves standing: it is the losses' flag that tells whether both
@@ -160,13 +160,13 @@ double clsTila::IVKoneLampoKuorma(int kuukausi) const try {
   const auto m = static_cast<std::size_t>(TarkistaKuukausi(kuukausi));
   return ivHaviotUpToDate_ && ivKuormatUpToDate_ ? ivKuormat_.arvo[m] : Koneista().kuormat[m];
 } catch (...) {
-  NostaVirhe("clsTila:IVKoneLampoKuorma Method");
+  NostaVirhe("clsTila:IVKoneLampoKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::LampoHaviot(int kuukausi) const try {
   return JohtumisHaviot(kuukausi) + IVHaviotTilassa(kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:LampoHaviot Method");
+  NostaVirhe("clsTila:LampoHaviot Method", Virheenkohde{TilanNimi});
 }
 
 void clsTila::PaivitaSahkoOmKuorma() try {
@@ -182,21 +182,21 @@ void clsTila::PaivitaSahkoOmKuorma() try {
     sahkoOmKuorma_ = rakennus.SahkonKulutusryhmat.TilanSahkoKuorma(sKey) / BruttoAla + yleiskuorma;
   }
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaSahkoOmKuorma Method");
+  NostaVirhe("clsTila:PaivitaSahkoOmKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::SahkoKuorma(int kuukausi) const try {
   TarkistaKuukausi(kuukausi);
   return BruttoAla * sahkoOmKuorma_;
 } catch (...) {
-  NostaVirhe("clsTila:SahkoKuorma Method");
+  NostaVirhe("clsTila:SahkoKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::HenkiloKuorma(int kuukausi) const try {
   TarkistaKuukausi(kuukausi);
   return TilanHenkilomaara * kHenkiloOmKuorma * TilanKayttoaikaHpA / 1000 / kKuukausia;
 } catch (...) {
-  NostaVirhe("clsTila:HenkiloKuorma Method");
+  NostaVirhe("clsTila:HenkiloKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::AurinkoKuorma(int kuukausi) const try {
@@ -207,7 +207,7 @@ double clsTila::AurinkoKuorma(int kuukausi) const try {
     if (rakenne.PaastaaAuringon()) summa += rakenne.AurinkoKuorma(kuukausi);
   return summa;
 } catch (...) {
-  NostaVirhe("clsTila:AurinkoKuorma Method");
+  NostaVirhe("clsTila:AurinkoKuorma Method", Virheenkohde{TilanNimi});
 }
 
 clsTila::Tase clsTila::KuukaudenTase(int kuukausi) const {
@@ -220,14 +220,14 @@ clsTila::Tase clsTila::KuukaudenTase(int kuukausi) const {
 double clsTila::IdeaalinenHyvaksiKayttoAste(int kuukausi) const try {
   return KuukaudenTase(kuukausi).hyvaksikayttoaste;
 } catch (...) {
-  NostaVirhe("clsTila:IdeaalinenHyvaksiKayttoAste Method");
+  NostaVirhe("clsTila:IdeaalinenHyvaksiKayttoAste Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::HyodynnetytLampoKuormat(int kuukausi) const try {
   const Tase tase = KuukaudenTase(kuukausi);
   return tase.kuormat * tase.hyvaksikayttoaste;
 } catch (...) {
-  NostaVirhe("clsTila:HyodynnetytLampoKuormat Method");
+  NostaVirhe("clsTila:HyodynnetytLampoKuormat Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::KuukaudenTarve(int kuukausi) const {
@@ -239,7 +239,7 @@ double clsTila::LampoEnergianTarve(int kuukausi) try {
   PaivitaSahkoOmKuorma();
   return KuukaudenTarve(kuukausi);
 } catch (...) {
-  NostaVirhe("clsTila:LampoEnergianTarve Method");
+  NostaVirhe("clsTila:LampoEnergianTarve Method", Virheenkohde{TilanNimi});
 }
 
 template <class F>
@@ -252,51 +252,51 @@ double clsTila::Vuosisumma(F&& kuukausiarvo) {
 double clsTila::VuotuisetJohtumisHaviot() const try {
   return Vuosisumma([this](int m) { return JohtumisHaviot(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetJohtumisHaviot Method");
+  NostaVirhe("clsTila:VuotuisetJohtumisHaviot Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuisetIVHaviotTilassa() const try {
   return Vuosisumma([this](int m) { return IVHaviotTilassa(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetIVHaviotTilassa Method");
+  NostaVirhe("clsTila:VuotuisetIVHaviotTilassa Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuisetLampoHaviot() const try {
   return Vuosisumma([this](int m) { return OnLammityskautta(m) ? LampoHaviot(m) : 0.0; });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetLampoHaviot Method");
+  NostaVirhe("clsTila:VuotuisetLampoHaviot Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuinenSahkoKuorma() try {
   PaivitaSahkoOmKuorma();
   return Vuosisumma([this](int m) { return SahkoKuorma(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenSahkoKuorma Method");
+  NostaVirhe("clsTila:VuotuinenSahkoKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuinenHenkiloKuorma() const try {
   return Aarellinen(TilanHenkilomaara * kHenkiloOmKuorma * TilanKayttoaikaHpA / 1000000);
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenHenkiloKuorma Method");
+  NostaVirhe("clsTila:VuotuinenHenkiloKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuinenAurinkoKuorma() const try {
   return Vuosisumma([this](int m) { return AurinkoKuorma(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenAurinkoKuorma Method");
+  NostaVirhe("clsTila:VuotuinenAurinkoKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuinenIVKoneLampoKuorma() const try {
   return Vuosisumma([this](int m) { return IVKoneLampoKuorma(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenIVKoneLampoKuorma Method");
+  NostaVirhe("clsTila:VuotuinenIVKoneLampoKuorma Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuisetHyodynnetytLampoKuormat() try {
   PaivitaSahkoOmKuorma();
   return Vuosisumma([this](int m) { return HyodynnetytLampoKuormat(m); });
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetHyodynnetytLampoKuormat Method");
+  NostaVirhe("clsTila:VuotuisetHyodynnetytLampoKuormat Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuinenLampoEnergianTarve() try {
@@ -314,20 +314,20 @@ double clsTila::VuotuinenLampoEnergianTarve() try {
     if (OnLammityskautta(m)) tarve += KuukaudenTarve(m);
   return Aarellinen(tarve * (paikkakunta / vyohyke) / kkWhperMWh);
 } catch (...) {
-  NostaVirhe("clsTila:VuotuinenLampoEnergianTarve Method");
+  NostaVirhe("clsTila:VuotuinenLampoEnergianTarve Method", Virheenkohde{TilanNimi});
 }
 
 double clsTila::VuotuisetSaatohaviot() try {
   return Aarellinen((100 - Saatohyotysuhde) * VuotuisetHyodynnetytLampoKuormat() / 100);
 } catch (...) {
-  NostaVirhe("clsTila:VuotuisetSaatohaviot Method");
+  NostaVirhe("clsTila:VuotuisetSaatohaviot Method", Virheenkohde{TilanNimi});
 }
 
 void clsTila::PaivitaIVHaviotTilassa() try {
   Edistyminen edistyminen;
   PaivitaIVHaviotTilassa(ivHaviotUpToDate_ ? Koneet{} : LiittyvatKoneet(), edistyminen);
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method");
+  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method", Virheenkohde{TilanNimi});
 }
 
 void clsTila::PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistyminen) try {
@@ -335,7 +335,7 @@ void clsTila::PaivitaIVHaviotTilassa(const Koneet& koneet, Edistyminen& edistymi
   ivHaviotUpToDate_ = true;
   ivKuormatUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method");
+  NostaVirhe("clsTila:PaivitaIVHaviotTilassa Method", Virheenkohde{TilanNimi});
 }
 
 void clsTila::LaskeIVHaviot(const Koneet& koneet, Edistyminen& edistyminen) {
@@ -355,7 +355,7 @@ void clsTila::PaivitaIVKuormatTilassa() try {
     ivKuormat_.arvo[static_cast<std::size_t>(m)] = OnLammityskautta(m) ? IVKoneLampoKuorma(m) : 0;
   ivKuormatUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaIVKuormatTilassa Method");
+  NostaVirhe("clsTila:PaivitaIVKuormatTilassa Method", Virheenkohde{TilanNimi});
 }
 
 void clsTila::PaivitaAurKuormatTilassa() try {
@@ -369,7 +369,7 @@ void clsTila::PaivitaAurKuormatTilassa() try {
   aurKuormat_.arvo = summa;
   aurKuormatUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaAurKuormatTilassa Method");
+  NostaVirhe("clsTila:PaivitaAurKuormatTilassa Method", Virheenkohde{TilanNimi});
 }
 
 void clsTila::PaivitaJohtumishaviot() try {
@@ -378,5 +378,5 @@ void clsTila::PaivitaJohtumishaviot() try {
   johtumishaviot_.arvo = Rakenteet.LampoHaviot(Sisalampotila);
   johtumishaviotUpToDate_ = true;
 } catch (...) {
-  NostaVirhe("clsTila:PaivitaJohtumishaviot Method");
+  NostaVirhe("clsTila:PaivitaJohtumishaviot Method", Virheenkohde{TilanNimi});
 }

@@ -18,6 +18,7 @@
 #include "tekstit/viestit.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Virheilmoitus.h"
 #include "ui/frmTilaYhteenveto.h"
 #include "ventilation/clsIVKoneet.h"
 
@@ -25,6 +26,7 @@ namespace {
 
 constexpr const char* kKokonaisina = "### ##0";
 constexpr const char* kEiLukua = "---";
+constexpr const char* kOsuus = "0.0#";  // %
 
 // The columns behind the name: the space's own figures, and results of its year's balance.
 constexpr const char* kAste = "°C";
@@ -108,7 +110,7 @@ Luettelosisalto LasketutRivit(clsRakennus& rakennus, const clsTilat& tilat) {
     const Tasehaarukka haarukka(rakennus);
     return TilojenRivit(tilat, rakennus, true);
   } catch (const Virhe& virhe) {
-    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+    KerroVirhe(virhe);
     return TilojenRivit(tilat, rakennus, false);
   }
 }
@@ -175,7 +177,7 @@ void clsTilat::LiitaTapahtumat() {
 void clsTilat::LueDataluokka() try {
   frmTilaYhteenveto& lomake = *kayttoLiittyma_.arvo;
   lomake.chkKaytaTotSahkoKuormia.Valittu(KaytaTotSahkoKuormia);
-  lomake.txtTotSahkoKuormaPros.Luku(TotSahkoKuormaPros, "0.0#");
+  lomake.txtTotSahkoKuormaPros.Luku(TotSahkoKuormaPros, kOsuus);
   TaytaLuettelo();
 } catch (...) {
   NostaVirhe("clsTilat:LueDataluokka Method");
@@ -213,8 +215,8 @@ void clsTilat::NaytaErittely() {
 
 void clsTilat::KayttoLiittyma_SahkokuormatMuuttuivat() try {
   KirjoitaDataluokka();
+  kayttoLiittyma_.arvo->txtTotSahkoKuormaPros.Luku(TotSahkoKuormaPros, kOsuus);
   VaadiRakennus().Muuttui(Teksti(tekstit::kTilojenSahkokuormat));
-  LueDataluokka();
 } catch (...) {
   NostaVirhe("clsTilat:KayttoLiittyma_SahkokuormatMuuttuivat Method");
 }

@@ -36,6 +36,14 @@ struct Kiintearivi {
   int teksti;  ///< id of its caption
 };
 
+/// Tells key and figure of each row as it is after a rebuild. The tree itself stays as it is.
+template <class Puu, class Rivi, class F>
+void LueAjantasaisetRivit(const Puu& puu, double Rivi::*suure, F&& kasittele) {
+  const auto kopio = puu.Kopioi();
+  kopio->PaivitaKulutusRyhmatJaLaitteet();
+  for (const Rivi& rivi : kopio->ListaItems()) kasittele(rivi.sKey.Teksti(), rivi.*suure);
+}
+
 /// Consumer groups and the rows of their tree: a group and its row have the same key. The root sums up titles, a title
 /// sums up groups and rows that other parts of the model give; a group may also hang under such a row.
 ///

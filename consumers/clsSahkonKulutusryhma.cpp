@@ -2,8 +2,10 @@
 #include "consumers/clsSahkonKulutusryhma.h"
 
 #include "kernel/Laskenta.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -24,19 +26,26 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsSahkonKulutusryhma::LaskentatapaEnergiapohjainenIndex>("LaskentatapaEnergiapohjainenIndex"),
     Arvo<&clsSahkonKulutusryhma::LaskentaperusteID>("LaskentaperusteID"),
     Arvo<&clsSahkonKulutusryhma::LaskentaperusteStr>("LaskentaperusteStr"),
-    Arvo<&clsSahkonKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber"),
+    Arvo<&clsSahkonKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber", Suure().Rajat(0)),
     Arvo<&clsSahkonKulutusryhma::Laskentayksikko>("Laskentayksikko"),
-    Arvo<&clsSahkonKulutusryhma::LaskentayksikkoNumber>("LaskentayksikkoNumber"),
-    Arvo<&clsSahkonKulutusryhma::KayttoaikaHpD>("KayttoaikaHpD", "h/d"),
-    Arvo<&clsSahkonKulutusryhma::KayttoaikaDpA>("KayttoaikaDpA", "d/a"),
-    Arvo<&clsSahkonKulutusryhma::Tasauskerroin>("Tasauskerroin"),
-    Arvo<&clsSahkonKulutusryhma::KulutusryhmienLukumaara>("KulutusryhmienLukumaara"),
-    Arvo<&clsSahkonKulutusryhma::SyötettyKulutus>("SyötettyKulutus", "MWh/a"),
+    Arvo<&clsSahkonKulutusryhma::LaskentayksikkoNumber>("LaskentayksikkoNumber", Suure().Rajat(0).Tavallisesti(0, 1e6)),
+    Arvo<&clsSahkonKulutusryhma::KayttoaikaHpD>("KayttoaikaHpD", Suure("h/d").Rajat(0, 24)),
+    Arvo<&clsSahkonKulutusryhma::KayttoaikaDpA>("KayttoaikaDpA", Suure("d/a").Rajat(0, 366)),
+    Arvo<&clsSahkonKulutusryhma::Tasauskerroin>("Tasauskerroin", Suure().Rajat(0).Tavallisesti(0, 1)),
+    Arvo<&clsSahkonKulutusryhma::KulutusryhmienLukumaara>("KulutusryhmienLukumaara",
+                                                          Suure("kpl").Rajat(0).Tavallisesti(0, 1e4)),
+    Arvo<&clsSahkonKulutusryhma::SyötettyKulutus>("SyötettyKulutus", Suure("MWh/a").Rajat(0).Tavallisesti(0, 1e4)),
+};
+
+constexpr Tulos kTulokset[] = {
+    Avaintulos(),
+    Tekstitulos<&clsSahkonKulutusryhma::KulutusRyhma>("KulutusRyhma"),
+    Vuositulos<&clsSahkonKulutusryhma::Vuosikulutus>("Vuosikulutus", tekstit::kRyhmanSahko),
 };
 
 }  // namespace
 
-const Luokka clsSahkonKulutusryhma::kLuokka{"clsSahkonKulutusryhma", kJasenet};
+const Luokka clsSahkonKulutusryhma::kLuokka{"clsSahkonKulutusryhma", kJasenet, kTulokset};
 
 clsSahkonKulutusryhma::clsSahkonKulutusryhma() : KulutusRyhma(Teksti(tekstit::kUusiKulutusryhma)) {}
 

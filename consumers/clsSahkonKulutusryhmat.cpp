@@ -5,8 +5,10 @@
 #include "building/clsTilat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Laskenta.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 #include "ventilation/clsIVKoneet.h"
 
@@ -15,6 +17,23 @@ namespace {
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
 };
+
+constexpr Tulos kTulokset[] = {
+    Vuositulos<&clsSahkonKulutusryhmat::Vuosikulutus>("Vuosikulutus", tekstit::kSahkoKaikki),
+    Vuositulos<&clsSahkonKulutusryhmat::SahkoLaitteidenVuosikulutus>("SahkoLaitteidenVuosikulutus",
+                                                                     tekstit::kLaitteidenSahko),
+    Vuositulos<&clsSahkonKulutusryhmat::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", tekstit::kPuhaltimienSahko),
+    Vuositulos<&clsSahkonKulutusryhmat::LammitysSahkonVuosikulutus>("LammitysSahkonVuosikulutus",
+                                                                    tekstit::kLammityssahko),
+    Lukutulos<&clsSahkonKulutusryhmat::TiloihinLiittymatonSahkoKuorma>("TiloihinLiittymatonSahkoKuorma",
+                                                                       tekstit::kYleisSahkokuorma, "kWh/kk"),
+    Kokoelmatulos < [](clsSahkonKulutusryhmat& r) -> auto& {return r;
+}  // namespace
+> ("Ryhmat"), Karttatulos<[](const clsSahkonKulutusryhmat& r, const Karttakasittelija& kasittele) {
+  LueAjantasaisetRivit(r, &clsSahkoListaItem::Vuosikulutus, kasittele);
+}>("Puu", tekstit::kKulutusRiveittain, "MWh/a"),
+}
+;
 
 constexpr double kkWhPerMWh = 1e3;
 
@@ -32,7 +51,7 @@ constexpr const char* kLaskentatapa = "Tarkennettu";
 
 }  // namespace
 
-const Luokka clsSahkonKulutusryhmat::kLuokka{"clsSahkonKulutusryhmat", kJasenet};
+const Luokka clsSahkonKulutusryhmat::kLuokka{"clsSahkonKulutusryhmat", kJasenet, kTulokset};
 
 clsSahkoListaItem& clsSahkonKulutusryhmat::AddListaItem(const Tunniste& sKey, const Tunniste& Parent,
                                                         std::int16_t ItemTyyppi, std::string NimiTeksti,

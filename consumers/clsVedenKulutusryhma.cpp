@@ -5,8 +5,10 @@
 
 #include "kernel/Laskenta.h"
 #include "kernel/Luvut.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
+#include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 
 namespace {
@@ -19,15 +21,22 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsVedenKulutusryhma::KulutusRyhmaTyyppi>("KulutusRyhmaTyyppi"),
     Arvo<&clsVedenKulutusryhma::LaskentaperusteID>("LaskentaperusteID"),
     Arvo<&clsVedenKulutusryhma::LaskentaperusteStr>("LaskentaperusteStr"),
-    Arvo<&clsVedenKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber"),
-    Arvo<&clsVedenKulutusryhma::Laskentayksikko>("Laskentayksikko"),
+    Arvo<&clsVedenKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber", Suure().Rajat(0).Tavallisesti(0, 1e4)),
+    Arvo<&clsVedenKulutusryhma::Laskentayksikko>("Laskentayksikko", Suure().Rajat(0).Tavallisesti(0, 1e5)),
     Arvo<&clsVedenKulutusryhma::LaskentayksikonTeksti>("LaskentayksikonTeksti"),
-    Arvo<&clsVedenKulutusryhma::KayttokuvausKertaaD>("KayttokuvausKertaaD", "1/d"),
-    Arvo<&clsVedenKulutusryhma::KayttokuvausDpA>("KayttokuvausDpA", "d/a"),
-    Arvo<&clsVedenKulutusryhma::Tasauskerroin>("Tasauskerroin"),
-    Arvo<&clsVedenKulutusryhma::VedenKayttolampotila>("VedenKayttolampotila", "°C"),
-    Arvo<&clsVedenKulutusryhma::LampimanVedenOsuus>("LampimanVedenOsuus", "%"),
+    Arvo<&clsVedenKulutusryhma::KayttokuvausKertaaD>("KayttokuvausKertaaD", Suure("1/d").Rajat(0).Tavallisesti(0, 100)),
+    Arvo<&clsVedenKulutusryhma::KayttokuvausDpA>("KayttokuvausDpA", Suure("d/a").Rajat(0, 366)),
+    Arvo<&clsVedenKulutusryhma::Tasauskerroin>("Tasauskerroin", Suure().Rajat(0).Tavallisesti(0, 1)),
+    Arvo<&clsVedenKulutusryhma::VedenKayttolampotila>("VedenKayttolampotila", Suure("°C").Rajat(0, 100)),
+    Arvo<&clsVedenKulutusryhma::LampimanVedenOsuus>("LampimanVedenOsuus", Suure("%").Tavallisesti(0, 100)),
     Arvo<&clsVedenKulutusryhma::LammityksessaHyodynnettavaOsuus>("LammityksessaHyodynnettavaOsuus", "%"),
+};
+
+constexpr Tulos kTulokset[] = {
+    Avaintulos(),
+    Tekstitulos<&clsVedenKulutusryhma::KulutusRyhma>("KulutusRyhma"),
+    Vuositulos<&clsVedenKulutusryhma::VedenKulutus>("VedenKulutus", tekstit::kRyhmanVesi, "m³/a"),
+    Vuositulos<&clsVedenKulutusryhma::VedenLammityksenEnergia>("VedenLammityksenEnergia", tekstit::kRyhmanLampo),
 };
 
 constexpr double kMJperkWh = 3.6;
@@ -39,7 +48,7 @@ constexpr std::array<double, 7> kMuuntokertoimet{1000, 1000, 1000, 1000, 1000.0 
 
 }  // namespace
 
-const Luokka clsVedenKulutusryhma::kLuokka{"clsVedenKulutusryhma", kJasenet};
+const Luokka clsVedenKulutusryhma::kLuokka{"clsVedenKulutusryhma", kJasenet, kTulokset};
 
 clsVedenKulutusryhma::clsVedenKulutusryhma()
     : KulutusRyhma(Teksti(tekstit::kUusiKulutusryhma)), VedenKayttolampotila(VedenTiedot.KylmanLampotila) {}

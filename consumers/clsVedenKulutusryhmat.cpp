@@ -3,8 +3,10 @@
 
 #include "kernel/Laskenta.h"
 #include "kernel/Luvut.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "tekstit/rakennus.h"
+#include "tekstit/tulokset.h"
 
 namespace {
 
@@ -16,6 +18,44 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsVedenKulutusryhmat::LKVKiertoJaahtyma>("LKVKiertoJaahtyma", "K"),
     Arvo<&clsVedenKulutusryhmat::LKVKiertoVirtaama>("LKVKiertoVirtaama", "dm³/s"),
 };
+
+using Ryhmat = clsVedenKulutusryhmat;
+
+template <auto Suure>
+constexpr Tulos Rivitulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko) {
+  return Karttatulos<[](const Ryhmat& r, const Karttakasittelija& kasittele) {
+    LueAjantasaisetRivit(r, Suure, kasittele);
+  }>(nimi, teksti, yksikko);
+}
+
+constexpr Tulos kPuu[] = {
+    Rivitulos<&clsVesiListaItem::Vuosikulutus>("Vuosikulutus", tekstit::kKulutusRiveittain, "MWh/a"),
+    Rivitulos<&clsVesiListaItem::KvVuosikulutus>("KvVuosikulutus", tekstit::kKulutusRiveittain, "m³/a"),
+    Rivitulos<&clsVesiListaItem::LkvVuosikulutus>("LkvVuosikulutus", tekstit::kKulutusRiveittain, "m³/a"),
+};
+
+constexpr Tulos kTulokset[] = {
+    Vuositulos<&Ryhmat::VuotuinenVedenKulutus>("VuotuinenVedenKulutus", tekstit::kVesiKaikki, "m³/a"),
+    Vuositulos<&Ryhmat::VuotuinenKvKulutus>("VuotuinenKvKulutus", tekstit::kKayttovesiKaikki, "m³/a"),
+    Vuositulos<&Ryhmat::VuotuinenKylmanProsessivedenKulutus>("VuotuinenKylmanProsessivedenKulutus",
+                                                             tekstit::kProsessivesiKaikki, "m³/a"),
+    Vuositulos<&Ryhmat::VuotuinenLkvKulutus>("VuotuinenLkvKulutus", tekstit::kLamminKayttovesi, "m³/a"),
+    Vuositulos<&Ryhmat::VuotuinenLampimanProsessivedenKulutus>("VuotuinenLampimanProsessivedenKulutus",
+                                                               tekstit::kLamminProsessivesi, "m³/a"),
+    Vuositulos<&Ryhmat::VuotuinenLkvLammityksenEnergia>("VuotuinenLkvLammityksenEnergia",
+                                                        tekstit::kKayttovedenLammitys),
+    Vuositulos<&Ryhmat::VuotuinenProsessivedenLammityksenEnergia>("VuotuinenProsessivedenLammityksenEnergia",
+                                                                  tekstit::kProsessivedenLammitys),
+    Vuositulos<&Ryhmat::VuotuinenLkvSahkoLammityksenEnergia>("VuotuinenLkvSahkoLammityksenEnergia",
+                                                             tekstit::kKayttovedenSahkolammitys),
+    Vuositulos<&Ryhmat::VuotuinenProsessivedenSahkoLammityksenEnergia>("VuotuinenProsessivedenSahkoLammityksenEnergia",
+                                                                       tekstit::kProsessivedenSahkolammitys),
+    Vuositulos<&Ryhmat::LKVKiertopiirinHavio>("LKVKiertopiirinHavio", tekstit::kKierronHavio, "kWh/a"),
+    Kokoelmatulos < [](Ryhmat& r) -> auto& {return r;
+}  // namespace
+> ("Ryhmat"), Ryhmatulos("Puu", kPuu),
+}
+;
 
 constexpr double kProsessivedenLampotila = 70.0;  // °C
 constexpr double kkWhPerMWh = 1e3;
@@ -59,7 +99,7 @@ double OsuusKayttolampotilasta(double kaytto, const clsVedenTiedot& tiedot) {
 
 }  // namespace
 
-const Luokka clsVedenKulutusryhmat::kLuokka{"clsVedenKulutusryhmat", kJasenet};
+const Luokka clsVedenKulutusryhmat::kLuokka{"clsVedenKulutusryhmat", kJasenet, kTulokset};
 
 clsVedenKulutusryhmat::clsVedenKulutusryhmat() { ProsessiVedenTiedot.LamminLampotila = kProsessivedenLampotila; }
 

@@ -28,6 +28,12 @@ std::string Kello(const std::tm& aika) {
 
 std::string TamaPaiva() { return Paiva(Paikallinen(std::time(nullptr))); }
 
+std::string TamaPaivaLajiteltavana() {
+  const std::tm aika = Paikallinen(std::time(nullptr));
+  char teksti[16];
+  return {teksti, std::strftime(teksti, sizeof teksti, "%Y-%m-%d", &aika)};
+}
+
 int TamaVuosi() { return Paikallinen(std::time(nullptr)).tm_year + 1900; }
 
 bool OnPaivamaara(std::string_view teksti) {

@@ -5,6 +5,8 @@
 
 /// The local day as "d.M.yyyy", e.g. "7.3.2026".
 std::string TamaPaiva();
+/// The same as "YYYY-MM-DD", which sorts.
+std::string TamaPaivaLajiteltavana();
 /// The local calendar year.
 int TamaVuosi();
 /// A day of the calendar written so; blanks around it are skipped.

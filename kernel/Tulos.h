@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -24,6 +25,9 @@ struct Tuloskohde {
   }
 };
 
+/// What is called with each key and number of a map.
+using Karttakasittelija = std::function<void(std::string_view avain, double arvo)>;
+
 enum class Tuloslaji : std::uint8_t {
   Kuukausi,  ///< a number for each month
   Vuosi,     ///< a number of the year
@@ -34,6 +38,8 @@ enum class Tuloslaji : std::uint8_t {
   Upotettu,  ///< the results of a part, shown as if they were the object's own
   Osat,      ///< the results of the items of a collection
   Kartta,    ///< a number by key
+  Totuus,    ///< yes or no
+  Ryhma,     ///< rows of the same object under a name of their own
 };
 
 /// One row of a class's table of results, beside its table of members: what is computed of an object, under what name,
@@ -50,8 +56,9 @@ struct Tulos {
   std::string (*sana)(const Tuloskohde&) = nullptr;
   std::variant<double, std::string> (*arvo)(const Tuloskohde&) = nullptr;
   void (*osat)(const Tuloskohde&, const std::function<void(Olio&)>& kasittele) = nullptr;
-  void (*kartta)(const Tuloskohde&,
-                 const std::function<void(std::string_view avain, double arvo)>& kasittele) = nullptr;
+  void (*kartta)(const Tuloskohde&, const Karttakasittelija& kasittele) = nullptr;
+  bool (*totta)(const Tuloskohde&) = nullptr;
+  std::span<const Tulos> ryhma{};
 
   bool OnLuku() const noexcept { return luku != nullptr; }
   /// The number of the year, or of one month 0 to 11.
@@ -130,6 +137,12 @@ constexpr Tulos Tekstitulos(std::string_view nimi, Tekstinumero teksti = {}) {
   t.sana = [](const Tuloskohde& k) { return std::string(tulos::Kutsu<F>(k)); };
   return t;
 }
+template <auto F>
+constexpr Tulos Totuustulos(std::string_view nimi) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Totuus};
+  t.totta = [](const Tuloskohde& k) -> bool { return tulos::Kutsu<F>(k); };
+  return t;
+}
 /// The getter gives a std::variant of number and text.
 template <auto F>
 constexpr Tulos Arvotulos(std::string_view nimi) {
@@ -168,8 +181,12 @@ constexpr Tulos Kokoelmatulos(std::string_view nimi) {
 template <auto F>
 constexpr Tulos Karttatulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Kartta, .yksikko = yksikko, .teksti = teksti};
-  t.kartta = [](const Tuloskohde& k, const std::function<void(std::string_view, double)>& kasittele) {
-    F(tulos::Olioksi<F>(k), kasittele);
-  };
+  t.kartta = [](const Tuloskohde& k, const Karttakasittelija& kasittele) { F(tulos::Olioksi<F>(k), kasittele); };
+  return t;
+}
+/// Rows of the same object under a name; `rivit` lives for the whole run.
+constexpr Tulos Ryhmatulos(std::string_view nimi, std::span<const Tulos> rivit) {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Ryhma};
+  t.ryhma = rivit;
   return t;
 }

@@ -10,34 +10,48 @@ std::string TekstiPuuttuu(int numero) { return "[String " + std::to_string(numer
 
 std::string (*g_haku)(int) = TekstiPuuttuu;
 
-std::string KasiteltavanKuvaus() {
+/// What the error being handled says, and the name of the object that it is about.
+struct Kasiteltava {
+  std::string kuvaus;
+  std::string kohde;
+};
+Kasiteltava KasiteltavaVirhe() {
   try {
     throw;
+  } catch (const Virhe& e) {
+    return {SyynKuvaus(e), e.Kohde()};
   } catch (const std::exception& e) {
-    return SyynKuvaus(e);
+    return {e.what(), {}};
   } catch (...) {
-    return "tuntematon virhe";
+    return {"tuntematon virhe", {}};
   }
+}
+
+[[noreturn]] void Nosta(const char* lahde, Kasiteltava syy, std::exception_ptr syyolio) {
+  throw Virhe(tekstit::kOhjelmassaTapahtuiVirhe, lahde, g_haku(tekstit::kOhjelmassaTapahtuiVirhe), std::move(syyolio),
+              std::move(syy.kuvaus), std::move(syy.kohde));
 }
 
 }  // namespace
 
-Virhe::Virhe(int numero, std::string lahde, const std::string& kuvaus, std::exception_ptr syy, std::string syynKuvaus)
+Virhe::Virhe(int numero, std::string lahde, const std::string& kuvaus, std::exception_ptr syy, std::string syynKuvaus,
+             std::string kohde)
     : std::runtime_error(kuvaus),
       numero_(numero),
       lahde_(std::move(lahde)),
       syy_(std::move(syy)),
-      syynKuvaus_(std::move(syynKuvaus)) {}
+      syynKuvaus_(std::move(syynKuvaus)),
+      kohde_(std::move(kohde)) {}
 
-void NostaVirhe(const char* lahde) {
-  throw Virhe(tekstit::kOhjelmassaTapahtuiVirhe, lahde, g_haku(tekstit::kOhjelmassaTapahtuiVirhe),
-              std::current_exception(), KasiteltavanKuvaus());
+void NostaVirhe(const char* lahde) { Nosta(lahde, KasiteltavaVirhe(), std::current_exception()); }
+
+void NostaVirhe(const char* lahde, Virheenkohde kohde) {
+  Kasiteltava syy = KasiteltavaVirhe();
+  if (syy.kohde.empty()) syy.kohde = kohde.nimi;
+  Nosta(lahde, std::move(syy), std::current_exception());
 }
 
-void NostaVirhe(const char* lahde, std::string syy) {
-  throw Virhe(tekstit::kOhjelmassaTapahtuiVirhe, lahde, g_haku(tekstit::kOhjelmassaTapahtuiVirhe), nullptr,
-              std::move(syy));
-}
+void NostaVirhe(const char* lahde, std::string syy) { Nosta(lahde, {std::move(syy), {}}, nullptr); }
 
 void AsetaVirhetekstinHaku(std::string (*haku)(int numero)) { g_haku = haku ? haku : TekstiPuuttuu; }
 

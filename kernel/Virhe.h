@@ -11,7 +11,8 @@
 class Virhe : public std::runtime_error {
  public:
   /// Numero is 9999 for a raised error; `syy` is the cause, kept for diagnosis only.
-  Virhe(int numero, std::string lahde, const std::string& kuvaus, std::exception_ptr syy, std::string syynKuvaus);
+  Virhe(int numero, std::string lahde, const std::string& kuvaus, std::exception_ptr syy, std::string syynKuvaus,
+        std::string kohde = {});
 
   int Numero() const noexcept { return numero_; }
   /// Literal of the method that raised last, e.g. "clsTila:LampoHaviot Method".
@@ -21,16 +22,25 @@ class Virhe : public std::runtime_error {
   const std::exception_ptr& Syy() const noexcept { return syy_; }
   /// Text of the first error of the chain: what really went wrong.
   const std::string& SyynKuvaus() const noexcept { return syynKuvaus_; }
+  /// Name of the object that could not be calculated, "TK01"; empty when nobody on the way told one.
+  const std::string& Kohde() const noexcept { return kohde_; }
 
  private:
   int numero_;
   std::string lahde_;
   std::exception_ptr syy_;
   std::string syynKuvaus_;
+  std::string kohde_;
 };
 
 /// Raises error 9999 anew under `lahde`. To be called in a handler: the exception being handled becomes the cause.
 [[noreturn]] void NostaVirhe(const char* lahde);
+/// Name of the object whose method fails: the innermost one is told to the person.
+struct Virheenkohde {
+  const std::string& nimi;
+};
+/// The same, with the name of the object.
+[[noreturn]] void NostaVirhe(const char* lahde, Virheenkohde kohde);
 /// Raises error 9999 under `lahde` from scratch; `syy` says what went wrong, for diagnosis.
 [[noreturn]] void NostaVirhe(const char* lahde, std::string syy);
 

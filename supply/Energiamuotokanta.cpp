@@ -134,6 +134,13 @@ clsEnergiamuoto Energiamuotokanta::Muoto(const Energiamuotorivi& rivi) const {
   return muoto;
 }
 
+void Energiamuotokanta::Poimi(const Energiamuotorivi& rivi, clsEnergiamuoto& muoto) try {
+  muoto.Korvaa(Muoto(rivi));
+  if (muoto.OnVakiokannasta) muoto.EnergiaMuotokannanVersio = Versio();
+} catch (...) {
+  NostaVirhe("Energiamuotokanta:Poimi Method");
+}
+
 clsResurssi Energiamuotokanta::Polttoaine(const Energiamuotorivi& rivi) const {
   const auto megajoulelta = [](double megawattitunnilta) {
     return static_cast<float>(megawattitunnilta / clsEnergiamuoto::kMJ_MWh);

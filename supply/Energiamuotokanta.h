@@ -53,6 +53,8 @@ class Energiamuotokanta {
   /// An energy form as the row tells it, with what it was taken from but for the version. Particles aren't in the
   /// table: 0.
   clsEnergiamuoto Muoto(const Energiamuotorivi& rivi) const;
+  /// Takes the row for the form, with the version of the database; the form's place in its supply stays.
+  void Poimi(const Energiamuotorivi& rivi, clsEnergiamuoto& muoto);
   /// A fuel of a form's list: impact and mass of 1 MJ of it, 1 MJ for each MJ used.
   clsResurssi Polttoaine(const Energiamuotorivi& rivi) const;
 

@@ -6,11 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "kernel/Virhe.h"
-#include "tekstit/viestit.h"
-#include "ui/Lomake.h"
-#include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
+#include "ui/Virheilmoitus.h"
 
 namespace {
 
@@ -27,28 +24,12 @@ std::function<void()>& KomennonJalki() {
   return jalki;
 }
 
-/// What happened, in which form, why, and what to do.
-Viesti Virheviesti(const std::exception& virhe, const std::string& ikkuna) {
-  std::string teksti = Teksti(tekstit::kOhjelmassaTapahtuiVirhe);
-  if (!ikkuna.empty()) teksti += "\n" + Teksti(tekstit::kVirheenIkkuna) + " " + ikkuna;
-  teksti += "\n\n" + Teksti(tekstit::kVirheenSyy) + " " + SyynKuvaus(virhe) + "\n\n" + Teksti(tekstit::kVirheenNeuvo);
-  return {.teksti = std::move(teksti),
-          .otsikko = Teksti(tekstit::kVirhe),
-          .vakavuus = Vakavuus::Virhe,
-          .tarkenne = Virheketju(virhe)};
-}
-
-std::string AktiivisenOtsikko() {
-  const Lomake* lomake = AktiivinenLomake();
-  return lomake ? lomake->Otsikko() : std::string();
-}
-
 void SuoritaVartioituna(const std::function<void()>& komento) {
   const std::string paneeli = ViestitNyt().Paneeli();
   const std::string ikkuna = AktiivisenOtsikko();
   const auto kerro = [&](const std::exception& virhe) {
     ViestitNyt().AsetaPaneeli(paneeli);
-    ViestitNyt().Nayta(Virheviesti(virhe, ikkuna));
+    KerroVirhe(virhe, ikkuna);
   };
   try {
     komento();

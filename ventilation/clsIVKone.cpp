@@ -143,26 +143,26 @@ Kuukausitaulu clsIVKone::HaviotTilaan(double Tsisa) const try {
   const Kuukausitaulu poistoilma = KayntiAikaYleistiedot.LammonTarveTilaan(poistuva, Tsisa, S);
   return OnTulopuhallin() ? Erotus(poistoilma, KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho, S)) : poistoilma;
 } catch (...) {
-  NostaVirhe("clsIVKone:HaviotTilaan Method");
+  NostaVirhe("clsIVKone:HaviotTilaan Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::HaviotTilaan(double Tsisa, int kuukausi) const try {
   return HaviotTilaan(Tsisa)[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 } catch (...) {
-  NostaVirhe("clsIVKone:HaviotTilaan Method");
+  NostaVirhe("clsIVKone:HaviotTilaan Method", Virheenkohde{KoneenTunnus});
 }
 
 Kuukausitaulu clsIVKone::IV_LammEnergia() const try {
   const Laskentakohde kohde(KoneenTunnus);
   return Erotus(KayntiAikaYleistiedot.LammonTarve(TuloIlmavirta11Teho, Tarveluku()), LtoEnergia());
 } catch (...) {
-  NostaVirhe("clsIVKone:IV_LammEnergia Method");
+  NostaVirhe("clsIVKone:IV_LammEnergia Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::IV_LammEnergia(int kuukausi) const try {
   return IV_LammEnergia()[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 } catch (...) {
-  NostaVirhe("clsIVKone:IV_LammEnergia Method");
+  NostaVirhe("clsIVKone:IV_LammEnergia Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::Poistoilma() const {
@@ -174,29 +174,29 @@ Kuukausitaulu clsIVKone::LtoEnergia() const try {
   const Laskentakohde kohde(KoneenTunnus);
   return KayntiAikaYleistiedot.LtoEnergia(TuloIlmavirta11Teho, Poistoilma(), LtoHyotysuhde, Tarveluku());
 } catch (...) {
-  NostaVirhe("clsIVKone:LtoEnergia Method");
+  NostaVirhe("clsIVKone:LtoEnergia Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::LtoEnergia(int kuukausi) const try {
   return LtoEnergia()[static_cast<std::size_t>(TarkistaKuukausi(kuukausi))];
 } catch (...) {
-  NostaVirhe("clsIVKone:LtoEnergia Method");
+  NostaVirhe("clsIVKone:LtoEnergia Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::SahkoPatterinEnergia(int kuukausi) const try {
   return TuloilmanLammitysSahkoPatterilla ? IV_LammEnergia(kuukausi) : 0;
 } catch (...) {
-  NostaVirhe("clsIVKone:SahkoPatterinEnergia Method");
+  NostaVirhe("clsIVKone:SahkoPatterinEnergia Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::VesikiertoisenLampoPatterinEnergia(int kuukausi) const try {
   return TuloilmanLammitysSahkoPatterilla ? 0 : IV_LammEnergia(kuukausi);
 } catch (...) {
-  NostaVirhe("clsIVKone:VesikiertoisenLampoPatterinEnergia Method");
+  NostaVirhe("clsIVKone:VesikiertoisenLampoPatterinEnergia Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::VuotuinenIVjalkilammitysLampo() const try { return Vuosisumma(IV_LammEnergia()); } catch (...) {
-  NostaVirhe("clsIVKone:VuotuinenIVjalkilammitysLampo Method");
+  NostaVirhe("clsIVKone:VuotuinenIVjalkilammitysLampo Method", Virheenkohde{KoneenTunnus});
 }
 
 /// The fans' electricity by system type; each of the two counts if the machine has it.
@@ -220,7 +220,7 @@ double clsIVKone::PuhallinSahko(int kuukausi) const try {
   PuhaltimenTeho poisto = PuhaltimienSahkonKulutus.Poistopuhallin(PuhallinValinnat());
   return PuhallinSahko(tulo, poisto, kuukausi);
 } catch (...) {
-  NostaVirhe("clsIVKone:PuhallinSahko Method");
+  NostaVirhe("clsIVKone:PuhallinSahko Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::VuotuinenPuhallinSahko() const try {
@@ -229,13 +229,13 @@ double clsIVKone::VuotuinenPuhallinSahko() const try {
   PuhaltimenTeho poisto = PuhaltimienSahkonKulutus.Poistopuhallin(PuhallinValinnat());
   return Vuosisumma([&](int m) { return PuhallinSahko(tulo, poisto, m); });
 } catch (...) {
-  NostaVirhe("clsIVKone:VuotuinenPuhallinSahko Method");
+  NostaVirhe("clsIVKone:VuotuinenPuhallinSahko Method", Virheenkohde{KoneenTunnus});
 }
 
 double clsIVKone::Sahko() const try {
   return (TuloilmanLammitysSahkoPatterilla ? VuotuinenIVjalkilammitysLampo() : 0) + VuotuinenPuhallinSahko();
 } catch (...) {
-  NostaVirhe("clsIVKone:Sahko Method");
+  NostaVirhe("clsIVKone:Sahko Method", Virheenkohde{KoneenTunnus});
 }
 
 clsIVKone::Vuosiluvut clsIVKone::VuodenLuvut() const try {
@@ -247,5 +247,5 @@ clsIVKone::Vuosiluvut clsIVKone::VuodenLuvut() const try {
       });
   return {tunteja, VuotuinenIVjalkilammitysLampo(), Vuosisumma(LtoEnergia()), VuotuinenPuhallinSahko()};
 } catch (...) {
-  NostaVirhe("clsIVKone:VuodenLuvut Method");
+  NostaVirhe("clsIVKone:VuodenLuvut Method", Virheenkohde{KoneenTunnus});
 }

@@ -17,9 +17,9 @@
 #include "tekstit/lomakkeet_tilat.h"
 #include "tekstit/rakennus.h"
 #include "tekstit/viestit.h"
-#include "ui/Laskentakohde.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Virheilmoitus.h"
 #include "ui/frmIVKoneYhteenveto.h"
 #include "ventilation/clsIVKoneet.h"
 
@@ -59,11 +59,10 @@ constexpr Sarake kSarakkeet[] = {
 
 /// The list must open also over a machine that can't be calculated: it is where the fault is mended.
 std::optional<clsIVKone::Vuosiluvut> LasketutLuvut(clsIVKone& kone) {
-  const Laskentakohde kohde(kone.KoneenTunnus);
   try {
     return kone.VuodenLuvut();
   } catch (const Virhe& virhe) {
-    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+    KerroVirhe(virhe);
     return std::nullopt;
   }
 }

@@ -33,48 +33,39 @@ void Korvaa(const Rivi& rivi, const char* sarake, double& luku) {
   if (!rivi.at(sarake).empty()) luku = Luku(rivi, sarake);
 }
 
-void LisaaSahkoryhma(const Rivi& rivi, const Sahkolaite& laite, clsSahkonKulutusryhmat& ryhmat) {
-  clsSahkonKulutusryhma& ryhma = ryhmat.Add(Tunniste::Uusi(clsSahkonKulutusryhma::kLuokka.NimiSana()));
+void Tayta(const Rivi& rivi, const Sahkolaite& laite, clsSahkonKulutusryhma& ryhma) {
   TaytaRyhma(laite, ryhma);
   ryhma.LaskentayksikkoNumber = Luku(rivi, "Yksikoita");
   Korvaa(rivi, "Arvo", ryhma.LaskentaperusteNumber);
   Korvaa(rivi, "Tunnit", ryhma.KayttoaikaHpD);
   Korvaa(rivi, "Vuorokaudet", ryhma.KayttoaikaDpA);
-  ryhmat.AddListaItem(ryhma.sKey, Otsikko(laite.Haara), 0, ryhma.KulutusRyhma, ryhma.Vuosikulutus(), true);
 }
 
-void LisaaVesiryhma(const Rivi& rivi, const Vedenkaytto& kaytto, clsVedenKulutusryhmat& ryhmat) {
-  const bool prosessi = kaytto.Haara == "Prosessivesi";
-  clsVedenKulutusryhma& ryhma =
-      ryhmat.Add(Tunniste::Uusi(clsVedenKulutusryhma::kLuokka.NimiSana()),
-                 prosessi ? clsVedenKulutusryhma::Prosessivesi : clsVedenKulutusryhma::Kayttovesi);
+void Tayta(const Rivi& rivi, const Vedenkaytto& kaytto, clsVedenKulutusryhma& ryhma) {
   TaytaRyhma(kaytto, ryhma);
   ryhma.Laskentayksikko = Luku(rivi, "Yksikoita");
   Korvaa(rivi, "Arvo", ryhma.LaskentaperusteNumber);
   Korvaa(rivi, "Tunnit", ryhma.KayttokuvausKertaaD);
   Korvaa(rivi, "Vuorokaudet", ryhma.KayttokuvausDpA);
-  ryhmat.AddListaItem(ryhma.sKey, Otsikko(kaytto.Haara), 0, ryhma.KulutusRyhma, true).OnProsessiVesi = prosessi;
 }
 
-void PoistaTyhjatVesiryhmat(clsVedenKulutusryhmat& ryhmat) {
-  while (ryhmat.Count() > 0) {
-    const Tunniste avain = ryhmat.Item(1).sKey;
-    ryhmat.RemoveListaItem(avain);
-    ryhmat.Remove(avain);
+/// The rows of a building that are of the kind, as groups in the order of the table.
+template <class Luettelo, class Ryhmat>
+void LisaaRyhmat(const std::string& tunnus, const char* laji, const std::vector<Rivi>& rivit, const Luettelo& luettelo,
+                 Ryhmat& ryhmat) {
+  for (const Rivi& rivi : rivit) {
+    if (rivi.at("Tunnus") != tunnus || rivi.at("Laji") != laji) continue;
+    const auto& luettelorivi = Etsi(luettelo, rivi);
+    Tayta(rivi, luettelorivi, ryhmat.LisaaRyhma(Otsikko(luettelorivi.Haara), true));
   }
+  ryhmat.PaivitaKulutusRyhmatJaLaitteet();
 }
 
 }  // namespace
 
 void AsetaKulutusryhmat(const std::string& tunnus, const std::vector<Rivi>& ryhmat, clsRakennus& rakennus) {
-  const auto laitteet = LueSahkolaitteet(0);
-  const auto kaytot = LueVedenkaytot(0);
-  PoistaTyhjatVesiryhmat(rakennus.VedenKulutusryhmat);
-  for (const Rivi& rivi : ryhmat) {
-    if (rivi.at("Tunnus") != tunnus) continue;
-    if (rivi.at("Laji") == "Sahko")
-      LisaaSahkoryhma(rivi, Etsi(laitteet, rivi), rakennus.SahkonKulutusryhmat);
-    else
-      LisaaVesiryhma(rivi, Etsi(kaytot, rivi), rakennus.VedenKulutusryhmat);
-  }
+  clsVedenKulutusryhmat& vesi = rakennus.VedenKulutusryhmat;
+  while (vesi.Count() > 0) vesi.PoistaRivi(vesi.Item(1).sKey);
+  LisaaRyhmat(tunnus, "Sahko", ryhmat, LueSahkolaitteet(0), rakennus.SahkonKulutusryhmat);
+  LisaaRyhmat(tunnus, "Vesi", ryhmat, LueVedenkaytot(0), vesi);
 }

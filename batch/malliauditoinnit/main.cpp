@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Makes the sample audits: project files of invented, typical Finnish buildings, by the program's own generator.
-// Arguments: the table of the buildings (data/malliauditoinnit.csv), that of their consumer groups
-// (data/malliauditoinnit_ryhmat.csv), and the folder of the project files.
+// Arguments: the folder of the tables (malliauditoinnit*.csv: buildings, consumer groups, energy forms and tariffs) and
+// that of the project files.
 #include <filesystem>
 #include <iostream>
 
+#include "batch/malliauditoinnit/Hankinnat.h"
 #include "batch/malliauditoinnit/Kulutusryhmat.h"
 #include "building/Yhteiset.h"
 #include "building/clsPerustiedot.h"
@@ -135,15 +136,26 @@ void AsetaIlmanvaihto(const Rivi& rivi, clsRakennus& rakennus) {
   tila.PainovoimainenIVMaara = painovoimainen;
 }
 
-void TeeMalliauditointi(const Rivi& rivi, const std::vector<Rivi>& ryhmat, const std::filesystem::path& kansio) {
+struct Taulukot {
+  std::vector<Rivi> rakennukset, ryhmat;
+  Hankintataulukot hankinnat;
+};
+
+Taulukot LueTaulukot(const std::string& kansio) {
+  const auto lue = [&](const std::string& mika) { return LueTaulukko(kansio + "/malliauditoinnit" + mika + ".csv"); };
+  return {lue(""), lue("_ryhmat"), {lue("_hankinta"), lue("_tariffit")}};
+}
+
+void TeeMalliauditointi(const Rivi& rivi, const Taulukot& taulukot, const std::filesystem::path& kansio) {
   clsRakennus rakennus;
   AsetaGlobaaliRakennus(&rakennus);
   TaytaPerustiedot(rivi, rakennus.Perustiedot);
   rakennus.Perustiedot.OtaKayttoon(0);
   for (clsTila& tila : rakennus.Tilat) TaytaTila(rivi, tila);
   AsetaIlmanvaihto(rivi, rakennus);
-  AsetaKulutusryhmat(rivi.at("Tunnus"), ryhmat, rakennus);
   rakennus.VedenKulutusryhmat.LKVKiertoVirtaama = Luku(rivi, "LkvKiertovirtaama");
+  AsetaKulutusryhmat(rivi.at("Tunnus"), taulukot.ryhmat, rakennus);
+  AsetaHankinnat(rivi.at("Tunnus"), taulukot.hankinnat, rakennus);
   const auto tiedosto = kansio / (rivi.at("Tunnus") + " " + rivi.at("Nimi") + ".lvt");
   if (!rakennus.Tallenna(tiedosto.string())) throw std::runtime_error("tallennus epäonnistui: " + tiedosto.string());
 }
@@ -151,14 +163,14 @@ void TeeMalliauditointi(const Rivi& rivi, const std::vector<Rivi>& ryhmat, const
 }  // namespace
 
 int main(int argc, char** argv) try {
-  if (argc != 4) throw std::runtime_error("käyttö: lumivirta-malliauditoinnit TAULUKKO.csv RYHMAT.csv KANSIO");
+  if (argc != 3) throw std::runtime_error("käyttö: lumivirta-malliauditoinnit TAULUKOT KANSIO");
   KerataanViestit viestit;
   AsetaViestit(&viestit);
   AlustaTekstit();
   Asetukset().HaeRekisteristä();
-  std::filesystem::create_directories(argv[3]);
-  const auto ryhmat = LueTaulukko(argv[2]);
-  for (const Rivi& rivi : LueTaulukko(argv[1])) TeeMalliauditointi(rivi, ryhmat, argv[3]);
+  std::filesystem::create_directories(argv[2]);
+  const Taulukot taulukot = LueTaulukot(argv[1]);
+  for (const Rivi& rivi : taulukot.rakennukset) TeeMalliauditointi(rivi, taulukot, argv[2]);
   std::cerr << KoosteTekstina(viestit.Naytetyt());
   return viestit.Naytetyt().empty() ? 0 : 1;
 } catch (const std::exception& virhe) {

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 #include "batch/Rinnakkain.h"
@@ -16,6 +17,7 @@
 #include "tekstit/tulokset.h"
 #include "tekstit/viestit.h"
 #include "tests/batch/Malliauditoinnit.h"
+#include "tests/tuki/Lahdekoodi.h"
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
@@ -67,6 +69,32 @@ TEST_F(KohdelaskentaTesti, ANewerProgramsFileAndAMissingFileAreRefused) {
   EXPECT_EQ(ajo.paluuarvo, 1);
   EXPECT_EQ(ajo.tuloste, "");
   EXPECT_TRUE(Sisaltaa(ajo.virheet, Teksti(tekstit::kVersioUudempi))) << ajo.virheet;
+}
+
+TEST_F(KohdelaskentaTesti, TheSchoolBuysHeatAtItsTariffWithVatAsTheSettingsSay) {
+  const std::string koulu = Tiedostot().front().string();
+  const double ostettu = Avaa(koulu)->VuotuinenBruttoLampoEnergia();
+  for (const bool alv : {false, true}) {
+    Asetukset().KaytaKohtTulostuksissaALVHintoja = alv;
+    const double kustannus = (33 * ostettu + 16 * 330) * Asetukset().NayttoKerroin(Energialaji::Lampo);
+    const std::string tulos = LaskeKohde(koulu, Tulostusmuoto::Yhteenveto, 0).tulos;
+    EXPECT_TRUE(Sisaltaa(tulos, Muotoile(ostettu, "### ##0.00") + " MWh/a  " + Muotoile(kustannus, "### ##0") + " "))
+        << tulos;
+    EXPECT_EQ(Sisaltaa(tulos, "sisältävät arvonlisäveron"), alv);
+    EXPECT_TRUE(Sisaltaa(tulos, Muotoile(ostettu * 183 / 1000, "0.00") + "\n")) << tulos;
+  }
+  Asetukset().HaeRekisteristä();
+}
+
+TEST_F(KohdelaskentaTesti, ATariffThatIsGoneLeavesOnlyItsSupplyUntold) {
+  const std::string tiedosto = Muutettu("UPDATE clsEnergiamuoto SET MyyntiTariffiSkey = 'poistettu' WHERE Tyyppi = 0");
+  const Laskettu json = LaskeKohde(tiedosto, Tulostusmuoto::Json, 0);
+  EXPECT_FALSE(json.onnistui);
+  EXPECT_TRUE(Sisaltaa(json.tulos, "\"LammonHankinta\": {\n      \"Keskihinta\": null")) << json.tulos;
+  EXPECT_TRUE(Sisaltaa(json.tulos, "clsEnergiamuodot:Keskihinta Method: avainta ei ole: poistettu"));
+  const Laskettu teksti = LaskeKohde(tiedosto, Tulostusmuoto::Yhteenveto, 0);
+  EXPECT_TRUE(Sisaltaa(teksti.tulos, "Lämmön hankinta: avainta ei ole: poistettu")) << teksti.tulos;
+  EXPECT_TRUE(Sisaltaa(teksti.tulos, "Sähkön hankinta  "));
 }
 
 /// A user whose data directory is missing or can't be filled has the files of the package.
@@ -130,6 +158,22 @@ TEST_F(KohdelaskentaTesti, TheSummarysColumnAddsUpAndLargeNumbersStayApart) {
   EXPECT_EQ(Muotoile(summa, "0.00"), Muotoile(yhteensa, "0.00"));
   const double mitattu = LueLuku(Luvut(yhteenveto, "Mitattu kulutus, normitettu")[0]).value();
   EXPECT_EQ(Luvut(yhteenveto, "Mitattu − laskettu")[0], Muotoile(mitattu - yhteensa, "### ##0.00"));
+}
+
+TEST_F(KohdelaskentaTesti, TheGuideShowsTheSummaryAndTellsEveryKeyOfTheJson) {
+  const std::string opas = Sisalto(Lahdekoodi("docs/opas/komentorivi.md"));
+  const fs::path koulu = Tiedostot().front();
+  std::string yhteenveto = LaskeKohde(koulu.string(), Tulostusmuoto::Yhteenveto, 0).tulos;
+  yhteenveto.replace(yhteenveto.find(koulu.string()), koulu.string().size(), koulu.filename().string());
+  yhteenveto.pop_back();
+  EXPECT_NE(opas.find("```\n" + yhteenveto + "```"), std::string::npos) << yhteenveto;
+
+  const std::string json = LaskeKohde(koulu.string(), Tulostusmuoto::Json, 0).tulos;
+  const std::regex avain("\"(\\w+)\": ");
+  for (std::sregex_iterator it(json.begin(), json.end(), avain), loppu; it != loppu; ++it)
+    if (!(*it)[1].str().starts_with("sKey")) {
+      EXPECT_TRUE(Sisaltaa(opas, "`" + (*it)[1].str() + "`")) << (*it)[1];
+    }
 }
 
 TEST_F(KohdelaskentaTesti, EqualNoticesAreOneLineThatTellsTheirObjects) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <cmath>
 #include <set>
 
 #include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Tulos.h"
 #include "tests/batch/Malliauditoinnit.h"
 
@@ -22,6 +25,29 @@ TEST_F(TulostaulutTesti, EveryFigureHasANameAndItsOwnKey) {
     }
   }
   EXPECT_GT(lukuja, 70);
+}
+
+TEST_F(TulostaulutTesti, TreesOfConsumersAreReadWithoutWritingThem) {
+  const auto rakennus = Avaa(Tiedostot().front());
+  for (clsSahkoListaItem& rivi : rakennus->SahkonKulutusryhmat.ListaItems()) rivi.Vuosikulutus = -1;
+  rakennus->VedenKulutusryhmat.RemoveListaItem("sKeyProsessivesi");
+  const auto ennen = rakennus->Sormenjalki();
+  const auto juuri = [](const Tulos& tulos, Olio& ryhmat, const char* avain) {
+    double summa = NAN;
+    tulos.kartta({ryhmat}, [&](std::string_view rivi, double arvo) {
+      if (rivi == avain) summa = arvo;
+    });
+    return summa;
+  };
+  clsSahkonKulutusryhmat& sahko = rakennus->SahkonKulutusryhmat;
+  EXPECT_NEAR(juuri(clsSahkonKulutusryhmat::kLuokka.TulosNimella("Puu"), sahko, "sKeySahkoYhteensa"),
+              sahko.Vuosikulutus(), 1e-9);
+  clsVedenKulutusryhmat& vesi = rakennus->VedenKulutusryhmat;
+  const double summat[] = {vesi.VuotuinenLkvLammityksenEnergia(), vesi.VuotuinenVedenKulutus(),
+                           vesi.VuotuinenLkvKulutus()};
+  const auto puut = clsVedenKulutusryhmat::kLuokka.TulosNimella("Puu").ryhma;
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(juuri(puut[i], vesi, "sKeyVesiYhteensa"), summat[i], 1e-9);
+  EXPECT_EQ(rakennus->Sormenjalki(), ennen);
 }
 
 TEST_F(TulostaulutTesti, VaaraOmistajaTaiNimiOnVirhe) {

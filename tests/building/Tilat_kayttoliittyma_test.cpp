@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of spaces and the dialog of a space, driven as a person would, without a screen.
+#include "building/Kokoelmamuokkaus.h"
 #include "kernel/Luvut.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "tests/building/Koerakennus.h"
@@ -65,6 +66,30 @@ TEST_F(TilaDialogi, ListTellsHowTheDemandComesAboutAndOfSpacesLargerThanTheBuild
   rakennus->Tilat.ListaaTilat();
   EXPECT_TRUE(Luettelo().Etsi("lblHuomautus").Nakyva());
   EXPECT_NE(Luettelo().Teksti("lblHuomautus").find("17 500 m³"), std::string::npos);
+}
+
+TEST_F(TilaDialogi, ASpaceWhoseDialogFailsIsntLeftBehind) {
+  Tunniste uusi;
+  const Kokoelmamuokkaus<clsTila> muokkaus{
+      .kokoelma = rakennus->Tilat, .nimi = &clsTila::TilanNimi, .muokkaa = [&](clsTila& tila) -> bool {
+        uusi = tila.InstanssiId;
+        rakennus->PaivitaInstanssiIdLista();
+        throw std::runtime_error("koe");
+      }};
+  EXPECT_THROW(muokkaus.Lisaa(), Virhe);
+  EXPECT_EQ(rakennus->Tilat.Count(), 1);
+  EXPECT_EQ(rakennus->HaeInstanssi("clsTila", uusi).olio, nullptr);
+}
+
+TEST_F(TilaDialogi, TheListOpensOverASpaceThatCantBeCalculatedAndNamesIt) {
+  clsTila& sali = LisaaTila(300, 100);
+  sali.TilanNimi = "Sali";
+  LisaaRakenne(sali, Rakennelaji::Ulkoseina, 1e308, 20);
+  rakennus->Tilat.NaytaKayttoliittyma();
+  ASSERT_EQ(viestit.Naytetyt().size(), 1u);
+  EXPECT_NE(viestit.Naytetyt()[0].kohde.find("Sali"), std::string::npos);
+  EXPECT_FALSE(viestit.Naytetyt()[0].tarkenne.empty());
+  EXPECT_EQ(Rivit()[0][8], "---");
 }
 
 TEST_F(TilaDialogi, RowsOfASheetBecomeSpacesAllOrNone) {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 
@@ -175,7 +176,13 @@ TEST_F(Taytetyt, TheCatalogueOfConsumersFitsItsWindow) {
         "+ sisätila 1 200 W (uutinen 2022: 900–1 500 W) (johdettu).";
     rivi.ryhma = i / 20;
   }
-  KunAuki("cmdOk", OdotaMahtuvan);
+  QTimer::singleShot(0, [] {
+    const Lomake& lomake = *AvoimetLomakkeet().back();
+    OdotaMahtuvan(lomake);
+    auto& haku = Etsi<QLineEdit>(lomake, "txtHaku");
+    QTest::keyClicks(&haku, "lohko");
+    QTest::keyClick(&haku, Qt::Key_Return);  // takes the best row
+  });
   EXPECT_EQ(frmKulutusluettelo().Poimi(rivit, {"Toimistorakennus", "Kaikille yhteiset", "Muiden"}), "laite0");
 }
 

@@ -34,11 +34,9 @@ class EnergiamuotokantaTesti : public RakennusTesti {
   clsEnergiamuoto& PoimiMuoto(std::int32_t id, double osuus) {
     Energiamuotokanta kanta(Laji::Vakio);
     clsEnergiamuoto& muoto = rakennus->Perustiedot.LammonHankinta.LisaaMuoto();
-    const std::int32_t versio = muoto.EnergiaMuotokannanVersio;
     muoto.OsuusNettotarpeesta = osuus;
     muoto.MyyntiTariffiSkey = "tariffi";
-    muoto.Korvaa(kanta.Muoto(kanta.Hae(id).value()));
-    muoto.EnergiaMuotokannanVersio = versio;
+    kanta.Poimi(kanta.Hae(id).value(), muoto);
     return muoto;
   }
   /// The project saved and opened in `luettu`; the question is answered so, and the list of changes by the button.

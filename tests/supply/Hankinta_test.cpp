@@ -4,7 +4,7 @@
 #include <limits>
 #include <numeric>
 
-#include "consumers/clsSahkonKulutusryhmat.h"
+#include "building/Hankintalaskelma.h"
 #include "kernel/Virhe.h"
 #include "measures/Muunnelma.h"
 #include "supply/clsTariffit.h"
@@ -225,6 +225,32 @@ TEST_F(HankintaTesti, WhatIsBoughtIsTheDemandAndTheLosses) {
     for (clsEnergiamuoto& muoto : lampo.Energiamuodot) muoto.Hyotysuhde = 100;
     EXPECT_EQ(lampo.Energiamuodot.Konversiohaviot(verkko), 0);
   }
+}
+
+TEST_F(HankintaTesti, BoughtEnergyCostsAndEmitsByItsForms) {
+  LuoKoulu();
+  clsTariffi& tariffi = LisaaTariffi(clsTariffi::LampoTariffi, 50);
+  tariffi.Perusmaksu = 1000;
+  clsEnergiamuoto& kattila = LisaaMuoto(lampo, 60, tariffi.sKey);
+  kattila.Hyotysuhde = 80;
+  kattila.IlmastonLampeneminenCO2ekv(263);
+  clsEnergiamuoto& pumppu = LisaaMuoto(lampo, 40);
+  pumppu.Hyotysuhde = 0;  // no losses
+  pumppu.IlmastonLampeneminenCO2ekv(100);
+  rakennus->MuuLampo = 10;
+  const double verkko = rakennus->VuotuinenLampoEnergianTarveTilat() + rakennus->VuotuinenIVjalkilammitysLampo();
+  const double brutto = rakennus->VuotuinenBruttoLampoEnergia(), haviot = 0.25 * verkko * 0.6;
+  const Hankintalaskelma laskelma = LaskeHankinta(*rakennus, clsEnergianHankinta::Lampo);
+  EXPECT_EQ(laskelma.brutto, brutto);
+  EXPECT_NEAR(laskelma.kustannus, 50 * 0.6 * brutto + 1000, 1e-9);
+  EXPECT_NEAR(laskelma.muodot[0].ostettu, 0.6 * (brutto - haviot) + haviot, 1e-9);
+  EXPECT_NEAR(laskelma.muodot[1].ostettu, 0.4 * (brutto - haviot), 1e-9);
+  EXPECT_NEAR(laskelma.muodot[0].ostettu + laskelma.muodot[1].ostettu, brutto, 1e-9);
+  EXPECT_NEAR(laskelma.paasto, (263 * laskelma.muodot[0].ostettu + 100 * laskelma.muodot[1].ostettu) / 1000, 1e-9);
+  LisaaMuoto(vesi, 100).IlmastonLampeneminenCO2ekv(5);
+  EXPECT_EQ(LaskeHankinta(*rakennus, clsEnergianHankinta::Vesi).paasto, 0) << "water stays out";
+  LisaaMuoto(sahko, 100, "poistettu");
+  EXPECT_THROW(LaskeHankinta(*rakennus, clsEnergianHankinta::Sahko), Virhe);
 }
 
 TEST_F(HankintaTesti, ALoadedTariffHasAllItsFees) {
