@@ -13,6 +13,8 @@
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "measures/clsSaastotoimenpiteet.h"
+#include "supply/clsTariffi.h"
+#include "supply/clsVesitariffi.h"
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
@@ -21,9 +23,10 @@ thread_local int g_voimassa = 0;
 
 /// Water, supplies and prices have no part in the heat balance.
 bool OnTaseenUlkopuolella(const Luokka& luokka) {
-  static const std::array<const Luokka*, 6> kUlkopuoliset{
-      &clsVedenKulutusryhma::kLuokka, &clsVedenKulutusryhmat::kLuokka, &clsVedenTiedot::kLuokka,
-      &clsEnergianHankinta::kLuokka,  &clsEnergiamuodot::kLuokka,      &clsEnergiamuoto::kLuokka};
+  static const std::array kUlkopuoliset{&clsVedenKulutusryhma::kLuokka, &clsVedenKulutusryhmat::kLuokka,
+                                        &clsVedenTiedot::kLuokka,       &clsEnergianHankinta::kLuokka,
+                                        &clsEnergiamuodot::kLuokka,     &clsEnergiamuoto::kLuokka,
+                                        &clsTariffi::kLuokka,           &clsVesitariffi::kLuokka};
   return std::ranges::find(kUlkopuoliset, &luokka) != kUlkopuoliset.end();
 }
 

@@ -8,6 +8,7 @@
 #include "batch/Kohdelaskenta.h"
 #include "bench/vertailu/Mallirakennus.h"
 #include "bench/vertailu/Vertailulaskenta.h"
+#include "building/Hankintalaskelma.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsPerustiedot.h"
 #include "consumers/clsSahkonKulutusryhmat.h"
@@ -60,6 +61,23 @@ TEST_F(MallituloksetTesti, AResultChangesOnlyForAReasonWrittenDown) {
       ASSERT_NE(talletettu, talletetut.arvot.end()) << avain;
       const double odotettu = LueLuku(talletettu->second).value_or(NAN), arvo = tulos.Arvo({*rakennus});
       EXPECT_NEAR(arvo, odotettu, 1e-9 * std::abs(odotettu)) << avain;
+    }
+  }
+}
+
+TEST_F(MallituloksetTesti, SuppliesOfTheSamplesCoverTheirDemandAtAPriceOfTheirTime) {
+  for (const fs::path& tiedosto : Tiedostot()) {
+    const auto rakennus = Avaa(tiedosto);
+    // € without VAT for a MWh, for a m³ of water
+    for (const auto& [laji, ala, yla] : {std::tuple{clsEnergianHankinta::Lampo, 20.0, 65.0},
+                                         {clsEnergianHankinta::Sahko, 65.0, 120.0},
+                                         {clsEnergianHankinta::Vesi, 2.6, 3.5}}) {
+      const Hankintalaskelma laskelma = LaskeHankinta(*rakennus, laji);
+      double ostettu = 0;
+      for (const Hankintalaskelma::Muoto& muoto : laskelma.muodot) ostettu += muoto.ostettu;
+      EXPECT_NEAR(ostettu, laskelma.brutto, 1e-9 * laskelma.brutto) << tiedosto << laji;
+      const double hinta = laskelma.kustannus / laskelma.brutto;
+      EXPECT_TRUE(ala <= hinta && hinta <= yla) << tiedosto << " " << laji << ": " << hinta;
     }
   }
 }

@@ -385,6 +385,17 @@ class Tariffiluettelo(unittest.TestCase):
             self.assertEqual(rivit[-1][1].year, 9999, nimike)
 
 
+    def test_the_settings_tell_the_taxes_that_hold_and_their_day(self):
+        kaikki = tekstit()
+        for nimike, numerot in {"alv": (2808,), "alv_lampo": (2810,), "alv_myynti": (2812,), "alv_vesi": (2814,),
+                                "sahkovero1": (2822,), "sahkovero2": (2824,)}.items():
+            rivit = hae(self.KANTA, "SELECT Arvo, Alkaa FROM Vero WHERE Nimike = ? ORDER BY Alkaa DESC", nimike)
+            alkaa = datetime.date.fromisoformat(rivit[0][1])
+            for numero in numerot:
+                self.assertIn(str(rivit[0][0]).replace(".", ","), kaikki[numero])
+                self.assertIn(f"{alkaa.day}.{alkaa.month}.{alkaa.year}", kaikki[numero])
+
+
 class Rakentaja(unittest.TestCase):
     def rakenna(self, kansio, **tiedostot):
         for nimi, sisalto in tiedostot.items():
