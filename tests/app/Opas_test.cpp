@@ -17,7 +17,8 @@
 #include "building/clsRakennus.h"
 #include "building/clsTilat.h"
 #include "consumers/Kulutusluettelo.h"
-#include "consumers/clsSahkonKulutusryhma.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Luvut.h"
 #include "tests/app/Koekoti.h"
 #include "tests/qt/Ikkunatesti.h"
@@ -176,6 +177,26 @@ TEST_F(OppaanEsimerkki, PickingFromTheCatalogue) {
   const std::string opas = OppaanSivu("kulutusluettelo.md");
   EXPECT_NE(opas.find(ryhma.KulutusRyhma), std::string::npos);
   EXPECT_NE(opas.find(Muotoile(ryhma.Vuosikulutus(), "0.0") + " MWh/a"), std::string::npos);
+}
+
+TEST_F(OppaanEsimerkki, GroupsOfConsumers) {
+  const auto avaa = [](auto& ryhma, const char* sivu) {
+    KunAuki("cmdPeruuta", [sivu](Lomake& lomake) {
+      for (const char* kentta : {"txtKulutus", "txtVedenLammittamisenEnergia"})
+        if (const Ohjain* tulos = lomake.Ikkuna().Loyda(kentta)) {
+          EXPECT_NE(OppaanSivu(sivu).find("= " + tulos->Teksti()), std::string::npos) << tulos->Teksti();
+        }
+    });
+    EXPECT_FALSE(ryhma.NaytaKayttoliittyma());
+  };
+  const auto nimella = [](auto& ryhmat, const char* nimi) -> auto& {
+    return *std::ranges::find_if(ryhmat, [nimi](const auto& ryhma) { return ryhma.KulutusRyhma == nimi; });
+  };
+  auto& luokat = nimella(rakennus().SahkonKulutusryhmat, "Luokkahuone, vanha (loistelamput)");
+  EXPECT_NE(OppaanSivu("sahkoryhma.md").find("= " + Muotoile(luokat.Vuosikulutus() * 1000 / 12, "### ##0") + " kWh"),
+            std::string::npos);
+  avaa(luokat, "sahkoryhma.md");
+  avaa(nimella(rakennus().VedenKulutusryhmat, "Käsienpesu"), "vesiryhma.md");
 }
 
 TEST_F(OppaanEsimerkki, FiguresOfTheMonthlyBalanceAreTheGuides) {

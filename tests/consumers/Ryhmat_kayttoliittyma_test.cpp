@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The dialogs of one consumer group, driven as a person would, without a screen.
+// The dialogs of one consumer group, driven as a person would, without a screen; and the guide's examples of them.
+#include <fstream>
+
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "tests/building/Koerakennus.h"
@@ -22,6 +24,15 @@ class Ryhmadialogi : public RakennusTesti {
                                        "txtKayttomaaraTunnitVrk_ssa", "txtKayttomaaraVrktVuodessa", "txtTasauskerroin"};
     for (std::size_t i = 0; i < luvut.size(); ++i)
       if (luvut[i]) l.KayttajaKirjoittaa(kKentat[i], luvut[i]);
+  }
+  /// The guide's table of examples has the row, from the unit on.
+  static void OppaassaOn(const char* sivu, const char* yksikko, const std::array<const char*, 5>& luvut,
+                         const std::string& tulokset) {
+    std::ifstream tiedosto(Lahdekoodi(std::string("docs/opas/") + sivu));
+    const std::string opas{std::istreambuf_iterator(tiedosto), {}};
+    std::string rivi = std::string("| ") + yksikko + " | ";
+    for (const char* luku : luvut) rivi += std::string(luku ? luku : "–") + " | ";
+    EXPECT_NE(opas.find(rivi + tulokset + " |\n"), std::string::npos) << rivi + tulokset;
   }
   static bool Nakyy(const Ikkunaton& l, const char* nimi) { return l.Etsi(nimi).Nakyva(); }
   static void Ok(Ikkunaton& l) { l.KayttajaPainaa("cmdOk"); }
@@ -48,13 +59,13 @@ TEST_F(Sahkodialogi, EachUnitGivesAFigureThatCanBeFollowed) {
       {true, "W/vapaa yksikkö", {"60", "12", "5", "200", "1"}, "", "0,72", 0.72},
       {true, "W/laite", {"100", "1", "24", "365", "1"}, "laitteita", "0,88", 0.876},
       {true, "W/m²", {"12", "3 000", "10", "250", "0,8"}, "m²", "72,00", 72},
-      {true, "W/m³", {"0,5", "10000", "24", "100", "1"}, "m³", "12,00", 12},
+      {true, "W/m³", {"0,5", "10 000", "24", "100", "1"}, "m³", "12,00", 12},
       {false, "kWh/laite,a", {"350", "12", nullptr, nullptr, "1"}, "laitteita", "4,20", 4.2},
-      {false, "kWh/annos", {"0,6", "40000", nullptr, nullptr, "1"}, "annosta/d", "24,00", 24},
-      {false, "kWh/kg", {"1,5", "8000", nullptr, nullptr, "0,5"}, "kg/d", "6,00", 6},
+      {false, "kWh/annos", {"0,6", "40 000", nullptr, nullptr, "1"}, "annosta/d", "24,00", 24},
+      {false, "kWh/kg", {"1,5", "8 000", nullptr, nullptr, "0,5"}, "kg/d", "6,00", 6},
       {false, "kWh/d", {"20", "365", nullptr, nullptr, "1"}, "---", "7,30", 7.3},
-      {false, "kWh/m²,a", {"25", "4200", nullptr, nullptr, "1"}, "m²", "105,00", 105},
-      {false, "kWh/m³,a", {"2,5", "1000000", nullptr, nullptr, "1"}, "m³", "2 500,00", 2500},
+      {false, "kWh/m²,a", {"25", "4 200", nullptr, nullptr, "1"}, "m²", "105,00", 105},
+      {false, "kWh/m³,a", {"2,5", "17 500", nullptr, nullptr, "1"}, "m³", "43,75", 43.75},
       {false, "kWh/vapaa yksikkö,a", {"500", "3", nullptr, nullptr, "1"}, "", "1,50", 1.5},
   };
   for (const auto& t : kTapaukset) {
@@ -71,6 +82,7 @@ TEST_F(Sahkodialogi, EachUnitGivesAFigureThatCanBeFollowed) {
       Ok(l);
     }));
     EXPECT_DOUBLE_EQ(uusi.Vuosikulutus(), 2 * t.vuodessa);
+    OppaassaOn("sahkoryhma.md", t.yksikko, t.luvut, t.kulutus);
     EXPECT_EQ(uusi.LaskentaperusteStr, t.yksikko);
     EXPECT_EQ(uusi.Laskentayksikko, t.laskentayksikko);
     EXPECT_EQ(uusi.LaskentatapaTehopohjainen(), t.teho);
@@ -207,7 +219,7 @@ TEST_F(Vesidialogi, EachUnitGivesAFigureThatCanBeFollowed) {
   } kTapaukset[] = {
       // At 41 °C, from 5 °C: 41,9 kWh/m³.
       {"dm³/kerta", {"20", "10", "2", "365", "1"}, "kpl", "kertaa/d", "146,00", "6,12", 146},
-      {"dm³/kpl", {"5000", "30", nullptr, nullptr, "1"}, "kpl", "", "150,00", "6,29", 150},
+      {"dm³/kpl", {"5 000", "30", nullptr, nullptr, "1"}, "kpl", "", "150,00", "6,29", 150},
       {"dm³/annos", {"8", "500", nullptr, "250", "0,9"}, "annosta/d", "", "900,00", "37,71", 900},
       {"dm³/hlö,d", {"120", "50", nullptr, "365", "1"}, "hlö", "", "2 190,00", "91,76", 2190},
       {"dm³/s", {"0,1", "1", "1", "100", "1"}, "kpl", "h/d", "36,00", "1,51", 36},
@@ -229,6 +241,7 @@ TEST_F(Vesidialogi, EachUnitGivesAFigureThatCanBeFollowed) {
       Ok(l);
     }));
     EXPECT_DOUBLE_EQ(ryhma.VedenKulutus(), t.kuutiota);
+    OppaassaOn("vesiryhma.md", t.yksikko, t.luvut, std::string(t.kulutus) + " | " + t.lampo);
     EXPECT_EQ(ryhma.LaskentaperusteStr, t.yksikko);
   }
 }
