@@ -20,11 +20,11 @@ constexpr Jasen kJasenet[] = {
 
 constexpr Tulos kTulokset[] = {
     Vuositulos<&clsSahkonKulutusryhmat::Vuosikulutus>("Vuosikulutus", tekstit::kSahkoKaikki),
-    Vuositulos<&clsSahkonKulutusryhmat::SahkoLaitteidenVuosikulutus>("SahkoLaitteidenVuosikulutus",
-                                                                     tekstit::kLaitteidenSahko),
+    Vuositulos<[](const clsSahkonKulutusryhmat& r) { return r.SahkoLaitteidenVuosikulutus(); }>(
+        "SahkoLaitteidenVuosikulutus", tekstit::kLaitteidenSahko),
     Vuositulos<&clsSahkonKulutusryhmat::VuotuinenPuhallinSahko>("VuotuinenPuhallinSahko", tekstit::kPuhaltimienSahko),
-    Vuositulos<&clsSahkonKulutusryhmat::LammitysSahkonVuosikulutus>("LammitysSahkonVuosikulutus",
-                                                                    tekstit::kLammityssahko),
+    Vuositulos<[](const clsSahkonKulutusryhmat& r) { return r.LammitysSahkonVuosikulutus(); }>(
+        "LammitysSahkonVuosikulutus", tekstit::kLammityssahko),
     Lukutulos<&clsSahkonKulutusryhmat::TiloihinLiittymatonSahkoKuorma>("TiloihinLiittymatonSahkoKuorma",
                                                                        tekstit::kYleisSahkokuorma, "kWh/kk"),
     Kokoelmatulos < [](clsSahkonKulutusryhmat& r) -> auto& {return r;
