@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kLeveinSarake = 40;        // of any but the names, in letters
 constexpr int kKapeinNimi = 24;          // of the names, when the others need the room
+constexpr int kPyoristys = 2;            // pixels by which a text is painted wider than measured
 constexpr std::size_t kMitattavia = 12;  // cells of a column, the longest ones
 
 std::size_t Koko(int luku) { return static_cast<std::size_t>(luku); }
@@ -72,7 +73,7 @@ int Sarakeleveydet::SolunLeveys(int rivi, int sarake) const {
   if (teksti.empty()) return 0;
   QFont fontti = nakyma_.font();
   fontti.setBold(summa || lista_.Piirteet(rivi).lihava);
-  const int ilma = 2 * (nakyma_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &nakyma_) + 1);
+  const int ilma = kPyoristys + 2 * (nakyma_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &nakyma_) + 1);
   int leveys = ilma + QFontMetrics(fontti).horizontalAdvance(
                           QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())));
   if (summa) return leveys;
@@ -122,6 +123,14 @@ void Sarakeleveydet::Jaa() {
     const int leveys = Tarve(s);
     nakyma_.setColumnWidth(s, leveys);
     muut += leveys;
+  }
+  int vara = nakyma_.viewport()->width() - muut - Tarve(nimi);  // room that the names don't need
+  for (int s = 0; s < std::min<int>(maara, static_cast<int>(sisallot_.size())) && vara > 0; ++s) {
+    const int lisa = std::min(vara, sisallot_[s] - nakyma_.columnWidth(s));
+    if (s == nimi || lisa <= 0) continue;
+    nakyma_.setColumnWidth(s, nakyma_.columnWidth(s) + lisa);
+    muut += lisa;
+    vara -= lisa;
   }
   const int kapein = std::min(Tarve(nimi), kKapeinNimi * nakyma_.fontMetrics().averageCharWidth());
   nakyma_.setColumnWidth(nimi, std::max(nakyma_.viewport()->width() - muut, kapein));
