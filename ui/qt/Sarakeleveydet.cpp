@@ -112,6 +112,18 @@ int Sarakeleveydet::Tarve(int sarake) const {
   return std::max(sarake == Nimisarake() ? sisalto : std::min(sisalto, levein), OtsikonLeveys(sarake));
 }
 
+/// Gives the room that the names don't need to the other columns whose texts don't fit. Returns how much was given.
+int Sarakeleveydet::LevennaKatkottuja(int vara) {
+  const int alussa = vara, mitattuja = std::min(static_cast<int>(sisallot_.size()), nakyma_.header()->count());
+  for (int s = 0; s < mitattuja && vara > 0; ++s) {
+    const int lisa = std::min(vara, sisallot_[s] - nakyma_.columnWidth(s));
+    if (s == Nimisarake() || lisa <= 0) continue;
+    nakyma_.setColumnWidth(s, nakyma_.columnWidth(s) + lisa);
+    vara -= lisa;
+  }
+  return alussa - vara;
+}
+
 void Sarakeleveydet::Jaa() {
   const int maara = nakyma_.header()->count();
   if (omat_ || jaetaan_ || maara == 0) return;
@@ -124,14 +136,7 @@ void Sarakeleveydet::Jaa() {
     nakyma_.setColumnWidth(s, leveys);
     muut += leveys;
   }
-  int vara = nakyma_.viewport()->width() - muut - Tarve(nimi);  // room that the names don't need
-  for (int s = 0; s < std::min<int>(maara, static_cast<int>(sisallot_.size())) && vara > 0; ++s) {
-    const int lisa = std::min(vara, sisallot_[s] - nakyma_.columnWidth(s));
-    if (s == nimi || lisa <= 0) continue;
-    nakyma_.setColumnWidth(s, nakyma_.columnWidth(s) + lisa);
-    muut += lisa;
-    vara -= lisa;
-  }
+  muut += LevennaKatkottuja(nakyma_.viewport()->width() - muut - Tarve(nimi));
   const int kapein = std::min(Tarve(nimi), kKapeinNimi * nakyma_.fontMetrics().averageCharWidth());
   nakyma_.setColumnWidth(nimi, std::max(nakyma_.viewport()->width() - muut, kapein));
   jaetaan_ = false;
