@@ -26,6 +26,7 @@ constexpr Tyyppirivi kTyypit[] = {
     {"QTabWidget", "TabStrip", Ohjaintyyppi::TabStrip},
     {"QTreeView", "ListView", Ohjaintyyppi::ListView},
     {"Piirakka", "MSChart", Ohjaintyyppi::MSChart},
+    {"Pinopalkki", "MSChart", Ohjaintyyppi::MSChart},
     {"Pylvaikko", "MSChart", Ohjaintyyppi::MSChart},
     {"Lampotilakuva", "MSChart", Ohjaintyyppi::MSChart},
     {"Viikkokuva", "MSChart", Ohjaintyyppi::MSChart},

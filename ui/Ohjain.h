@@ -57,14 +57,16 @@ struct Kaaviosarja {
   int pino = 0;  ///< which of the columns side by side it is stacked in; kViiva: drawn as a line
 };
 
-/// What a chart shows. A pie has a name and a value for each slice; a column chart a name for each place of its axis,
-/// series and their unit; curves the name of their axis, its places in `arvot`, series and their unit.
+/// What a chart shows. A pie or a stacked bar has a name and a value for each part; a column chart a name for each
+/// place of its axis, series and their unit; curves the name of their axis, its places in `arvot`, series and their
+/// unit.
 struct Kaaviotiedot {
   std::string otsikko;
   std::vector<std::string> nimet;
   std::vector<double> arvot{};
   std::vector<Kaaviosarja> sarjat{};
   std::string yksikko{};
+  double taysi = 0;                   ///< of a stacked bar: what fills it; 0: the sum of its parts
   std::vector<std::string> reunat{};  ///< of a section: what lies left and right of it
 };
 

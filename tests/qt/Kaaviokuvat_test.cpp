@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The pictures of a machine's week and of its fans' powers, as real widgets.
+// The pictures of a machine's week, of its fans' powers and of what a bill consists of, as real widgets.
 #include <gtest/gtest.h>
 
 #include <QClipboard>
@@ -11,6 +11,7 @@
 #include "ui/Tekstivarasto.h"
 #include "ui/Viikkokuvaus.h"
 #include "ui/qt/Kayrakuva.h"
+#include "ui/qt/Pinopalkki.h"
 #include "ui/qt/Viikkokuva.h"
 
 namespace {
@@ -61,10 +62,37 @@ TEST(Kaaviokuvat, PointsOfACurveTellTheirValuesAndGapsAreEmpty) {
   EXPECT_TRUE(Leikepoyta(kuva).endsWith(QStringLiteral("\n70\t\t\n100\t2,000\t")));
 }
 
+TEST(Kaaviokuvat, PartsOfABarTellTheirValuesAndShares) {
+  Pinopalkki kuva;
+  Kaaviotiedot lasku{.otsikko = "Vuosilasku",
+                     .nimet = {"Energia", "Teho", "Hyvitys", "Vero"},
+                     .arvot = {600, 0, -5, 200},
+                     .yksikko = "€/a"};
+  kuva.AsetaKaavio(lasku);
+  kuva.resize(400, 250);
+  EXPECT_EQ(Selosteet(kuva), (QSet<QString>{QString(), QStringLiteral("Energia: 600,00 €/a (75,0 %)"),
+                                            QStringLiteral("Vero: 200,00 €/a (25,0 %)")}));
+  EXPECT_TRUE(kuva.accessibleName().contains(QStringLiteral("Hyvitys -5,00 €/a")));
+  EXPECT_TRUE(Leikepoyta(kuva).contains(QStringLiteral("\nVero\t200,00\t€/a")));
+  lasku.taysi = 1000;
+  kuva.AsetaKaavio(lasku);
+  EXPECT_TRUE(Selosteet(kuva).contains(QStringLiteral("Energia: 600,00 €/a (60,0 %)")))
+      << "the missing part stays open";
+  const auto pohjalla = [&] {
+    return kuva.Seloste(QPointF(3 * kuva.fontMetrics().height(), kuva.height() - 1.5 * kuva.fontMetrics().height()));
+  };
+  EXPECT_EQ(pohjalla(), "");
+  lasku.taysi = 700;
+  kuva.AsetaKaavio(lasku);
+  EXPECT_EQ(pohjalla(), QStringLiteral("Vero: 200,00 €/a (25,0 %)")) << "more than the whole fills the bar";
+  kuva.grab();
+}
+
 TEST(Kaaviokuvat, EmptyOnesAreDrawnAndBearThePointer) {
   Viikkokuva viikko;
   Kayrakuva kayra;
-  for (Kaaviokuva* kuva : {static_cast<Kaaviokuva*>(&viikko), static_cast<Kaaviokuva*>(&kayra)}) {
+  Pinopalkki palkki;
+  for (Kaaviokuva* kuva : std::initializer_list<Kaaviokuva*>{&viikko, &kayra, &palkki}) {
     kuva->resize(300, 150);
     kuva->grab();
     EXPECT_EQ(Selosteet(*kuva), QSet<QString>{QString()});

@@ -5,36 +5,12 @@
 #include <QtMath>
 #include <algorithm>
 
-#include "kernel/Luvut.h"
-
 namespace {
 
 constexpr int kYksiAste = 16;  // QPainter counts sixteenths of a degree
 constexpr int kKellonHuippu = 90 * kYksiAste;
 
-double Summa(const std::vector<double>& arvot) {
-  double summa = 0;
-  for (const double arvo : arvot) summa += std::max(arvo, 0.0);
-  return summa;
-}
-
 }  // namespace
-
-QStringList Piirakka::Nimet() const {
-  QStringList nimet;
-  for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
-    nimet << Teksti(Tiedot().nimet[i]) + ' ' +
-                 Teksti(Muotoile(Tiedot().arvot[i], "### ##0.00") + " " + Tiedot().yksikko);
-  return nimet;
-}
-
-QStringList Piirakka::Luvut() const {
-  QStringList rivit;
-  for (std::size_t i = 0; i < Tiedot().nimet.size(); ++i)
-    rivit << Teksti(Tiedot().nimet[i]).trimmed() + '\t' + Teksti(Muotoile(Tiedot().arvot[i], "0.00")) + '\t' +
-                 Teksti(Tiedot().yksikko);
-  return rivit;
-}
 
 QSize Piirakka::sizeHint() const {
   const int rivi = fontMetrics().height();
@@ -55,7 +31,7 @@ void Piirakka::paintEvent(QPaintEvent*) {
 
 void Piirakka::PiirraSiivut(QPainter& maalain, const QRectF& ympyra) const {
   const int rivi = fontMetrics().height();
-  const double summa = Summa(Tiedot().arvot);
+  const double summa = Summa();
   double alku = 0;  // share of the circle that is painted, clockwise from the top
   for (std::size_t i = 0; i < Tiedot().arvot.size(); ++i) {
     if (Tiedot().arvot[i] <= 0) continue;

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-#include "ui/qt/Kaaviokuva.h"
+#include "ui/qt/Osuuskuva.h"
 
-/// A pie with its title above and its legend, names and values, at the side. Values that aren't above 0 have no slice.
-class Piirakka : public Kaaviokuva {
+/// A pie with its title above and its legend at the side.
+class Piirakka : public Osuuskuva {
  public:
-  using Kaaviokuva::Kaaviokuva;
+  using Osuuskuva::Osuuskuva;
   QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* tapahtuma) override;
-  QStringList Luvut() const override;
-  QStringList Nimet() const override;
 
  private:
   void PiirraSiivut(QPainter& maalain, const QRectF& ympyra) const;
