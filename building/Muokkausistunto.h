@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <tuple>
 
 #include "ui/Muokkauslomake.h"
 
@@ -31,7 +32,7 @@ struct Muokkaustoimet {
 ///
 /// 1. A reserve copy is taken, the fields are filled, the caption begins with the object's name.
 /// 2. OK, with good number fields: writes the fields, checks, takes the values into use, raises the object's event, and
-///    commits once (clsRakennus::Muuttui) if the building differs from its last commit. Then the dialog closes.
+///    commits once (clsRakennus::Muuttui). Then the dialog closes.
 /// 3. Cancel: the reserve is copied back, and the register with it.
 /// 4. An error on the way: as Cancel, but the dialog stays open and the error goes on to be shown.
 ///
@@ -42,8 +43,14 @@ class Muokkausistunto {
   /// `olio` has Kopioi, as every model object. It and the form must outlive the session.
   template <class T>
   Muokkausistunto(T& olio, Muokkauslomake& lomake, Muokkaustoimet toimet)
-      : Muokkausistunto(lomake, std::move(toimet),
-                        [&olio, varalla = std::shared_ptr<T>(olio.Kopioi())] { varalla->Kopioi(olio); }) {}
+      : Muokkausistunto(std::tie(olio), lomake, std::move(toimet)) {}
+  /// The same for several objects, std::tie(a, b): Cancel takes all of them back.
+  template <class... T>
+  Muokkausistunto(std::tuple<T&...> oliot, Muokkauslomake& lomake, Muokkaustoimet toimet)
+      : Muokkausistunto(
+            lomake, std::move(toimet),
+            [oliot, varalla = std::apply([](T&... o) { return std::tuple(std::shared_ptr<T>(o.Kopioi())...); },
+                                         oliot)] { KopioiTakaisin(oliot, varalla); }) {}
   Muokkausistunto(const Muokkausistunto&) = delete;
   Muokkausistunto& operator=(const Muokkausistunto&) = delete;
 
@@ -51,6 +58,10 @@ class Muokkausistunto {
   bool Nayta();
 
  private:
+  template <class... T>
+  static void KopioiTakaisin(const std::tuple<T&...>& oliot, const std::tuple<std::shared_ptr<T>...>& varalla) {
+    (std::get<std::shared_ptr<T>>(varalla)->Kopioi(std::get<T&>(oliot)), ...);
+  }
   Muokkausistunto(Muokkauslomake& lomake, Muokkaustoimet toimet, std::function<void()> kopioiTakaisin);
   void Hyvaksy();
   void Peruuta();

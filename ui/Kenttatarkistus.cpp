@@ -102,28 +102,18 @@ bool Hylkaa(Ohjain& kentta, bool valitseTeksti) {
   return false;
 }
 
-bool KelpaaLukuna(Ohjain& kentta, const Tarkistus& t) {
-  const auto arvo = LueLuku(kentta.Teksti());
-  if (arvo && Rajoissa(t, *arvo)) return true;
-  if (arvo)
+/// Tells why the text of the field isn't good.
+void KerroLuvusta(const Ohjain& kentta, const Tarkistus& t) {
+  if (LueLuku(kentta.Teksti()))
     NaytaHarvakseltaan(virheet::kRajojenUlkopuolella, NimiJaRajat(kentta, t));
   else
     NaytaHarvakseltaan(virheet::kEiLuku, NimiJaYksikko(kentta) + ".");
-  return Hylkaa(kentta, !arvo);
 }
 
-bool KelpaaKellonaikana(Ohjain& kentta) {
-  if (LueKellonaika(kentta.Teksti())) return true;
-  NaytaHarvakseltaan(virheet::kEiKellonaika, NimiJaYksikko(kentta) + ".");
-  return Hylkaa(kentta, true);
-}
-
-bool KelpaaPaivamaarana(Ohjain& kentta) {
-  if (kentta.Teksti().empty() || OnPaivamaara(kentta.Teksti())) return true;
+void KerroPaivamaarasta(const Ohjain& kentta) {
   if (OnViestinAika())
     Ilmoita(Teksti(tekstit::kEiPaivamaara) + " " + NimiJaYksikko(kentta) + ".", Teksti(tekstit::kVirhe),
             Vakavuus::Virhe);
-  return Hylkaa(kentta, true);
 }
 
 bool OnEpatavallinen(const Ohjain& kentta) {
@@ -151,11 +141,27 @@ std::vector<Ohjain*> Tarkistettavat(const Lomake& lomake) {
 
 }  // namespace
 
+bool Kelpaa(const Ohjain& ohjain) {
+  const Tarkistus t = LueTag(ohjain.Tag());
+  const std::string& teksti = ohjain.Teksti();
+  if (ohjain.Tyyppi() != Ohjaintyyppi::TextBox) return true;
+  if (SamaNimi(t.tyyppi, "K")) return LueKellonaika(teksti).has_value();
+  if (SamaNimi(t.tyyppi, "P")) return teksti.empty() || OnPaivamaara(teksti);
+  const auto luku = LueLuku(teksti);
+  return !SamaNimi(t.tyyppi, "N") || (luku && Rajoissa(t, *luku));
+}
+
 bool TarkistaKentta(Ohjain& kentta) {
+  if (Kelpaa(kentta)) return true;
   const Tarkistus t = LueTag(kentta.Tag());
-  if (SamaNimi(t.tyyppi, "N")) return KelpaaLukuna(kentta, t);
-  if (SamaNimi(t.tyyppi, "P")) return KelpaaPaivamaarana(kentta);
-  return !SamaNimi(t.tyyppi, "K") || KelpaaKellonaikana(kentta);
+  const bool luku = SamaNimi(t.tyyppi, "N");
+  if (luku)
+    KerroLuvusta(kentta, t);
+  else if (SamaNimi(t.tyyppi, "P"))
+    KerroPaivamaarasta(kentta);
+  else
+    NaytaHarvakseltaan(virheet::kEiKellonaika, NimiJaYksikko(kentta) + ".");
+  return Hylkaa(kentta, !luku || !LueLuku(kentta.Teksti()));
 }
 
 bool VaadiLuku(Ohjain& kentta, const Lukuviestit& viestit) {

@@ -18,6 +18,8 @@ bool TarkistaLukukentat(const Lomake& lomake);
 
 /// The same for one field.
 bool TarkistaKentta(Ohjain& kentta);
+/// The same for one control, telling nothing.
+bool Kelpaa(const Ohjain& ohjain);
 /// What is told of a field that is empty and of one that holds no number; both get its name and unit.
 struct Lukuviestit {
   void (*puuttuu)(const std::string& kentta);

@@ -6,7 +6,9 @@
 #include <limits>
 #include <stdexcept>
 
+#include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
+#include "ui/Kenttatarkistus.h"
 
 namespace {
 
@@ -15,21 +17,19 @@ std::vector<const Sidontalista*>& Taulut() {
   return taulut;
 }
 
-double KerroinNyt(const Sidonta& rivi) { return rivi.kerroin ? rivi.kerroin() : 1; }
-
 }  // namespace
 
-void sidonta::NaytaLuku(const Sidonta& rivi, Ohjain& kentta, double arvo) {
-  kentta.Teksti(Muotoile(arvo * KerroinNyt(rivi), rivi.kuvio), arvo);
+void sidonta::NaytaLuku(const Sidonta& rivi, Ohjain& kentta, double arvo, double kerroin) {
+  kentta.Teksti(Muotoile(arvo * kerroin, rivi.kuvio), arvo);
 }
 
-bool sidonta::LueLukuna(const Sidonta& rivi, const Ohjain& kentta, double& arvo) {
+bool sidonta::LueLukuna(const Ohjain& kentta, double kerroin, double& arvo) {
   if (!kentta.Muuttunut()) {
     arvo = kentta.TaytettyLuku().value_or(arvo);
     return true;
   }
   const auto luku = LueLuku(kentta.Teksti());
-  if (luku) arvo = *luku / KerroinNyt(rivi);
+  if (luku) arvo = *luku / kerroin;
   return luku.has_value();
 }
 
@@ -80,6 +80,18 @@ std::string Sidontalista::OhjaimenNimi(const Sidonta& rivi, std::string_view san
 
 void Sidontalista::LueOlio(const Lomake& lomake, const void* olio, std::string_view sana) const {
   for (const Sidonta& rivi : rivit_) rivi.lue(rivi, lomake.Etsi(OhjaimenNimi(rivi, sana)), olio);
+}
+
+void Sidontalista::PaivitaOlio(const Lomake& lomake, const void* olio, std::string_view sana) const {
+  for (const Sidonta& rivi : rivit_)
+    if (Ohjain& ohjain = lomake.Etsi(OhjaimenNimi(rivi, sana)); !ohjain.Muuttunut() || Kelpaa(ohjain))
+      rivi.lue(rivi, ohjain, olio);
+}
+
+bool Sidontalista::KirjoitaOhjain(const Ohjain& ohjain, void* olio, std::string_view sana) const {
+  const auto rivi =
+      std::ranges::find_if(rivit_, [&](const Sidonta& r) { return SamaNimi(OhjaimenNimi(r, sana), ohjain.Nimi()); });
+  return rivi != rivit_.end() && Kelpaa(ohjain) && rivi->kirjoita(*rivi, ohjain, olio);
 }
 
 void Sidontalista::SiistiOlio(const Lomake& lomake, void* olio, std::string_view sana) const {

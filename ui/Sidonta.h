@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
 #include <initializer_list>
 #include <span>
 #include <string>
@@ -92,12 +93,8 @@ struct Kohde<Polun, Jasenpolku<Jasen>> : Kohde<Jasen> {};
 
 /// One row of a table, whatever it binds.
 struct Sidonta {
-  /// Shown amount for one stored; for money in the display currency.
-  using Kerroin = double (*)();
-
   std::string_view ohjain;   ///< name of the control
   std::string_view kuvio{};  ///< how a number is shown (kernel/Luvut.h)
-  Kerroin kerroin = nullptr;
   void (*lue)(const Sidonta&, Ohjain&, const void* olio) = nullptr;
   bool (*kirjoita)(const Sidonta&, const Ohjain&, void* olio) = nullptr;
 };
@@ -108,10 +105,11 @@ struct OlionSidonta : Sidonta {};
 
 namespace sidonta {
 
-void NaytaLuku(const Sidonta& rivi, Ohjain& kentta, double arvo);
+/// Shows the number times the factor; the field remembers the number itself.
+void NaytaLuku(const Sidonta& rivi, Ohjain& kentta, double arvo, double kerroin);
 /// Gives the field's number, as stored, to `arvo`. An unchanged field gives the very number that it was filled with. A
 /// text that is no number leaves `arvo` as it is and gives false.
-bool LueLukuna(const Sidonta& rivi, const Ohjain& kentta, double& arvo);
+bool LueLukuna(const Ohjain& kentta, double kerroin, double& arvo);
 /// False when the number doesn't fit the type.
 bool Mahduta(double luku, double& arvo);
 bool Mahduta(double luku, float& arvo);
@@ -127,22 +125,32 @@ template <class K>
 auto& OlioOf(void* olio) {
   return *static_cast<typename K::Olio*>(olio);
 }
+template <auto Funktio, class C>
+double Kerroin(const C& olio) {
+  if constexpr (std::is_same_v<decltype(Funktio), std::nullptr_t>)
+    return 1;
+  else
+    return std::invoke(Funktio, olio);
+}
 
 }  // namespace sidonta
 
-/// A number, shown by the pattern, times the factor. Whole numbers are rounded, a half to even.
-template <auto Jasen>
-constexpr auto Lukukentta(std::string_view ohjain, std::string_view kuvio, Sidonta::Kerroin kerroin = nullptr) {
+/// A number, shown by the pattern. Whole numbers are rounded, a half to even. `Kerroin`: a member function of the
+/// object that gives the shown amount for one stored; for money.
+template <auto Jasen, auto Kerroin = nullptr>
+constexpr auto Lukukentta(std::string_view ohjain, std::string_view kuvio) {
   using K = sidonta::Kohde<Jasen>;
-  OlionSidonta<typename K::Olio> rivi{{ohjain, kuvio, kerroin}};
+  OlionSidonta<typename K::Olio> rivi{{ohjain, kuvio}};
   rivi.lue = [](const Sidonta& r, Ohjain& kentta, const void* olio) {
-    sidonta::NaytaLuku(r, kentta, static_cast<double>(K::Hae(sidonta::OlioOf<K>(olio))));
+    const auto& kohde = sidonta::OlioOf<K>(olio);
+    sidonta::NaytaLuku(r, kentta, static_cast<double>(K::Hae(kohde)), sidonta::Kerroin<Kerroin>(kohde));
   };
-  rivi.kirjoita = [](const Sidonta& r, const Ohjain& kentta, void* olio) {
+  rivi.kirjoita = [](const Sidonta&, const Ohjain& kentta, void* olio) {
     auto& kohde = sidonta::OlioOf<K>(olio);
     typename K::Arvo arvo = K::Hae(kohde);
     auto luku = static_cast<double>(arvo);
-    if (!sidonta::LueLukuna(r, kentta, luku) || !sidonta::Mahduta(luku, arvo)) return false;
+    if (!sidonta::LueLukuna(kentta, sidonta::Kerroin<Kerroin>(kohde), luku) || !sidonta::Mahduta(luku, arvo))
+      return false;
     K::Aseta(kohde, arvo);
     return true;
   };
@@ -259,7 +267,9 @@ class Sidontalista {
   ~Sidontalista();
 
   void LueOlio(const Lomake& lomake, const void* olio, std::string_view sana) const;
+  void PaivitaOlio(const Lomake& lomake, const void* olio, std::string_view sana) const;
   void SiistiOlio(const Lomake& lomake, void* olio, std::string_view sana) const;
+  bool KirjoitaOhjain(const Ohjain& ohjain, void* olio, std::string_view sana) const;
   bool KirjoitaOlio(const Lomake& lomake, void* olio, std::string_view sana) const;
 
  private:
@@ -288,6 +298,15 @@ class Sidontataulu : public Sidontalista {
   /// is. False when there was one of those.
   bool Kirjoita(const Lomake& lomake, C& olio, std::string_view sana = {}) const {
     return KirjoitaOlio(lomake, &olio, sana);
+  }
+  /// Writes this control alone, if the table has it and it holds a good value (ui/Kenttatarkistus.h). True when it was
+  /// written: for a dialog whose object follows the typing.
+  bool KirjoitaKentta(const Ohjain& ohjain, C& olio, std::string_view sana = {}) const {
+    return KirjoitaOhjain(ohjain, &olio, sana);
+  }
+  /// Fills the controls, but not those in which the person has written what isn't good: that stays to be mended.
+  void Paivita(const Lomake& lomake, const C& olio, std::string_view sana = {}) const {
+    PaivitaOlio(lomake, &olio, sana);
   }
   /// Writes, and shows what was written as it was understood; a text that wasn't stays for the person to mend.
   void Siisti(const Lomake& lomake, C& olio, std::string_view sana = {}) const { SiistiOlio(lomake, &olio, sana); }

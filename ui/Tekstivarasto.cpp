@@ -67,7 +67,7 @@ Otsake TasonOtsake(int taso) {
 }
 
 /// The message of the table; nothing when the store or its row is missing.
-std::optional<Viesti> HaeViesti(int koodi) try {
+std::optional<Viesti> EtsiViesti(int koodi) try {
   const auto varasto = AvaaVarasto();
   Kysely kysely(varasto,
                 "SELECT " + Kielisarake(varasto) + ", ErrorLevel FROM Errortaulu WHERE ErrorCode = ? ORDER BY Id ");
@@ -77,6 +77,10 @@ std::optional<Viesti> HaeViesti(int koodi) try {
   return Viesti{std::string(kysely.Teksti(0)), std::move(otsikko), vakavuus};
 } catch (const std::exception&) {
   return std::nullopt;
+}
+
+Viesti HaeViesti(int koodi) {
+  return EtsiViesti(koodi).value_or(Viesti{"Virhe " + std::to_string(koodi), {}, Vakavuus::Virhe});
 }
 
 std::unordered_map<int, std::string> LueTekstit(const std::string& tiedosto, const std::string& kieli,
@@ -129,10 +133,12 @@ std::string TekstiLuvulla(int id, std::size_t luku) {
 }
 
 void NaytaVirhe(int koodi, std::string_view lisateksti) {
-  Viesti viesti = HaeViesti(koodi).value_or(Viesti{"Virhe " + std::to_string(koodi), {}, Vakavuus::Virhe});
+  Viesti viesti = HaeViesti(koodi);
   viesti.teksti.append(" ").append(lisateksti);
   Ilmoita(std::move(viesti));
 }
+
+std::string Viestiteksti(int koodi) { return HaeViesti(koodi).teksti; }
 
 bool KysyPoisto(std::string_view nimi, std::string_view seuraus) {
   std::string teksti = Teksti(tekstit::kPoistetaankoRivi);

@@ -30,6 +30,8 @@ std::string TekstiLuvulla(int id, std::size_t luku);
 /// and `lisateksti`, titled by its level (1 error, 2 notice). Names of objects in `lisateksti` would make each a kind
 /// of message of its own. Without the store or the row the message is "Virhe <code> <lisateksti>". Never raises.
 void NaytaVirhe(int koodi, std::string_view lisateksti = {});
+/// The text of a row of the message table, for a message of another's making; "Virhe <code>" without it. Never raises.
+std::string Viestiteksti(int koodi);
 /// The question before something is removed; No is the default. True = Yes. `nimi`: what is removed; `seuraus`: what
 /// else happens, if anything.
 bool KysyPoisto(std::string_view nimi, std::string_view seuraus = {});
