@@ -65,23 +65,11 @@ std::vector<std::string> Otsikot() {
           Teksti(tekstit::kMuidenKayttotarkoitusten)};
 }
 
-/// The row that the person picks, or nothing.
-template <class Rivi>
-const Rivi* Poimi(const std::vector<Rivi>& rivit) {
-  std::vector<frmKulutusluettelo::Rivi> naytettavat;
-  for (const Rivi& rivi : rivit) naytettavat.push_back(Naytettava(rivi));
-  frmKulutusluettelo lomake;
-  const Tunniste valittu = lomake.Poimi(std::move(naytettavat), Otsikot());
-  for (const Rivi& rivi : rivit)
-    if (valittu == rivi.Id) return &rivi;
-  return nullptr;
-}
-
 }  // namespace
 
 bool PoimiLuettelosta(clsSahkonKulutusryhma& ryhma) try {
   const auto laitteet = LueSahkolaitteet(Kayttotarkoituskoodi());
-  const Sahkolaite* laite = Poimi(laitteet);
+  const Sahkolaite* laite = frmKulutusluettelo().PoimiRivi(laitteet, Otsikot(), Naytettava<Sahkolaite>);
   if (laite) TaytaRyhma(*laite, ryhma);
   return laite;
 } catch (...) {
@@ -90,7 +78,7 @@ bool PoimiLuettelosta(clsSahkonKulutusryhma& ryhma) try {
 
 bool PoimiLuettelosta(clsVedenKulutusryhma& ryhma) try {
   const auto kaytot = LueVedenkaytot(Kayttotarkoituskoodi());
-  const Vedenkaytto* kaytto = Poimi(kaytot);
+  const Vedenkaytto* kaytto = frmKulutusluettelo().PoimiRivi(kaytot, Otsikot(), Naytettava<Vedenkaytto>);
   if (kaytto) TaytaRyhma(*kaytto, ryhma);
   return kaytto;
 } catch (...) {
