@@ -70,9 +70,8 @@ void Muokkausistunto::Palauta() {
 
 void Muokkausistunto::Kirjaa() const {
   if (istuntoja > 1) return;
-  clsRakennus& rakennus = VaadiRakennus();
-  if (!toimet_.elava)
-    rakennus.Tallennettu = false;
-  else if (rakennus.Kirjaamatta())
-    rakennus.Muuttui(muutoksenNimi_);
+  if (toimet_.elava)
+    VaadiRakennus().Muuttui(muutoksenNimi_);
+  else
+    VaadiRakennus().Tallennettu = false;
 }

@@ -23,7 +23,6 @@
 #include "tekstit/virheet.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
-#include "ui/Virheilmoitus.h"
 
 namespace {
 
@@ -96,7 +95,7 @@ double UlkoseinaAlaTaiNolla(const clsTila& tila, double kerroksia) {
   try {
     return LaskeUlkoseinaAla(tila, kSuorakaide, kSuorakaiteenSuhde, kerroksia);
   } catch (const Virhe& virhe) {
-    KerroVirhe(virhe);
+    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), {}, Vakavuus::Virhe);
     return 0;
   }
 }

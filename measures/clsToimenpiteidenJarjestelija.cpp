@@ -3,7 +3,6 @@
 
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
-#include "measures/Muunnelmaketju.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsTariffiVertailuTapaus.h"
@@ -101,7 +100,7 @@ class clsToimenpiteidenJarjestelija::Laskenta {
   }
 
   const clsSaastotoimenpiteet& toimenpiteet_;
-  Muunnelmaketju ketju_;
+  Muunnelmalaskin::Ketju ketju_;
   Hyodykkeet tila_;      // gross figures after the rows so far
   Hyodykkeet kelluvat_;  // what the floating measures so far have saved
   std::string puuttuvat_;

@@ -58,3 +58,8 @@ std::optional<double> VeroPaivana(const std::string& nimike, const std::string& 
 void TaytaTariffi(const Tariffirivi& rivi, clsTariffi& tariffi, const std::string& paiva = TamaPaivaLajiteltavana());
 /// The same of a water tariff; all water is billed as waste water.
 void TaytaTariffi(const Vesitariffirivi& rivi, clsVesitariffi& tariffi);
+
+/// Lets the person pick a row, of the kind of the tariff, and fills the tariff from it. True when one was picked; else
+/// the tariff is as it was. It commits nothing (clsRakennus::Muuttui is up to the caller).
+bool PoimiLuettelosta(clsTariffi& tariffi);
+bool PoimiLuettelosta(clsVesitariffi& tariffi);

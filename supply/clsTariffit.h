@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <optional>
 #include <vector>
 
 #include "building/Koti.h"
+#include "supply/Tariffitapa.h"
 #include "supply/clsTariffi.h"
 
 /// The heat and electricity tariffs of the building, of all three kinds.
@@ -18,6 +20,14 @@ class clsTariffit : public Malli<clsTariffit, Kokoelma<clsTariffi>> {
   /// Names of the energy forms that use the tariff: those of the heat supply for a heat tariff, those of the
   /// electricity supply for the others. One that has any isn't to be removed.
   std::vector<std::string> Kayttajat(const clsTariffi& tariffi) const;
+
+  /// Lets the person choose a tariff of that kind, and edit them, with the tariff of the key chosen to begin with.
+  /// `kulutus`: MWh/a, for the yearly bill shown. Gives the key of the chosen one after OK, an empty key when there are
+  /// none; nothing after Cancel.
+  /// Inside the session of another dialog nothing is committed here: that session is to take the tariffs back together
+  /// with its own object, Muokkausistunto(std::tie(hankinta, tariffit), ...).
+  std::optional<Tunniste> NaytaKayttoliittyma(clsTariffi::Laji laji, const Tunniste& valittava, double kulutus,
+                                              Tariffitapa tapa = Tariffitapa::Muokkaus);
 
  private:
   Koti koti_;

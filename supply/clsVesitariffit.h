@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <optional>
 #include <vector>
 
 #include "building/Koti.h"
+#include "supply/Tariffitapa.h"
 #include "supply/clsVesitariffi.h"
 
 /// The water tariffs of the building.
@@ -16,6 +18,10 @@ class clsVesitariffit : public Malli<clsVesitariffit, Kokoelma<clsVesitariffi>> 
   clsVesitariffi& LisaaTariffi();
   /// Names of the forms of the water supply that use the tariff. One that has any isn't to be removed.
   std::vector<std::string> Kayttajat(const clsVesitariffi& tariffi) const;
+
+  /// Lets the person choose a tariff and edit them, as clsTariffit::NaytaKayttoliittyma does. `kulutus`: m³/a.
+  std::optional<Tunniste> NaytaKayttoliittyma(const Tunniste& valittava, double kulutus,
+                                              Tariffitapa tapa = Tariffitapa::Muokkaus);
 
  private:
   Koti koti_;

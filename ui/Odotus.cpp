@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Odotus.h"
 
-#include <exception>
 #include <utility>
 
 Odotus::Odotus() : viestit_(ViestitNyt()), ennen_(viestit_.Paneeli()) { viestit_.Odotusosoitin(true); }
@@ -10,11 +9,7 @@ Odotus::Odotus(std::string teksti) : Odotus() { Teksti(std::move(teksti)); }
 
 Odotus::~Odotus() {
   viestit_.Odotusosoitin(false);
-  try {
-    if (viestit_.Paneeli() != ennen_) viestit_.AsetaPaneeli(std::move(ennen_));
-  } catch (const std::exception&) {
-    // an old text in the panel is no reason to end the program
-  }
+  if (viestit_.Paneeli() != ennen_) viestit_.AsetaPaneeli(std::move(ennen_));
 }
 
 void Odotus::Teksti(std::string teksti) {

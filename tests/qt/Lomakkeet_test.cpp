@@ -96,6 +96,13 @@ bool LuetaanEnnen(const QWidget* x, const QWidget* y) {
   return samaRivi ? a.x() < b.x() : a.y() < b.y();
 }
 
+/// The widget begins a column to the right of all that has been read.
+bool AlkaaPalsta(const QWidgetList& luetut, const QWidget* seuraava) {
+  return std::ranges::all_of(luetut, [&](const QWidget* w) {
+    return w->mapTo(w->window(), QPoint(w->width(), 0)).x() <= Paikka(seuraava).x();
+  });
+}
+
 QString Pikakirjain(const QString& otsikko) {
   const QString ilman = QString(otsikko).remove(QStringLiteral("&&"));
   const auto paikka = ilman.indexOf('&');
@@ -187,7 +194,8 @@ TEST_P(Lomakkeet, TheTabKeyGoesInReadingOrder) {
       jarjestys << w;
   EXPECT_FALSE(jarjestys.isEmpty());
   for (qsizetype i = 1; i < jarjestys.size(); ++i)
-    EXPECT_TRUE(LuetaanEnnen(jarjestys[i - 1], jarjestys[i])) << Nimi(jarjestys[i - 1]) << " -> " << Nimi(jarjestys[i]);
+    EXPECT_TRUE(LuetaanEnnen(jarjestys[i - 1], jarjestys[i]) || AlkaaPalsta(jarjestys.first(i), jarjestys[i]))
+        << Nimi(jarjestys[i - 1]) << " -> " << Nimi(jarjestys[i]);
 }
 
 TEST_P(Lomakkeet, NoCaptionIsClipped) { TarkistaOtsikot(); }
