@@ -331,17 +331,22 @@ bool Istunto::TarjoaTalteenotettu(Palautuskopio& kopio) {
 void Istunto::AvaaTalteenotettu(Palautuskopio& kopio) {
   if (!Lataa(kopio.Polku())) return void(kopio.Sailyta());
   const bool kokonaan = !Tiedosto().empty();
-  AsetaTiedosto(kokonaan ? kopio.Projekti() : std::string());
+  const std::string oma = kokonaan ? kopio.Projekti() : std::string();
   rakennus_->LuettuTiedosto = kopio.ProjektinTunnus();
-  rakennus_->Tallennettu = false;
-  kumous_.Aloita(rakennus_.get());
-  if (!Tiedosto().empty()) Merkitse(Tiedosto());
-  tiedostossa_ = 0;
-  talteenOtettu_ = rakennus_->Sormenjalki();
+  if (!oma.empty()) Merkitse(oma);
   if (kokonaan)
     palautus_ = std::move(kopio);
   else
     kopio.Sailyta();
+  JatkaTallentamatta(oma);
+}
+
+/// The object that was read from a copy goes on: its content is in no file yet.
+void Istunto::JatkaTallentamatta(const std::string& tiedosto) {
+  AsetaTiedosto(tiedosto);
+  rakennus_->Tallennettu = false;
+  kumous_.Aloita(rakennus_.get());
+  tiedostossa_ = talteenOtettu_ = 0;
   PaivitaOtsikko();
   NaytaPerustiedot();
 }
@@ -359,12 +364,7 @@ bool Istunto::TarjoaVarakopio() {
     return false;
   }
   if (!VoiVaihtaa() || !VersioKay(talteen) || !Lataa(talteen)) return false;
-  AsetaTiedosto({});
-  rakennus_->Tallennettu = false;
-  kumous_.Aloita(rakennus_.get());
-  tiedostossa_ = talteenOtettu_ = 0;
-  PaivitaOtsikko();
-  NaytaPerustiedot();
+  JatkaTallentamatta({});
   return true;
 }
 

@@ -74,6 +74,7 @@ class Istunto {
   bool Lataa(const std::string& tiedosto);
   bool TarjoaTalteenotettu(Palautuskopio& kopio);
   void AvaaTalteenotettu(Palautuskopio& kopio);
+  void JatkaTallentamatta(const std::string& tiedosto);
   bool TarjoaVarakopio();
   void TallennaNimella();
   bool SaaKorvata(const std::string& tiedosto) const;

@@ -13,7 +13,9 @@ void Kumous::Aloita(clsRakennus* rakennus) {
   tilat_.clear();
   kaytossa_ = 0;
   nyt_ = 0;
-  if (rakennus_ && rakennus_->Perustiedot.OletusarvotLaskettu) LisaaTila({});
+  if (!rakennus_ || !rakennus_->Perustiedot.OletusarvotLaskettu) return;
+  LisaaTila({});
+  rakennus_->OtaKirjatuksi();
 }
 
 void Kumous::Kirjaa(std::string_view toiminto) {

@@ -11,35 +11,42 @@
 
 namespace {
 
-struct Kaytto {
-  const clsEnergianHankinta& hankinta;
-  double verkko;  ///< net demand that the conversion losses go by, MWh
-  double brutto;
-};
-
-Kaytto LaskeKaytto(clsRakennus& r, clsEnergianHankinta::Laji laji) {
-  const clsPerustiedot& tiedot = r.Perustiedot;
+const clsEnergianHankinta& Hankinta(const clsPerustiedot& tiedot, clsEnergianHankinta::Laji laji) {
   switch (laji) {
     case clsEnergianHankinta::Lampo:
-      return {tiedot.LammonHankinta, r.VuotuinenIVjalkilammitysLampo() + r.VuotuinenLampoEnergianTarveTilat(),
-              r.VuotuinenBruttoLampoEnergia()};
+      return tiedot.LammonHankinta;
     case clsEnergianHankinta::Sahko:
-      return {tiedot.SahkonHankinta,
-              r.SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus() + r.SahkonKulutusryhmat.LammitysSahkonVuosikulutus(),
-              r.VuotuinenBruttoSahkoEnergia()};
-    case clsEnergianHankinta::Vesi:
-      break;
+      return tiedot.SahkonHankinta;
+    default:
+      return tiedot.VedenHankinta;
   }
-  return {tiedot.VedenHankinta, 0, r.VedenKulutusryhmat.VuotuinenVedenKulutus()};
+}
+
+Kaytto LaskeKaytto(clsRakennus& r, clsEnergianHankinta::Laji laji) {
+  switch (laji) {
+    case clsEnergianHankinta::Lampo:
+      return {r.VuotuinenBruttoLampoEnergia(),
+              r.VuotuinenIVjalkilammitysLampo() + r.VuotuinenLampoEnergianTarveTilat()};
+    case clsEnergianHankinta::Sahko:
+      return {r.VuotuinenBruttoSahkoEnergia(),
+              r.SahkonKulutusryhmat.SahkoLaitteidenVuosikulutus() + r.SahkonKulutusryhmat.LammitysSahkonVuosikulutus()};
+    default:
+      return {r.VedenKulutusryhmat.VuotuinenVedenKulutus(), 0};
+  }
 }
 
 }  // namespace
 
 Hankintalaskelma LaskeHankinta(clsRakennus& rakennus, clsEnergianHankinta::Laji laji) try {
-  constexpr double kProsentti = 100, kgTonnissa = 1000;
   const Tasehaarukka haarukka(rakennus);
-  const Kaytto kaytto = LaskeKaytto(rakennus, laji);
-  const clsEnergiamuodot& muodot = kaytto.hankinta.Energiamuodot;
+  return LaskeHankinta(rakennus.Perustiedot, laji, LaskeKaytto(rakennus, laji));
+} catch (...) {
+  NostaVirhe("Hankintalaskelma:LaskeHankinta Function");
+}
+
+Hankintalaskelma LaskeHankinta(const clsPerustiedot& tiedot, clsEnergianHankinta::Laji laji, const Kaytto& kaytto) try {
+  constexpr double kProsentti = 100, kgTonnissa = 1000;
+  const clsEnergiamuodot& muodot = Hankinta(tiedot, laji).Energiamuodot;
   Hankintalaskelma laskelma{.brutto = kaytto.brutto,
                             .kustannus = Aarellinen(muodot.Keskihinta() * kaytto.brutto + muodot.Vuosimaksut())};
   const double haviotta = kaytto.brutto - muodot.Konversiohaviot(kaytto.verkko);

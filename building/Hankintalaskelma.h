@@ -4,7 +4,14 @@
 
 #include "supply/clsEnergianHankinta.h"
 
+class clsPerustiedot;
 class clsRakennus;
+
+/// What is used of a supply in a year.
+struct Kaytto {
+  double brutto = 0;  ///< gross use, MWh/a, of water m³/a
+  double verkko = 0;  ///< net demand that the conversion losses go by, MWh/a
+};
 
 /// What the building buys by its calculated use in a year, in the forms of one supply.
 struct Hankintalaskelma {
@@ -22,3 +29,5 @@ struct Hankintalaskelma {
 
 /// Raises error 9999 when a figure can't be computed, as when a form names a tariff that no longer exists.
 Hankintalaskelma LaskeHankinta(clsRakennus& rakennus, clsEnergianHankinta::Laji laji);
+/// The same by a use that the caller has computed.
+Hankintalaskelma LaskeHankinta(const clsPerustiedot& tiedot, clsEnergianHankinta::Laji laji, const Kaytto& kaytto);

@@ -70,8 +70,9 @@ void Muokkausistunto::Palauta() {
 
 void Muokkausistunto::Kirjaa() const {
   if (istuntoja > 1) return;
-  if (toimet_.elava)
-    VaadiRakennus().Muuttui(muutoksenNimi_);
-  else
-    VaadiRakennus().Tallennettu = false;
+  clsRakennus& rakennus = VaadiRakennus();
+  if (!toimet_.elava)
+    rakennus.Tallennettu = false;
+  else if (rakennus.Kirjaamatta())
+    rakennus.Muuttui(muutoksenNimi_);
 }

@@ -32,7 +32,7 @@ struct Muokkaustoimet {
 ///
 /// 1. A reserve copy is taken, the fields are filled, the caption begins with the object's name.
 /// 2. OK, with good number fields: writes the fields, checks, takes the values into use, raises the object's event, and
-///    commits once (clsRakennus::Muuttui). Then the dialog closes.
+///    commits once (clsRakennus::Muuttui) if the building differs from its last commit. Then the dialog closes.
 /// 3. Cancel: the reserve is copied back, and the register with it.
 /// 4. An error on the way: as Cancel, but the dialog stays open and the error goes on to be shown.
 ///

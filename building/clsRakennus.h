@@ -188,6 +188,10 @@ class clsRakennus : public Malli<clsRakennus> {
   /// The same for a change of saving measures or of their order: the model is what it was, and figures that rest on it
   /// hold.
   void ToimenpiteetMuuttuivat(std::string_view toiminto);
+  /// The content isn't that of the last commit: of Muuttui, PalautaTilannekuva, or the session's beginning.
+  bool Kirjaamatta() { return Sormenjalki() != kirjattu_; }
+  /// The content as it is now is where the next change begins.
+  void OtaKirjatuksi() { kirjattu_ = Sormenjalki(); }
   /// Open windows show the present figures.
   void PaivitaNakymat();
   /// A window that shows results of this building: `naytaUudelleen` runs after each change while the subscription is
@@ -217,7 +221,8 @@ class clsRakennus : public Malli<clsRakennus> {
   Muutosilmoitus nakymat_;
   bool rekisteriVoimassa_ = false;
   std::uint64_t vaihe_ = 0;
-  bool vaurioitunut_ = false;  // the file had values that could not be read: the next save keeps it aside
+  std::uint64_t kirjattu_ = 0;  // fingerprint at the last commit
+  bool vaurioitunut_ = false;   // the file had values that could not be read: the next save keeps it aside
   std::unique_ptr<frmLampoYhteenveto> lampoYhteenveto_;
   Muutostilaus lampoYhteenvedonTilaus_;
 };

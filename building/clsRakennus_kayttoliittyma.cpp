@@ -63,6 +63,7 @@ void clsRakennus::ToimenpiteetMuuttuivat(std::string_view toiminto) { Vahvista(t
 void clsRakennus::Vahvista(std::string_view toiminto) {
   Tallennettu = false;
   if (MuutosVahvistettu) MuutosVahvistettu(toiminto);
+  OtaKirjatuksi();
   nakymat_.Ilmoita();
 }
 

@@ -54,6 +54,7 @@ std::unique_ptr<clsRakennus> clsRakennus::Tilannekuva() try {
 void clsRakennus::PalautaTilannekuva(const clsRakennus& kuva) try {
   KopioiSisalto(kuva, *this);
   Saa.AsetaSaaPaikkakunta(Perustiedot.LammTarveLukuPaikkakuntaID());
+  OtaKirjatuksi();
   PaivitaNakymat();
 } catch (...) {
   NostaVirhe("clsRakennus:PalautaTilannekuva Method");

@@ -23,6 +23,7 @@
 #include "tekstit/virheet.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/Virheilmoitus.h"
 
 namespace {
 
@@ -95,7 +96,7 @@ double UlkoseinaAlaTaiNolla(const clsTila& tila, double kerroksia) {
   try {
     return LaskeUlkoseinaAla(tila, kSuorakaide, kSuorakaiteenSuhde, kerroksia);
   } catch (const Virhe& virhe) {
-    Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), {}, Vakavuus::Virhe);
+    KerroVirhe(virhe);
     return 0;
   }
 }

@@ -26,7 +26,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsSahkonKulutusryhma::LaskentatapaEnergiapohjainenIndex>("LaskentatapaEnergiapohjainenIndex"),
     Arvo<&clsSahkonKulutusryhma::LaskentaperusteID>("LaskentaperusteID"),
     Arvo<&clsSahkonKulutusryhma::LaskentaperusteStr>("LaskentaperusteStr"),
-    Arvo<&clsSahkonKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber", Suure().Rajat(0)),
+    Arvo<&clsSahkonKulutusryhma::LaskentaperusteNumber>("LaskentaperusteNumber", Suure().Rajat(0).Tavallisesti(0, 1e6)),
     Arvo<&clsSahkonKulutusryhma::Laskentayksikko>("Laskentayksikko"),
     Arvo<&clsSahkonKulutusryhma::LaskentayksikkoNumber>("LaskentayksikkoNumber", Suure().Rajat(0).Tavallisesti(0, 1e6)),
     Arvo<&clsSahkonKulutusryhma::KayttoaikaHpD>("KayttoaikaHpD", Suure("h/d").Rajat(0, 24)),

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measures/Muunnelmalaskin.h"
 
+#include "building/Hankintalaskelma.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsTilat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Virhe.h"
+#include "measures/Muunnelmaketju.h"
 #include "ventilation/clsIVKoneet.h"
 
 template <class Olio, class Luvut>
@@ -77,7 +79,9 @@ Ostot Muunnelmalaskin::PerustanOstot(const Hyodykkeet& brutto) try {
   NostaVirhe("Muunnelmalaskin:PerustanOstot Method");
 }
 
-Hyodykkeet Muunnelmalaskin::Laske(const clsMuuttuneetAttribuutit& muuttuneet) { return Ketju(*this).Liita(muuttuneet); }
+Hyodykkeet Muunnelmalaskin::Laske(const clsMuuttuneetAttribuutit& muuttuneet) {
+  return Muunnelmaketju(*this).Liita(muuttuneet);
+}
 
 std::vector<Muunnelmalaskin::Hyoty> Muunnelmalaskin::LueHyodyt() const {
   const Tasehaarukka haarukka(rakennus_);
@@ -120,6 +124,11 @@ void Muunnelmalaskin::LaskeUudelleen(const Muunnelma::Ulottuvuus& ulottuvuus) {
   }
 }
 
+void Muunnelmalaskin::PalautaPerusta() noexcept {
+  tilat_.Palauta();
+  koneet_.Palauta();
+}
+
 Energiasummat Muunnelmalaskin::Summat() const {
   Energiasummat summat;
   for (const Tilaluvut& tila : tilat_.luvut) {
@@ -142,28 +151,12 @@ Hyodykkeet Muunnelmalaskin::Brutto() const {
 }
 
 Ostot Muunnelmalaskin::LaskeOstot(const Hyodykkeet& brutto) const {
-  constexpr double kKiloaTonnissa = 1000;
   const Energiasummat summat = Summat();
-  const clsEnergiamuodot& lampo = rakennus_.Perustiedot.LammonHankinta.Energiamuodot;
-  const clsEnergiamuodot& sahko = rakennus_.Perustiedot.SahkonHankinta.Energiamuodot;
-  const clsEnergiamuodot& vesi = rakennus_.Perustiedot.VedenHankinta.Energiamuodot;
-  return {{lampo.Vuosikustannus(brutto.lampo), sahko.Vuosikustannus(brutto.sahko), vesi.Vuosikustannus(brutto.vesi)},
-          (lampo.Paastot(brutto.lampo, rakennus_.LammonNettotarve(summat)) +
-           sahko.Paastot(brutto.sahko, rakennus_.SahkonNettotarve(summat))) /
-              kKiloaTonnissa};
-}
-
-Muunnelmalaskin::Ketju::Ketju(Muunnelmalaskin& laskin) : laskin_(laskin), muunnelma_(laskin.PerustaLuettuna()) {}
-
-Muunnelmalaskin::Ketju::~Ketju() {
-  laskin_.tilat_.Palauta();
-  laskin_.koneet_.Palauta();
-}
-
-Hyodykkeet Muunnelmalaskin::Ketju::Liita(const clsMuuttuneetAttribuutit& muuttuneet) try {
-  muunnelma_.Liita(muuttuneet);
-  laskin_.LaskeUudelleen(muunnelma_.Viimeisin());
-  return laskin_.Brutto();
-} catch (...) {
-  NostaVirhe("Ketju:Liita Method");
+  const clsPerustiedot& tiedot = rakennus_.Perustiedot;
+  const Hankintalaskelma lampo =
+      LaskeHankinta(tiedot, clsEnergianHankinta::Lampo, {brutto.lampo, rakennus_.LammonNettotarve(summat)});
+  const Hankintalaskelma sahko =
+      LaskeHankinta(tiedot, clsEnergianHankinta::Sahko, {brutto.sahko, rakennus_.SahkonNettotarve(summat)});
+  const Hankintalaskelma vesi = LaskeHankinta(tiedot, clsEnergianHankinta::Vesi, {brutto.vesi});
+  return {{lampo.kustannus, sahko.kustannus, vesi.kustannus}, lampo.paasto + sahko.paasto};
 }

@@ -25,7 +25,6 @@ struct Ostot {
 /// Figures: heat and electricity MWh/a, water m³/a. Errors: those of the calculation; the building is then as it was.
 class Muunnelmalaskin {
  public:
-  class Ketju;
   explicit Muunnelmalaskin(clsRakennus& rakennus) noexcept : rakennus_(rakennus) {}
   Muunnelmalaskin(const Muunnelmalaskin&) = delete;
   Muunnelmalaskin& operator=(const Muunnelmalaskin&) = delete;
@@ -42,6 +41,7 @@ class Muunnelmalaskin {
   double Hyotyosuus(const Tunniste& tila);
 
  private:
+  friend class Muunnelmaketju;
   struct Tilaluvut {
     double tarve, saatohaviot, sahko;  // the last: both, if heated by electricity
   };
@@ -69,6 +69,7 @@ class Muunnelmalaskin {
   clsRakennus& PerustaLuettuna();
   void LuePerusta();
   std::vector<Hyoty> LueHyodyt() const;
+  void PalautaPerusta() noexcept;
   void LaskeUudelleen(const Muunnelma::Ulottuvuus& ulottuvuus);
   Energiasummat Summat() const;
   Hyodykkeet Brutto() const;
@@ -81,24 +82,4 @@ class Muunnelmalaskin {
   Luvusto<clsTila, Tilaluvut> tilat_;
   Luvusto<clsIVKone, Koneluvut> koneet_;
   std::optional<std::vector<Hyoty>> hyodyt_;  // by space, when asked for
-};
-
-/// Variations laid upon one another for one scope, one at a time of a calculator: each is computed with all those
-/// before it in force.
-class Muunnelmalaskin::Ketju {
- public:
-  explicit Ketju(Muunnelmalaskin& laskin);
-  ~Ketju();
-  Ketju(const Ketju&) = delete;
-  Ketju& operator=(const Ketju&) = delete;
-
-  /// Gross figures with the list in force, too.
-  Hyodykkeet Liita(const clsMuuttuneetAttribuutit& muuttuneet);
-  /// What the building costs and emits in its present state at these gross figures.
-  Ostot LaskeOstot(const Hyodykkeet& brutto) const { return laskin_.LaskeOstot(brutto); }
-  const std::vector<Muunnelma::Ohitettu>& Ohitetut() const noexcept { return muunnelma_.Ohitetut(); }
-
- private:
-  Muunnelmalaskin& laskin_;
-  Muunnelma muunnelma_;
 };

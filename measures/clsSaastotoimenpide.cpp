@@ -6,7 +6,7 @@
 #include "kernel/Paivamaara.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
-#include "measures/Muunnelmalaskin.h"
+#include "measures/Muunnelmaketju.h"
 #include "measures/Toimenpidekohde.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/tulokset.h"
@@ -324,7 +324,7 @@ Ostot clsSaastotoimenpide::Ostosaasto(Muunnelmalaskin& laskin) try {
   const Hyodykkeet perusta = laskin.Perusta();
   const Ostot ennen = laskin.PerustanOstot(perusta);
   if (Kelluva()) return ennen - laskin.PerustanOstot(perusta - Saasto());
-  Muunnelmalaskin::Ketju ketju(laskin);
+  Muunnelmaketju ketju(laskin);
   return ennen - ketju.LaskeOstot(ketju.Liita(MuuttuneetAttribuutit));
 } catch (...) {
   NostaVirhe("clsSaastotoimenpide:Ostosaasto Method");

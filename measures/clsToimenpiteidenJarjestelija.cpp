@@ -3,6 +3,7 @@
 
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "measures/Muunnelmaketju.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsTariffiVertailuTapaus.h"
@@ -100,7 +101,7 @@ class clsToimenpiteidenJarjestelija::Laskenta {
   }
 
   const clsSaastotoimenpiteet& toimenpiteet_;
-  Muunnelmalaskin::Ketju ketju_;
+  Muunnelmaketju ketju_;
   Hyodykkeet tila_;      // gross figures after the rows so far
   Hyodykkeet kelluvat_;  // what the floating measures so far have saved
   std::string puuttuvat_;

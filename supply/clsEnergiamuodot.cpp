@@ -94,23 +94,6 @@ double clsEnergiamuodot::Konversiohaviot(double verkko) const try {
   NostaVirhe("clsEnergiamuodot:Konversiohaviot Method");
 }
 
-double clsEnergiamuodot::Vuosikustannus(double kulutus) const try {
-  return Aarellinen(Keskihinta() * kulutus + Vuosimaksut());
-} catch (...) {
-  NostaVirhe("clsEnergiamuodot:Vuosikustannus Method");
-}
-
-double clsEnergiamuodot::Paastot(double brutto, double verkko) const try {
-  const double havioton = brutto - Konversiohaviot(verkko);
-  double summa = 0;
-  for (const clsEnergiamuoto& muoto : *this)
-    summa += muoto.IlmastonLampeneminenCO2ekv() *
-             (muoto.OsuusNettotarpeesta / kProsentti * havioton + muoto.Konversiohavio(verkko));
-  return Aarellinen(summa);
-} catch (...) {
-  NostaVirhe("clsEnergiamuodot:Paastot Method");
-}
-
 double clsEnergiamuodot::OsuuksienSumma() const {
   double summa = 0;
   for (const clsEnergiamuoto& muoto : *this) summa += muoto.OsuusNettotarpeesta;

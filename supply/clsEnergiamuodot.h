@@ -27,12 +27,6 @@ class clsEnergiamuodot : public Malli<clsEnergiamuodot, Kokoelma<clsEnergiamuoto
   /// Loss of turning bought energy into the net demand `verkko`, MWh, form by form.
   double Konversiohaviot(double verkko) const;
 
-  /// What a gross use costs in a year, €/a: the use at the mean price, MWh or m³, and the yearly fees.
-  double Vuosikustannus(double kulutus) const;
-  /// Global warming of the bought energy of a year, kg of CO2 equivalent: a form gives its share of the gross use
-  /// without conversion losses, and its own loss, which it has from the net demand; both MWh.
-  double Paastot(double brutto, double verkko) const;
-
   /// Sum of the shares, %.
   double OsuuksienSumma() const;
   /// The sum is 100 % but for the rounding of the sum itself: 33.3 + 33.3 + 33.4 is, 99.999999 isn't.

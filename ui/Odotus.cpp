@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Odotus.h"
 
+#include <exception>
 #include <utility>
 
 Odotus::Odotus() : viestit_(ViestitNyt()), ennen_(viestit_.Paneeli()) { viestit_.Odotusosoitin(true); }
@@ -9,7 +10,11 @@ Odotus::Odotus(std::string teksti) : Odotus() { Teksti(std::move(teksti)); }
 
 Odotus::~Odotus() {
   viestit_.Odotusosoitin(false);
-  if (viestit_.Paneeli() != ennen_) viestit_.AsetaPaneeli(std::move(ennen_));
+  try {
+    if (viestit_.Paneeli() != ennen_) viestit_.AsetaPaneeli(std::move(ennen_));
+  } catch (const std::exception&) {
+    // an old text in the panel is no reason to end the program
+  }
 }
 
 void Odotus::Teksti(std::string teksti) {

@@ -44,6 +44,7 @@ void Materiaaliselain::Kuuntele() {
   k.MuokkaaKlikattu = [this] { KayttoLiittyma_Muokkaa(); };
   k.KopioiKlikattu = [this] { KayttoLiittyma_Kopioi(); };
   k.PoistaKlikattu = [this] { KayttoLiittyma_Poista(); };
+  LiitaNappaimet(KayttoLiittyma.lvwMateriaalit, KayttoLiittyma.cmdUusi, KayttoLiittyma.cmdPoista);
   k.SuljeKlikattu = [this] { KayttoLiittyma_Sulje(); };
 }
 

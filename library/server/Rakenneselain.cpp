@@ -49,6 +49,7 @@ void Rakenneselain::Kuuntele() {
   k.PoistaKlikattu = [this] { KayttoLiittyma_Poista(); };
   k.TuoKlikattu = [this] { KayttoLiittyma_Tuo(); };
   k.VieKlikattu = [this] { KayttoLiittyma_Vie(); };
+  LiitaNappaimet(KayttoLiittyma.lvwRakenteet, KayttoLiittyma.cmdUusi, KayttoLiittyma.cmdPoista);
   k.SuljeKlikattu = [this] { KayttoLiittyma_Sulje(); };
 }
 

@@ -10,8 +10,6 @@
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
-namespace {}  // namespace
-
 void KerroViat(const Kirjastot& kirjastot) {
   for (const auto& [kirjasto, teksti] :
        {std::pair{Kirjasto::Oma, tekstit::kOmaaEiLueta}, {Kirjasto::Vakio, tekstit::kVakiotaEiLueta}})
@@ -77,3 +75,13 @@ void PalautaEhdot(const std::vector<Ohjain*>& ehdot, const std::string& teksti) 
 }
 
 std::string ValittuEhto(const ComboBox& valinta) { return valinta.Indeksi() > 0 ? valinta.Teksti() : std::string(); }
+
+void LiitaNappaimet(const ListView& lista, const CommandButton& uusi, const CommandButton& poista) {
+  const auto paina = [](const CommandButton& nappi) {
+    return [nappi] {
+      if (nappi.Kaytossa()) nappi.Kohde().KayttajaPainaa();
+    };
+  };
+  lista.KunLisataan(paina(uusi));
+  lista.KunPoistetaan(paina(poista));
+}

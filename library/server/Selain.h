@@ -37,5 +37,7 @@ void TaytaEhdot(const ComboBox& valinta, const std::vector<std::string>& rivit);
 /// What the conditions hold, a line for each, for opening the window again with the same.
 std::string EhtojenTeksti(const std::vector<Ohjain*>& ehdot);
 void PalautaEhdot(const std::vector<Ohjain*>& ehdot, const std::string& teksti);
+/// Insert and Delete in the list press the buttons.
+void LiitaNappaimet(const ListView& lista, const CommandButton& uusi, const CommandButton& poista);
 /// The chosen condition; empty for the first row.
 std::string ValittuEhto(const ComboBox& valinta);

@@ -227,6 +227,8 @@ class Sidonnat : public RakennusTesti {
     return tulos;
   }
 
+  /// It edits a copy, which its caller takes: nothing of the building changes under its OK.
+  static constexpr const char* kEiKirjaa = "frmRakennekerroksenMuokkaaminen";
   std::set<std::string> koetut_;
   void Koettele(const Dialogi& dialogi, const std::string& kentta) {
     SCOPED_TRACE(dialogi.lomake + "." + kentta);
@@ -236,13 +238,16 @@ class Sidonnat : public RakennusTesti {
     OdotaNayttavan(dialogi, kentta, MuutaJaSulje(dialogi, kentta, "cmdPeruuta").first);
     EXPECT_EQ(MuutoksiaRakennukseen(*ennen), erot) << "after Cancel";
 
-    rakennus->MuutosVahvistettu = [](std::string_view) { throw std::runtime_error("levy täynnä"); };
-    OdotaNayttavan(dialogi, kentta, MuutaJaSulje(dialogi, kentta, "cmdOk").first);
-    EXPECT_EQ(MuutoksiaRakennukseen(*ennen), erot) << "after an OK that failed";
-    rakennus->MuutosVahvistettu = nullptr;
+    if (dialogi.lomake != kEiKirjaa) {
+      rakennus->MuutosVahvistettu = [](std::string_view) { throw std::runtime_error("levy täynnä"); };
+      OdotaNayttavan(dialogi, kentta, MuutaJaSulje(dialogi, kentta, "cmdOk").first);
+      EXPECT_EQ(MuutoksiaRakennukseen(*ennen), erot) << "after an OK that failed";
+      rakennus->MuutosVahvistettu = nullptr;
+    }
 
     OdotaNayttavan(dialogi, kentta, MuutaJaSulje(dialogi, kentta, "cmdOk").second);
     ennen->Kopioi(rakennus.get());
+    rakennus->OtaKirjatuksi();
   }
 };
 

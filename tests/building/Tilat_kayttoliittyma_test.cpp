@@ -68,6 +68,23 @@ TEST_F(TilaDialogi, ListTellsHowTheDemandComesAboutAndOfSpacesLargerThanTheBuild
   EXPECT_NE(Luettelo().Teksti("lblHuomautus").find("17 500 m³"), std::string::npos);
 }
 
+TEST_F(TilaDialogi, AnOkThatChangesNothingIsNoStepButAnUntouchedNewSpaceIs) {
+  std::vector<std::string> askeleet;
+  rakennus->MuutosVahvistettu = [&](std::string_view toiminto) { askeleet.emplace_back(toiminto); };
+  rakennus->OtaKirjatuksi();
+  const auto ok = [](Ikkunaton& l) { l.KayttajaPainaa("cmdOk"); };
+  EXPECT_TRUE(Muokkaa(ok));
+  EXPECT_TRUE(askeleet.empty() && rakennus->Tallennettu);
+  EXPECT_TRUE(Muokkaa([](Ikkunaton& l) {
+    l.KayttajaKirjoittaa("txtBruttoAla", "77");
+    l.KayttajaPainaa("cmdOk");
+  }));
+  rakennus->Tilat.NaytaKayttoliittyma();
+  ikkunat.KunNaytetaan("frmTila", ok);
+  Luettelo().KayttajaPainaa("cmdLisaaTila");
+  EXPECT_EQ(askeleet, (std::vector<std::string>{"Tilan tiedot", "Tilan tiedot"}));
+}
+
 TEST_F(TilaDialogi, ASpaceWhoseDialogFailsIsntLeftBehind) {
   Tunniste uusi;
   const Kokoelmamuokkaus<clsTila> muokkaus{

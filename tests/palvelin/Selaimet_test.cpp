@@ -195,8 +195,8 @@ TEST_F(Selaimet, OwnLibraryGoesToAFileAndComesBack) {
   viestit_.AsetaSeuraavaTiedosto(koe_.Tiedosto("vienti.mdb"));
   Ikkuna().KayttajaPainaa("cmdVie");
   viestit_.AsetaSeuraavaVastaus(Vastaus::Kylla);
-  Ikkuna().KayttajaPainaa("cmdPoista");
-  EXPECT_TRUE(Omat().empty());
+  Ikkuna().Etsi("lvwRakenteet").KayttajaPoistaa();
+  EXPECT_TRUE(Omat().empty()) << "Delete is the button";
   viestit_.AsetaSeuraavaTiedosto(koe_.Tiedosto("vienti.mdb"));
   Ikkuna().KayttajaPainaa("cmdTuo");
   EXPECT_EQ(Omat().size(), 1U);

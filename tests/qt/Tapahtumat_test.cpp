@@ -20,6 +20,7 @@
 
 #include "kernel/Virhe.h"
 #include "tests/qt/Ikkunatesti.h"
+#include "ui/Kenttatarkistus.h"
 #include "ui/Komento.h"
 #include "ui/Odotus.h"
 #include "ui/Tekstivarasto.h"
@@ -27,6 +28,7 @@
 #include "ui/frmLampoYhteenveto.h"
 #include "ui/frmNormeeraamatonKulutus.h"
 #include "ui/frmPerustiedot.h"
+#include "ui/frmTarkennettuLaiteLaskenta.h"
 #include "ui/qt/QtViestit.h"
 
 namespace {
@@ -155,6 +157,32 @@ TEST_F(Tapahtumat, OneWhoCancelsIsNotAskedOfHalfTypedFields) {
     lomake.NaytaModaalisena();
     QCoreApplication::processEvents();
     EXPECT_EQ(huomautuksia, 0) << (hiirella ? "hiirellä" : "Escillä");
+  }
+}
+
+TEST_F(Tapahtumat, AFactorThatIsNoNumberCanNotBeLeft) {
+  frmTarkennettuLaiteLaskenta lomake;
+  lomake.Yksikot(true);
+  lomake.optLaskentatapa[0].Valittu(true);
+  lomake.Taytetty();
+  NaytaAktiivisena(lomake);
+  auto& kentta = Etsi<QLineEdit>(lomake, "txtLaskentaYksikoidenMaara");
+  for (const bool hiirella : {false, true}) {
+    AsetaTarkistuksenKello(nullptr);
+    kentta.setFocus();
+    kentta.selectAll();
+    QTest::keyClicks(&kentta, "12x");
+    const QStringList laatikot = Laatikot([&] {
+      if (hiirella)
+        QTest::mouseClick(&Etsi<QLineEdit>(lomake, "txtTasauskerroin"), Qt::LeftButton);
+      else
+        QTest::keyClick(&kentta, Qt::Key_Tab);
+    });
+    EXPECT_EQ(laatikot.size(), 1) << laatikot.join('\n').toStdString();
+    kentta.window()->activateWindow();  // this platform leaves it to us
+    ASSERT_TRUE(QTest::qWaitForWindowActive(kentta.window()));
+    EXPECT_TRUE(kentta.hasFocus());
+    EXPECT_EQ(kentta.selectedText(), "12x");
   }
 }
 

@@ -13,6 +13,7 @@
 #include "tests/qt/Ikkunatesti.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/frmEnergiamuotomuutokset.h"
 #include "ui/frmIVKoneYhteenveto.h"
 #include "ui/frmIlmanvaihtokone.h"
 #include "ui/frmJakaumaGraafi.h"
@@ -160,6 +161,10 @@ TEST_F(Taytetyt, TheListOfChangesFitsItsWindow) {
                                       "0,045",
                                       "0,0375"};
   EXPECT_TRUE(frmMateriaalimuutokset().Kysy(Taulukko(200, rivi)));
+  KunAuki("cmdOk", OdotaMahtuvan);
+  EXPECT_TRUE(frmEnergiamuotomuutokset().Kysy(
+      Taulukko(20, {"Lämmön hankinta", "Kaukolämpö, yhteistuotanto", "Ilmaston lämpeneminen, CO₂-ekv., kg/MWh",
+                    "183,0", "168,5"})));
 }
 
 TEST_F(Taytetyt, TheCatalogueOfConsumersFitsItsWindow) {

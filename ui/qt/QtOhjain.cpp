@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QTreeView>
@@ -115,8 +116,9 @@ class QtTextBox : public QtOhjain {
   }
 
   bool eventFilter(QObject* kohde, QEvent* tapahtuma) override {
-    if (tapahtuma->type() == QEvent::FocusOut && PoistuttuKentasta(static_cast<QFocusEvent*>(tapahtuma)->reason()))
-      KayttajaPoistuu();
+    if (tapahtuma->type() == QEvent::FocusOut && PoistuttuKentasta(static_cast<QFocusEvent*>(tapahtuma)->reason()) &&
+        !Poistuttiin())
+      return true;
     if (tapahtuma->type() == QEvent::PaletteChange && Lukittu()) VaritaLukituksi();
     return QtOhjain::eventFilter(kohde, tapahtuma);
   }
@@ -130,6 +132,15 @@ class QtTextBox : public QtOhjain {
   }
 
  private:
+  /// Tells the listener that the person has left the field. False when the listener has brought the person back: then
+  /// the field isn't left, and keeps what was selected in it. A field that loses the focus to one that was left so
+  /// isn't left by the person: two faulty ones would else send the focus to and fro.
+  bool Poistuttiin() {
+    if (poistuttava_ == kentta_.window()) return true;
+    const QScopedValueRollback<const QWidget*> poistuttava(poistuttava_, kentta_.window());
+    KayttajaPoistuu();
+    return kentta_.window()->focusWidget() != &kentta_;
+  }
   /// A message box or a menu doesn't end the editing.
   static bool PoistuttuKentasta(Qt::FocusReason syy) {
     return syy != Qt::ActiveWindowFocusReason && syy != Qt::PopupFocusReason && syy != Qt::MenuBarFocusReason;
@@ -158,6 +169,7 @@ class QtTextBox : public QtOhjain {
     kentta_.setFixedWidth(numeroita * QFontMetrics(QApplication::font()).horizontalAdvance('0'));
   }
 
+  inline static const QWidget* poistuttava_ = nullptr;  // window of the field that is being left
   QLineEdit& kentta_;
 };
 

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kLeveinSarake = 40;        // of any but the names, in letters
 constexpr int kKapeinNimi = 24;          // of the names, when the others need the room
+constexpr int kPyoristys = 2;            // pixels by which a text is painted wider than measured
 constexpr std::size_t kMitattavia = 12;  // cells of a column, the longest ones
 
 std::size_t Koko(int luku) { return static_cast<std::size_t>(luku); }
@@ -72,7 +73,7 @@ int Sarakeleveydet::SolunLeveys(int rivi, int sarake) const {
   if (teksti.empty()) return 0;
   QFont fontti = nakyma_.font();
   fontti.setBold(summa || lista_.Piirteet(rivi).lihava);
-  const int ilma = 2 * (nakyma_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &nakyma_) + 1);
+  const int ilma = kPyoristys + 2 * (nakyma_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &nakyma_) + 1);
   int leveys = ilma + QFontMetrics(fontti).horizontalAdvance(
                           QString::fromUtf8(teksti.data(), static_cast<qsizetype>(teksti.size())));
   if (summa) return leveys;
@@ -111,6 +112,18 @@ int Sarakeleveydet::Tarve(int sarake) const {
   return std::max(sarake == Nimisarake() ? sisalto : std::min(sisalto, levein), OtsikonLeveys(sarake));
 }
 
+/// Gives the room that the names don't need to the other columns whose texts don't fit. Returns how much was given.
+int Sarakeleveydet::LevennaKatkottuja(int vara) {
+  const int alussa = vara, mitattuja = std::min(static_cast<int>(sisallot_.size()), nakyma_.header()->count());
+  for (int s = 0; s < mitattuja && vara > 0; ++s) {
+    const int lisa = std::min(vara, sisallot_[s] - nakyma_.columnWidth(s));
+    if (s == Nimisarake() || lisa <= 0) continue;
+    nakyma_.setColumnWidth(s, nakyma_.columnWidth(s) + lisa);
+    vara -= lisa;
+  }
+  return alussa - vara;
+}
+
 void Sarakeleveydet::Jaa() {
   const int maara = nakyma_.header()->count();
   if (omat_ || jaetaan_ || maara == 0) return;
@@ -123,6 +136,7 @@ void Sarakeleveydet::Jaa() {
     nakyma_.setColumnWidth(s, leveys);
     muut += leveys;
   }
+  muut += LevennaKatkottuja(nakyma_.viewport()->width() - muut - Tarve(nimi));
   const int kapein = std::min(Tarve(nimi), kKapeinNimi * nakyma_.fontMetrics().averageCharWidth());
   nakyma_.setColumnWidth(nimi, std::max(nakyma_.viewport()->width() - muut, kapein));
   jaetaan_ = false;

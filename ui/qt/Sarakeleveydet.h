@@ -17,6 +17,7 @@ class Sarakeleveydet : public QObject {
   /// After the cells of a row (the number of rows: of the sums) have changed.
   void MittaaRivi(int rivi);
   /// Shares out the room; also after a change of the sorting, whose arrow takes room.
+  int LevennaKatkottuja(int vara);
   void Jaa();
   bool eventFilter(QObject* kohde, QEvent* tapahtuma) override;
 
