@@ -245,8 +245,7 @@ TEST_F(TilaDialogi, ChoicesSetTheirFixedValuesAndOnlyOtherCanBeWritten) {
   EXPECT_EQ(Koulu().Saatohyotysuhde, 72.5);
 }
 
-TEST_F(TilaDialogi, OkDropsTheCachesAndTellsButKeepsUnshownDecimals) {
-  Koulu().Kokonaistilavuus = 17500.123456;
+TEST_F(TilaDialogi, OkDropsTheCachesAndTells) {
   Koulu().JohtumishaviotUpToDate(true);
   Koulu().AurKuormatTilassaUpToDate(true);
   LisaaToimenpide("jokin", "Toimenpide");
@@ -254,13 +253,11 @@ TEST_F(TilaDialogi, OkDropsTheCachesAndTellsButKeepsUnshownDecimals) {
   int muutoksia = 0;
   Koulu().DataMuuttui.arvo = [&] { ++muutoksia; };
   EXPECT_TRUE(Muokkaa([](Ikkunaton& l) {
-    EXPECT_EQ(l.Teksti("txtKokonaistilavuus"), "17 500,12");
     l.KayttajaPainaa("chkPainovoimainenIlmanvaihto");
     EXPECT_TRUE(l.Etsi("txtPainovoimainenIVMaara").Kaytossa());
     EXPECT_FALSE(l.Etsi("txtVuotoilmanvaihto").Kaytossa()) << "one replaces the other";
     l.KayttajaPainaa("cmdOk");
   }));
-  EXPECT_EQ(Koulu().Kokonaistilavuus, 17500.123456);
   EXPECT_TRUE(Koulu().PainovoimainenIlmanvaihto);
   EXPECT_FALSE(Koulu().JohtumishaviotUpToDate());
   EXPECT_FALSE(Koulu().AurKuormatTilassaUpToDate());

