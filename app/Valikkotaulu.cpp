@@ -4,6 +4,8 @@
 #include "app/Istunto.h"
 #include "app/frmMain.h"
 #include "building/clsTilat.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "consumers/clsVedenKulutusryhmat.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/paaikkuna.h"
@@ -23,6 +25,8 @@ bool KohdeValmis(const frmMain& ikkuna) { return ikkuna.Kohteet().KohdeValmis();
 bool LampoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmLampoYhteenveto"); }
 bool TilatAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmTilaYhteenveto"); }
 bool KoneetAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmIVKoneYhteenveto"); }
+bool SahkoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmSahkoLaitteet"); }
+bool VesiAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmVedenKulutus"); }
 
 bool VoiKumota(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().VoiKumota(); }
 bool VoiTehdaUudelleen(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().VoiTehdaUudelleen(); }
@@ -136,8 +140,10 @@ constexpr Valikkorivi kRivit[] = {
      [](frmMain& i) { i.Kohteet().Rakennus()->Tilat.NaytaKayttoliittyma(); }},
     {"mnuRakennus", "mnuIlmanvaihto", tekstit::kValikkoIlmanvaihtokoneet, "", KoneetAvattavissa,
      [](frmMain& i) { i.Kohteet().Rakennus()->IVKoneet.NaytaKayttoliittyma(); }},
-    {"mnuRakennus", "mnuSahko", tekstit::kValikkoSahkolaitteet, "", kTulossa},
-    {"mnuRakennus", "mnuVedenkulutus", tekstit::kValikkoVedenkulutus, "", kTulossa},
+    {"mnuRakennus", "mnuSahko", tekstit::kValikkoSahkolaitteet, "", SahkoAvattavissa,
+     [](frmMain& i) { i.Kohteet().Rakennus()->SahkonKulutusryhmat.NaytaKayttoliittyma(); }},
+    {"mnuRakennus", "mnuVedenkulutus", tekstit::kValikkoVedenkulutus, "", VesiAvattavissa,
+     [](frmMain& i) { i.Kohteet().Rakennus()->VedenKulutusryhmat.NaytaKayttoliittyma(); }},
     {"mnuRakennus", ""},
     {"mnuRakennus", "mnuLampo", tekstit::kValikkoLampo, "Ctrl+L", LampoAvattavissa,
      [](frmMain& i) { i.Kohteet().Rakennus()->NaytaLampoYhteenvetoDlg(); }},

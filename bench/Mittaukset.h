@@ -18,6 +18,8 @@ Vertailupari Kopiointipari(clsRakennus& rakennus);
 /// A step of undo after a commit, which has made the register stale.
 Vertailupari Kumouspari(clsRakennus& rakennus);
 Vertailupari Laskentapari(clsRakennus& rakennus);
+/// Rebuilding and summing a tree of so many electricity groups under ten titles.
+Vertailupari Kulutuspuupari(int ryhmia);
 /// The after-heating of the machines.
 Vertailupari Ilmanvaihtopari(clsRakennus& rakennus);
 /// The batch program over 200 files of the building, with all cores against one.

@@ -71,12 +71,10 @@ Ajo Toistettuna(const Ajo& ajo) {
 }
 
 /// Medians of ours and of the yardstick at one size; fewer pairs where one takes long.
-std::pair<double, double> Koossa(const Toiminto& toiminto, int tiloja) {
-  const auto rakennus = TeeRakennus(tiloja, kKasvunRakenteita, toiminto.koneita ? tiloja / kTilojaKoneella : 0);
-  const Vertailupari pari = toiminto.pari(*rakennus);
+std::pair<double, double> Koossa(const Vertailupari& pari, int koko) {
   const Ajo meidan = Toistettuna(pari.meidan), vertailu = Toistettuna(pari.vertailu);
   Paritulos tulos;
-  const int pareja = tiloja >= 10000 ? 5 : tiloja >= 1000 ? 11 : kPareja;
+  const int pareja = koko >= 10000 ? 5 : koko >= 1000 ? 11 : kPareja;
   for (int i = 0; i < pareja; ++i) {
     AjaPari(tulos, meidan, vertailu, i % 2 == 1);
     pari.tarkista();
@@ -84,26 +82,46 @@ std::pair<double, double> Koossa(const Toiminto& toiminto, int tiloja) {
   return {Mediaani(tulos.meidan), Mediaani(tulos.vertailu)};
 }
 
-/// The slopes of ours and of the yardstick. Goal: theirs and a little, but those of calculations stand fixed.
-template <std::size_t I>
-void Kasvu(benchmark::State& state) {
+/// The slopes of ours and of the yardstick; `koossa`(size) gives the medians. Goal: theirs and a little, but those of
+/// calculations stand fixed.
+template <class F>
+void MittaaKasvu(benchmark::State& state, bool laskenta, F koossa) {
   std::vector<double> koot, meidan, vertailu;
   for (auto _ : state) {
-    for (const int tiloja : kKasvunTilat) {
-      const auto [oma, toinen] = Koossa(kToiminnot[I], tiloja);
-      koot.push_back(tiloja);
+    for (const int koko : kKasvunTilat) {
+      const auto [oma, toinen] = koossa(koko);
+      koot.push_back(koko);
       meidan.push_back(oma);
       vertailu.push_back(toinen);
     }
     state.SetIterationTime(meidan.back());
   }
-  const bool laskenta = kToiminnot[I].pari == Laskentapari || kToiminnot[I].pari == Ilmanvaihtopari;
   const double kaltevuus = Kaltevuus(koot, meidan), verrattava = Kaltevuus(koot, vertailu);
   state.counters["kaltevuus"] = 1;
   state.counters["meidan_s"] = kaltevuus;
   state.counters["vertailu_s"] = verrattava;
   state.counters["suhde"] = kaltevuus;
   state.counters["tavoite"] = laskenta ? kLaskennanKaltevuus : verrattava + kKaltevuusvara;
+}
+
+template <std::size_t I>
+void Kasvu(benchmark::State& state) {
+  const Toiminto& toiminto = kToiminnot[I];
+  MittaaKasvu(state, toiminto.pari == Laskentapari || toiminto.pari == Ilmanvaihtopari, [&](int tiloja) {
+    const auto rakennus = TeeRakennus(tiloja, kKasvunRakenteita, toiminto.koneita ? tiloja / kTilojaKoneella : 0);
+    return Koossa(toiminto.pari(*rakennus), tiloja);
+  });
+}
+
+void Kulutuspuu(benchmark::State& state) {
+  constexpr double kTavoite = 20;
+  constexpr int kRyhmia = 1000;
+  const Vertailupari pari = Kulutuspuupari(kRyhmia);
+  MittaaParit(state, kTavoite, Toistettuna(pari.meidan), Toistettuna(pari.vertailu), pari.tarkista);
+}
+
+void KulutuspuunKasvu(benchmark::State& state) {
+  MittaaKasvu(state, true, [](int ryhmia) { return Koossa(Kulutuspuupari(ryhmia), ryhmia); });
 }
 
 void Massalaskenta(benchmark::State& state) {
@@ -117,6 +135,7 @@ template <std::size_t... I>
 void Ilmoita(std::index_sequence<I...>) {
   (IlmoitaParit(std::string(kToiminnot[I].nimi) + "; " + kToiminnot[I].vertailu, Paataulu<I>), ...);
   IlmoitaJasenmittaukset();
+  IlmoitaParit("rebuild and sum the tree of 1,000 groups; plain sum of the groups", Kulutuspuu);
   benchmark::RegisterBenchmark("lumivirta-laske over 200 files; with one core", Massalaskenta)
       ->UseManualTime()
       ->Iterations(kMassaPareja);
@@ -126,6 +145,9 @@ void Ilmoita(std::index_sequence<I...>) {
        ->UseManualTime()
        ->Iterations(1),
    ...);
+  benchmark::RegisterBenchmark("slope of the tree, 10 to 10,000 groups; plain sum of the groups", KulutuspuunKasvu)
+      ->UseManualTime()
+      ->Iterations(1);
 }
 
 void KerroMalli() {

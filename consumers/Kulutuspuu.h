@@ -115,7 +115,7 @@ class Kulutuspuu : public RivillinenKokoelma<Ryhma, Rivi> {
     if (!VoiSiirtaa(ryhma, kohde)) return;
     Rivi& rivi = this->ListaItem(ryhma);
     rivi.Parent = Lisayspaikka(kohde);
-    this->MuutettavatRivit().SiirraLoppuun(ryhma);
+    this->ListaItems().SiirraLoppuun(ryhma);
     if (Ryhma* siirretty = this->Etsi(ryhma)) Siirtyi(*siirretty, rivi.Parent);
   }
 
@@ -145,7 +145,7 @@ class Kulutuspuu : public RivillinenKokoelma<Ryhma, Rivi> {
     }
     const auto onRyhma = [this](const Rivi& rivi) { return Laji(rivi) == Rivilaji::Ryhma; };
     if (std::count_if(Rivit().begin(), Rivit().end(), onRyhma) != avaimellisia)
-      this->MuutettavatRivit().PoistaJos([&](const Rivi& rivi) { return onRyhma(rivi) && !this->Etsi(rivi.sKey); });
+      this->ListaItems().PoistaJos([&](const Rivi& rivi) { return onRyhma(rivi) && !this->Etsi(rivi.sKey); });
   }
 
   /// A row that another part of the model gives.
@@ -157,7 +157,7 @@ class Kulutuspuu : public RivillinenKokoelma<Ryhma, Rivi> {
   /// Puts the rows in place of the former ones of that kind, last under `vanhempi`. What was closed stays closed.
   void VaihdaSiirretyt(const std::vector<Siirrettava>& siirrettavat, const Tunniste& vanhempi) {
     std::unordered_set<Tunniste> suljetut;
-    this->MuutettavatRivit().PoistaJos([&](const Rivi& rivi) {
+    this->ListaItems().PoistaJos([&](const Rivi& rivi) {
       const bool siirretty = Laji(rivi) == Rivilaji::Siirretty;
       if (siirretty && rivi.Collapsed) suljetut.insert(rivi.sKey);
       return siirretty;

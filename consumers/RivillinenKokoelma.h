@@ -7,6 +7,9 @@
 template <class T, class Rivi>
 class RivillinenKokoelma : public Kokoelma<T> {
  public:
+  using Alkioluokka = T;
+  using Riviluokka = Rivi;
+
   KokoelmaPohja* ListaItemeina() noexcept override { return &listaItemit_; }
 
   Rivi& ListaItem(int paikka) const { return listaItemit_.Item(paikka); }
@@ -15,6 +18,7 @@ class RivillinenKokoelma : public Kokoelma<T> {
   void RemoveListaItem(int paikka) { listaItemit_.Remove(paikka); }
   void RemoveListaItem(const Tunniste& sKey) { listaItemit_.Remove(sKey); }
   const Sailio<Rivi>& ListaItems() const noexcept { return listaItemit_; }
+  Sailio<Rivi>& ListaItems() noexcept { return listaItemit_; }
   /// Removes the items and the rows.
   void Tyhjenna() override {
     Kokoelma<T>::Tyhjenna();
@@ -33,7 +37,6 @@ class RivillinenKokoelma : public Kokoelma<T> {
     rivi.NimiTeksti = std::move(NimiTeksti);
     return rivi;
   }
-  Sailio<Rivi>& MuutettavatRivit() noexcept { return listaItemit_; }
 
  private:
   Sailio<Rivi> listaItemit_;

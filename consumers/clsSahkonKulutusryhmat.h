@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <memory>
 #include "building/Koti.h"
+
 #include "consumers/Kulutuspuu.h"
 #include "consumers/clsSahkoListaItem.h"
 #include "consumers/clsSahkonKulutusryhma.h"
+
+class Sahkoluettelo;
 
 /// The electricity consumer groups of the building and the rows of their tree.
 class clsSahkonKulutusryhmat
@@ -43,6 +47,12 @@ class clsSahkonKulutusryhmat
   /// The same for the groups that belong to no space.
   double TiloihinLiittymatonSahkoKuorma() const { return TilanSahkoKuorma({}); }
 
+  /// Opens the list, or brings it to front: not modal, one at a time. What is done there takes effect at once; its
+  /// Cancel takes that back.
+  void NaytaKayttoliittyma();
+  /// Fills the open list and chooses the row of that key, the first one for an empty key.
+  void LueDataluokka(const Tunniste& sKey = {});
+
  protected:
   std::span<const Kiintearivi> Kiinteat() const override;
   clsSahkonKulutusryhma& LuoRyhma(const Tunniste& avain, const Tunniste&) override { return Add(avain); }
@@ -52,4 +62,5 @@ class clsSahkonKulutusryhmat
   std::vector<Siirrettava> Siirrettavat() const;
 
   Koti koti_;
+  Oma<std::shared_ptr<Sahkoluettelo>> luettelo_;
 };

@@ -180,6 +180,10 @@ void clsVedenKulutusryhmat::PaivitaVedenTiedotKulutusryhmiin() {
   for (Ryhma& ryhma : *this) LKVTiedot.KopioiArvot(ryhma.VedenTiedot);
 }
 
+std::vector<clsVesiListaItem*> clsVedenKulutusryhmat::PaaRivit() const {
+  return {&ListaItem(kKayttovedenRivi), &ListaItem(kProsessivedenRivi), &ListaItem(kKierto)};
+}
+
 double clsVedenKulutusryhmat::RivienVedenKulutus() const {
   double summa = 0;
   for (const clsVesiListaItem& rivi : ListaItems())

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <memory>
+
 #include "consumers/Kulutuspuu.h"
 #include "consumers/clsVedenKulutusryhma.h"
 #include "consumers/clsVesiListaItem.h"
+
+class Vesiluettelo;
 
 /// The water consumer groups of the building, the rows of their tree, and the hot water circulation loop.
 class clsVedenKulutusryhmat : public Malli<clsVedenKulutusryhmat, Kulutuspuu<clsVedenKulutusryhma, clsVesiListaItem>> {
@@ -39,6 +43,8 @@ class clsVedenKulutusryhmat : public Malli<clsVedenKulutusryhmat, Kulutuspuu<cls
   /// Temperatures aren't refused.
   static bool TarkistaLKVLampotilat() { return true; }
   static bool TarkistaProsessiVedenLampotilat() { return true; }
+  /// The rows that the figures of the building divide into: domestic water, process water and the loop.
+  std::vector<clsVesiListaItem*> PaaRivit() const;
   /// Water of the rows below the titles, m³/a: of every group once.
   double RivienVedenKulutus() const;
 
@@ -58,9 +64,18 @@ class clsVedenKulutusryhmat : public Malli<clsVedenKulutusryhmat, Kulutuspuu<cls
   /// Loss of the circulation loop, kWh/a: cooling × flow × 4.19 kJ/(kg·K) × use time.
   double LKVKiertopiirinHavio() const;
 
+  /// Opens the list, or brings it to front: not modal, one at a time. What is done there takes effect at once; its
+  /// Cancel takes that back.
+  void NaytaKayttoliittyma();
+  /// Fills the open list and chooses the row of that key, the first one for an empty key.
+  void LueDataluokka(const Tunniste& sKey = {});
+
  protected:
   std::span<const Kiintearivi> Kiinteat() const override;
   clsVedenKulutusryhma& LuoRyhma(const Tunniste& avain, const Tunniste& vanhempi) override;
   void Siirtyi(clsVedenKulutusryhma& ryhma, const Tunniste& vanhempi) override;
   Tunniste OrvonPaikka(const Tunniste& ryhma) const override;
+
+ private:
+  Oma<std::shared_ptr<Vesiluettelo>> luettelo_;
 };

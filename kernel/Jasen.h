@@ -28,7 +28,7 @@ struct Jasen {
   Olio* (*olio)(Olio&) = nullptr;
   /// Makes the object of a member that may hold nothing, and gives it.
   Olio& (*luo)(Olio&) = nullptr;
-  /// A copy of another object's value, kept for the file: a comparison passes over it.
+  /// A copy of another object's value, or a state of the display, kept for the file: a comparison passes over it.
   bool kopio = false;
   /// The object may lie outside this one, reachable by its identity: it is stored as a reference then.
   bool viittaus = false;

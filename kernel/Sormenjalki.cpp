@@ -27,20 +27,20 @@ class Summa {
   std::uint64_t arvo_ = 0xcbf29ce484222325;
 };
 
-void LisaaArvo(Summa& summa, const Olio& olio, const Jasen& jasen) {
-  ArvoNakyma arvo;
-  jasen.nayta(olio, arvo);
-  summa.Lisaa(arvo);
-}
+void LisaaOlio(Summa& summa, Olio& olio, const clsTyyppiTiedot& tyypit);
 
-/// Display rows: what the person has made of them. Copied captions, sums and what is open or closed don't count.
-void LisaaRivit(Summa& summa, KokoelmaPohja& rivit, const clsTyyppiTiedot& tyypit) {
-  const clsTyyppiTieto* tieto = tyypit.Etsi(rivit.AlkionLuokka());
-  for (int i = 1; tieto && i <= rivit.Count(); ++i) {
-    const Alkio& rivi = rivit.Pohja(i);
-    if (!rivi.OnSisaltoa()) continue;
-    for (const Jasen* jasen : tieto->Jasenet())
-      if (!jasen->kopio) LisaaArvo(summa, rivi, *jasen);
+void LisaaJasenet(Summa& summa, Olio& olio, const clsTyyppiTiedot& tyypit) {
+  const clsTyyppiTieto* tieto = tyypit.Etsi(olio.LuokanTiedot());
+  if (!tieto) return;
+  for (const Jasen* jasen : tieto->Jasenet()) {
+    if (jasen->kopio) continue;
+    if (!jasen->OnOlio()) {
+      ArvoNakyma arvo;
+      jasen->nayta(olio, arvo);
+      summa.Lisaa(arvo);
+    } else if (Olio* lapsi = jasen->viittaus ? nullptr : jasen->olio(olio)) {
+      LisaaOlio(summa, *lapsi, tyypit);
+    }
   }
 }
 
@@ -48,16 +48,10 @@ void LisaaOlio(Summa& summa, Olio& olio, const clsTyyppiTiedot& tyypit) {
   summa.Lisaa(std::uint64_t{olio.LuokanTiedot().Numero()});
   if (KokoelmaPohja* kokoelma = olio.Kokoelmana())
     for (int i = 1; i <= kokoelma->Count(); ++i) LisaaOlio(summa, kokoelma->Pohja(i), tyypit);
-  if (KokoelmaPohja* rivit = olio.ListaItemeina()) LisaaRivit(summa, *rivit, tyypit);
-  const clsTyyppiTieto* tieto = tyypit.Etsi(olio.LuokanTiedot());
-  if (!tieto) return;
-  for (const Jasen* jasen : tieto->Jasenet()) {
-    if (!jasen->OnOlio()) {
-      LisaaArvo(summa, olio, *jasen);
-    } else if (Olio* lapsi = jasen->viittaus ? nullptr : jasen->olio(olio)) {
-      LisaaOlio(summa, *lapsi, tyypit);
-    }
-  }
+  if (KokoelmaPohja* rivit = olio.ListaItemeina())
+    for (int i = 1; i <= rivit->Count(); ++i)
+      if (rivit->Pohja(i).OnSisaltoa()) LisaaOlio(summa, rivit->Pohja(i), tyypit);
+  LisaaJasenet(summa, olio, tyypit);
 }
 
 }  // namespace
@@ -65,5 +59,11 @@ void LisaaOlio(Summa& summa, Olio& olio, const clsTyyppiTiedot& tyypit) {
 std::uint64_t Sormenjalki(Olio& olio, const clsTyyppiTiedot& tyypit) {
   Summa summa;
   LisaaOlio(summa, olio, tyypit);
+  return summa.Arvo();
+}
+
+std::uint64_t SormenjalkiIlmanAlkioita(Olio& olio, const clsTyyppiTiedot& tyypit) {
+  Summa summa;
+  LisaaJasenet(summa, olio, tyypit);
   return summa.Arvo();
 }

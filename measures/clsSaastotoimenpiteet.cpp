@@ -107,7 +107,7 @@ std::vector<Tunniste> clsSaastotoimenpiteet::LiittyykoToimenpidetta(const Tunnis
 
 void clsSaastotoimenpiteet::PaivitaHierarkiaLista() try {
   const clsRakennus& rakennus = koti_.Rakennus();
-  MuutettavatRivit().PoistaJos([](const clsSaastoToimenpideListaItem& solmu) {
+  ListaItems().PoistaJos([](const clsSaastoToimenpideListaItem& solmu) {
     return solmu.ItemTyyppi == kMallinSolmu && OnHaara(solmu.Parent);
   });
   for (const clsTila& tila : rakennus.Tilat) LisaaMallinSolmu(tila.sKey, kTilat, tila.TilanNimi);

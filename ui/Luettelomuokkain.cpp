@@ -35,6 +35,11 @@ void Luettelomuokkain::Kuuntele() {
 void Luettelomuokkain::Aseta(Luettelotoimet toimet) {
   toimet_ = std::move(toimet);
   if (toimet_.liita) ohjaimet_.lista.KunLiitetaan([this](const Taulukko& rivit) { Liita(rivit); });
+  if (!toimet_.siirra) return;
+  const auto avain = [this](int rivi) { return ohjaimet_.lista.Kohde().Lista().Avain(rivi); };
+  ohjaimet_.lista.KunSiirretaan(
+      [this, avain](int rivi, int ylempi) { return toimet_.saaSiirtaa(avain(rivi), avain(ylempi)); },
+      [this, avain](int rivi, int ylempi) { toimet_.siirra(avain(rivi), avain(ylempi)); });
 }
 
 void Luettelomuokkain::Nayta() {
@@ -58,14 +63,14 @@ void Luettelomuokkain::RiviVaihtui() {
   Nosta(toimet_.valittu);
 }
 
-bool Luettelomuokkain::Muokattavissa() const {
-  return !Valittu().Tyhja() && (!toimet_.muokattavissa || toimet_.muokattavissa(Valittu()));
+bool Luettelomuokkain::Sallittu(const std::function<bool(const Tunniste&)>& ehto) const {
+  return !Valittu().Tyhja() && (!ehto || ehto(Valittu()));
 }
 
 void Luettelomuokkain::PaivitaNapit() const {
   ohjaimet_.lisaa.Kaytossa(true);
   if (ohjaimet_.muokkaa) ohjaimet_.muokkaa->Kaytossa(Muokattavissa());
-  ohjaimet_.kopioi.Kaytossa(!Valittu().Tyhja());
+  ohjaimet_.kopioi.Kaytossa(Kopioitavissa());
   ohjaimet_.poista.Kaytossa(Muokattavissa());
   LukitseMuokkausnapit(lomake_, Syy(toimet_.lukko));
   if (const std::string este = Syy(toimet_.lisayseste); !este.empty() && ohjaimet_.lisaa.Kaytossa()) {
@@ -89,7 +94,7 @@ void Luettelomuokkain::Muokkaa() {
 }
 
 void Luettelomuokkain::Kopioi() {
-  if (Valittu().Tyhja() || Estetty(Syy(toimet_.lukko)) || !OtaKentat()) return;
+  if (!Kopioitavissa() || Estetty(Syy(toimet_.lukko)) || !OtaKentat()) return;
   if (const Tunniste avain = toimet_.kopioi(Valittu()); !avain.Tyhja()) Valitse(avain);
 }
 

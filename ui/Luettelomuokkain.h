@@ -17,6 +17,9 @@ struct Luettelotoimet {
   /// The key of a copy that stands behind its source.
   std::function<Tunniste(const Tunniste&)> kopioi;
   std::function<void(const Tunniste&)> poista;
+  /// Hangs a row under another one; where that may be done.
+  std::function<void(const Tunniste& rivi, const Tunniste& ylempi)> siirra{};
+  std::function<bool(const Tunniste& rivi, const Tunniste& ylempi)> saaSiirtaa{};
   /// Rows of a sheet as objects. The key of the last one; empty when none was made.
   std::function<Tunniste(const Taulukko&)> liita{};
   /// Enter or a double click on a row; editing when left out.
@@ -32,13 +35,16 @@ struct Luettelotoimet {
   std::function<std::string(const Tunniste&)> poistonSeuraus{};
   /// The object may be edited and removed; all when left out.
   std::function<bool(const Tunniste&)> muokattavissa{};
+  /// The object may be copied; all when left out.
+  std::function<bool(const Tunniste&)> kopioitavissa{};
   /// Takes what the person has written beside the list before another object is turned to. False, after telling why,
   /// when it isn't good: the present row stays.
   std::function<bool()> otaKentat{};
 };
 
-/// A list whose objects the person adds, edits, copies, removes and pastes: by the four buttons, by Insert, Enter,
-/// Delete and Ctrl+V. Sums, the chosen row, what can be done when, and the reasons why not are the same in all of them.
+/// A list whose objects the person adds, edits, copies, removes, pastes and drags: by the four buttons, by Insert,
+/// Enter, Delete and Ctrl+V. Sums, the chosen row, what can be done when, and the reasons why not are the same in all
+/// of them.
 class Luettelomuokkain {
  public:
   struct Ohjaimet {
@@ -71,7 +77,9 @@ class Luettelomuokkain {
   void Poista();
   void Liita(const Taulukko& rivit);
   bool OtaKentat() const { return !toimet_.otaKentat || toimet_.otaKentat(); }
-  bool Muokattavissa() const;
+  bool Muokattavissa() const { return Sallittu(toimet_.muokattavissa); }
+  bool Kopioitavissa() const { return Sallittu(toimet_.kopioitavissa); }
+  bool Sallittu(const std::function<bool(const Tunniste&)>& ehto) const;
   /// Tells the reason, if there is one.
   bool Estetty(const std::string& syy) const;
 

@@ -2,7 +2,7 @@
 #pragma once
 #include "ui/Ohjaimet.h"
 
-/// A modal dialog with OK and Cancel over fields.
+/// A dialog with OK and Cancel over fields.
 class Muokkauslomake : public Lomake {
  public:
   /// The number fields hold good values (ui/Kenttatarkistus.h).

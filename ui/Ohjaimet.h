@@ -63,6 +63,8 @@ class TextBox : public TyypitettyKahva<Ohjaintyyppi::TextBox> {
   /// The person has changed the text after it was filled. An unchanged field isn't parsed: the stored value stays.
   bool Muuttunut() const { return ohjain_->Muuttunut(); }
   void ValitseTeksti() const { ohjain_->ValitseTeksti(); }
+  /// The text in the colour that catches the eye.
+  void Korostettu(bool korostettu) const { ohjain_->Korostettu(korostettu); }
   /// At each edit by the person.
   void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
   /// When the focus leaves the field.
@@ -157,6 +159,10 @@ class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
     ohjain_->SaaSiirtaa = std::move(saa);
     ohjain_->Siirretty = std::move(f);
   }
+  /// A heading is pressed; the list doesn't sort then.
+  void KunOtsikkoaPainetaan(std::function<void(int sarake)> f) const { ohjain_->OtsikkoaPainettu = std::move(f); }
+  /// The person has opened or closed a branch.
+  void KunHaaraAvataan(std::function<void()> f) const { ohjain_->HaaraAvattu = std::move(f); }
   bool KopioiLeikepoydalle() const { return ohjain_->KopioiLeikepoydalle(); }
 };
 

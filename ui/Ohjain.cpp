@@ -101,6 +101,11 @@ void Ohjain::Valittu(bool valittu) {
   taytettyValinta_ = valittu;
 }
 
+void Ohjain::Korostettu(bool korostettu) {
+  korostettu_ = korostettu;
+  Paivita(Piirre::Korostus);
+}
+
 void Ohjain::AsetaValittu(bool valittu) {
   valittu_ = valittu;
   if (valittu && Tyyppi() == Ohjaintyyppi::OptionButton) TyhjennaMuutRyhmassa();
@@ -207,6 +212,7 @@ void Ohjain::KayttajaPainaa() {
 }
 
 void Ohjain::KayttajaLajittelee(int sarake) {
+  if (OtsikkoaPainettu) return Nosta([this, sarake] { OtsikkoaPainettu(sarake); });
   lista_.Lajittele(sarake);
   Paivita(Piirre::Rivit);
 }
@@ -222,6 +228,7 @@ void Ohjain::KayttajaPoistaa() {
 void Ohjain::KayttajaAvaa(int rivi, bool auki) {
   lista_.Suljettu(rivi, !auki);
   Paivita(Piirre::Avattu);
+  Nosta(HaaraAvattu);
 }
 
 void Ohjain::KayttajaMuokkaa(int rivi, int sarake, const std::string& teksti) {

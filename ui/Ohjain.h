@@ -43,6 +43,7 @@ enum class Piirre {
   Avattu,
   Indeksi,
   Osat,
+  Korostus,
   Kaavio,
   Kuva,
   Kohdistus,
@@ -141,6 +142,9 @@ class Ohjain {
   /// The control's own flag, whatever its page or frame.
   bool Nakyva() const { return kuvaus_.nakyva; }
   void Nakyva(bool nakyva);
+  /// A text field shows its text in the colour that catches the eye.
+  bool Korostettu() const { return korostettu_; }
+  void Korostettu(bool korostettu);
   /// State of a check box or an option button. Setting an option button clears the others of its container.
   bool Valittu() const { return valittu_; }
   void Valittu(bool valittu);
@@ -193,6 +197,8 @@ class Ohjain {
   std::function<void(const Taulukko&)> Liitetty;                                  ///< rows pasted
   std::function<void()> Lisattava;                                                ///< key for a new row
   std::function<void()> Poistettava;                                              ///< key that removes the chosen row
+  std::function<void(int sarake)> OtsikkoaPainettu;                               ///< in place of sorting by it
+  std::function<void()> HaaraAvattu;                                              ///< or closed
   std::function<void(int rivi, int sarake, const std::string& teksti)> Muokattu;  ///< written in a cell
   std::function<bool(int rivi, int ylempi)> SaaSiirtaa;                           ///< a row may hang under another one
   std::function<void(int rivi, int ylempi)> Siirretty;                            ///< the person has dragged it there
@@ -201,7 +207,8 @@ class Ohjain {
   void KayttajaValitsee(int indeksi);
   void KayttajaPainaa();
   void KayttajaPoistuu();
-  /// Sorts a list by the column; once more the other way round, a third time back to the order given.
+  /// Sorts a list by the column; once more the other way round, a third time back to the order given. A list that has
+  /// something else for its headings to do doesn't sort.
   void KayttajaLajittelee(int sarake);
   void KayttajaLiittaa(std::string_view leikepoyta);
   void KayttajaLisaa() { Nosta(Lisattava); }
@@ -234,6 +241,7 @@ class Ohjain {
   bool muokataan_ = false;  // the person has written since the focus came
   bool odottaa_ = false;    // filled while being written in
   std::string vihje_;
+  bool korostettu_ = false;
   bool valittu_ = false;
   bool taytettyValinta_ = false;
   Luettelo lista_;

@@ -25,10 +25,10 @@ QStringList Teksteiksi(const std::vector<std::string>& solut) {
 
 }  // namespace
 
-Luetteloparit::Luetteloparit() : oma_(Nakyma(lomake_)) {
+Luetteloparit::Luetteloparit(int nimikkeita) : oma_(Nakyma(lomake_)), nimikkeita_(nimikkeita) {
   lomake_.Nayta();
   paljas_.setColumnCount(kSarakkeita);
-  paljas_.setRootIsDecorated(false);
+  paljas_.setRootIsDecorated(nimikkeita > 0);
   paljas_.setUniformRowHeights(true);
   paljas_.resize(oma_.size());
   paljas_.show();
@@ -45,8 +45,11 @@ std::vector<std::string> Luetteloparit::Solut(int rivi) const {
 Luettelosisalto Luetteloparit::Sisalto() {
   ++kierros_;
   Luettelosisalto sisalto;
+  const auto nimike = [](int i) { return Tunniste("nimike " + std::to_string(i)); };
+  for (int i = 0; i < nimikkeita_; ++i) sisalto.rivit.push_back({Solut(i), nimike(i)});
   for (int i = 0; i < kRiveja; ++i)
-    sisalto.rivit.push_back({Solut(i), Tunniste("rivi " + std::to_string(i + kierros_ % 2))});
+    sisalto.rivit.push_back({Solut(i), Tunniste("rivi " + std::to_string(i + kierros_ % 2)),
+                             nimikkeita_ > 0 ? nimike(i % nimikkeita_) : Tunniste()});
   return sisalto;
 }
 
@@ -63,11 +66,17 @@ double Luetteloparit::TaytaPaljas() {
   return Suoritinaika([&] {
     paljas_.clear();
     QList<QTreeWidgetItem*> rivit;
+    int alla = 0;
     for (const Luettelorivi& rivi : sisalto.rivit) {
-      rivit << new QTreeWidgetItem(Teksteiksi(rivi.solut));
-      for (int s = 1; s < kSarakkeita; ++s) rivit.back()->setTextAlignment(s, Qt::AlignRight);
+      auto* uusi = new QTreeWidgetItem(Teksteiksi(rivi.solut));
+      for (int s = 1; s < kSarakkeita; ++s) uusi->setTextAlignment(s, Qt::AlignRight);
+      if (rivi.ylempi.Tyhja())
+        rivit << uusi;
+      else
+        rivit[alla++ % nimikkeita_]->addChild(uusi);
     }
     paljas_.addTopLevelItems(rivit);
+    paljas_.expandAll();
     paljas_.viewport()->repaint();
   });
 }
@@ -89,14 +98,18 @@ double Luetteloparit::MuutaPaljaanRivi() {
   });
 }
 
+QVariant Luetteloparit::Solu(const QAbstractItemModel& malli, int rivi, int sarake) const {
+  if (nimikkeita_ == 0) return malli.index(rivi, sarake).data();
+  return malli.index(rivi / nimikkeita_, sarake, malli.index(rivi % nimikkeita_, 0)).data();
+}
+
 void Luetteloparit::Tarkista() {
   TaytaOma();
   --kierros_;
   TaytaPaljas();
   for (const int rivi : {0, kMuutettava, kRiveja - 1})
     for (int s = 0; s < kSarakkeita; ++s)
-      if (oma_.model()->index(rivi, s).data() != paljas_.model()->index(rivi, s).data())
-        throw std::runtime_error("the lists differ");
+      if (Solu(*oma_.model(), rivi, s) != Solu(*paljas_.model(), rivi, s)) throw std::runtime_error("the lists differ");
 }
 
 }  // namespace mittaus

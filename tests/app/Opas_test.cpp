@@ -167,6 +167,27 @@ TEST_F(OppaanEsimerkki, MachineSchedulesAndFans) {
   EXPECT_EQ(kone.Sahko(), sahko);
 }
 
+TEST_F(OppaanEsimerkki, ListsOfConsumers) {
+  AsetaQtLomakkeet(nullptr);
+  rakennus().SahkonKulutusryhmat.NaytaKayttoliittyma();
+  rakennus().VedenKulutusryhmat.NaytaKayttoliittyma();
+  QApplication::processEvents();
+  for (const char* lomake : {"frmSahkoLaitteet", "frmVedenKulutus"}) KuvaaLomake(*AvoinLomake(lomake));
+  clsVedenKulutusryhmat ryhmat;
+  ryhmat.LKVKiertoVirtaama = 0.1;
+  clsVedenKulutusryhma& suihkut = ryhmat.Add("suihkut", clsVedenKulutusryhma::Kayttovesi);
+  suihkut.Laskentayksikko = 10;
+  suihkut.LaskentaperusteNumber = 20;
+  suihkut.KayttokuvausKertaaD = 2;
+  suihkut.KayttokuvausDpA = 365;
+  suihkut.VedenKayttolampotila = 55;
+  const std::string opas = OppaanSivu("vedenkulutus.md");
+  for (const std::string& luku :
+       {Muotoile(suihkut.VedenKulutus(), "0") + " m³/a", Muotoile(suihkut.VedenLammityksenEnergia(), "0.0") + " MWh/a",
+        Muotoile(ryhmat.LKVKiertopiirinHavio(), "### ##0") + " kWh/a"})
+    EXPECT_NE(opas.find(luku), std::string::npos) << luku;
+}
+
 TEST_F(OppaanEsimerkki, PickingFromTheCatalogue) {
   KunAuki("cmdPeruuta");
   clsSahkonKulutusryhma ryhma;

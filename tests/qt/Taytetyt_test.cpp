@@ -25,10 +25,12 @@
 #include "ui/frmNormeeraamatonKulutus.h"
 #include "ui/frmPerustiedot.h"
 #include "ui/frmRakenteet.h"
+#include "ui/frmSahkoLaitteet.h"
 #include "ui/frmSahkotariffi.h"
 #include "ui/frmSplash.h"
 #include "ui/frmTarkennettuLaiteLaskenta.h"
 #include "ui/frmTarkennettuVesiLaskenta.h"
+#include "ui/frmVedenKulutus.h"
 #include "ui/frmVesitariffi.h"
 #include "ui/qt/Kehys.h"
 
@@ -121,6 +123,13 @@ TEST_F(Taytetyt, SmallFormsFitTheirFields) {
                                   {123456.78, 34567.89, 23456.78, 1234.5, 0}, "MWh/a");
 }
 
+void EiVieritettava(const Lomake& lomake, QSize naytto) {
+  dynamic_cast<Dialogikehys&>(*Juuri(lomake).window()).Mahduta(naytto);
+  QCoreApplication::processEvents();
+  const auto* alue = Juuri(lomake).findChild<QScrollArea*>("qt_vieritysalue");
+  EXPECT_FALSE(alue->verticalScrollBar()->isVisible() || alue->horizontalScrollBar()->isVisible()) << lomake.Nimi();
+}
+
 /// The screen of a small laptop.
 constexpr QSize kPieniNaytto{1050, 840};
 
@@ -145,10 +154,7 @@ TEST_F(Taytetyt, TheStructuresWindowFitsWithManyLayers) {
                                               std::vector<double>(nimet.size(), 1), lampotilat));
   lomake.Nayta();
   OdotaMahtuvan(lomake);
-  dynamic_cast<Dialogikehys&>(*Juuri(lomake).window()).Mahduta(kPieniNaytto);
-  QCoreApplication::processEvents();
-  const auto* alue = Juuri(lomake).findChild<QScrollArea*>("qt_vieritysalue");
-  EXPECT_FALSE(alue->verticalScrollBar()->isVisible() || alue->horizontalScrollBar()->isVisible());
+  EiVieritettava(lomake, kPieniNaytto);
 }
 
 TEST_F(Taytetyt, TheListOfChangesFitsItsWindow) {
@@ -162,9 +168,9 @@ TEST_F(Taytetyt, TheListOfChangesFitsItsWindow) {
                                       "0,0375"};
   EXPECT_TRUE(frmMateriaalimuutokset().Kysy(Taulukko(200, rivi)));
   KunAuki("cmdOk", OdotaMahtuvan);
-  EXPECT_TRUE(frmEnergiamuotomuutokset().Kysy(
-      Taulukko(20, {"Lämmön hankinta", "Kaukolämpö, yhteistuotanto", "Ilmaston lämpeneminen, CO₂-ekv., kg/MWh",
-                    "183,0", "168,5"})));
+  EXPECT_TRUE(
+      frmEnergiamuotomuutokset().Kysy(Taulukko(20, {"Lämmön hankinta", "Kaukolämpö, yhteistuotanto",
+                                                    "Ilmaston lämpeneminen, CO₂-ekv., kg/MWh", "183,0", "168,5"})));
 }
 
 TEST_F(Taytetyt, TheCatalogueOfConsumersFitsItsWindow) {
@@ -226,6 +232,52 @@ TEST_F(Taytetyt, TheTariffsFitTheirFields) {
     QCoreApplication::processEvents();
     const auto* alue = Juuri(*lomake).findChild<QScrollArea*>("qt_vieritysalue");
     EXPECT_FALSE(alue->verticalScrollBar()->isVisible() || alue->horizontalScrollBar()->isVisible());
+  }
+}
+
+/// A laptop of 1366 × 768 whose desktop is shown at 125 %, less its title bar and panel.
+constexpr QSize kSuurennettuNaytto{1092, 560};
+
+/// A tree of three levels with long names and large numbers.
+Luettelosisalto Kulutuspuu(int lukuja) {
+  Luettelosisalto sisalto;
+  const auto lisaa = [&](const std::string& nimi, const char* ylempi, bool lihava) {
+    Luettelorivi& rivi = sisalto.rivit.emplace_back();
+    rivi.solut = {nimi};
+    rivi.avain = nimi;
+    rivi.ylempi = ylempi;
+    rivi.piirteet.lihava = lihava;
+    for (int i = 0; i < lukuja; ++i) rivi.LisaaLuku(123456.78, "##0.00");
+  };
+  lisaa("Yhteensä", "", true);
+  for (const char* nimike : {"Muu sähkö", "LVI-sähkö", "Valaistus"}) lisaa(nimike, "Yhteensä", true);
+  for (int i = 1; i <= 40; ++i)
+    lisaa("Työväenopiston luokkahuoneet ja käytävät, itäsiipi " + std::to_string(i), "Valaistus", false);
+  return sisalto;
+}
+
+TEST_F(Taytetyt, TheListsOfConsumersFitAMagnifiedScreen) {
+  frmSahkoLaitteet sahko;
+  sahko.lvwRyhmat.Tayta(Kulutuspuu(1));
+  sahko.NaytaVertailu(12345, 23456, "0");
+  sahko.Nayta();
+  OdotaMahtuvan(sahko);
+  EiVieritettava(sahko, kSuurennettuNaytto);
+  TallennaKuva(sahko, "Pieni");
+
+  frmVedenKulutus vesi;
+  vesi.lvwRyhmat.Tayta(Kulutuspuu(3));
+  vesi.NaytaVesivertailu(123456.78, 234567.89);
+  for (const TextBox& kentta : {vesi.txtLKVKiertojohdonHaviot, vesi.txtLKVKiertovirtaama}) kentta.Luku(1234.56, "0.00");
+  vesi.Nayta();
+  OdotaMahtuvan(vesi);
+  EXPECT_NE(Etsi<QLineEdit>(vesi, "txtErotus").palette().color(QPalette::Text),
+            Etsi<QLineEdit>(vesi, "txtLaskettu").palette().color(QPalette::Text))
+      << "a negative difference catches the eye";
+  EiVieritettava(vesi, kSuurennettuNaytto);
+  for (int sivu = 0; sivu < 3; ++sivu) {
+    vesi.Etsi("tabVesi").Indeksi(sivu);
+    TallennaKuva(vesi, "Sivu" + QString::number(sivu));
   }
 }
 

@@ -119,13 +119,14 @@ class QtTextBox : public QtOhjain {
     if (tapahtuma->type() == QEvent::FocusOut && PoistuttuKentasta(static_cast<QFocusEvent*>(tapahtuma)->reason()) &&
         !Poistuttiin())
       return true;
-    if (tapahtuma->type() == QEvent::PaletteChange && Lukittu()) VaritaLukituksi();
+    if (tapahtuma->type() == QEvent::PaletteChange) Varita();
     return QtOhjain::eventFilter(kohde, tapahtuma);
   }
 
  protected:
   void NaytaPiirre(Piirre piirre) override {
     if (piirre == Piirre::Tekstivalinta) kentta_.selectAll();
+    if (piirre == Piirre::Korostus) Varita();
     if (piirre != Piirre::Teksti) return;
     kentta_.setText(Q(Teksti()));
     kentta_.setCursorPosition(0);
@@ -152,15 +153,19 @@ class QtTextBox : public QtOhjain {
       RajaaLeveys(kLuvunLeveys, Qt::AlignRight);
     else if (tyyppi == QLatin1String("k"))
       RajaaLeveys(kAjanLeveys, Qt::AlignHCenter);
-    if (Lukittu()) VaritaLukituksi();
+    Varita();
   }
 
-  /// The ground of the window instead of that of fields, in the colours of the present theme.
-  void VaritaLukituksi() {
+  /// In the colours of the present theme: the ground of the window instead of that of fields where the person can't
+  /// write, and the blue of links for what is to catch the eye.
+  void Varita() {
+    if (!Lukittu()) return;
     QPalette varit = kentta_.palette();
     const QColor pohja = varit.color(QPalette::Window);
-    if (varit.color(QPalette::Base) == pohja) return;
+    const QColor teksti = varit.color(Korostettu() ? QPalette::Link : QPalette::WindowText);
+    if (varit.color(QPalette::Base) == pohja && varit.color(QPalette::Text) == teksti) return;
     varit.setColor(QPalette::Base, pohja);
+    varit.setColor(QPalette::Text, teksti);
     kentta_.setPalette(varit);
   }
 
