@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <vector>
 
+#include "batch/Toimenpidelaskenta.h"
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsPerustiedot.h"
@@ -11,7 +12,10 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
 #include "supply/clsVesitariffit.h"
 #include "tekstit/tulokset.h"
@@ -51,6 +55,10 @@ constexpr Tulos kJuuri[] = {
     Osatulos<[](clsRakennus& r) -> clsPerustiedot& { return r.Perustiedot; }>("EnergianHankinta"),
     Kokoelmatulos<[](clsRakennus& r) -> clsTariffit& { return r.Tariffit; }>("Tariffit"),
     Kokoelmatulos<[](clsRakennus& r) -> clsVesitariffit& { return r.Vesitariffit; }>("Vesitariffit"),
+    Osatulos<[](clsRakennus& r) -> clsSahkoTariffienVertailu& { return r.SahkoTariffienVertailu; }>("TariffiVertailu"),
+    Kokoelmatulos<[](clsRakennus& r) -> clsSaastotoimenpiteet& { return r.Saastotoimenpiteet; }>("Toimenpiteet"),
+    Osatulos<[](clsRakennus& r) -> clsToimenpiteidenJarjestelija& { return r.ToimenpiteidenJarjestelija; }>(
+        "Jarjestelija"),
 };
 
 /// Writes rows of results, and keeps the errors of those that can't be computed.
@@ -65,6 +73,7 @@ class Tuloskirjoitin {
     const auto* nostettu = dynamic_cast<const Virhe*>(&virhe);
     virheet_.push_back((nostettu ? nostettu->Lahde() + ": " : std::string()) + SyynKuvaus(virhe));
   }
+  void LisaaVirhe(const std::string& virhe) { virheet_.push_back(virhe); }
   const std::vector<std::string>& Virheet() const { return virheet_; }
 
  private:
@@ -167,6 +176,7 @@ std::unique_ptr<Tasehaarukka> AvaaHaarukka(clsRakennus& rakennus, Tuloskirjoitin
 bool KirjoitaJson(JsonKirjoitin& json, const std::string& tiedosto, clsRakennus& rakennus,
                   const KerataanViestit& viestit) {
   Tuloskirjoitin tulokset(json);
+  if (const auto virhe = LaskeToimenpiteetUudelleen(rakennus)) tulokset.LisaaVirhe(*virhe);
   const auto haarukka = AvaaHaarukka(rakennus, tulokset);
   json.AlaOlio();
   json.Avain("Tiedosto");

@@ -4,18 +4,12 @@
 #include <sstream>
 
 #include "batch/Tulokset.h"
+#include "batch/Viestinkeruu.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
 #include "kernel/Virhe.h"
 
 namespace {
-
-/// Collects the messages of this thread for its lifetime.
-class Viestinkeruu : public KerataanViestit {
- public:
-  Viestinkeruu() { AsetaViestit(this); }
-  ~Viestinkeruu() override { AsetaViestit(nullptr); }
-};
 
 void LisaaVirhe(Laskettu& laskettu, const std::string& tiedosto, const std::string& syy) {
   laskettu.virheet += "lumivirta-laske: " + tiedosto + ": " + syy + "\n";

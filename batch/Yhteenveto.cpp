@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/Hankintayhteenveto.h"
 #include "batch/Tekstitaulu.h"
+#include "batch/Toimenpideyhteenveto.h"
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
 #include "building/clsPerustiedot.h"
@@ -122,6 +123,7 @@ void KirjoitaYhteenveto(std::ostream& tulos, const std::string& tiedosto, clsRak
   vesi.Vertailu(Tulosrivit(vesi, rakennus.VedenKulutusryhmat, kVedet), tekstit::kMitattuKulutus, mitattu.Vesi);
   vesi.Tulosta(tulos);
   KirjoitaHankinta(tulos, rakennus);
+  KirjoitaToimenpiteet(tulos, rakennus);
   for (const std::string& rivi : Viestirivit(viestit))
     tulos << kValissa << Teksti(tekstit::kHuomautus) << ": " << rivi << "\n\n";
 }

@@ -5,9 +5,12 @@
 #include <optional>
 #include <span>
 #include <thread>
+#include <utility>
 
 #include "batch/Kohdelaskenta.h"
 #include "batch/Rinnakkain.h"
+#include "batch/Toimenpidelaskenta.h"
+#include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/Tekstivarasto.h"
 
@@ -15,9 +18,12 @@ namespace {
 
 constexpr const char* kOhje =
     "Käyttö: lumivirta-laske [--json] [--rinnakkain=N] KOHDE.lvt...\n"
+    "        lumivirta-laske --toimenpide NIMI --vie UUSI.lvt KOHDE.lvt\n"
     "Laskee kohdetiedostojen lämpötaseen. Tiedostoja ei muuteta.\n"
     "  --json         tulokset JSON-muodossa: yksi olio, usealle tiedostolle taulukko\n"
     "  --rinnakkain=N montako tiedostoa lasketaan yhtä aikaa; oletus on suorittimien määrä\n"
+    "  --toimenpide NIMI --vie UUSI.lvt\n"
+    "                 kirjoittaa uuden kohteen, jossa säästötoimenpide on toteutettu; nimi tai avain\n"
     "  --help         tämä ohje\n"
     "Paluuarvo on 0, kun kaikki on laskettu, 1, kun jotain ei voitu laskea, ja 2, kun komento on virheellinen.\n";
 constexpr std::string_view kRinnakkain = "--rinnakkain=";
@@ -26,8 +32,23 @@ struct Komento {
   std::vector<std::string> tiedostot;
   Tulostusmuoto muoto = Tulostusmuoto::Yhteenveto;
   unsigned rinnakkain = std::max(1u, std::thread::hardware_concurrency());
+  std::string toimenpide, vie;
   bool ohje = false;
+
+  bool OnVienti() const { return !toimenpide.empty() || !vie.empty(); }
+  bool OnKelvollinen() const {
+    if (ohje) return true;
+    if (!OnVienti()) return !tiedostot.empty();
+    return !toimenpide.empty() && !vie.empty() && tiedostot.size() == 1 && muoto == Tulostusmuoto::Yhteenveto;
+  }
 };
+
+/// Where the value of an option of two words goes; nothing for another option.
+std::string* Arvollinen(std::string_view sana, Komento& komento) {
+  if (sana == "--toimenpide") return &komento.toimenpide;
+  if (sana == "--vie") return &komento.vie;
+  return nullptr;
+}
 
 /// Reads one option; false when there is none such.
 bool LueValitsin(std::string_view sana, Komento& komento) {
@@ -42,18 +63,32 @@ bool LueValitsin(std::string_view sana, Komento& komento) {
 /// The command line; nothing when it is faulty, which is told.
 std::optional<Komento> LueKomento(std::span<char*> sanat) {
   Komento komento;
+  std::string* arvo = nullptr;  // what the next word belongs to
   for (const std::string_view sana : sanat)
-    if (!sana.starts_with("--")) {
+    if (arvo) {
+      *std::exchange(arvo, nullptr) = sana;
+    } else if (!sana.starts_with("--")) {
       komento.tiedostot.emplace_back(sana);
+    } else if ((arvo = Arvollinen(sana, komento))) {
+      continue;
     } else if (!LueValitsin(sana, komento)) {
       std::cerr << "lumivirta-laske: tuntematon valitsin " << sana << '\n' << kOhje;
       return std::nullopt;
     }
-  if (!komento.ohje && komento.tiedostot.empty()) {
+  if (arvo || !komento.OnKelvollinen()) {
     std::cerr << kOhje;
     return std::nullopt;
   }
   return komento;
+}
+
+/// Writes the object with the measure carried out. True when it could be done.
+bool Vie(const Komento& komento) try {
+  VieToimenpide(komento.tiedostot.front(), komento.toimenpide, komento.vie);
+  return true;
+} catch (const std::exception& virhe) {
+  std::cerr << "lumivirta-laske: " << komento.tiedostot.front() << ": " << SyynKuvaus(virhe) << '\n';
+  return false;
 }
 
 /// Computes the files and writes their results in their order. True when everything could be computed.
@@ -86,5 +121,5 @@ int main(int argc, char** argv) {
   if (komento->ohje) return std::cout << kOhje, 0;
   AlustaTekstit();
   Asetukset().HaeRekisteristä();
-  return Laske(*komento) ? 0 : 1;
+  return (komento->OnVienti() ? Vie(*komento) : Laske(*komento)) ? 0 : 1;
 }

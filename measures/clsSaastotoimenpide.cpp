@@ -291,10 +291,17 @@ Hyodykkeet clsSaastotoimenpide::KulutusEnnen() try {
 }
 
 Hyodykkeet clsSaastotoimenpide::KulutusJalkeen() try {
-  if (!JalkeenTiedotUpToDate) PaivitaKulutukset();
+  if (!EnnenTiedotUpToDate || !JalkeenTiedotUpToDate) PaivitaKulutukset();
   return {LampoEnergiaJalkeen, SahkoEnergiaJalkeen, VedenkulutusJalkeen};
 } catch (...) {
   NostaVirhe("clsSaastotoimenpide:KulutusJalkeen Method");
+}
+
+Hyodykkeet clsSaastotoimenpide::Saasto() try {
+  const Hyodykkeet ennen = KulutusEnnen();
+  return ennen - KulutusJalkeen();
+} catch (...) {
+  NostaVirhe("clsSaastotoimenpide:Saasto Method");
 }
 
 void clsSaastotoimenpide::KulutusJalkeen(const Hyodykkeet& kulutus) noexcept {

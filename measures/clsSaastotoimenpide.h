@@ -66,12 +66,12 @@ class clsSaastotoimenpide : public Malli<clsSaastotoimenpide, Alkio> {
   /// measures share one calculation of the base.
   void PaivitaKulutukset();
   void PaivitaKulutukset(Muunnelmalaskin& laskin);
-  /// The stored figures, computed first when they aren't valid.
+  /// The stored figures, computed first when they aren't valid: those after rest on those before.
   Hyodykkeet KulutusEnnen();
   Hyodykkeet KulutusJalkeen();
   /// The figures after, and valid from now on.
   void KulutusJalkeen(const Hyodykkeet& kulutus) noexcept;
-  Hyodykkeet Saasto() { return KulutusEnnen() - KulutusJalkeen(); }
+  Hyodykkeet Saasto();
   /// What the yearly saving is worth at the measure's prices, with its saved powers.
   Kustannussaastot Kustannussaasto(const Hyodykkeet& saasto) const noexcept;
   Kustannussaastot Kustannussaasto() { return Kustannussaasto(Saasto()); }

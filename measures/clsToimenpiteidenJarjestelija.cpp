@@ -25,15 +25,25 @@ constexpr Jasen kJasenet[] = {
 };
 
 using Jarjestelija = clsToimenpiteidenJarjestelija;
+using Rivi = clsValittuToimenpide;
 
 constexpr Tulos kTulokset[] = {
     Kokoelmatulos<&Jarjestelija::ValitutToimenpiteet>("ValitutToimenpiteet"),
     Lukutulos<[](const Jarjestelija& j) {
+      if (const Rivi* yhteensa = j.ValitutToimenpiteet.Etsi(clsValitutToimenpiteet::kYhteensa)) yhteensa->Laskettu();
       return j.PaketinTakaisinmaksuaika(Asetukset().NaytettavatAlvt()).value_or(kEiTakaisinmaksua);
     }>("PaketinTakaisinmaksuaika", tekstit::kPaketinTakaisinmaksuaika, "a", "### ##0.0"),
 };
 
-using Rivi = clsValittuToimenpide;
+/// The costs, or nothing when they can't be computed: the rows have prices of their own.
+template <class F>
+std::optional<Ostot> Jos(F&& laske) {
+  try {
+    return laske();
+  } catch (const Virhe&) {
+    return std::nullopt;
+  }
+}
 
 /// What the totals row sums up.
 constexpr double Rivi::*kSummattavat[] = {
@@ -113,7 +123,7 @@ void clsToimenpiteidenJarjestelija::PaivitaValitutToimenpiteet() try {
   clsSaastotoimenpiteet& toimenpiteet = koti_.Rakennus().Saastotoimenpiteet;
   Muunnelmalaskin laskin(koti_.Rakennus());
   const Hyodykkeet perusta = toimenpiteet.PaivitaEnnenTiedotToimenpiteisiin(laskin);
-  const Ostot ostot = laskin.PerustanOstot(perusta);
+  const auto ostot = Jos([&] { return laskin.PerustanOstot(perusta); });
   std::string puuttuvat;
   {
     Laskenta laskenta(laskin, toimenpiteet, perusta);
@@ -122,7 +132,8 @@ void clsToimenpiteidenJarjestelija::PaivitaValitutToimenpiteet() try {
         laskenta.Laske(rivi);
       else if (rivi.Tyyppi == Rivi::Tariffi)
         rivi.TiedotUpToDate = true;
-    paketti_.arvo = {perusta, laskenta.Tila(), ostot - laskenta.LaskeOstot()};
+    const auto jalkeen = Jos([&] { return laskenta.LaskeOstot(); });
+    paketti_.arvo = {perusta, laskenta.Tila(), ostot && jalkeen ? std::optional(*ostot - *jalkeen) : std::nullopt};
     puuttuvat = laskenta.Puuttuvat();
   }
   PaivitaYhteensa();

@@ -33,30 +33,37 @@ constexpr Jasen kJasenet[] = {
 
 using Rivi = clsValittuToimenpide;
 
+/// A figure of the row, which must have been computed.
+template <double Rivi::*Suure>
+constexpr Tulos Rivitulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko,
+                          const char* kuvio = "### ##0.00") {
+  return Lukutulos<[](const Rivi& r) { return r.Laskettu().*Suure; }>(nimi, teksti, yksikko, kuvio);
+}
+
 constexpr Tulos kTulokset[] = {
     Avaintulos(),
     Tekstitulos<[](const Rivi& r) { return r.ToimenpidesKey.Teksti(); }>("ToimenpidesKey"),
     Lukutulos<&Rivi::Tyyppi>("Tyyppi", tekstit::kRivinLaji, "", "0"),
     Tekstitulos<&Rivi::Nimi>("Nimi"),
-    Lukutulos<&Rivi::KustannusSaastoLampoEnergia>("KustannusSaastoLampoEnergia", tekstit::kLampoEnergianKustannussaasto,
+    Rivitulos<&Rivi::KustannusSaastoLampoEnergia>("KustannusSaastoLampoEnergia", tekstit::kLampoEnergianKustannussaasto,
                                                   "€/a"),
-    Lukutulos<&Rivi::KustannusSaastoLampoTeho>("KustannusSaastoLampoTeho", tekstit::kLampotehonKustannussaasto, "€/a"),
-    Lukutulos<&Rivi::KustannusSaastoSahkoEnergia>("KustannusSaastoSahkoEnergia", tekstit::kSahkoEnergianKustannussaasto,
+    Rivitulos<&Rivi::KustannusSaastoLampoTeho>("KustannusSaastoLampoTeho", tekstit::kLampotehonKustannussaasto, "€/a"),
+    Rivitulos<&Rivi::KustannusSaastoSahkoEnergia>("KustannusSaastoSahkoEnergia", tekstit::kSahkoEnergianKustannussaasto,
                                                   "€/a"),
-    Lukutulos<&Rivi::KustannusSaastoSahkoPatoTeho>("KustannusSaastoSahkoPatoTeho", tekstit::kSahkotehonKustannussaasto,
+    Rivitulos<&Rivi::KustannusSaastoSahkoPatoTeho>("KustannusSaastoSahkoPatoTeho", tekstit::kSahkotehonKustannussaasto,
                                                    "€/a"),
-    Lukutulos<&Rivi::KustannusSaastoSahkoLoisTeho>("KustannusSaastoSahkoLoisTeho", tekstit::kLoistehonKustannussaasto,
+    Rivitulos<&Rivi::KustannusSaastoSahkoLoisTeho>("KustannusSaastoSahkoLoisTeho", tekstit::kLoistehonKustannussaasto,
                                                    "€/a"),
-    Lukutulos<&Rivi::KustannusSaastoVesi>("KustannusSaastoVesi", tekstit::kVedenKustannussaasto, "€/a"),
-    Lukutulos<&Rivi::KustannusSaastoYhteensa>("KustannusSaastoYhteensa", tekstit::kKustannussaastoYhteensa, "€/a"),
-    Lukutulos<&Rivi::Takaisinmaksuaika>("Takaisinmaksuaika", tekstit::kToimenpiteenTakaisinmaksuaika, "a", "### ##0.0"),
-    Lukutulos<&Rivi::Investointi>("Investointi", tekstit::kToimenpiteenInvestointi, "€"),
-    Lukutulos<&Rivi::SaastoLampoEnergia>("SaastoLampoEnergia", tekstit::kLampoEnergianSaasto, "MWh/a"),
-    Lukutulos<&Rivi::SaastoSahkoEnergia>("SaastoSahkoEnergia", tekstit::kSahkoEnergianSaasto, "MWh/a"),
-    Lukutulos<&Rivi::SaastoVedenKulutus>("SaastoVedenKulutus", tekstit::kVedenSaasto, "m³/a"),
-    Lukutulos<&Rivi::SaastoLampoteho>("SaastoLampoteho", tekstit::kLampotehonSaasto, "kW"),
-    Lukutulos<&Rivi::SaastoPatoTeho>("SaastoPatoTeho", tekstit::kSahkotehonSaasto, "kW"),
-    Lukutulos<&Rivi::SaastoLoisTeho>("SaastoLoisTeho", tekstit::kLoistehonSaasto, "kVAr"),
+    Rivitulos<&Rivi::KustannusSaastoVesi>("KustannusSaastoVesi", tekstit::kVedenKustannussaasto, "€/a"),
+    Rivitulos<&Rivi::KustannusSaastoYhteensa>("KustannusSaastoYhteensa", tekstit::kKustannussaastoYhteensa, "€/a"),
+    Rivitulos<&Rivi::Takaisinmaksuaika>("Takaisinmaksuaika", tekstit::kToimenpiteenTakaisinmaksuaika, "a", "### ##0.0"),
+    Rivitulos<&Rivi::Investointi>("Investointi", tekstit::kToimenpiteenInvestointi, "€"),
+    Rivitulos<&Rivi::SaastoLampoEnergia>("SaastoLampoEnergia", tekstit::kLampoEnergianSaasto, "MWh/a"),
+    Rivitulos<&Rivi::SaastoSahkoEnergia>("SaastoSahkoEnergia", tekstit::kSahkoEnergianSaasto, "MWh/a"),
+    Rivitulos<&Rivi::SaastoVedenKulutus>("SaastoVedenKulutus", tekstit::kVedenSaasto, "m³/a"),
+    Rivitulos<&Rivi::SaastoLampoteho>("SaastoLampoteho", tekstit::kLampotehonSaasto, "kW"),
+    Rivitulos<&Rivi::SaastoPatoTeho>("SaastoPatoTeho", tekstit::kSahkotehonSaasto, "kW"),
+    Rivitulos<&Rivi::SaastoLoisTeho>("SaastoLoisTeho", tekstit::kLoistehonSaasto, "kVAr"),
 };
 
 }  // namespace
@@ -80,4 +87,9 @@ void clsValittuToimenpide::AsetaKustannukset(const Kustannussaastot& saastot) no
   KustannusSaastoSahkoPatoTeho = saastot.sahkoPatoTeho;
   KustannusSaastoSahkoLoisTeho = saastot.sahkoLoisTeho;
   KustannusSaastoVesi = saastot.vesi;
+}
+
+const clsValittuToimenpide& clsValittuToimenpide::Laskettu() const {
+  if (!TiedotUpToDate) throw std::logic_error("järjestelijän riviä ei ole laskettu: " + Nimi);
+  return *this;
 }

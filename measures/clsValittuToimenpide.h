@@ -30,6 +30,8 @@ class clsValittuToimenpide : public Malli<clsValittuToimenpide, Alkio> {
   Tunniste JalkeensKey;     ///< key of the row that it was put behind; empty: it was put at the end
   std::string Nimi;
 
+  /// This row, if its figures are valid; else raises std::logic_error.
+  const clsValittuToimenpide& Laskettu() const;
   /// The six savings of cost.
   Kustannussaastot Kustannussaasto() const noexcept;
   void AsetaKustannukset(const Kustannussaastot& saastot) noexcept;

@@ -384,7 +384,7 @@ TEST_F(JarjestelijaTesti, NetSavingsSumUpToThePackageInAnyOrder) {
     const auto& laskettu = *jarjestelija.LaskettuPaketti();
     EXPECT_EQ(laskettu.ennen, perusta);
     EXPECT_NEAR((laskettu.ennen - laskettu.lopuksi).lampo, paketti.lampo, 1e-9);
-    EXPECT_NEAR(laskettu.saasto.hinta.lampo, 60 * paketti.lampo, 1e-6);
+    EXPECT_NEAR(laskettu.saasto->hinta.lampo, 60 * paketti.lampo, 1e-6);
     const clsSaastotoimenpide& eka = toimenpiteet.Item(rivit.Item(2).ToimenpidesKey);
     EXPECT_EQ(Saasto(rivit.Item(2)), const_cast<clsSaastotoimenpide&>(eka).Saasto()) << "net of the first is gross";
     EXPECT_EQ(rivit.Item(1).Investointi, 20700);
