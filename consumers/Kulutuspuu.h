@@ -79,8 +79,8 @@ class Kulutuspuu : public RivillinenKokoelma<Ryhma, Rivi> {
   void LuoKiinteatRivit() {
     for (const Kiintearivi& kiintea : Kiinteat())
       if (!Rivit().Etsi(kiintea.sKey))
-        this->LisaaRivi(kiintea.sKey, kiintea.laji == Rivilaji::Juuri ? Tunniste() : JuurenAvain(), kNimike,
-                        Teksti(kiintea.teksti), true);
+        this->LisaaRivi(kiintea.sKey, kiintea.laji == Rivilaji::Juuri ? Tunniste() : JuurenAvain(),
+                        kiintea.laji == Rivilaji::Kierto ? kRyhma : kNimike, Teksti(kiintea.teksti), true);
   }
   /// A title of the person's own: the newest one stands first under the root.
   Rivi& LisaaNimike(std::string nimi) {

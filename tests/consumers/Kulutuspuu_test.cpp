@@ -183,7 +183,7 @@ class VesipuuTesti : public RakennusTesti {
   /// 146 m³/a at 55 °C, all of it hot.
   Tunniste Kulutus(const char* nimi, const Tunniste& vanhempi) {
     clsVedenKulutusryhma& ryhma = puu.LisaaRyhma(vanhempi, true);
-    ryhma.KulutusRyhma = nimi;
+    ryhma.KulutusRyhma = puu.ListaItem(ryhma.sKey).NimiTeksti = nimi;
     ryhma.LaskentaperusteNumber = 20;
     ryhma.Laskentayksikko = 10;
     ryhma.KayttokuvausKertaaD = 2;
@@ -196,6 +196,14 @@ class VesipuuTesti : public RakennusTesti {
   clsVedenKulutusryhmat& puu = rakennus->VedenKulutusryhmat;
   Tunniste suihkut, pesula;
 };
+
+TEST_F(VesipuuTesti, RebuildingIsNoChangeOfTheObject) {
+  const auto ennen = rakennus->Sormenjalki();
+  puu.PaivitaKulutusRyhmatJaLaitteet();
+  for (const Tunniste& avain : {suihkut, pesula})
+    EXPECT_EQ(puu.ListaItem(avain).NimiTeksti, puu.Item(avain).KulutusRyhma);
+  EXPECT_EQ(rakennus->Sormenjalki(), ennen);
+}
 
 TEST_F(VesipuuTesti, WaterHotWaterAndHeatAreSummedEachByItself) {
   constexpr double kLampo = 146 * 4.19 * 50 / 3.6 / 1000;
