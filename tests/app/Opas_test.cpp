@@ -20,10 +20,13 @@
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Luvut.h"
+#include "settings/clsLumivirtaAsetukset.h"
+#include "supply/clsTariffit.h"
 #include "tests/app/Koekoti.h"
 #include "tests/qt/Ikkunatesti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "tests/tuki/Lahdekoodi.h"
+#include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/frmLampoYhteenveto.h"
 #include "ventilation/clsIVKoneet.h"
@@ -198,6 +201,22 @@ TEST_F(OppaanEsimerkki, PickingFromTheCatalogue) {
   const std::string opas = OppaanSivu("kulutusluettelo.md");
   EXPECT_NE(opas.find(ryhma.KulutusRyhma), std::string::npos);
   EXPECT_NE(opas.find(Muotoile(ryhma.Vuosikulutus(), "0.0") + " MWh/a"), std::string::npos);
+}
+
+TEST_F(OppaanEsimerkki, TariffsAndTheirCatalogue) {
+  KunAuki("cmdPeruuta", [](Lomake& tariffit) {
+    EXPECT_NE(OppaanSivu("tariffit.md").find(tariffit.Etsi("txtKaikkiMaksutYhteensa").Teksti() + " €"),
+              std::string::npos)
+        << tariffit.Etsi("txtKaikkiMaksutYhteensa").Teksti();
+    KunAuki("cmdPeruuta");
+    tariffit.Etsi("cmdLisaaLuettelosta").KayttajaPainaa();
+  });
+  Asetukset().ValuuttaTyyppi(1);
+  AsetaRahayksikko(Asetukset().strDefaultCurrencyUnit);  // the euro
+  const double lampo = rakennus().Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Lampo;
+  EXPECT_FALSE(rakennus().Tariffit.NaytaKayttoliittyma(clsTariffi::LampoTariffi, {}, lampo));
+  AsetaRahayksikko("€");
+  Asetukset().HaeRekisteristä();
 }
 
 TEST_F(OppaanEsimerkki, GroupsOfConsumers) {
