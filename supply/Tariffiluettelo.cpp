@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr const char* kYhteiset = "SELECT Id, Nimi, Perusmaksu, Hintavuosi, Lahde, Tila, ";
+const std::string kYhteiset = "SELECT Id, Nimi, Perusmaksu, Hintavuosi, Lahde, Tila, ";
 constexpr int kYhteisia = 6;
 constexpr int kMaksuja = 4;
 constexpr double kProsentti = 100;
@@ -53,7 +53,7 @@ double Tariffirivi::Keskihinta() const {
 std::vector<Tariffirivi> LueTariffit(clsTariffi::Laji laji) try {
   const Tietokanta kanta = Luettelo();
   Kysely kysely(kanta,
-                std::string(kYhteiset) +
+                kYhteiset +
                     "Tehomaksu, Tehomaksunperuste, Loistehomaksu, Loistehomaksunperuste, MuuMaksu, Energiavero, "
                     "Veroluokka, Maksu1Nimi, Maksu1Hinta, Maksu1Osuus, Maksu2Nimi, Maksu2Hinta, Maksu2Osuus, "
                     "Maksu3Nimi, Maksu3Hinta, Maksu3Osuus, Maksu4Nimi, Maksu4Hinta, Maksu4Osuus "
@@ -80,7 +80,7 @@ std::vector<Tariffirivi> LueTariffit(clsTariffi::Laji laji) try {
 
 std::vector<Vesitariffirivi> LueVesitariffit() try {
   const Tietokanta kanta = Luettelo();
-  Kysely kysely(kanta, std::string(kYhteiset) + "PuhdasVesi, Jatevesi FROM Vesitariffi ORDER BY rowid");
+  Kysely kysely(kanta, kYhteiset + "PuhdasVesi, Jatevesi FROM Vesitariffi ORDER BY rowid");
   std::vector<Vesitariffirivi> rivit;
   while (kysely.Seuraava()) {
     Vesitariffirivi& rivi = rivit.emplace_back();
