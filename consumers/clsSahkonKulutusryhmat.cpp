@@ -27,13 +27,11 @@ constexpr Tulos kTulokset[] = {
         "LammitysSahkonVuosikulutus", tekstit::kLammityssahko),
     Lukutulos<&clsSahkonKulutusryhmat::TiloihinLiittymatonSahkoKuorma>("TiloihinLiittymatonSahkoKuorma",
                                                                        tekstit::kYleisSahkokuorma, "kWh/kk"),
-    Kokoelmatulos < [](clsSahkonKulutusryhmat& r) -> auto& {return r;
-}  // namespace
-> ("Ryhmat"), Karttatulos<[](const clsSahkonKulutusryhmat& r, const Karttakasittelija& kasittele) {
-  LueAjantasaisetRivit(r, &clsSahkoListaItem::Vuosikulutus, kasittele);
-}>("Puu", tekstit::kKulutusRiveittain, "MWh/a"),
-}
-;
+    Kokoelmatulos<[](clsSahkonKulutusryhmat& r) -> clsSahkonKulutusryhmat& { return r; }>("Ryhmat"),
+    Karttatulos<[](const clsSahkonKulutusryhmat& r, const Karttakasittelija& kasittele) {
+      LueAjantasaisetRivit(r, &clsSahkoListaItem::Vuosikulutus, kasittele);
+    }>("Puu", tekstit::kKulutusRiveittain, "MWh/a"),
+};
 
 constexpr double kkWhPerMWh = 1e3;
 

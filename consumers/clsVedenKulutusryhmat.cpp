@@ -51,11 +51,9 @@ constexpr Tulos kTulokset[] = {
     Vuositulos<&Ryhmat::VuotuinenProsessivedenSahkoLammityksenEnergia>("VuotuinenProsessivedenSahkoLammityksenEnergia",
                                                                        tekstit::kProsessivedenSahkolammitys),
     Vuositulos<&Ryhmat::LKVKiertopiirinHavio>("LKVKiertopiirinHavio", tekstit::kKierronHavio, "kWh/a"),
-    Kokoelmatulos < [](Ryhmat& r) -> auto& {return r;
-}  // namespace
-> ("Ryhmat"), Ryhmatulos("Puu", kPuu),
-}
-;
+    Kokoelmatulos<[](Ryhmat& r) -> Ryhmat& { return r; }>("Ryhmat"),
+    Ryhmatulos("Puu", kPuu),
+};
 
 constexpr double kProsessivedenLampotila = 70.0;  // °C
 constexpr double kkWhPerMWh = 1e3;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The basic-data dialog and the heat summary, driven as a person would, without a screen.
 #include "kernel/Luvut.h"
-#include "settings/clsProjektiAsetukset.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsProjektiAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"
 #include "tests/building/Koerakennus.h"
 #include "ui/Kenttatarkistus.h"
