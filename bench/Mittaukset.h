@@ -27,5 +27,7 @@ Vertailupari Massapari(clsRakennus& rakennus);
 
 /// Access to attributes by name: declares its benchmarks.
 void IlmoitaJasenmittaukset();
+/// Saving measures.
+void IlmoitaToimenpidemittaukset();
 
 }  // namespace mittaus

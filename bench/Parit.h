@@ -50,6 +50,17 @@ void Kayta(const T& arvo) {
   benchmark::ClobberMemory();
 }
 
+/// So many runs that together they take at least two milliseconds; in seconds for one.
+inline Ajo Toistettuna(const Ajo& ajo) {
+  constexpr double kVahintaan = 2e-3;
+  const int kertoja = 1 + static_cast<int>(kVahintaan / std::max(1e-7, ajo()));
+  return [ajo, kertoja] {
+    double summa = 0;
+    for (int i = 0; i < kertoja; ++i) summa += ajo();
+    return summa / kertoja;
+  };
+}
+
 inline double Mediaani(std::vector<double> luvut) {
   const auto keski = luvut.begin() + static_cast<std::ptrdiff_t>(luvut.size() / 2);
   std::nth_element(luvut.begin(), keski, luvut.end());

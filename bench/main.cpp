@@ -59,17 +59,6 @@ void Paataulu(benchmark::State& state) {
   MittaaParit(state, kToiminnot[I].tavoite, pari.meidan, pari.vertailu, pari.tarkista);
 }
 
-/// So many runs that together they take at least two milliseconds; in seconds for one.
-Ajo Toistettuna(const Ajo& ajo) {
-  constexpr double kVahintaan = 2e-3;
-  const int kertoja = 1 + static_cast<int>(kVahintaan / std::max(1e-7, ajo()));
-  return [ajo, kertoja] {
-    double summa = 0;
-    for (int i = 0; i < kertoja; ++i) summa += ajo();
-    return summa / kertoja;
-  };
-}
-
 /// Medians of ours and of the yardstick at one size; fewer pairs where one takes long.
 std::pair<double, double> Koossa(const Vertailupari& pari, int koko) {
   const Ajo meidan = Toistettuna(pari.meidan), vertailu = Toistettuna(pari.vertailu);
@@ -135,6 +124,7 @@ template <std::size_t... I>
 void Ilmoita(std::index_sequence<I...>) {
   (IlmoitaParit(std::string(kToiminnot[I].nimi) + "; " + kToiminnot[I].vertailu, Paataulu<I>), ...);
   IlmoitaJasenmittaukset();
+  IlmoitaToimenpidemittaukset();
   IlmoitaParit("rebuild and sum the tree of 1,000 groups; plain sum of the groups", Kulutuspuu);
   benchmark::RegisterBenchmark("lumivirta-laske over 200 files; with one core", Massalaskenta)
       ->UseManualTime()

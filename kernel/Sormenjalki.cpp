@@ -38,7 +38,7 @@ void LisaaJasenet(Summa& summa, Olio& olio, const clsTyyppiTiedot& tyypit) {
       ArvoNakyma arvo;
       jasen->nayta(olio, arvo);
       summa.Lisaa(arvo);
-    } else if (Olio* lapsi = jasen->viittaus ? nullptr : jasen->olio(olio)) {
+    } else if (Olio* lapsi = jasen->olio(olio)) {
       LisaaOlio(summa, *lapsi, tyypit);
     }
   }

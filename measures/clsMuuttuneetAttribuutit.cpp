@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measures/clsMuuttuneetAttribuutit.h"
 
+#include <algorithm>
+
 #include "kernel/Virhe.h"
 #include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
@@ -12,6 +14,26 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsMuuttuneetAttribuutit::TyypinNimi>("TyypinNimi"),
     Arvo<&clsMuuttuneetAttribuutit::LiittyyInstanssiin>("LiittyyInstanssiin"),
 };
+
+/// Members that change together.
+constexpr std::pair<std::string_view, std::string_view> kParit[] = {
+    {"U_arvo", "LaskeU_arvoMateriaaleista"},
+    {"LaskentatapaTehopohjainen", "LaskentatapaEnergiapohjainen"},
+    {"LiittyyTilaansKey", "LiittyyTilaanStr"},
+};
+
+/// The name of a choice without what tells its index and its text apart.
+std::string_view Valinta(std::string_view nimi) {
+  for (const std::string_view paate : {"ID", "Str"})
+    if (nimi.ends_with(paate)) return nimi.substr(0, nimi.size() - paate.size());
+  return nimi;
+}
+
+bool OvatPari(std::string_view a, std::string_view b) {
+  return Valinta(a) == Valinta(b) || std::ranges::any_of(kParit, [&](const auto& pari) {
+           return (a == pari.first && b == pari.second) || (b == pari.first && a == pari.second);
+         });
+}
 
 }  // namespace
 
@@ -30,6 +52,16 @@ void clsMuuttuneetAttribuutit::Lisaa(const Muutos& muutos) try {
   uusi.ArvoJalkeenStr = muutos.arvoJalkeenStr;
 } catch (...) {
   NostaVirhe("clsMuuttuneetAttribuutit:Lisaa Method");
+}
+
+void clsMuuttuneetAttribuutit::PoistaPareineen(const Tunniste& avain) try {
+  const clsMuuttunutAttribuutti poistettava = Item(avain);
+  PoistaJos([&](const clsMuuttunutAttribuutti& muutos) {
+    return muutos.InstanssiId == poistettava.InstanssiId &&
+           OvatPari(muutos.AttribuutinNimi, poistettava.AttribuutinNimi);
+  });
+} catch (...) {
+  NostaVirhe("clsMuuttuneetAttribuutit:PoistaPareineen Method");
 }
 
 void clsMuuttuneetAttribuutit::LuokatEroavat(const Olio& tama, const Olio& toinen) {

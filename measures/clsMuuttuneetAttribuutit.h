@@ -19,6 +19,9 @@ class clsMuuttuneetAttribuutit : public Malli<clsMuuttuneetAttribuutit, Kokoelma
   bool Kelluva() const noexcept { return LiittyyInstanssiin == kViittausPuuttuu; }
   /// Adds the change under a fresh key.
   void Lisaa(const Muutos& muutos) override;
+  /// Removes the change and those of the same object that have no meaning without it: a choice and its text, the two
+  /// ways of calculation, a U-value and the flag that it is computed. An error when there is no such change.
+  void PoistaPareineen(const Tunniste& avain);
   /// Shows error 1046: the two objects are of different classes.
   void LuokatEroavat(const Olio& tama, const Olio& toinen) override;
 };

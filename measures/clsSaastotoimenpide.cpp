@@ -32,6 +32,12 @@ constexpr Jasen EnnenJasen() {
 
 using Toimenpide = clsSaastotoimenpide;
 
+/// A figure that is computed from the rest: it is no content of its own, though the file keeps it.
+constexpr Jasen Laskettu(Jasen jasen) {
+  jasen.kopio = true;
+  return jasen;
+}
+
 Alvprosentit Alvt() { return Asetukset().NaytettavatAlvt(); }
 
 /// A figure of the three before, of those after, or of what is saved.
@@ -105,21 +111,21 @@ void KerroOhitetut(const std::vector<Muunnelma::Ohitettu>& ohitetut) {
 constexpr Jasen clsSaastotoimenpide::kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
     Lapsi<&clsSaastotoimenpide::MuuttuneetAttribuutit>("MuuttuneetAttribuutit"),
-    Ominaisuus<clsSaastotoimenpide, [](const clsSaastotoimenpide& o) { return o.LampoEnergiaEnnen(); },
-               [](clsSaastotoimenpide& o, double arvo) { o.LampoEnergiaEnnen(arvo); },
-               &clsSaastotoimenpide::lampoEnnen_>("LampoEnergiaEnnen", "MWh/a"),
-    Arvo<&clsSaastotoimenpide::LampoEnergiaJalkeen>("LampoEnergiaJalkeen", "MWh/a"),
-    Ominaisuus<clsSaastotoimenpide, [](const clsSaastotoimenpide& o) { return o.SahkoEnergiaEnnen(); },
-               [](clsSaastotoimenpide& o, double arvo) { o.SahkoEnergiaEnnen(arvo); },
-               &clsSaastotoimenpide::sahkoEnnen_>("SahkoEnergiaEnnen", "MWh/a"),
-    Arvo<&clsSaastotoimenpide::SahkoEnergiaJalkeen>("SahkoEnergiaJalkeen", "MWh/a"),
-    Ominaisuus<clsSaastotoimenpide, [](const clsSaastotoimenpide& o) { return o.VedenkulutusEnnen(); },
-               [](clsSaastotoimenpide& o, double arvo) { o.VedenkulutusEnnen(arvo); },
-               &clsSaastotoimenpide::vesiEnnen_>("VedenkulutusEnnen", "m³/a"),
-    Arvo<&clsSaastotoimenpide::VedenkulutusJalkeen>("VedenkulutusJalkeen", "m³/a"),
+    Laskettu(Ominaisuus<Toimenpide, [](const Toimenpide& o) { return o.LampoEnergiaEnnen(); },
+                        [](Toimenpide& o, double arvo) { o.LampoEnergiaEnnen(arvo); }, &Toimenpide::lampoEnnen_>(
+        "LampoEnergiaEnnen", "MWh/a")),
+    Kopio<&clsSaastotoimenpide::LampoEnergiaJalkeen>("LampoEnergiaJalkeen", "MWh/a"),
+    Laskettu(Ominaisuus<Toimenpide, [](const Toimenpide& o) { return o.SahkoEnergiaEnnen(); },
+                        [](Toimenpide& o, double arvo) { o.SahkoEnergiaEnnen(arvo); }, &Toimenpide::sahkoEnnen_>(
+        "SahkoEnergiaEnnen", "MWh/a")),
+    Kopio<&clsSaastotoimenpide::SahkoEnergiaJalkeen>("SahkoEnergiaJalkeen", "MWh/a"),
+    Laskettu(Ominaisuus<Toimenpide, [](const Toimenpide& o) { return o.VedenkulutusEnnen(); },
+                        [](Toimenpide& o, double arvo) { o.VedenkulutusEnnen(arvo); }, &Toimenpide::vesiEnnen_>(
+        "VedenkulutusEnnen", "m³/a")),
+    Kopio<&clsSaastotoimenpide::VedenkulutusJalkeen>("VedenkulutusJalkeen", "m³/a"),
     Arvo<&Alkio::sKey>("sKey"),
-    Arvo<&clsSaastotoimenpide::JalkeenTiedotUpToDate>("JalkeenTiedotUpToDate"),
-    Arvo<&clsSaastotoimenpide::EnnenTiedotUpToDate>("EnnenTiedotUpToDate"),
+    Kopio<&clsSaastotoimenpide::JalkeenTiedotUpToDate>("JalkeenTiedotUpToDate"),
+    Kopio<&clsSaastotoimenpide::EnnenTiedotUpToDate>("EnnenTiedotUpToDate"),
     Arvo<&clsSaastotoimenpide::SahkoLoisTehoHinta>("SahkoLoisTehoHinta", "€/kVAr"),
     Arvo<&clsSaastotoimenpide::SahkoPatoTehoHinta>("SahkoPatoTehoHinta", "€/kW"),
     Arvo<&clsSaastotoimenpide::LampoTehoHinta>("LampoTehoHinta", "€/kW"),
@@ -177,7 +183,7 @@ std::unique_ptr<Olio> clsSaastotoimenpide::TeeJalkeen() try {
   jalkeen->InstanssiId = Tunniste::Uusi(jalkeen->LuokanTiedot().NimiSana());
   return jalkeen;
 } catch (...) {
-  NostaVirhe("clsSaastotoimenpide:TeeJalkeen Method");
+  NostaVirhe("clsSaastotoimenpide:TeeJalkeen Method", Virheenkohde{Nimi});
 }
 
 std::unique_ptr<Olio> clsSaastotoimenpide::TeeLiitetty() {
@@ -216,7 +222,7 @@ void clsSaastotoimenpide::PaivitaMuuttuneetAttribuutit(Olio& jalkeen) try {
   for (const clsMuuttunutAttribuutti& muutos : muutokset) muutos.Kopioi(MuuttuneetAttribuutit.Add(muutos.sKey));
   JalkeenTiedotUpToDate = false;
 } catch (...) {
-  NostaVirhe("clsSaastotoimenpide:PaivitaMuuttuneetAttribuutit Method");
+  NostaVirhe("clsSaastotoimenpide:PaivitaMuuttuneetAttribuutit Method", Virheenkohde{Nimi});
 }
 
 /// Layers are no part of a variation. A U-value that has changed with them therefore acts only where it isn't computed
@@ -238,15 +244,22 @@ void clsSaastotoimenpide::KiinnitaUArvot(Olio& jalkeen, clsMuuttuneetAttribuutit
   }
 }
 
+void clsSaastotoimenpide::PeruMuutos(const Tunniste& muutos) try {
+  MuuttuneetAttribuutit.PoistaPareineen(muutos);
+  JalkeenTiedotUpToDate = false;
+} catch (...) {
+  NostaVirhe("clsSaastotoimenpide:PeruMuutos Method", Virheenkohde{Nimi});
+}
+
 void clsSaastotoimenpide::PaivitaKulutukset() try {
+  const Odotus odotus(Teksti(tekstit::kLasketaanVaikutuksia) + " ");
   Muunnelmalaskin laskin(koti_.Rakennus());
   PaivitaKulutukset(laskin);
 } catch (...) {
-  NostaVirhe("clsSaastotoimenpide:PaivitaKulutukset Method");
+  NostaVirhe("clsSaastotoimenpide:PaivitaKulutukset Method", Virheenkohde{Nimi});
 }
 
 void clsSaastotoimenpide::PaivitaKulutukset(Muunnelmalaskin& laskin) try {
-  const Odotus odotus(Teksti(tekstit::kLasketaanVaikutuksia) + " ");
   if (!EnnenTiedotUpToDate) {
     const Hyodykkeet perusta = laskin.Perusta();
     LampoEnergiaEnnen(perusta.lampo);
@@ -256,7 +269,7 @@ void clsSaastotoimenpide::PaivitaKulutukset(Muunnelmalaskin& laskin) try {
   }
   KulutusJalkeen(Kelluva() ? LaskeKelluva(laskin) : laskin.Laske(MuuttuneetAttribuutit));
 } catch (...) {
-  NostaVirhe("clsSaastotoimenpide:PaivitaKulutukset Method");
+  NostaVirhe("clsSaastotoimenpide:PaivitaKulutukset Method", Virheenkohde{Nimi});
 }
 
 /// The building isn't touched: the difference of the group's own consumption is taken from the figures before. Saved
@@ -324,7 +337,7 @@ Ostot clsSaastotoimenpide::Ostosaasto() try {
   Muunnelmalaskin laskin(koti_.Rakennus());
   return Ostosaasto(laskin);
 } catch (...) {
-  NostaVirhe("clsSaastotoimenpide:Ostosaasto Method");
+  NostaVirhe("clsSaastotoimenpide:Ostosaasto Method", Virheenkohde{Nimi});
 }
 
 Ostot clsSaastotoimenpide::Ostosaasto(Muunnelmalaskin& laskin) try {
@@ -334,5 +347,5 @@ Ostot clsSaastotoimenpide::Ostosaasto(Muunnelmalaskin& laskin) try {
   Muunnelmaketju ketju(laskin);
   return ennen - ketju.LaskeOstot(ketju.Liita(MuuttuneetAttribuutit));
 } catch (...) {
-  NostaVirhe("clsSaastotoimenpide:Ostosaasto Method");
+  NostaVirhe("clsSaastotoimenpide:Ostosaasto Method", Virheenkohde{Nimi});
 }

@@ -62,6 +62,10 @@ class clsSaastotoimenpide : public Malli<clsSaastotoimenpide, Alkio> {
   /// stale then. A structure whose U-value has changed is to keep it: it won't be computed from layers any more.
   void PaivitaMuuttuneetAttribuutit(Olio& jalkeen);
 
+  /// Takes the change back, and with it what goes with it: the text of a choice, the way of calculation, the flag of a
+  /// U-value. The figures after are stale then.
+  void PeruMuutos(const Tunniste& muutos);
+
   /// Computes the figures before, unless they are valid, and the figures after. With a calculator of the building many
   /// measures share one calculation of the base.
   void PaivitaKulutukset();

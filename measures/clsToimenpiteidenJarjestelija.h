@@ -29,7 +29,8 @@ class clsToimenpiteidenJarjestelija : public Malli<clsToimenpiteidenJarjestelija
   struct Paketti {
     Hyodykkeet ennen;    ///< gross figures of the base
     Hyodykkeet lopuksi;  ///< those with the whole package in force
-    /// Of costs by the supplies and tariffs of each state, and of emissions; nothing when tariffs or fuels don't give it.
+    /// Of costs by the supplies and tariffs of each state, and of emissions; nothing when tariffs or fuels don't give
+    /// it.
     std::optional<Ostot> saasto;
   };
 

@@ -290,8 +290,15 @@ TEST_F(ToimenpiteetTesti, FiguresAreComputedOnceAndAnewAfterAChangeOfTheBase) {
   EXPECT_EQ(toimenpide.KulutusEnnen(), perusta);
   EXPECT_GT(toimenpide.Saasto().lampo, saasto);
   rakennus->Tallennettu = true;
+  toimenpide.JalkeenTiedotUpToDate = false;
+  const auto jalki = rakennus->Sormenjalki();
   toimenpide.PaivitaKulutukset();
+  toimenpiteet.PaivitaHierarkiaLista();
+  rakennus->ToimenpiteidenJarjestelija.PaivitaValitutToimenpiteet();
   EXPECT_TRUE(rakennus->Tallennettu) << "computing changes no file";
+  EXPECT_EQ(rakennus->Sormenjalki(), jalki) << "and leaves nothing to rescue";
+  static_cast<clsSahkonKulutusryhma&>(*toimenpiteet.Lisaa("sKeySahko")->Ennen()).KayttoaikaHpD = 1;
+  EXPECT_NE(rakennus->Sormenjalki(), jalki);
 }
 
 TEST_F(ToimenpiteetTesti, MeasuresAndRowsComeBackFromTheFileAsTheyWere) {

@@ -26,6 +26,26 @@ TEST(clsMuuttuneetAttribuutit, AChangeIsEnteredByItsKindUnderItsKey) {
   EXPECT_EQ(avaimet.size(), 3U);
 }
 
+TEST(clsMuuttuneetAttribuutit, AChangeGoesWithWhatHasNoMeaningWithoutIt) {
+  clsMuuttuneetAttribuutit muutokset;
+  const auto lisaa = [&](const char* nimi, const char* olio = "clsTila 1") {
+    muutokset.Lisaa({nimi, "clsTila", Laji::Teksti, olio});
+    return muutokset.Item(muutokset.Count()).sKey;
+  };
+  const Tunniste valinta = lisaa("SaatotapaID");
+  lisaa("SaatotapaStr");
+  lisaa("SaatotapaStr", "clsTila 2");
+  const Tunniste periaate = lisaa("IVPeriaate");
+  lisaa("IVPeriaateID");
+  lisaa("U_arvo");
+  const Tunniste lippu = lisaa("LaskeU_arvoMateriaaleista");
+  lisaa("BruttoAla");
+  for (const Tunniste& avain : {valinta, periaate, lippu}) muutokset.PoistaPareineen(avain);
+  ASSERT_EQ(muutokset.Count(), 2);
+  EXPECT_EQ(muutokset.Item(1).InstanssiId, Tunniste("clsTila 2"));
+  EXPECT_EQ(muutokset.Item(2).AttribuutinNimi, "BruttoAla");
+}
+
 using clsSaastotoimenpideTesti = Asetuskansio;
 
 TEST_F(clsSaastotoimenpideTesti, ANewMeasureIsDatedHasItsAuthorAndFloats) {
