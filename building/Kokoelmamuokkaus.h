@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "building/LisaaKopio.h"
+#include "building/Muokkausistunto.h"
 #include "building/Toimenpideviittaukset.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
@@ -13,35 +14,25 @@
 #include "ui/Tekstivarasto.h"
 
 /// How the person edits a collection of the building in a list: an item added is committed by its own dialog, a copy,
-/// a removal and pasted rows here. Texts are told by their numbers.
+/// a removal and pasted rows here; in a list that stands in a dialog, by that dialog. Texts are told by their numbers.
 template <class T>
 struct Kokoelmamuokkaus {
   Kokoelma<T>& kokoelma;
   std::string T::*nimi;
-  Tekstinumero kopiointi;  ///< names of the commands, as undo tells them
-  Tekstinumero poisto;
-  Tekstinumero kaytossa;               ///< an item can't be removed, since measures refer to it
+  Tekstinumero kopiointi{};  ///< names of the commands, as undo tells them; none in a dialog
+  Tekstinumero poisto{};
+  Tekstinumero kaytossa{};             ///< an item can't be removed, since measures refer to it
   std::function<bool(T&)> muokkaa;     ///< opens the item's dialog; true when it was accepted
   std::function<void(T&)> alusta{};    ///< fills a new item
   std::function<void(T&)> kopioitu{};  ///< finishes a copy
+  bool avaaKopio = false;              ///< a copy opens its dialog, and stays when that is accepted
   // Rows of a sheet can be pasted where there are columns.
   std::span<const Liitossarake> sarakkeet{};
   Tekstinumero liittaminen{};
   std::function<void(T&)> liitetty{};  ///< finishes an item of a pasted row
 
   /// The key of the item that was accepted; empty when the person gave up.
-  Tunniste Lisaa() const try {
-    T& uusi = Uusi();
-    const Tunniste avain = uusi.sKey;
-    try {
-      if (muokkaa(uusi)) return avain;
-    } catch (...) {
-      Hylkaa(avain);
-      throw;
-    }
-    Hylkaa(avain);
-    return {};
-  } catch (...) {
+  Tunniste Lisaa() const try { return MuokkaaUutta(Uusi()); } catch (...) {
     NostaVirhe("Kokoelmamuokkaus:Lisaa Method");
   }
 
@@ -52,7 +43,7 @@ struct Kokoelmamuokkaus {
         {.luo = [this]() -> Alkio& { return Uusi(); }, .poista = [this](const Tunniste& avain) { Hylkaa(avain); }});
     if (avaimet.empty()) return {};
     for (const Tunniste& avain : avaimet) Nosta(liitetty, kokoelma.Item(avain));
-    VaadiRakennus().Muuttui(Teksti(liittaminen));
+    Kirjaa(liittaminen);
     return avaimet.back();
   } catch (...) {
     NostaVirhe("Kokoelmamuokkaus:Liita Method");
@@ -62,7 +53,8 @@ struct Kokoelmamuokkaus {
     T& kopio = LisaaKopio(kokoelma, lahde);
     kopio.*nimi = Teksti(tekstit::kKopio) + kopio.*nimi;
     Nosta(kopioitu, kopio);
-    VaadiRakennus().Muuttui(Teksti(kopiointi));
+    if (avaaKopio) return MuokkaaUutta(kopio);
+    Kirjaa(kopiointi);
     return kopio.sKey;
   } catch (...) {
     NostaVirhe("Kokoelmamuokkaus:Kopioi Method");
@@ -70,7 +62,7 @@ struct Kokoelmamuokkaus {
 
   void Poista(const Tunniste& avain) const try {
     kokoelma.Remove(avain);
-    VaadiRakennus().Muuttui(Teksti(poisto));
+    Kirjaa(poisto);
   } catch (...) {
     NostaVirhe("Kokoelmamuokkaus:Poista Method");
   }
@@ -81,6 +73,24 @@ struct Kokoelmamuokkaus {
   }
 
  private:
+  static void Kirjaa(Tekstinumero komento) {
+    if (Muokkausistunto::Auki())
+      VaadiRakennus().RekisteriVanheni();
+    else
+      VaadiRakennus().Muuttui(Teksti(komento));
+  }
+  /// Lets the person fill the new item, which is gone when it isn't accepted.
+  Tunniste MuokkaaUutta(T& uusi) const {
+    const Tunniste avain = uusi.sKey;
+    try {
+      if (muokkaa(uusi)) return avain;
+    } catch (...) {
+      Hylkaa(avain);
+      throw;
+    }
+    Hylkaa(avain);
+    return {};
+  }
   T& Uusi() const {
     const Tunniste avain = Tunniste::Uusi(T::kLuokka.NimiSana());
     T& uusi = kokoelma.Add(avain);

@@ -39,6 +39,8 @@ bool Muokkausistunto::Nayta() {
   return hyvaksytty_;
 }
 
+bool Muokkausistunto::Auki() { return istuntoja > 0; }
+
 void Muokkausistunto::Hyvaksy() try {
   Odotus odotus;
   Tee(toimet_.kirjoita);

@@ -57,6 +57,9 @@ class Muokkausistunto {
   /// Shows the dialog. True after OK.
   bool Nayta();
 
+  /// A session is open: what is done inside it is committed or taken back with its object.
+  static bool Auki();
+
  private:
   template <class... T>
   static void KopioiTakaisin(const std::tuple<T&...>& oliot, const std::tuple<std::shared_ptr<T>...>& varalla) {

@@ -17,7 +17,8 @@ std::string Syy(const std::function<std::string(A...)>& este, std::type_identity
 
 }  // namespace
 
-Luettelomuokkain::Luettelomuokkain(const Lomake& lomake, Ohjaimet ohjaimet) : lomake_(lomake), ohjaimet_(ohjaimet) {
+Luettelomuokkain::Luettelomuokkain(const Lomake& lomake, Ohjaimet ohjaimet)
+    : lomake_(lomake), ohjaimet_(ohjaimet), lisaysvihje_(ohjaimet.lisaa.Kohde().Vihje()) {
   Kuuntele();
 }
 
@@ -28,7 +29,7 @@ void Luettelomuokkain::Kuuntele() {
   ohjaimet_.lista.KunPoistetaan([this] { Poista(); });
   ohjaimet_.lisaa.KunKlikataan([this] { Lisaa(); });
   if (ohjaimet_.muokkaa) ohjaimet_.muokkaa->KunKlikataan([this] { Muokkaa(); });
-  ohjaimet_.kopioi.KunKlikataan([this] { Kopioi(); });
+  if (ohjaimet_.kopioi) ohjaimet_.kopioi->KunKlikataan([this] { Kopioi(); });
   ohjaimet_.poista.KunKlikataan([this] { Poista(); });
 }
 
@@ -69,8 +70,9 @@ bool Luettelomuokkain::Sallittu(const std::function<bool(const Tunniste&)>& ehto
 
 void Luettelomuokkain::PaivitaNapit() const {
   ohjaimet_.lisaa.Kaytossa(true);
+  ohjaimet_.lisaa.Vihje(lisaysvihje_);
   if (ohjaimet_.muokkaa) ohjaimet_.muokkaa->Kaytossa(Muokattavissa());
-  ohjaimet_.kopioi.Kaytossa(Kopioitavissa());
+  if (ohjaimet_.kopioi) ohjaimet_.kopioi->Kaytossa(Kopioitavissa());
   ohjaimet_.poista.Kaytossa(Muokattavissa());
   LukitseMuokkausnapit(lomake_, Syy(toimet_.lukko));
   if (const std::string este = Syy(toimet_.lisayseste); !este.empty() && ohjaimet_.lisaa.Kaytossa()) {

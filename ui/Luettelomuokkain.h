@@ -14,8 +14,8 @@ struct Luettelotoimet {
   std::function<Tunniste()> lisaa;
   /// Opens the object's dialog; left out where its fields stand beside the list.
   std::function<void(const Tunniste&)> muokkaa{};
-  /// The key of a copy that stands behind its source.
-  std::function<Tunniste(const Tunniste&)> kopioi;
+  /// The key of a copy that stands behind its source; left out with its button.
+  std::function<Tunniste(const Tunniste&)> kopioi{};
   std::function<void(const Tunniste&)> poista;
   /// Hangs a row under another one; where that may be done.
   std::function<void(const Tunniste& rivi, const Tunniste& ylempi)> siirra{};
@@ -51,7 +51,7 @@ class Luettelomuokkain {
     ListView lista;
     CommandButton lisaa;
     std::optional<CommandButton> muokkaa;
-    CommandButton kopioi;
+    std::optional<CommandButton> kopioi;
     CommandButton poista;
   };
 
@@ -86,5 +86,6 @@ class Luettelomuokkain {
   const Lomake& lomake_;
   Ohjaimet ohjaimet_;
   Luettelotoimet toimet_;
-  Tunniste naytetty_;  // key of the row that the fields beside the list show
+  std::string lisaysvihje_;  // the button's own tip
+  Tunniste naytetty_;        // key of the row that the fields beside the list show
 };

@@ -140,6 +140,8 @@ class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
   void Indeksi(int indeksi) const { ohjain_->Indeksi(indeksi); }
   /// Key of the chosen row, empty when none is.
   Tunniste Valittu() const { return ohjain_->Lista().Avain(Indeksi()); }
+  /// Key of the row, empty when there is no such.
+  Tunniste Avain(int rivi) const { return ohjain_->Lista().Avain(rivi); }
   /// Chooses the row of that key; the first one on the screen when there is no such row.
   void Valitse(const Tunniste& avain) const;
   void KunMuuttuu(std::function<void()> f) const { ohjain_->Muuttui = std::move(f); }
