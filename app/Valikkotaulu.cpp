@@ -8,6 +8,7 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "supply/clsEnergiamuodonKasittely.h"
 #include "tekstit/paaikkuna.h"
 #include "ui/Lomake.h"
 #include "ui/Ohje.h"
@@ -153,8 +154,10 @@ constexpr Valikkorivi kRivit[] = {
      [](frmMain&) { RakennekirjastolinkkiNyt().NaytaRakennekirjasto(); }},
     {"mnuKirjastot", "mnuMateriaalikirjasto", tekstit::kValikkoMateriaalikirjasto, "", nullptr,
      [](frmMain&) { RakennekirjastolinkkiNyt().NaytaMateriaalikirjasto(); }},
-    {"mnuKirjastot", "mnuEnergiamuotokirjastoLampo", tekstit::kValikkoLammonEnergiamuodot, "", kTulossa},
-    {"mnuKirjastot", "mnuEnergiamuotokirjastoSahko", tekstit::kValikkoSahkonEnergiamuodot, "", kTulossa},
+    {"mnuKirjastot", "mnuEnergiamuotokirjastoLampo", tekstit::kValikkoLammonEnergiamuodot, "", nullptr,
+     [](frmMain&) { clsEnergiamuodonKasittely().Selaa(true); }},
+    {"mnuKirjastot", "mnuEnergiamuotokirjastoSahko", tekstit::kValikkoSahkonEnergiamuodot, "", nullptr,
+     [](frmMain&) { clsEnergiamuodonKasittely().Selaa(false); }},
 
     {"mnuSaastoToimenpiteet", "mnuSaastoKokoRakennus", tekstit::kValikkoKokoRakennus, "", kTulossa},
     {"mnuSaastoToimenpiteet", "mnuEnergianJaVedenhankinta", tekstit::kValikkoEnergianJaVedenHankinta, "", kTulossa},

@@ -10,6 +10,8 @@
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "settings/clsProjektiAsetukset.h"
+#include "supply/clsTariffit.h"
+#include "supply/clsVesitariffit.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
@@ -177,14 +179,18 @@ bool clsPerustiedot::NaytaKayttoliityma() try {
     frmNormeeraamatonKulutus().Kysy(LammKulVakioOsuus.kkOsuus, LammKulVakioOsuus.VuosiOsuus);
   };
   lomake.HaeTarveluvutKlikattu = [&] { HaeTarveluvut(lomake, *this); };
+  lomake.LammonHankintaKlikattu = [&] { LammonHankinta.NaytaKayttoliittyma(); };
+  lomake.SahkonHankintaKlikattu = [&] { SahkonHankinta.NaytaKayttoliittyma(); };
+  lomake.VedenHankintaKlikattu = [&] { VedenHankinta.NaytaKayttoliittyma(); };
   lomake.LuoMalliKlikattu = [&] {
     luodaanUudelleen = true;
     Nosta(lomake.OkKlikattu);
     luodaanUudelleen = false;
     entinenMalli.reset();
   };
+  clsRakennus& rakennus = VaadiRakennus();  // whose tariffs the supplies' dialogs edit
   Muokkausistunto istunto(
-      *this, lomake,
+      std::tie(*this, rakennus.Tariffit, rakennus.Vesitariffit), lomake,
       {.nimi = OletusarvotLaskettu ? KohteenNimi : "",
        .lue = [&] { Lue(lomake, *this); },
        .kirjoita = [&] { Kirjoita(lomake, *this); },

@@ -69,6 +69,9 @@ class clsEnergiamuoto : public Malli<clsEnergiamuoto, Alkio> {
   /// them.
   void Paivita(const clsEnergiamuoto& uusi);
 
+  /// Lets the person edit the form. True after OK.
+  bool NaytaKayttoliityma();
+
  private:
   static const Jasen kJasenet[];
 

@@ -55,13 +55,17 @@ const Luokka clsEnergianHankinta::kLuokka{"clsEnergianHankinta", kJasenet, kTulo
 
 clsEnergiamuoto& clsEnergianHankinta::LisaaMuoto() try {
   clsEnergiamuoto& muoto = Energiamuodot.Add(Tunniste::Uusi(clsEnergiamuoto::kLuokka.NimiSana()));
+  AlustaMuoto(muoto);
+  return muoto;
+} catch (...) {
+  NostaVirhe("clsEnergianHankinta:LisaaMuoto Method");
+}
+
+void clsEnergianHankinta::AlustaMuoto(clsEnergiamuoto& muoto) const {
   muoto.Nimi = Teksti(kUusiMuoto.at(static_cast<std::size_t>(Kayttotarkoitus)));
   muoto.Tyyppi = Kayttotarkoitus;
   muoto.OnVakiokannasta = Kayttotarkoitus != Vesi;
   if (muoto.OnVakiokannasta) muoto.EnergiaMuotokannanVersio = VakiokannanVersio();
-  return muoto;
-} catch (...) {
-  NostaVirhe("clsEnergianHankinta:LisaaMuoto Method");
 }
 
 std::vector<clsEnergiamuoto*> clsEnergianHankinta::VakiokannanMuodot() const {

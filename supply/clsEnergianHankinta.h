@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
+
+#include "kernel/Laskenta.h"
 #include "supply/clsEnergiamuodot.h"
 
 class Energiamuotokanta;
@@ -17,6 +20,8 @@ class clsEnergianHankinta : public Malli<clsEnergianHankinta> {
 
   /// Adds a form of the supply's kind under a fresh key. One of heat or electricity counts as of the standard base.
   clsEnergiamuoto& LisaaMuoto();
+  /// Gives a new form what LisaaMuoto does.
+  void AlustaMuoto(clsEnergiamuoto& muoto) const;
 
   /// The forms that were taken from a row of the standard fuel database. Water isn't: its first form ends the search.
   std::vector<clsEnergiamuoto*> VakiokannanMuodot() const;
@@ -24,4 +29,10 @@ class clsEnergianHankinta : public Malli<clsEnergianHankinta> {
   /// Returns the names of those whose row is gone: they keep their values. A database without a version is told of.
   /// Raises error 9999 as the database does.
   std::vector<std::string> PaivitaEMuodotVakiokannasta(Energiamuotokanta& kanta);
+
+  /// At OK of the dialog.
+  Oma<std::function<void()>> OKPainettu;
+  /// Lets the person edit the forms and the tariffs that they have; those of a saving measure's supply can only be
+  /// chosen. Cancel takes back the tariffs too. True after OK.
+  bool NaytaKayttoliittyma();
 };

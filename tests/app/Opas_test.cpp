@@ -12,6 +12,7 @@
 #include "app/Istunto.h"
 #include "app/Valikkotaulu.h"
 #include "app/frmMain.h"
+#include "building/Hankintalaskelma.h"
 #include "building/Kuukausitase.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
@@ -237,6 +238,33 @@ TEST_F(OppaanEsimerkki, GroupsOfConsumers) {
             std::string::npos);
   avaa(luokat, "sahkoryhma.md");
   avaa(nimella(rakennus().VedenKulutusryhmat, "Käsienpesu"), "vesiryhma.md");
+}
+
+TEST_F(OppaanEsimerkki, ASupplyFromNetDemandToMoneyAndTonnes) {
+  const std::string opas = OppaanSivu("hankinta.md");
+  Asetukset().ValuuttaTyyppi(1);  // the euro
+  const clsEnergianHankinta& hankinta = rakennus().Perustiedot.LammonHankinta;
+  KunAuki("cmdPeruuta", [&](Lomake& lomake) {
+    for (const char* kentta : {"txtKeskihinta", "txtVuosimaksut"})
+      EXPECT_NE(opas.find(lomake.Etsi(kentta).Teksti()), std::string::npos) << lomake.Etsi(kentta).Teksti();
+    KunAuki("cmdPeruuta", [](Lomake& muoto) {
+      KunAuki("cmdPeruuta");
+      muoto.Etsi("cmdPoimiKirjastosta").KayttajaPainaa();
+    });
+    lomake.Etsi("cmdMuokkaa").KayttajaPainaa();
+  });
+  EXPECT_FALSE(rakennus().Perustiedot.LammonHankinta.NaytaKayttoliittyma());
+  const Hankintalaskelma laskelma = LaskeHankinta(rakennus(), clsEnergianHankinta::Lampo);
+  const double verolla = laskelma.kustannus * Asetukset().NayttoKerroin(Energialaji::Lampo);
+  const std::pair<double, const char*> luvut[] = {{hankinta.Energiamuodot.Konversiohaviot(670.87), "0.00"},
+                                                  {rakennus().VuotuisetLammonKonversiohaviot(), "0.00"},
+                                                  {laskelma.brutto, "0.00"},
+                                                  {laskelma.kustannus, "### ##0"},
+                                                  {verolla, "### ##0"},
+                                                  {laskelma.paasto, "0.00"}};
+  for (const auto& [luku, kuvio] : luvut)
+    EXPECT_NE(opas.find(Muotoile(luku, kuvio)), std::string::npos) << Muotoile(luku, kuvio);
+  Asetukset().HaeRekisteristä();
 }
 
 TEST_F(OppaanEsimerkki, FiguresOfTheMonthlyBalanceAreTheGuides) {

@@ -149,6 +149,7 @@ class Sidonnat : public RakennusTesti {
       for (clsEnergiamaksu& maksu : rakennus->Tariffit.LisaaTariffi(laji).Energiamaksut)
         maksu.Kulutusosuus = (maksu.sKey == "EnergiaMaksu1" ? 45 : 10) + 5 / 6.0;
     rakennus->Vesitariffit.LisaaTariffi();
+    rakennus->Perustiedot.LammonHankinta.LisaaMuoto().LisaaPolttoaine({});
     for (const char* sivulomake : {"frmPuhaltimenOttotehonTarkennettuLaskenta"})
       ikkunat.KunNaytetaan(sivulomake, [](Ikkunaton& l) { l.KayttajaPainaa("cmdOk"); });
   }
@@ -189,6 +190,8 @@ class Sidonnat : public RakennusTesti {
         {"frmTarkennettuLaiteLaskenta", [this] { rakennus->SahkonKulutusryhmat.Item(2).NaytaKayttoliittyma(); }},
         {"frmTarkennettuLaiteLaskenta", [this] { rakennus->SahkonKulutusryhmat.Item(3).NaytaKayttoliittyma(); }},
         {"frmTarkennettuVesiLaskenta", [this] { rakennus->VedenKulutusryhmat.Item(1).NaytaKayttoliittyma(); }},
+        {"frmEnergiamuoto",
+         [this] { rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).NaytaKayttoliityma(); }},
     };
   }
   void MuokkaaKerrosta() const {
@@ -301,7 +304,8 @@ TEST_F(Sidonnat, AnOkWithNothingTypedKeepsEveryUnshownDecimal) {
 }
 
 TEST_F(Sidonnat, EveryFormWithATableIsWalked) {
-  std::set<std::string> kaydyt{"frmOptions", "frmVedenKulutus"};  // tests/settings, tests/consumers
+  // tests/settings, tests/consumers, tests/supply
+  std::set<std::string> kaydyt{"frmOptions", "frmVedenKulutus", "frmEmuo3"};
   for (const Dialogi& dialogi : Dialogit()) kaydyt.insert(dialogi.lomake);
   for (const Sidontalista* taulu : Sidontalista::Kaikki())
     EXPECT_TRUE(kaydyt.contains(taulu->Lomakkeenimi())) << taulu->Lomakkeenimi();

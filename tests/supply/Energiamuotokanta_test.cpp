@@ -1,32 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "supply/Energiamuotokanta.h"
-
-#include <filesystem>
 #include <fstream>
 
-#include "kernel/Hakemistot.h"
 #include "kernel/Virhe.h"
-#include "tests/building/Koerakennus.h"
-#include "tests/kernel/Koehakemisto.h"
+#include "tests/supply/Polttoainekannat.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-using Laji = Energiamuotokanta::Laji;
-
-/// Copies of the two databases, which the tests may spoil.
-class EnergiamuotokantaTesti : public RakennusTesti {
+class EnergiamuotokantaTesti : public Polttoainekannat {
  protected:
-  EnergiamuotokantaTesti() {
-    for (const char* nimi : {"VakioPolttoainekanta.mdb", "KayttajanPolttoainekanta.mdb"})
-      fs::copy_file(AppPath() + nimi, kansio / nimi);
-    Asetukset().VakioPolttoainekanta = (kansio / "VakioPolttoainekanta.mdb").string();
-    Asetukset().KayttajanPolttoainekanta = (kansio / "KayttajanPolttoainekanta.mdb").string();
-    AlustaPerustiedot(rakennus->Perustiedot);
-    AlustaToteutuneetKulutukset(rakennus->Perustiedot.ToteutuneetKulutukset);
-  }
-  ~EnergiamuotokantaTesti() override { Asetukset().HaeRekisteristä(); }
-
   void AjaVakiokantaan(const char* sql) {
     Tietokanta(Asetukset().VakioPolttoainekanta, Tietokanta::Tapa::Kirjoitus).Aja(sql);
   }
@@ -54,7 +35,6 @@ class EnergiamuotokantaTesti : public RakennusTesti {
   }
   clsEnergiamuoto& Luettu(int paikka = 1) { return luettu.Perustiedot.LammonHankinta.Energiamuodot.Item(paikka); }
 
-  const Koehakemisto kansio;
   const std::string tiedosto = (kansio / "kohde.lvt").string();
   clsRakennus luettu;
   Taulukko rivit;
