@@ -228,6 +228,7 @@ void clsRakennus::VertaileAttribuutit(clsRakennus& vanha, MuutostenKeraaja& muut
 }
 
 void clsRakennus::LiitaSaastoToimenpide(const clsMuuttuneetAttribuutit& muuttuneet) try {
+  ++vaihe_;
   Muunnelma(*this, muuttuneet).Jata();
 } catch (...) {
   NostaVirhe("clsRakennus:LiitaSaastoToimenpide Method");

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measures/Muunnelma.h"
 
+#include <thread>
+
 #include "building/Tasehaarukka.h"
 #include "kernel/Virhe.h"
 #include "measures/Muunnelmaketju.h"
@@ -248,7 +250,34 @@ TEST_F(MuunnelmaTesti, TheBaseIsTakenAnewAfterACommit) {
   const auto kopio = rakennus->Kopioi();
   clsMuuttuneetAttribuutit lista;
   Lisaa(lista, tila, "Sisalampotila", Laji::Kaksinkertainen, 19);
-  EXPECT_EQ(Muunnelmalaskin(*kopio).Laske(lista), laskin.Laske(lista)) << "any building can be varied";
+  const Hyodykkeet muunneltuna = laskin.Laske(lista);
+  EXPECT_EQ(Muunnelmalaskin(*kopio).Laske(lista), muunneltuna) << "any building can be varied";
+  rakennus->LiitaSaastoToimenpide(lista);
+  EXPECT_EQ(laskin.Perusta(), muunneltuna);
+}
+
+TEST_F(MuunnelmaTesti, CopiesAreVariedSideBySide) {
+  constexpr int kSaikeita = 3, kKierroksia = 20;
+  std::vector<clsMuuttuneetAttribuutit> listat(kKierroksia);
+  Muunnelmalaskin laskin(*rakennus);
+  std::vector<Hyodykkeet> oikeat;
+  for (int i = 0; i < kKierroksia; ++i) {
+    Lisaa(listat[i], rakennus->Tilat.Item(1 + i % 3), "Sisalampotila", Laji::Kaksinkertainen, 15 + i * 0.5);
+    Lisaa(listat[i], rakennus->SahkonKulutusryhmat.Item(1), "KulutusryhmienLukumaara", Laji::Kaksinkertainen, i);
+    oikeat.push_back(laskin.Laske(listat[i]));
+  }
+  std::vector<std::unique_ptr<clsRakennus>> kopiot;
+  for (int i = 0; i < kSaikeita; ++i) kopiot.push_back(rakennus->Kopioi());
+  std::vector<std::vector<Hyodykkeet>> tulokset(kSaikeita);
+  {
+    std::vector<std::jthread> saikeet;
+    for (int i = 0; i < kSaikeita; ++i)
+      saikeet.emplace_back([&, i] {
+        Muunnelmalaskin oma(*kopiot[i]);
+        for (const clsMuuttuneetAttribuutit& lista : listat) tulokset[i].push_back(oma.Laske(lista));
+      });
+  }
+  for (const auto& tulos : tulokset) EXPECT_EQ(tulos, oikeat);
 }
 
 }  // namespace
