@@ -159,7 +159,7 @@ void clsEnergiamuodonKasittely::NaytaValittu() {
     NaytaKentissa(*rivi);
   else
     lomake_.TyhjennaKentat();
-  lomake_.KentatKaytossa(rivi && Muokattavissa());
+  lomake_.LukitseKentat(!rivi || !Muokattavissa());
   lomake_.cmdOk.Kaytossa(rivi);
   PaivitaTallennus();
 }

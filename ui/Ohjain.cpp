@@ -91,6 +91,11 @@ void Ohjain::Kaytossa(bool kaytossa) {
   Paivita(Piirre::Kaytossa);
 }
 
+void Ohjain::Lukittu(bool lukittu) {
+  kuvaus_.lukittu = lukittu;
+  Paivita(Piirre::Lukittu);
+}
+
 void Ohjain::Nakyva(bool nakyva) {
   kuvaus_.nakyva = nakyva;
   Paivita(Piirre::Nakyva);

@@ -36,6 +36,7 @@ enum class Piirre {
   Teksti,
   Vihje,
   Kaytossa,
+  Lukittu,
   Nakyva,
   Valittu,
   Rivit,
@@ -120,7 +121,9 @@ class Ohjain {
   const std::string& Sailio() const { return kuvaus_.sailio; }
   const std::string& Kumppani() const { return kuvaus_.kumppani; }
   const std::string& Nimio() const { return kuvaus_.nimio; }
+  /// The person can read and copy the field but not write in it.
   bool Lukittu() const { return kuvaus_.lukittu; }
+  void Lukittu(bool lukittu);
   const Lomakeikkuna& Ikkuna() const { return ikkuna_; }
 
   /// Text of a field, caption of any other control.

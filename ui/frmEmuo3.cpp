@@ -27,6 +27,6 @@ void frmEmuo3::TyhjennaKentat() const {
   }
 }
 
-void frmEmuo3::KentatKaytossa(bool kaytossa) const {
-  for (const TextBox& kentta : kentat_) kentta.Kaytossa(kaytossa);
+void frmEmuo3::LukitseKentat(bool lukitaan) const {
+  for (const TextBox& kentta : kentat_) kentta.Kohde().Lukittu(lukitaan);
 }

@@ -17,8 +17,8 @@ class frmEmuo3 : public Lomake {
   std::function<void()> PeruutaKlikattu;
 
   void TyhjennaKentat() const;
-  /// Whether the person may write in the fields of the row.
-  void KentatKaytossa(bool kaytossa) const;
+  /// Whether the fields of the row are only looked at.
+  void LukitseKentat(bool lukitaan) const;
 
   ComboBox cmbKanta{*this, "cmbKanta"};    // rows in the order of Energiamuotokanta::Laji
   ComboBox cmbJoukko{*this, "cmbJoukko"};  // heat, electricity

@@ -19,5 +19,5 @@ void frmEnergiamuoto::NaytaEnergiatiedot(bool nakyvat) const {
 }
 
 void frmEnergiamuoto::VaikutuksetLasketaan(bool lasketaan) const {
-  for (Ohjain* kentta : vaikutukset_) kentta->Kaytossa(!lasketaan);
+  for (Ohjain* kentta : vaikutukset_) kentta->Lukittu(lasketaan);
 }

@@ -109,7 +109,7 @@ class QtTextBox : public QtOhjain {
   QtTextBox(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QLineEdit& kentta)
       : QtOhjain(ikkuna, std::move(kuvaus), &kentta), kentta_(kentta) {
     Ulkoasu();
-    if (Lukittu()) kentta.setFocusPolicy(Qt::ClickFocus);  // copied from by the mouse; no stop of the Tab key
+    NaytaLukitus();
     connect(&kentta, &QLineEdit::textEdited, this,
             [this](const QString& teksti) { KayttajaKirjoittaa(teksti.toStdString()); });
     kentta.installEventFilter(this);
@@ -127,6 +127,7 @@ class QtTextBox : public QtOhjain {
   void NaytaPiirre(Piirre piirre) override {
     if (piirre == Piirre::Tekstivalinta) kentta_.selectAll();
     if (piirre == Piirre::Korostus) Varita();
+    if (piirre == Piirre::Lukittu) NaytaLukitus();
     if (piirre != Piirre::Teksti) return;
     kentta_.setText(Q(Teksti()));
     kentta_.setCursorPosition(0);
@@ -153,6 +154,13 @@ class QtTextBox : public QtOhjain {
       RajaaLeveys(kLuvunLeveys, Qt::AlignRight);
     else if (tyyppi == QLatin1String("k"))
       RajaaLeveys(kAjanLeveys, Qt::AlignHCenter);
+  }
+
+  /// A locked field is copied from by the mouse; it is no stop of the Tab key.
+  void NaytaLukitus() {
+    kentta_.setReadOnly(Lukittu());
+    kentta_.setFocusPolicy(Lukittu() ? Qt::ClickFocus : Qt::StrongFocus);
+    if (!Lukittu()) kentta_.setPalette(QPalette());
     Varita();
   }
 
