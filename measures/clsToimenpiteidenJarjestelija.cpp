@@ -118,29 +118,32 @@ class clsToimenpiteidenJarjestelija::Laskenta {
 };
 
 void clsToimenpiteidenJarjestelija::PaivitaValitutToimenpiteet() try {
-  const Odotus odotus;
   Vanhenna();  // what an error leaves uncomputed
-  clsSaastotoimenpiteet& toimenpiteet = koti_.Rakennus().Saastotoimenpiteet;
-  Muunnelmalaskin laskin(koti_.Rakennus());
-  const Hyodykkeet perusta = toimenpiteet.PaivitaEnnenTiedotToimenpiteisiin(laskin);
-  const auto ostot = Jos([&] { return laskin.PerustanOstot(perusta); });
   std::string puuttuvat;
-  {
-    Laskenta laskenta(laskin, toimenpiteet, perusta);
-    for (Rivi& rivi : ValitutToimenpiteet)
-      if (rivi.Tyyppi == Rivi::Toimenpide)
-        laskenta.Laske(rivi);
-      else if (rivi.Tyyppi == Rivi::Tariffi)
-        rivi.TiedotUpToDate = true;
-    const auto jalkeen = Jos([&] { return laskenta.LaskeOstot(); });
-    paketti_.arvo = {perusta, laskenta.Tila(), ostot && jalkeen ? std::optional(*ostot - *jalkeen) : std::nullopt};
-    puuttuvat = laskenta.Puuttuvat();
-  }
+  if (koti_.Rakennus().Saastotoimenpiteet.Count() > 0 || ValitutToimenpiteet.Count() > 1) puuttuvat = LaskeRivit();
   PaivitaYhteensa();
   if (!puuttuvat.empty())
     Ilmoita(Teksti(tekstit::kRivinToimenpidePuuttuu) + puuttuvat, Teksti(tekstit::kHuomautus), Vakavuus::Varoitus);
 } catch (...) {
   NostaVirhe("clsToimenpiteidenJarjestelija:PaivitaValitutToimenpiteet Method");
+}
+
+/// All but the totals. Gives the names of the rows whose measure is gone.
+std::string clsToimenpiteidenJarjestelija::LaskeRivit() {
+  const Odotus odotus;
+  clsSaastotoimenpiteet& toimenpiteet = koti_.Rakennus().Saastotoimenpiteet;
+  Muunnelmalaskin laskin(koti_.Rakennus());
+  const Hyodykkeet perusta = toimenpiteet.PaivitaEnnenTiedotToimenpiteisiin(laskin);
+  const auto ostot = Jos([&] { return laskin.PerustanOstot(perusta); });
+  Laskenta laskenta(laskin, toimenpiteet, perusta);
+  for (Rivi& rivi : ValitutToimenpiteet)
+    if (rivi.Tyyppi == Rivi::Toimenpide)
+      laskenta.Laske(rivi);
+    else if (rivi.Tyyppi == Rivi::Tariffi)
+      rivi.TiedotUpToDate = true;
+  const auto jalkeen = Jos([&] { return laskenta.LaskeOstot(); });
+  paketti_.arvo = {perusta, laskenta.Tila(), ostot && jalkeen ? std::optional(*ostot - *jalkeen) : std::nullopt};
+  return laskenta.Puuttuvat();
 }
 
 void clsToimenpiteidenJarjestelija::PaivitaYhteensa() {

@@ -37,6 +37,7 @@ class clsToimenpiteidenJarjestelija : public Malli<clsToimenpiteidenJarjestelija
   /// Computes the rows from the top and the totals. Measures are brought to the present base first. A row whose measure
   /// is gone stays stale and is told of. The building is as it was, also after an error.
   void PaivitaValitutToimenpiteet();
+  /// Nothing before that, and where there is neither a measure nor a row.
   const std::optional<Paketti>& LaskettuPaketti() const noexcept { return paketti_.arvo; }
   /// Payback of the whole list in years, tariff rows included; nothing when nothing is saved.
   std::optional<double> PaketinTakaisinmaksuaika(const Alvprosentit& alv) const;
@@ -62,6 +63,7 @@ class clsToimenpiteidenJarjestelija : public Malli<clsToimenpiteidenJarjestelija
  private:
   class Laskenta;
   int Paikka(const Tunniste& rivi) const;
+  std::string LaskeRivit();
   void PaivitaYhteensa();
   void Muuttui() noexcept { ValitutToimenpiteet.LaskelmatUpToDate = false; }
 
