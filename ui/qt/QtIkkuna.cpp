@@ -84,11 +84,13 @@ void QtIkkuna::Viimeistele(const QSet<QChar>& varatutKirjaimet) {
   NimeaKentat(*this);
 }
 
-/// Marks the button that Enter presses and takes the person to the first field to be filled. In the frame, since the
-/// toolkit would choose by itself.
+/// Marks the button that Enter presses and takes the person to the first field to be filled, in a window inside the
+/// main window to its list if it has one. In the frame, since the toolkit would choose by itself.
 void QtIkkuna::Aloita() {
   for (const char* nimi : {"cmdSulje", "cmdJatka", "cmdOk"})
     if (auto* nappi = juuri_->findChild<QPushButton*>(nimi)) nappi->setDefault(true);
+  if (alikehys_)
+    if (auto* luettelo = juuri_->findChild<QTreeView*>()) return luettelo->setFocus(Qt::TabFocusReason);
   for (const auto& ohjain : Ohjaimet())
     if (OnTaytettava(*ohjain)) return static_cast<QtOhjain&>(*ohjain).Widget()->setFocus(Qt::TabFocusReason);
 }
