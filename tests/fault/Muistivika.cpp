@@ -22,5 +22,13 @@ void* operator new(std::size_t koko) {
   if (void* muisti = std::malloc(koko)) return muisti;
   throw std::bad_alloc();
 }
+void* operator new(std::size_t koko, const std::nothrow_t&) noexcept {
+  try {
+    return operator new(koko);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
 void operator delete(void* muisti) noexcept { std::free(muisti); }
+void operator delete(void* muisti, const std::nothrow_t&) noexcept { std::free(muisti); }
 void operator delete(void* muisti, std::size_t) noexcept { std::free(muisti); }
