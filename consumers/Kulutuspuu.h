@@ -205,7 +205,8 @@ class Kulutuspuu : public RivillinenKokoelma<Ryhma, Rivi> {
     kohdat.reserve(static_cast<std::size_t>(Rivit().Count()));
     std::unordered_map<Tunniste, Kohta*> ylemmat;
     for (Rivi& rivi : Rivit()) {
-      Kohta& kohta = kohdat.emplace_back(&rivi, Laji(rivi));
+      kohdat.push_back({&rivi, Laji(rivi)});
+      Kohta& kohta = kohdat.back();
       if (OttaaRyhmia(kohta.laji) || kohta.laji == Rivilaji::Juuri) ylemmat.emplace(rivi.sKey, &kohta);
     }
     Kohta* juuri = ylemmat.at(JuurenAvain());

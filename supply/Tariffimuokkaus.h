@@ -40,7 +40,7 @@ struct Maksurivi {
 template <auto Jasen>
 struct Maksuarvo {
   using Olio = Maksurivi;
-  using Arvo = sidonta::Kohde<Jasen>::Arvo;
+  using Arvo = typename sidonta::Kohde<Jasen>::Arvo;
   static const Arvo& Hae(const Maksurivi& rivi) { return rivi.maksu.*Jasen; }
   static void Aseta(Maksurivi& rivi, Arvo arvo) { rivi.maksu.*Jasen = std::move(arvo); }
 };

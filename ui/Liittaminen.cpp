@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 #include "kernel/Kirjainkoko.h"
@@ -108,10 +107,15 @@ std::string Otsikot(std::span<const Liitossarake> sarakkeet) {
   return otsikot;
 }
 
+/// Those that are told one by one.
+std::span<const std::string> Kerrottavat(std::span<const std::string> tekstit) {
+  return tekstit.first(std::min(tekstit.size(), kKerrottavia));
+}
+
 /// The beginning of the message and the cells on lines of their own.
 std::string Lueteltuna(Tekstinumero alku, const std::vector<std::string>& solut) {
   std::string teksti = Teksti(alku);
-  for (const std::string& solu : solut | std::views::take(kKerrottavia)) teksti += "\n" + solu;
+  for (const std::string& solu : Kerrottavat(solut)) teksti += "\n" + solu;
   return solut.size() > kKerrottavia ? teksti + "\n" + TekstiLuvulla(tekstit::kJaMuuta, solut.size() - kKerrottavia)
                                      : teksti;
 }
@@ -123,7 +127,7 @@ class Luodut {
   Luodut(const Luodut&) = delete;
   Luodut& operator=(const Luodut&) = delete;
   ~Luodut() {
-    for (const Tunniste& avain : avaimet_ | std::views::reverse) toimet_.poista(avain);
+    for (auto avain = avaimet_.rbegin(); avain != avaimet_.rend(); ++avain) toimet_.poista(*avain);
   }
   Olio& Uusi() {
     Alkio& uusi = toimet_.luo();
@@ -146,8 +150,7 @@ int SananPaikka(std::span<const std::string> sanat, std::string_view sana) {
 
 Solutulos EiValinta(std::span<const std::string> sanat) {
   std::string luettelo;
-  for (const std::string& sana : sanat | std::views::take(kKerrottavia))
-    luettelo += (luettelo.empty() ? " " : ", ") + sana;
+  for (const std::string& sana : Kerrottavat(sanat)) luettelo += (luettelo.empty() ? " " : ", ") + sana;
   return {.hylkays = Teksti(tekstit::kLiitettavaEiValinta) + luettelo + (sanat.size() > kKerrottavia ? "…" : "")};
 }
 
