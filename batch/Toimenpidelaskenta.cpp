@@ -9,18 +9,13 @@
 #include "batch/Viestinkeruu.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "kernel/Luetteleminen.h"
 #include "kernel/Virhe.h"
 #include "measures/Muunnelma.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 
 namespace {
-
-std::string Luettelo(const std::vector<std::string>& nimet) {
-  std::string teksti;
-  for (const std::string& nimi : nimet) teksti += (teksti.empty() ? "" : ", ") + nimi;
-  return teksti;
-}
 
 clsSaastotoimenpide& EtsiToimenpide(const clsSaastotoimenpiteet& toimenpiteet, const std::string& haettu) {
   if (clsSaastotoimenpide* avaimella = toimenpiteet.Etsi(haettu)) return *avaimella;
@@ -33,9 +28,9 @@ clsSaastotoimenpide& EtsiToimenpide(const clsSaastotoimenpiteet& toimenpiteet, c
     avaimet.push_back(toimenpide.sKey.Teksti());
   }
   if (nimella.empty())
-    throw std::runtime_error("kohteessa ei ole toimenpidettä " + haettu + ". Toimenpiteet: " + Luettelo(nimet));
+    throw std::runtime_error("kohteessa ei ole toimenpidettä " + haettu + ". Toimenpiteet: " + Luettele(nimet));
   if (nimella.size() > 1)
-    throw std::runtime_error("nimi " + haettu + " on usealla toimenpiteellä. Anna avain: " + Luettelo(avaimet));
+    throw std::runtime_error("nimi " + haettu + " on usealla toimenpiteellä. Anna avain: " + Luettele(avaimet));
   return *nimella.front();
 }
 
@@ -47,7 +42,7 @@ void Toteuta(clsRakennus& rakennus, const clsSaastotoimenpide& toimenpide) {
   Muunnelma muunnelma(rakennus, toimenpide.MuuttuneetAttribuutit);
   std::vector<std::string> ohitetut;
   for (const Muunnelma::Ohitettu& ohitettu : muunnelma.Ohitetut()) ohitetut.push_back(ohitettu.nimi);
-  if (!ohitetut.empty()) throw std::runtime_error("kaikkia muutoksia ei voitu tehdä: " + Luettelo(ohitetut));
+  if (!ohitetut.empty()) throw std::runtime_error("kaikkia muutoksia ei voitu tehdä: " + Luettele(ohitetut));
   muunnelma.Jata();
 }
 
@@ -71,5 +66,5 @@ void VieToimenpide(const std::string& tiedosto, const std::string& toimenpide, c
   const clsSaastotoimenpide& toteutettava = EtsiToimenpide(rakennus.Saastotoimenpiteet, toimenpide);
   Toteuta(rakennus, toteutettava);
   rakennus.Muuttui(toteutettava.Nimi);
-  if (!rakennus.Tallenna(uusi)) throw std::runtime_error(Luettelo(Viestirivit(viestit)));
+  if (!rakennus.Tallenna(uusi)) throw std::runtime_error(Luettele(Viestirivit(viestit)));
 }

@@ -8,6 +8,7 @@
 #include <map>
 #include <variant>
 
+#include "kernel/Luetteleminen.h"
 #include "kernel/Virhe.h"
 #include "library/Kirjastoluettelo.h"
 #include "library/Kirjastosanoma.h"
@@ -77,7 +78,7 @@ Sarakkeet LisaaJasenet(const std::vector<std::string>& nimet, const Olio& olio, 
 void KorvaaRivi(Tietokanta& kanta, const std::string& taulu, const Sarakkeet& sarakkeet) {
   std::string nimet, kysymykset;
   for (const auto& [nimi, arvo] : sarakkeet) {
-    nimet += (nimet.empty() ? "" : ", ") + Lainaa(nimi);
+    LisaaLuetteloon(nimet, Lainaa(nimi));
     kysymykset += kysymykset.empty() ? "?" : ", ?";
   }
   Kysely kysely(kanta, "INSERT OR REPLACE INTO " + taulu + " (" + nimet + ") VALUES (" + kysymykset + ")");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Picking a tariff from the catalogue.
+#include "kernel/Luetteleminen.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
@@ -21,22 +22,21 @@ std::string Rahana(double euroa, const char* yksikko) {
   return Muotoile(Naytettava(euroa), kHinta) + " " + Asetukset().strDefaultCurrencyUnit + yksikko;
 }
 
-void LisaaOsa(std::string& teksti, const std::string& osa) { teksti += (teksti.empty() ? "" : ", ") + osa; }
-
 void LisaaPeruste(std::string& teksti, Tekstinumero nimi, double peruste, const char* yksikko) {
-  if (peruste != 0) LisaaOsa(teksti, Teksti(nimi) + " " + Muotoile(peruste, kLuku) + " " + yksikko);
+  if (peruste != 0) LisaaLuetteloon(teksti, Teksti(nimi) + " " + Muotoile(peruste, kLuku) + " " + yksikko);
 }
 
 /// Prices of the row one by one, and what is assumed of it.
 std::string Erittely(const Tariffirivi& rivi) {
   std::string teksti;
   for (const Tariffirivi::Maksu& maksu : rivi.Maksut)
-    LisaaOsa(teksti, maksu.Nimi + " " + Rahana(maksu.Hinta, "/MWh") +
-                         (maksu.Kulutusosuus == kProsentti ? "" : " (" + Muotoile(maksu.Kulutusosuus, kLuku) + " %)"));
+    LisaaLuetteloon(teksti,
+                    maksu.Nimi + " " + Rahana(maksu.Hinta, "/MWh") +
+                        (maksu.Kulutusosuus == kProsentti ? "" : " (" + Muotoile(maksu.Kulutusosuus, kLuku) + " %)"));
   LisaaPeruste(teksti, tekstit::kOletettuTeho, rivi.TehomaksunMaaraytymisperuste, "kW");
   LisaaPeruste(teksti, tekstit::kOletettuLoisteho, rivi.LoistehomaksunMaaraytymisperuste, "kVAr");
   if (rivi.Energiavero != 0)
-    LisaaOsa(teksti, Teksti(tekstit::kRivinEnergiavero) + " " + Rahana(rivi.Energiavero, "/MWh"));
+    LisaaLuetteloon(teksti, Teksti(tekstit::kRivinEnergiavero) + " " + Rahana(rivi.Energiavero, "/MWh"));
   if (rivi.Veroluokka != 0) teksti += ". " + Teksti(tekstit::kSahkoveronLuokka) + " " + std::to_string(rivi.Veroluokka);
   return teksti;
 }

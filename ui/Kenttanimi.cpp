@@ -2,6 +2,7 @@
 #include "ui/Kenttanimi.h"
 
 #include "kernel/Kirjainkoko.h"
+#include "kernel/Luetteleminen.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ std::string Otsikot(const Lomakeikkuna& ikkuna, std::string_view nimet) {
   std::string otsikot;
   while (!nimet.empty()) {
     const auto pilkku = nimet.find(',');
-    otsikot += (otsikot.empty() ? "" : ", ") + Otsikko(ikkuna.Etsi(nimet.substr(0, pilkku)));
+    LisaaLuetteloon(otsikot, Otsikko(ikkuna.Etsi(nimet.substr(0, pilkku))));
     nimet.remove_prefix(pilkku == std::string_view::npos ? nimet.size() : pilkku + 1);
   }
   return otsikot;

@@ -9,6 +9,7 @@
 
 #include "kernel/Kellonajat.h"
 #include "kernel/Kirjainkoko.h"
+#include "kernel/Luetteleminen.h"
 #include "kernel/Luvut.h"
 #include "kernel/Paivamaara.h"
 #include "tekstit/viestit.h"
@@ -74,7 +75,7 @@ std::string NimiJaRajat(const Ohjain& kentta, const Tarkistus& t) {
   for (const std::string& osa :
        {KentanNimi(kentta.Ikkuna(), kentta), RajaTekstina(tekstit::kVahintaan, t.alaraja, kentta),
         RajaTekstina(tekstit::kEnintaan, t.ylaraja, kentta)})
-    if (!osa.empty()) teksti += (teksti.empty() ? "" : ", ") + osa;
+    if (!osa.empty()) LisaaLuetteloon(teksti, osa);
   return teksti + ".";
 }
 

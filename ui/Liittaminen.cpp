@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "kernel/Kirjainkoko.h"
+#include "kernel/Luetteleminen.h"
 #include "kernel/Luvut.h"
 #include "tekstit/lomakkeet_tilat.h"
 #include "tekstit/viestit.h"
@@ -34,7 +35,7 @@ std::string Rajateksti(const Suure& suure) {
   std::string teksti;
   const auto lisaa = [&](Tekstinumero sana, double raja) {
     if (std::abs(raja) == Suure::kRajaton) return;
-    teksti += (teksti.empty() ? "" : ", ") + Teksti(sana) + " " + Muotoile(raja, kRajakuvio);
+    LisaaLuetteloon(teksti, Teksti(sana) + " " + Muotoile(raja, kRajakuvio));
     if (!suure.yksikko.empty()) teksti += " " + std::string(suure.yksikko);
   };
   lisaa(tekstit::kVahintaan, suure.ala);
@@ -103,7 +104,7 @@ class Liitos {
 
 std::string Otsikot(std::span<const Liitossarake> sarakkeet) {
   std::string otsikot;
-  for (const Liitossarake& sarake : sarakkeet) otsikot += (otsikot.empty() ? "" : ", ") + Teksti(sarake.otsikko);
+  for (const Liitossarake& sarake : sarakkeet) LisaaLuetteloon(otsikot, Teksti(sarake.otsikko));
   return otsikot;
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "kernel/Luetteleminen.h"
 #include "tekstit/viestit.h"
 #include "ui/Tekstivarasto.h"
 
@@ -12,8 +13,7 @@ constexpr std::size_t kNimia = 5;  // told by name
 
 std::string Luettelo(std::span<const std::string> nimet) {
   std::string luettelo;
-  for (const std::string& nimi : nimet.first(std::min(nimet.size(), kNimia)))
-    luettelo += (luettelo.empty() ? "" : ", ") + nimi;
+  for (const std::string& nimi : nimet.first(std::min(nimet.size(), kNimia))) LisaaLuetteloon(luettelo, nimi);
   return nimet.size() > kNimia ? luettelo + " " + TekstiLuvulla(tekstit::kJaMuuta, nimet.size() - kNimia) : luettelo;
 }
 
