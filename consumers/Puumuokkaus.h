@@ -20,11 +20,13 @@
 #include "tekstit/lomakkeet_kulutuspuut.h"
 #include "tekstit/viestit.h"
 #include "tekstit/virheet.h"
+#include "ui/Hiljaa.h"
 #include "ui/Liittaminen.h"
 #include "ui/Odotus.h"
 #include "ui/Puulomake.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
+#include "ui/Virheilmoitus.h"
 #include "ui/frmJakaumaGraafi.h"
 
 /// What may be done where a row of a kind is chosen. A title can be added anywhere.
@@ -132,8 +134,6 @@ class Puumuokkaus {
   }
 
  private:
-  static constexpr const char* kEiLukua = "---";
-
   /// While it lives, what changes is of this list's making.
   class OmaMuutos {
    public:
@@ -196,7 +196,7 @@ class Puumuokkaus {
       toimet_.laske();
       laskettu_ = true;
     } catch (const Virhe& virhe) {
-      Ilmoita(virhe.Kuvaus() + "\n" + virhe.Lahde(), Teksti(tekstit::kVirhe), Vakavuus::Virhe);
+      KerroVirhe(virhe);
       laskettu_ = false;
     }
   }
@@ -219,14 +219,17 @@ class Puumuokkaus {
       toimet_.luvut(rivi, nakyva);
       if (laskettu_) continue;
       nakyva.luvut.clear();
-      std::fill(nakyva.solut.begin() + 1, nakyva.solut.end(), kEiLukua);
+      std::fill(nakyva.solut.begin() + 1, nakyva.solut.end(), Puulomake::kEiLukua);
     }
     return sisalto;
   }
 
   void MuutosTuli() {
     if (!lomake_.Auki()) return;
-    Laske();
+    {
+      const Hiljaisuus hiljaisuus;  // what can't be calculated is told at opening
+      Laske();
+    }
     if (omia_ == 0) varaus_->MuidenMuutos();
     OtaNayttotila();
     Nayta();

@@ -9,6 +9,7 @@
 #include "building/Muokkausistunto.h"
 #include "building/Yhteiset.h"
 #include "building/clsRakennus.h"
+#include "kernel/Luetteleminen.h"
 #include "kernel/Luvut.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/Tariffitapa.h"
@@ -210,7 +211,12 @@ class Tariffimuokkaus {
   void LisaaLuettelosta() {
     if (!OtaKentat()) return;
     Tariffi& uusi = Uusi();
-    if (Poimi(uusi)) return lomake_.luettelo.Valitse(Lisattiin(uusi));
+    try {
+      if (Poimi(uusi)) return lomake_.luettelo.Valitse(Lisattiin(uusi));
+    } catch (...) {
+      tariffit_.Remove(uusi.sKey);
+      throw;
+    }
     tariffit_.Remove(uusi.sKey);
   }
   Tunniste Kopioi(const Tariffi& lahde) {
@@ -228,11 +234,6 @@ class Tariffimuokkaus {
     if (kayttajat.empty()) return {};
     return Viestiteksti(virheet::kTariffiKaytossa) + " " + Teksti(tekstit::kTariffiaKayttaa) + " " +
            Luettele(kayttajat) + ".";
-  }
-  static std::string Luettele(const std::vector<std::string>& nimet) {
-    std::string teksti;
-    for (const std::string& nimi : nimet) teksti += (teksti.empty() ? "" : ", ") + nimi;
-    return teksti;
   }
 
   Tariffit& tariffit_;

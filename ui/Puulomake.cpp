@@ -3,12 +3,6 @@
 
 #include <utility>
 
-namespace {
-
-constexpr const char* kEiLukua = "---";
-
-}  // namespace
-
 Puulomake::Puulomake(std::string nimi) : Muokkauslomake(std::move(nimi)) {
   cmdLisaaLuettelosta.Nostaa(LuettelostaKlikattu);
   cmdLisaaUusiNimike.Nostaa(NimikeKlikattu);

@@ -8,6 +8,8 @@
 /// A list of consumer groups as a tree under titles, and above it the measured consumption beside the computed one.
 class Puulomake : public Muokkauslomake {
  public:
+  static constexpr const char* kEiLukua = "---";  ///< in place of a figure that can't be calculated
+
   std::function<void()> LuettelostaKlikattu;
   std::function<void()> NimikeKlikattu;
 
