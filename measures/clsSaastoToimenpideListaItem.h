@@ -6,11 +6,13 @@
 class clsSaastoToimenpideListaItem : public Malli<clsSaastoToimenpideListaItem, Alkio> {
  public:
   static const Luokka kLuokka;
+  enum Solmulaji : std::int32_t { Mallisolmu = 0, Toimenpidesolmu = 1 };
+
   bool OnSisaltoa() const noexcept override { return ItemTyyppi != 0; }
 
-  Tunniste Parent;                   ///< key of the parent node; empty for the root
-  std::string NimiTeksti;            ///< text
-  std::int32_t ItemTyyppi = 0;       ///< 0 a node of the model, 1 a measure
+  Tunniste Parent;         ///< key of the parent node; empty for the root
+  std::string NimiTeksti;  ///< text
+  std::int32_t ItemTyyppi = Mallisolmu;
   bool Visible = true;               ///< shown in the tree
   bool ValittuTaulukko2een = false;  ///< the measure is ticked for the arranger
 };

@@ -25,7 +25,8 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsSaastotoimenpiteet::TaulukonNakymaTyyppiID>("TaulukonNakymaTyyppiID"),
 };
 
-enum Solmulaji : std::int32_t { kMallinSolmu = 0, kToimenpidesolmu = 1 };  // ItemTyyppi
+constexpr auto kMallinSolmu = clsSaastoToimenpideListaItem::Mallisolmu;
+constexpr auto kToimenpidesolmu = clsSaastoToimenpideListaItem::Toimenpidesolmu;
 
 const Tunniste kSahko = "sKeySahko", kVesi = "sKeyVesi", kProsessivesi = "sKeyProsessiVesi";
 const Tunniste kTilat = "sKeyJohtuminen", kKoneet = "sKeyIlmanvaihtokoneet";

@@ -154,12 +154,18 @@ bool Luettelo::Muokattava(int rivi, int sarake) const {
          std::ranges::find(Piirteet(rivi).muokattavat, sarake) != Piirteet(rivi).muokattavat.end();
 }
 
-std::string Luettelo::Tekstina(std::vector<std::string> otsikot, const std::vector<int>& rivit) const {
+std::string Luettelo::Tekstina(std::vector<std::string> otsikot, const std::vector<int>& sarakkeet,
+                               const std::vector<int>& rivit) const {
+  const auto poimitut = [&](const std::vector<std::string>& solut) {
+    std::vector<std::string> tulos;
+    for (const int sarake : sarakkeet) tulos.emplace_back(Solu(solut, Koko(sarake)));
+    return tulos;
+  };
   std::vector<char> mukana(rivit_.size(), rivit.empty());
   for (const int rivi : rivit) mukana.at(Koko(rivi)) = 1;
   Taulukko tulos{std::move(otsikot)};
   for (const int rivi : Jarjestys())
-    if (mukana[Koko(rivi)]) tulos.push_back(solut_[Koko(rivi)]);
-  if (rivit.empty() && !summat_.empty()) tulos.push_back(summat_);
+    if (mukana[Koko(rivi)]) tulos.push_back(poimitut(solut_[Koko(rivi)]));
+  if (rivit.empty() && !summat_.empty()) tulos.push_back(poimitut(summat_));
   return TaulukkoTekstina(tulos);
 }

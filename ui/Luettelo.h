@@ -111,7 +111,9 @@ class Luettelo {
   bool Muokattava(int rivi, int sarake) const;
 
   /// Headings and these rows in the order of the screen, for the clipboard; all rows and the sums when none is told.
-  std::string Tekstina(std::vector<std::string> otsikot, const std::vector<int>& rivit) const;
+  /// `sarakkeet`: those that are shown, each with its heading.
+  std::string Tekstina(std::vector<std::string> otsikot, const std::vector<int>& sarakkeet,
+                       const std::vector<int>& rivit) const;
 
  private:
   struct Rivitieto {

@@ -168,8 +168,13 @@ void Ohjain::Summarivi(std::vector<std::string> solut) {
 
 std::string Ohjain::RivitTekstina(const std::vector<int>& rivit) const {
   std::vector<std::string> otsikot;
-  for (const Osa& sarake : Osat()) otsikot.push_back(sarake.otsikko);
-  return lista_.Tekstina(std::move(otsikot), rivit);
+  std::vector<int> sarakkeet;
+  for (std::size_t s = 0; s < Osat().size(); ++s) {
+    if (!Osat()[s].Nakyva()) continue;
+    otsikot.push_back(Osat()[s].otsikko);
+    sarakkeet.push_back(static_cast<int>(s));
+  }
+  return lista_.Tekstina(std::move(otsikot), sarakkeet, rivit);
 }
 
 void Ohjain::Indeksi(int indeksi) {

@@ -83,6 +83,10 @@ struct Osa {
   std::string vihjetag{};  ///< design-time text: id of the tool tip
   bool kaytossa = true;    ///< the person can open the page
   Tasaus tasaus = Tasaus::Vasen;
+  /// Of a column: its share of the list's width, 0 hidden; without one, as wide as its contents need.
+  std::optional<double> leveys{};
+
+  bool Nakyva() const { return leveys != 0.0; }
 };
 
 /// A column as a form file tells it in the list's property Sarakkeet: "id" or "id,oikea" or "id,keski".
@@ -171,10 +175,11 @@ class Ohjain {
   const std::vector<std::string>& Summarivi() const { return lista_.Summat(); }
   void Summarivi(std::vector<std::string> solut);
   /// Headings and these rows of the list in the order of the screen, for the clipboard; all rows and the sums when none
-  /// is told.
+  /// is told. Hidden columns are left out.
   std::string RivitTekstina(const std::vector<int>& rivit) const;
 
   const std::vector<Osa>& Osat() const { return kuvaus_.osat; }
+  /// A list can be given other columns, also another number of them; it is filled afterwards.
   void Osat(std::vector<Osa> osat);
 
   const Kaaviotiedot& Kaavio() const { return kaavio_; }

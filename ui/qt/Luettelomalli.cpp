@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QMimeData>
 #include <QStyle>
+#include <utility>
 
 namespace {
 
@@ -28,7 +29,8 @@ const Ulkoasu& MerkityksenUlkoasu(Merkitys merkitys) {
 
 }  // namespace
 
-Luettelomalli::Luettelomalli(Ohjain& ohjain, QTreeView& nakyma) : ohjain_(ohjain), nakyma_(nakyma) {}
+Luettelomalli::Luettelomalli(Ohjain& ohjain, QTreeView& nakyma)
+    : ohjain_(ohjain), nakyma_(nakyma), sarakkeita_(columnCount()) {}
 
 QModelIndex Luettelomalli::Paikka(int rivi, int sarake) const {
   if (rivi < 0 || rivi > Lista().Maara()) return {};
@@ -68,7 +70,11 @@ void Luettelomalli::SummatMuuttuivat() {
     endRemoveRows();
 }
 
-void Luettelomalli::OtsikotMuuttuivat() { emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
+void Luettelomalli::OtsikotMuuttuivat() {
+  const int ennen = std::exchange(sarakkeita_, columnCount());
+  if (ennen != sarakkeita_) return RivitVaihtuivat();
+  if (ennen > 0) emit headerDataChanged(Qt::Horizontal, 0, ennen - 1);
+}
 
 QModelIndex Luettelomalli::index(int rivi, int sarake, const QModelIndex& ylempi) const {
   if (OnSumma(ylempi) || rivi < 0 || sarake < 0 || rivi >= rowCount(ylempi)) return {};

@@ -55,5 +55,6 @@ class Luettelomalli : public QAbstractItemModel {
 
   Ohjain& ohjain_;
   QTreeView& nakyma_;
-  bool summa_ = false;  // what the view has been told of
+  int sarakkeita_;  // what the view has been told of, as below
+  bool summa_ = false;
 };

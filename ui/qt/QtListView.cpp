@@ -42,7 +42,7 @@ class Ilmavasti : public QProxyStyle {
 }  // namespace
 
 QtListView::QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeView& lista)
-    : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista), malli_(*this, lista), leveydet_(lista, Lista()) {
+    : QtOhjain(ikkuna, std::move(kuvaus), &lista), lista_(lista), malli_(*this, lista), leveydet_(lista, *this) {
   Asetukset();
   Kuuntele();
 }
@@ -147,7 +147,7 @@ void QtListView::NaytaPiirre(Piirre piirre) {
   switch (piirre) {
     case Piirre::Osat:
       malli_.OtsikotMuuttuivat();
-      return leveydet_.Jaa();
+      return leveydet_.Sarakkeet();
     case Piirre::Rivit:
       return NaytaRivit();
     case Piirre::Summat:

@@ -5,9 +5,10 @@
 #include <QHeaderView>
 #include <QStyleOptionHeader>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
-#include "ui/Luettelo.h"
+#include "ui/Ohjain.h"
 
 namespace {
 
@@ -31,7 +32,8 @@ std::vector<int> PisimmatSolut(const Taulukko& solut, std::size_t sarake) {
 
 }  // namespace
 
-Sarakeleveydet::Sarakeleveydet(QTreeView& nakyma, const Luettelo& lista) : nakyma_(nakyma), lista_(lista) {
+Sarakeleveydet::Sarakeleveydet(QTreeView& nakyma, const Ohjain& ohjain)
+    : nakyma_(nakyma), ohjain_(ohjain), lista_(ohjain.Lista()) {
   nakyma.header()->setStretchLastSection(false);
   connect(nakyma.header(), &QHeaderView::sectionResized, this, [this] { omat_ = omat_ || !jaetaan_; });
   nakyma.viewport()->installEventFilter(this);
@@ -124,10 +126,40 @@ int Sarakeleveydet::LevennaKatkottuja(int vara) {
   return alussa - vara;
 }
 
+void Sarakeleveydet::Sarakkeet() {
+  jaetaan_ = true;
+  for (int s = 0; s < nakyma_.header()->count(); ++s) {
+    const bool piilossa = !ohjain_.Osat()[Koko(s)].Nakyva();
+    if (piilossa != nakyma_.isColumnHidden(s)) omat_ = false;
+    nakyma_.setColumnHidden(s, piilossa);
+  }
+  jaetaan_ = false;
+  Jaa();
+}
+
+/// Gives the columns the shares that they tell. False when none tells one.
+bool Sarakeleveydet::JaaOsuuksin() {
+  const std::vector<Osa>& osat = ohjain_.Osat();
+  if (std::ranges::none_of(osat, [](const Osa& osa) { return osa.leveys.has_value(); })) return false;
+  const int nimi = Nimisarake(), kapein = kKapeinNimi * nakyma_.fontMetrics().averageCharWidth();
+  for (int s = 0; s < nakyma_.header()->count(); ++s) {
+    if (!osat[Koko(s)].Nakyva()) continue;
+    const int osuus = static_cast<int>(std::lround(osat[Koko(s)].leveys.value_or(0) * nakyma_.viewport()->width()));
+    nakyma_.setColumnWidth(s, std::max(osuus, s == nimi ? std::min(Tarve(s), kapein) : Tarve(s)));
+  }
+  return true;
+}
+
 void Sarakeleveydet::Jaa() {
   const int maara = nakyma_.header()->count();
   if (omat_ || jaetaan_ || maara == 0) return;
   jaetaan_ = true;
+  if (!JaaOsuuksin()) JaaTarpeen();
+  jaetaan_ = false;
+}
+
+void Sarakeleveydet::JaaTarpeen() {
+  const int maara = nakyma_.header()->count();
   const int nimi = Nimisarake();
   int muut = 0;
   for (int s = 0; s < maara; ++s) {
@@ -139,5 +171,4 @@ void Sarakeleveydet::Jaa() {
   muut += LevennaKatkottuja(nakyma_.viewport()->width() - muut - Tarve(nimi));
   const int kapein = std::min(Tarve(nimi), kKapeinNimi * nakyma_.fontMetrics().averageCharWidth());
   nakyma_.setColumnWidth(nimi, std::max(nakyma_.viewport()->width() - muut, kapein));
-  jaetaan_ = false;
 }
