@@ -6,7 +6,11 @@
 
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "consumers/clsSahkonKulutusryhmat.h"
+#include "kernel/Paivamaara.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
 #include "supply/Energiamuotokanta.h"
+#include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
 #include "supply/clsVesitariffit.h"
 #include "ui/Tekstivarasto.h"
@@ -86,7 +90,47 @@ void LisaaEnergia(const Rivi& rivi, const std::vector<Rivi>& tariffit, clsRakenn
                                                                           : muoto.SiirtoTariffiSkey));
 }
 
+/// The building's tariff of the row's name, made when it has none.
+Tunniste HaeTariffi(clsRakennus& rakennus, clsTariffi::Laji laji, const Rivi& hinnat) {
+  for (const clsTariffi& tariffi : rakennus.Tariffit)
+    if (tariffi.Nimi == hinnat.at("Nimi")) return tariffi.sKey;
+  return LisaaTariffi(rakennus, laji, hinnat);
+}
+
+clsTariffiVertailuTapaus& LisaaTapaus(const Rivi& rivi, const std::vector<Rivi>& tariffit, clsRakennus& rakennus) {
+  clsSahkoTariffienVertailu& vertailu = rakennus.SahkoTariffienVertailu;
+  vertailu.TotEnergia = rakennus.SahkonKulutusryhmat.Vuosikulutus();
+  vertailu.TotHuippuTeho = Luku(rivi, "Teho");
+  vertailu.TotLoisteho = Luku(rivi, "Loisteho");
+  vertailu.BruttoAla = rakennus.Perustiedot.BruttoAla;
+  const clsTariffiVertailuTapaus pohja =
+      vertailu.Tapaus(HaeTariffi(rakennus, clsTariffi::SahkoMyyntiTariffi, EtsiTariffi(tariffit, rivi.at("Myynti"))),
+                      HaeTariffi(rakennus, clsTariffi::SahkoSiirtoTariffi, EtsiTariffi(tariffit, rivi.at("Siirto"))));
+  clsTariffiVertailuTapaus& tapaus =
+      vertailu.Tapaukset.Add(Tunniste::Uusi(clsTariffiVertailuTapaus::kLuokka.NimiSana()));
+  tapaus.MyyntiTariffiSkey = pohja.MyyntiTariffiSkey;
+  tapaus.SiirtoTariffiSkey = pohja.SiirtoTariffiSkey;
+  tapaus.TotEnergia = pohja.TotEnergia;
+  tapaus.TotHuippuTeho = pohja.TotHuippuTeho;
+  tapaus.TotLoisteho = pohja.TotLoisteho;
+  tapaus.Nimi = rivi.at("Nimi");
+  tapaus.Kuvaus = rivi.at("Kuvaus");
+  tapaus.Investointi = LukuTaiNolla(rivi, "Investointi");
+  tapaus.ToimenpiteenPaivays = TamaPaiva();
+  tapaus.ToimenpiteenTekijanNimi = "Malliauditointi";
+  return tapaus;
+}
+
 }  // namespace
+
+void AsetaTariffivertailu(const std::string& tunnus, const Hankintataulukot& taulukot, clsRakennus& rakennus) {
+  for (const Rivi& rivi : taulukot.vertailut) {
+    if (rivi.at("Tunnus") != tunnus) continue;
+    const clsTariffiVertailuTapaus& tapaus = LisaaTapaus(rivi, taulukot.tariffit, rakennus);
+    if (tapaus.Investointi > 0)
+      rakennus.ToimenpiteidenJarjestelija.LisaaTariffirivi(tapaus, rakennus.SahkoTariffienVertailu.Tapaukset.Item(1));
+  }
+}
 
 void AsetaHankinnat(const std::string& tunnus, const Hankintataulukot& taulukot, clsRakennus& rakennus) {
   for (const Rivi& rivi : taulukot.muodot) {

@@ -22,9 +22,9 @@ Tunniste Otsikko(const std::string& haara) {
 }
 
 template <class Luettelorivi>
-const Luettelorivi& Etsi(const std::vector<Luettelorivi>& luettelo, const Rivi& rivi) {
-  const auto kohta = std::ranges::find(luettelo, rivi.at("Rivi"), &Luettelorivi::Id);
-  if (kohta == luettelo.end()) throw std::runtime_error(rivi.at("Tunnus") + ": luettelossa ei ole: " + rivi.at("Rivi"));
+const Luettelorivi& Etsi(const std::vector<Luettelorivi>& luettelo, const std::string& id) {
+  const auto kohta = std::ranges::find(luettelo, id, &Luettelorivi::Id);
+  if (kohta == luettelo.end()) throw std::runtime_error("luettelossa ei ole: " + id);
   return *kohta;
 }
 
@@ -55,7 +55,7 @@ void LisaaRyhmat(const std::string& tunnus, const char* laji, const std::vector<
                  Ryhmat& ryhmat) {
   for (const Rivi& rivi : rivit) {
     if (rivi.at("Tunnus") != tunnus || rivi.at("Laji") != laji) continue;
-    const auto& luettelorivi = Etsi(luettelo, rivi);
+    const auto& luettelorivi = Etsi(luettelo, rivi.at("Rivi"));
     Tayta(rivi, luettelorivi, ryhmat.LisaaRyhma(Otsikko(luettelorivi.Haara), true));
   }
   ryhmat.PaivitaKulutusRyhmatJaLaitteet();
@@ -68,4 +68,11 @@ void AsetaKulutusryhmat(const std::string& tunnus, const std::vector<Rivi>& ryhm
   while (vesi.Count() > 0) vesi.PoistaRivi(vesi.Item(1).sKey);
   LisaaRyhmat(tunnus, "Sahko", ryhmat, LueSahkolaitteet(0), rakennus.SahkonKulutusryhmat);
   LisaaRyhmat(tunnus, "Vesi", ryhmat, LueVedenkaytot(0), vesi);
+}
+
+void TaytaLuettelosta(const std::string& luettelorivi, Olio& ryhma) {
+  if (auto* sahko = dynamic_cast<clsSahkonKulutusryhma*>(&ryhma))
+    TaytaRyhma(Etsi(LueSahkolaitteet(0), luettelorivi), *sahko);
+  else
+    TaytaRyhma(Etsi(LueVedenkaytot(0), luettelorivi), dynamic_cast<clsVedenKulutusryhma&>(ryhma));
 }

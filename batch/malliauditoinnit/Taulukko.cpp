@@ -14,12 +14,30 @@ std::vector<std::string> Kentat(const std::string& rivi, char erotin) {
   return kentat;
 }
 
+namespace {
+
+/// The cells of a line; one in quotes may hold commas.
+std::vector<std::string> Solut(const std::string& rivi) {
+  std::vector<std::string> solut(1);
+  bool lainauksessa = false;
+  for (const char merkki : rivi)
+    if (merkki == '"')
+      lainauksessa = !lainauksessa;
+    else if (merkki == ',' && !lainauksessa)
+      solut.emplace_back();
+    else
+      solut.back() += merkki;
+  return solut;
+}
+
+}  // namespace
+
 std::vector<Rivi> LueTaulukko(const std::string& polku) {
   const auto rivit = LueRivit(polku);
-  const auto otsikot = Kentat(rivit.at(0));
+  const auto otsikot = Solut(rivit.at(0));
   std::vector<Rivi> taulukko;
   for (std::size_t i = 1; i < rivit.size(); ++i) {
-    const auto kentat = Kentat(rivit[i]);
+    const auto kentat = Solut(rivit[i]);
     Rivi& rivi = taulukko.emplace_back();
     for (std::size_t k = 0; k < otsikot.size(); ++k) rivi[otsikot[k]] = kentat.at(k);
   }

@@ -8,9 +8,9 @@
 using Rivi = std::map<std::string, std::string>;
 
 /// The parts of a text between dividers.
-std::vector<std::string> Kentat(const std::string& rivi, char erotin = ',');
-/// A file of rows without quotes, the first one with the headings. Raises std::out_of_range for a row that is too
-/// short.
+std::vector<std::string> Kentat(const std::string& rivi, char erotin);
+/// A file of rows, the first one with the headings; a cell with commas stands in quotes. Raises std::out_of_range for a
+/// row that is too short.
 std::vector<Rivi> LueTaulukko(const std::string& polku);
 /// The cell as a number; raises std::runtime_error with the row's Tunnus and the column.
 double Luku(const Rivi& rivi, const std::string& sarake);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Makes the sample audits: project files of invented, typical Finnish buildings, by the program's own generator.
-// Arguments: the folder of the tables (malliauditoinnit*.csv: buildings, consumer groups, energy forms and tariffs) and
-// that of the project files.
+// Arguments: the folder of the tables (malliauditoinnit*.csv: buildings, consumer groups, energy forms, tariffs and
+// measures) and that of the project files.
 #include <filesystem>
 #include <iostream>
 
 #include "batch/malliauditoinnit/Hankinnat.h"
+#include "batch/malliauditoinnit/Kayntiajat.h"
 #include "batch/malliauditoinnit/Kulutusryhmat.h"
+#include "batch/malliauditoinnit/Toimenpiteet.h"
 #include "building/Yhteiset.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
@@ -14,6 +16,7 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Virhe.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "ui/KerataanViestit.h"
 #include "ui/Tekstivarasto.h"
@@ -74,30 +77,6 @@ std::string Valinta(const char* lomake, const char* valinta, std::int32_t rivi) 
   return Valintalista(lomake, valinta).at(static_cast<std::size_t>(rivi));
 }
 
-/// One running period: "5 06:00 16:00 100", times a week, start, end and flow in per cent.
-void TaytaJakso(const std::string& teksti, clsKayntiAika& jakso) {
-  const auto kentat = Kentat(teksti, ' ');
-  AsetaJasen(jakso, "KayntiJaksojenLkm", kentat.at(0));
-  AsetaJasen(jakso, "Alkaa", kentat.at(1));
-  AsetaJasen(jakso, "Paattyy", kentat.at(2));
-  AsetaJasen(jakso, "TuloIlmavirtaProsentti", kentat.at(3));
-}
-
-/// The schedule: periods divided by ";", given once for the whole year or four times, by season, divided by "|".
-void TaytaKayntiajat(const std::string& teksti, clsKayntiAjat& ajat) {
-  const auto vuosijaksot = Kentat(teksti, '|');
-  const bool vuosittain = vuosijaksot.size() == 1;
-  ajat.KayntiaikojenSyottotapaID = vuosittain ? 0 : 1;
-  ajat.KayntiAikojenSyottoTapa =
-      Valinta("frmIlmanvaihtokoneenKayntiajat", "cmbKayntiAikojenSyottoTapa", ajat.KayntiaikojenSyottotapaID);
-  for (std::size_t i = 0; i < vuosijaksot.size(); ++i) {
-    int rivi = 0;
-    for (const std::string& jakso : Kentat(vuosijaksot[i], ';'))
-      TaytaJakso(jakso, ajat.Item(clsKayntiAjat::JaksonAvain(
-                            ++rivi, vuosittain ? clsKayntiAika::KokoVuosi : static_cast<int>(i))));
-  }
-}
-
 void LisaaIVKone(const Rivi& rivi, const clsTila& tila, clsIVKoneet& koneet) {
   constexpr const char* kLomake = "frmIlmanvaihtokone";
   clsIVKone& kone = koneet.Add(Tunniste::Uusi(clsIVKone::kLuokka.NimiSana()));
@@ -139,11 +118,15 @@ void AsetaIlmanvaihto(const Rivi& rivi, clsRakennus& rakennus) {
 struct Taulukot {
   std::vector<Rivi> rakennukset, ryhmat;
   Hankintataulukot hankinnat;
+  Toimenpidetaulukot toimenpiteet;
 };
 
 Taulukot LueTaulukot(const std::string& kansio) {
   const auto lue = [&](const std::string& mika) { return LueTaulukko(kansio + "/malliauditoinnit" + mika + ".csv"); };
-  return {lue(""), lue("_ryhmat"), {lue("_hankinta"), lue("_tariffit")}};
+  return {lue(""),
+          lue("_ryhmat"),
+          {lue("_hankinta"), lue("_tariffit"), lue("_tariffivertailu")},
+          {lue("_toimenpiteet"), lue("_muutokset")}};
 }
 
 void TeeMalliauditointi(const Rivi& rivi, const Taulukot& taulukot, const std::filesystem::path& kansio) {
@@ -156,6 +139,9 @@ void TeeMalliauditointi(const Rivi& rivi, const Taulukot& taulukot, const std::f
   rakennus.VedenKulutusryhmat.LKVKiertoVirtaama = Luku(rivi, "LkvKiertovirtaama");
   AsetaKulutusryhmat(rivi.at("Tunnus"), taulukot.ryhmat, rakennus);
   AsetaHankinnat(rivi.at("Tunnus"), taulukot.hankinnat, rakennus);
+  AsetaToimenpiteet(rivi.at("Tunnus"), taulukot.toimenpiteet, rakennus);
+  AsetaTariffivertailu(rivi.at("Tunnus"), taulukot.hankinnat, rakennus);
+  rakennus.ToimenpiteidenJarjestelija.PaivitaValitutToimenpiteet();
   const auto tiedosto = kansio / (rivi.at("Tunnus") + " " + rivi.at("Nimi") + ".lvt");
   if (!rakennus.Tallenna(tiedosto.string())) throw std::runtime_error("tallennus epäonnistui: " + tiedosto.string());
 }

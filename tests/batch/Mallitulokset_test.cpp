@@ -6,6 +6,7 @@
 #include <set>
 
 #include "batch/Kohdelaskenta.h"
+#include "batch/Toimenpidelaskenta.h"
 #include "bench/vertailu/Mallirakennus.h"
 #include "bench/vertailu/Vertailulaskenta.h"
 #include "building/Hankintalaskelma.h"
@@ -16,6 +17,8 @@
 #include "kernel/Luvut.h"
 #include "kernel/Sha256.h"
 #include "kernel/Tulos.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
 #include "tests/batch/Malliauditoinnit.h"
 #include "tests/tuki/Lahdekoodi.h"
 
@@ -43,6 +46,22 @@ struct Talletetut {
   std::set<std::string> kohteet;
 };
 
+/// What each measure saves of cost, €/a without VAT, and what the package saves and costs.
+std::map<std::string, double> Toimenpideluvut(clsRakennus& rakennus) {
+  std::map<std::string, double> luvut;
+  for (clsSaastotoimenpide& toimenpide : rakennus.Saastotoimenpiteet)
+    luvut[toimenpide.Nimi] = toimenpide.KustannusSaastoYhteensa({});
+  if (luvut.empty()) return luvut;
+  rakennus.ToimenpiteidenJarjestelija.PaivitaValitutToimenpiteet();
+  const clsValittuToimenpide& paketti = rakennus.ToimenpiteidenJarjestelija.ValitutToimenpiteet.Item(1);
+  luvut["Paketin SaastoLampoEnergia"] = paketti.SaastoLampoEnergia;
+  luvut["Paketin SaastoSahkoEnergia"] = paketti.SaastoSahkoEnergia;
+  luvut["Paketin SaastoVedenKulutus"] = paketti.SaastoVedenKulutus;
+  luvut["Paketin Investointi"] = paketti.Investointi;
+  luvut["Paketin Kustannussaasto"] = paketti.Kustannussaasto().Yhteensa({});
+  return luvut;
+}
+
 using MallituloksetTesti = MalliauditointiTesti;
 
 TEST_F(MallituloksetTesti, AResultChangesOnlyForAReasonWrittenDown) {
@@ -61,6 +80,65 @@ TEST_F(MallituloksetTesti, AResultChangesOnlyForAReasonWrittenDown) {
       ASSERT_NE(talletettu, talletetut.arvot.end()) << avain;
       const double odotettu = LueLuku(talletettu->second).value_or(NAN), arvo = tulos.Arvo({*rakennus});
       EXPECT_NEAR(arvo, odotettu, 1e-9 * std::abs(odotettu)) << avain;
+    }
+    for (const auto& [nimi, arvo] : Toimenpideluvut(*rakennus)) {
+      const std::string avain = tiedosto.stem().string() + "," + nimi;
+      const auto talletettu = talletetut.arvot.find(avain);
+      ASSERT_NE(talletettu, talletetut.arvot.end()) << avain;
+      const double odotettu = LueLuku(talletettu->second).value_or(NAN);
+      EXPECT_NEAR(arvo, odotettu, 1e-6 + 1e-9 * std::abs(odotettu)) << avain;
+    }
+  }
+}
+
+TEST_F(MallituloksetTesti, MeasuresOfTheSamplesPayBackAndTheirPackageIsTheSumOfItsSteps) {
+  std::set<std::string> kohteita, ilman;
+  for (const fs::path& tiedosto : Tiedostot()) {
+    const auto rakennus = Avaa(tiedosto);
+    if (rakennus->Saastotoimenpiteet.Count() == 0) {
+      ilman.insert(tiedosto.stem().string());
+      continue;
+    }
+    EXPECT_TRUE(rakennus->Saastotoimenpiteet.Count() >= 5 && rakennus->Saastotoimenpiteet.Count() <= 8) << tiedosto;
+    for (clsSaastotoimenpide& toimenpide : rakennus->Saastotoimenpiteet) {
+      const double aika = toimenpide.Takaisinmaksuaika({});
+      EXPECT_TRUE(aika >= 1 && aika <= 60) << tiedosto << toimenpide.Nimi << ": " << aika;
+      EXPECT_GT(toimenpide.Kuvaus.size(), 60u) << toimenpide.Nimi;
+      kohteita.insert(toimenpide.MuuttuneetAttribuutit.TyypinNimi + (toimenpide.Kelluva() ? " oma" : ""));
+    }
+    clsToimenpiteidenJarjestelija& jarjestelija = rakennus->ToimenpiteidenJarjestelija;
+    jarjestelija.PaivitaValitutToimenpiteet();
+    const clsValittuToimenpide &yhteensa = jarjestelija.ValitutToimenpiteet.Item(1),
+                               &eka = jarjestelija.ValitutToimenpiteet.Item(2);
+    const Hyodykkeet yksin = rakennus->Saastotoimenpiteet.Item(eka.ToimenpidesKey).Saasto(),
+                     paketti = jarjestelija.LaskettuPaketti()->ennen - jarjestelija.LaskettuPaketti()->lopuksi;
+    const auto vertaa = [&](const clsValittuToimenpide& rivi, const Hyodykkeet& saasto) {
+      EXPECT_NEAR(rivi.SaastoLampoEnergia, saasto.lampo, 1e-9) << tiedosto << rivi.Nimi;
+      EXPECT_NEAR(rivi.SaastoSahkoEnergia, saasto.sahko, 1e-9) << tiedosto << rivi.Nimi;
+      EXPECT_NEAR(rivi.SaastoVedenKulutus, saasto.vesi, 1e-9) << tiedosto << rivi.Nimi;
+    };
+    vertaa(eka, yksin);
+    vertaa(yhteensa, paketti);
+  }
+  EXPECT_EQ(ilman, std::set<std::string>{"K05 Päiväkoti 2005"}) << "measures can be tried there";
+  EXPECT_EQ(kohteita, (std::set<std::string>{"clsEnergianHankinta", "clsIVKone", "clsSahkonKulutusryhma",
+                                             "clsSahkonKulutusryhma oma", "clsTila", "clsVedenKulutusryhma",
+                                             "clsVedenKulutusryhma oma"}));
+}
+
+TEST_F(MallituloksetTesti, AMeasureOfEachSampleCarriedOutGivesItsFigures) {
+  const Koehakemisto kansio;
+  for (const fs::path& tiedosto : Tiedostot()) {
+    const auto alku = Avaa(tiedosto);
+    for (clsSaastotoimenpide& toimenpide : alku->Saastotoimenpiteet) {
+      if (toimenpide.Kelluva()) continue;
+      const std::string uusi = (kansio / (toimenpide.sKey.Teksti() + ".lvt")).string();
+      VieToimenpide(tiedosto.string(), toimenpide.Nimi, uusi);
+      const Hyodykkeet odotettu = toimenpide.KulutusJalkeen();
+      const auto toteutettu = Avaa(uusi);
+      EXPECT_EQ(toteutettu->VuotuinenBruttoLampoEnergia(), odotettu.lampo) << tiedosto << toimenpide.Nimi;
+      EXPECT_EQ(toteutettu->VuotuinenBruttoSahkoEnergia(), odotettu.sahko) << tiedosto << toimenpide.Nimi;
+      EXPECT_EQ(toteutettu->VedenKulutusryhmat.VuotuinenVedenKulutus(), odotettu.vesi) << tiedosto << toimenpide.Nimi;
     }
   }
 }
