@@ -9,6 +9,7 @@
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "supply/clsEnergianHankinta.h"
 #include "tekstit/rakennus.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
@@ -18,7 +19,7 @@ namespace {
 std::string Raha(double euroa, double kerroin) { return Muotoile(euroa * kerroin, "### ##0"); }
 
 std::string Vuosina(double aika) {
-  return aika == kEiTakaisinmaksua ? Teksti(tekstit::kViiva) : Muotoile(aika, "### ##0.0");
+  return aika == kEiTakaisinmaksua || aika < 0 ? Teksti(tekstit::kViiva) : Muotoile(aika, "### ##0.0");
 }
 
 Tekstitaulu Taulu(Tekstinumero otsikko) {
@@ -51,6 +52,35 @@ void KirjoitaYksin(std::ostream& tulos, clsRakennus& rakennus) {
   tulos << '\n';
 }
 
+/// A measure on a supply by the supplies and tariffs of each state: its own prices can't show a change of fuel.
+void LisaaTariffein(Tekstitaulu& taulu, clsSaastotoimenpide& toimenpide) try {
+  const clsLumivirtaAsetukset& a = Asetukset();
+  const Ostot ostot = toimenpide.Ostosaasto();
+  const double saasto = ostot.hinta.lampo * a.NayttoKerroin(Energialaji::Lampo) +
+                        ostot.hinta.sahko * a.NayttoKerroin(Energialaji::Sahko) +
+                        ostot.hinta.vesi * a.NayttoKerroin(Energialaji::Vesi);
+  const double investointi = toimenpide.Investointi * a.NayttoKerroin(Energialaji::Yleinen);
+  taulu.Lisaa({toimenpide.Nimi, Raha(saasto, 1), Vuosina(Takaisinmaksuaika(investointi, saasto, {})),
+               Muotoile(ostot.paastot, "### ##0.00")});
+} catch (const Virhe& virhe) {
+  taulu.Lisaa({toimenpide.Nimi + ": " + virhe.SyynKuvaus()});
+}
+
+void KirjoitaTariffein(std::ostream& tulos, clsRakennus& rakennus) {
+  const std::string& valuutta = Asetukset().strDefaultCurrencyUnit;
+  Tekstitaulu taulu({Teksti(tekstit::kHankinnatTariffein), valuutta + "/a",
+                     Teksti(tekstit::kToimenpiteenTakaisinmaksuaika) + ", a", "t CO₂-ekv/a"});
+  bool hankintoja = false;
+  for (clsSaastotoimenpide& toimenpide : rakennus.Saastotoimenpiteet)
+    if (toimenpide.MuuttuneetAttribuutit.TyypinNimi == clsEnergianHankinta::kLuokka.Nimi()) {
+      hankintoja = true;
+      LisaaTariffein(taulu, toimenpide);
+    }
+  if (!hankintoja) return;
+  taulu.Tulosta(tulos);
+  tulos << '\n';
+}
+
 void KirjoitaJarjestetyt(std::ostream& tulos, const clsToimenpiteidenJarjestelija& jarjestelija) {
   using Rivi = clsValittuToimenpide;
   const Alvprosentit alv = Asetukset().NaytettavatAlvt();
@@ -74,6 +104,7 @@ void KirjoitaToimenpiteet(std::ostream& tulos, clsRakennus& rakennus) {
   if (rakennus.Saastotoimenpiteet.Count() == 0) return;
   const auto virhe = LaskeToimenpiteetUudelleen(rakennus);
   KirjoitaYksin(tulos, rakennus);
+  KirjoitaTariffein(tulos, rakennus);
   if (!virhe && rakennus.ToimenpiteidenJarjestelija.ValitutToimenpiteet.Count() > 1)
     KirjoitaJarjestetyt(tulos, rakennus.ToimenpiteidenJarjestelija);
 }

@@ -183,11 +183,14 @@ TEST_F(MallituloksetTesti, TheIndependentCalculationGetsTheSameFigures) {
   VertaaRiippumattomaan(*rakennus, "mallirakennus");
 }
 
+std::string Sivu(const std::string& nimi) {
+  std::ifstream tiedosto(Lahdekoodi("docs/opas/" + nimi));
+  return {std::istreambuf_iterator(tiedosto), {}};
+}
+
 /// The guide's page has the number, as it is shown.
-void OppaassaOn(const std::string& sivu, double mwh, const char* kuvio) {
-  std::ifstream tiedosto(Lahdekoodi("docs/opas/" + sivu));
-  const std::string teksti{std::istreambuf_iterator(tiedosto), {}};
-  EXPECT_NE(teksti.find(Muotoile(mwh, kuvio)), std::string::npos) << sivu << ": " << Muotoile(mwh, kuvio);
+void OppaassaOn(const std::string& sivu, double luku, const char* kuvio) {
+  EXPECT_NE(Sivu(sivu).find(Muotoile(luku, kuvio)), std::string::npos) << sivu << ": " << Muotoile(luku, kuvio);
 }
 
 TEST_F(MallituloksetTesti, TheGuidesExampleHasTheSampleAuditsFigures) {
@@ -211,6 +214,82 @@ TEST_F(MallituloksetTesti, TheGuidesExampleHasTheSampleAuditsFigures) {
   tarkista();
 }
 
+/// A row of the guide's tables of measures, amounts in euros with VAT.
+std::string Toimenpiderivi(const std::string& nimi, const Hyodykkeet& saasto, double kustannussaasto,
+                           double investointi, double takaisinmaksuaika) {
+  const auto luku = [](double arvo, const char* kuvio) { return " | " + Muotoile(arvo, kuvio); };
+  const double veroineen = investointi * (1 + Asetukset().NaytettavatAlvt().yleinen / 100);
+  return "| " + nimi + luku(saasto.lampo, "0.0") + luku(saasto.sahko, "0.0") + luku(saasto.vesi, "### ##0") +
+         luku(kustannussaasto, "### ##0") + luku(veroineen, "### ##0") + luku(takaisinmaksuaika, "0.0") + " |\n";
+}
+
+TEST_F(MallituloksetTesti, TheGuidesPackageIsThatOfTheSampleSchool) {
+  const std::string opas = Sivu("esimerkkipaketti.md");
+  const auto rakennus = Avaa(Tiedostot().front());
+  const Alvprosentit alv = Asetukset().NaytettavatAlvt();
+  std::string yksin, jarjestyksessa, yhteensa;
+  for (clsSaastotoimenpide& toimenpide : rakennus->Saastotoimenpiteet)
+    yksin += Toimenpiderivi(toimenpide.Nimi, toimenpide.Saasto(), toimenpide.KustannusSaastoYhteensa(alv),
+                            toimenpide.Investointi, toimenpide.Takaisinmaksuaika(alv));
+  clsToimenpiteidenJarjestelija& jarjestelija = rakennus->ToimenpiteidenJarjestelija;
+  jarjestelija.PaivitaValitutToimenpiteet();
+  for (const clsValittuToimenpide& rivi : jarjestelija.ValitutToimenpiteet) {
+    const Hyodykkeet saasto{rivi.SaastoLampoEnergia, rivi.SaastoSahkoEnergia, rivi.SaastoVedenKulutus};
+    if (rivi.Tyyppi == clsValittuToimenpide::Yhteensa)
+      yhteensa = Toimenpiderivi("**" + rivi.Nimi + "**", saasto, rivi.KustannusSaastoYhteensa, rivi.Investointi,
+                                jarjestelija.PaketinTakaisinmaksuaika(alv).value_or(0));
+    else
+      jarjestyksessa +=
+          Toimenpiderivi(rivi.Nimi, saasto, rivi.KustannusSaastoYhteensa, rivi.Investointi, rivi.Takaisinmaksuaika);
+  }
+  EXPECT_NE(opas.find(yksin), std::string::npos) << yksin;
+  EXPECT_NE(opas.find(jarjestyksessa + yhteensa), std::string::npos) << jarjestyksessa << yhteensa;
+}
+
+/// A measure of a sample audit, alone and, 0 for one outside the package, in its order.
+struct Esimerkki {
+  Esimerkki(clsRakennus& rakennus, const std::string& nimi) {
+    for (clsSaastotoimenpide& ehdokas : rakennus.Saastotoimenpiteet)
+      if (ehdokas.Nimi == nimi) toimenpide = &ehdokas;
+    rakennus.ToimenpiteidenJarjestelija.PaivitaValitutToimenpiteet();
+    for (const clsValittuToimenpide& rivi : rakennus.ToimenpiteidenJarjestelija.ValitutToimenpiteet)
+      if (rivi.ToimenpidesKey == toimenpide->sKey) netto = rivi.SaastoLampoEnergia;
+  }
+  clsSaastotoimenpide* toimenpide = nullptr;
+  double netto = 0;
+};
+
+TEST_F(MallituloksetTesti, TheGuideTellsOfOrderAndOfTariffsWithTheSamplesFigures) {
+  const auto tiedostot = Tiedostot();
+  const auto kohde = [&](std::size_t numero) { return Avaa(tiedostot[numero - 1]); };
+  {
+    const auto koulu = kohde(1);
+    const Esimerkki talteenotto(*koulu, "Lämmöntalteenotto ilmanvaihtoon");
+    OppaassaOn("toimenpiteet.md", talteenotto.toimenpide->Saasto().lampo, "0.0");
+    OppaassaOn("toimenpiteet.md", talteenotto.netto, "0.0");
+    double brutot = 0;
+    for (const clsValittuToimenpide& rivi : koulu->ToimenpiteidenJarjestelija.ValitutToimenpiteet)
+      if (rivi.Tyyppi == clsValittuToimenpide::Toimenpide)
+        brutot += koulu->Saastotoimenpiteet.Item(rivi.ToimenpidesKey).Saasto().lampo;
+    OppaassaOn("toimenpiteet.md", brutot, "0.0");
+    OppaassaOn("toimenpiteet.md", koulu->ToimenpiteidenJarjestelija.ValitutToimenpiteet.Item(1).SaastoLampoEnergia,
+               "0.0");
+  }
+  for (const auto& [numero, nimi] : {std::pair{6u, "Kondensoiva kaasukattila"}, {7u, "Yläpohjan puhallusvilla"}}) {
+    const auto rakennus = kohde(numero);
+    const Esimerkki esimerkki(*rakennus, nimi);
+    OppaassaOn("toimenpiteet.md", esimerkki.toimenpide->Saasto().lampo, "0.0");
+    OppaassaOn("toimenpiteet.md", esimerkki.netto, "0.0");
+  }
+  for (const auto& [numero, nimi] :
+       {std::pair{3u, "Maalämpöpumppu öljykattilan tilalle"}, {10u, "Maalämpö kaukolämmön tilalle"}}) {
+    const auto rakennus = kohde(numero);
+    clsSaastotoimenpide& pumppu = *Esimerkki(*rakennus, nimi).toimenpide;
+    OppaassaOn("toimenpiteet.md", pumppu.KustannusSaastoYhteensa({}), "### ##0");
+    OppaassaOn("toimenpiteet.md", std::abs(pumppu.Ostosaasto().hinta.Yhteensa()), "### ##0");
+  }
+}
+
 /// The computed figure of a sample audit over its measured one, with the guide's table of them: "| K01 ... | 92 % |".
 struct Suhde {
   const char* mika;
@@ -218,8 +297,7 @@ struct Suhde {
 };
 
 TEST_F(MallituloksetTesti, TheSampleAuditsExplainWhatWasMeasured) {
-  std::ifstream sivu(Lahdekoodi("docs/opas/malliauditoinnit.md"));
-  const std::string opas{std::istreambuf_iterator(sivu), {}};
+  const std::string opas = Sivu("malliauditoinnit.md");
   for (const fs::path& tiedosto : Tiedostot()) {
     const auto rakennus = Avaa(tiedosto);
     const Tasehaarukka haarukka(*rakennus);
@@ -236,6 +314,27 @@ TEST_F(MallituloksetTesti, TheSampleAuditsExplainWhatWasMeasured) {
       rivi += " | " + Muotoile(100 * suhde.laskettu / suhde.mitattu, "0") + " %";
     }
     EXPECT_NE(opas.find(rivi + " |"), std::string::npos) << rivi << " |";
+  }
+}
+
+TEST_F(MallituloksetTesti, TheGuidesTableOfPackagesIsThatOfTheSamples) {
+  const std::string opas = Sivu("malliauditoinnit.md");
+  for (const fs::path& tiedosto : Tiedostot()) {
+    const auto rakennus = Avaa(tiedosto);
+    const int toimenpiteita = rakennus->Saastotoimenpiteet.Count();
+    if (toimenpiteita == 0) continue;
+    clsToimenpiteidenJarjestelija& jarjestelija = rakennus->ToimenpiteidenJarjestelija;
+    jarjestelija.PaivitaValitutToimenpiteet();
+    const Hyodykkeet &ennen = jarjestelija.LaskettuPaketti()->ennen, &lopuksi = jarjestelija.LaskettuPaketti()->lopuksi;
+    const auto paketissa =
+        std::ranges::count(jarjestelija.ValitutToimenpiteet, std::int32_t{clsValittuToimenpide::Toimenpide},
+                           &clsValittuToimenpide::Tyyppi);
+    const auto aika = jarjestelija.PaketinTakaisinmaksuaika(Asetukset().NaytettavatAlvt());
+    const std::string rivi =
+        "| " + tiedosto.stem().string() + " | " + std::to_string(toimenpiteita) + " | " + std::to_string(paketissa) +
+        " | " + Muotoile(100 * (1 - lopuksi.lampo / ennen.lampo), "0") + " % | " +
+        Muotoile(100 * (1 - lopuksi.sahko / ennen.sahko), "0") + " % | " + Muotoile(aika.value_or(0), "0.0") + " |";
+    EXPECT_NE(opas.find(rivi), std::string::npos) << rivi;
   }
 }
 
