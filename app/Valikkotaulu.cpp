@@ -9,6 +9,7 @@
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsEnergiamuodonKasittely.h"
+#include "supply/clsSahkoTariffienVertailu.h"
 #include "tekstit/paaikkuna.h"
 #include "ui/Lomake.h"
 #include "ui/Ohje.h"
@@ -28,6 +29,11 @@ bool TilatAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !Av
 bool KoneetAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmIVKoneYhteenveto"); }
 bool SahkoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmSahkoLaitteet"); }
 bool VesiAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmVedenKulutus"); }
+/// The lists of measures, the arranger and the comparison of tariffs: one at a time.
+bool ToimenpiteetAvattavissa(const frmMain& ikkuna) {
+  return KohdeValmis(ikkuna) && !AvoinLomake("frmSaastoToimenpiteet") && !AvoinLomake("frmSahkotariffiVertailu") &&
+         !AvoinLomake("frmToimenpiteidenJarjestelija");
+}
 
 bool VoiKumota(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().VoiKumota(); }
 bool VoiTehdaUudelleen(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().VoiTehdaUudelleen(); }
@@ -166,7 +172,8 @@ constexpr Valikkorivi kRivit[] = {
     {"mnuSaastoToimenpiteet", "mnuSahkoSaasto", tekstit::kValikkoSahkolaitteet, "", kTulossa},
     {"mnuSaastoToimenpiteet", "mnuVesiSaasto", tekstit::kValikkoVedenkulutus, "", kTulossa},
     {"mnuSaastoToimenpiteet", ""},
-    {"mnuSaastoToimenpiteet", "mnuTariffivertailu", tekstit::kValikkoSahkotariffienVertailu, "", kTulossa},
+    {"mnuSaastoToimenpiteet", "mnuTariffivertailu", tekstit::kValikkoSahkotariffienVertailu, "",
+     ToimenpiteetAvattavissa, [](frmMain& i) { i.Kohteet().Rakennus()->SahkoTariffienVertailu.NaytaKayttoliittyma(); }},
     {"mnuSaastoToimenpiteet", "mnuToimenpiteidenJarjestelija", tekstit::kValikkoToimenpiteidenJarjestelija, "",
      kTulossa},
 

@@ -54,3 +54,7 @@ clsTariffiVertailuTapaus clsSahkoTariffienVertailu::Tapaus(const Tunniste& myynt
   tapaus.TotLoisteho = TotLoisteho;
   return tapaus;
 }
+
+double clsSahkoTariffienVertailu::NayttoKerroin() const {
+  return Tariffikerroin(Asetukset().dblSahkoALV, KaytaVertailussaALVHintoja);
+}

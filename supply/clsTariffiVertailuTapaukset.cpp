@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "supply/clsTariffiVertailuTapaukset.h"
 
+#include <functional>
+
 #include "kernel/Virhe.h"
 
 namespace {
@@ -16,23 +18,24 @@ constexpr double kRaja = 10000000000.0;  // €/a: no case is dearer
 const Luokka clsTariffiVertailuTapaukset::kLuokka{"clsTariffiVertailuTapaukset", kJasenet};
 
 Tunniste clsTariffiVertailuTapaukset::HalvinTariffisKey(const clsTariffit& tariffit) const try {
-  Tunniste avain;
-  double halvin = kRaja;
-  for (const clsTariffiVertailuTapaus& tapaus : *this)
-    if (const double kustannus = tapaus.KustannusYhteensa(tariffit); kustannus < halvin)
-      halvin = kustannus, avain = tapaus.sKey;
-  return avain;
+  return Aarimmainen(tariffit, kRaja, std::less());
 } catch (...) {
   NostaVirhe("clsTariffiVertailuTapaukset:HalvinTariffisKey Method");
 }
 
 Tunniste clsTariffiVertailuTapaukset::KalleinTariffisKey(const clsTariffit& tariffit) const try {
-  Tunniste avain;
-  double kallein = -kRaja;
-  for (const clsTariffiVertailuTapaus& tapaus : *this)
-    if (const double kustannus = tapaus.KustannusYhteensa(tariffit); kustannus > kallein)
-      kallein = kustannus, avain = tapaus.sKey;
-  return avain;
+  return Aarimmainen(tariffit, -kRaja, std::greater());
 } catch (...) {
   NostaVirhe("clsTariffiVertailuTapaukset:KalleinTariffisKey Method");
+}
+
+template <class Vertaaja>
+Tunniste clsTariffiVertailuTapaukset::Aarimmainen(const clsTariffit& tariffit, double raja, Vertaaja parempi) const {
+  Tunniste avain;
+  for (const clsTariffiVertailuTapaus& tapaus : *this) {
+    if (!tapaus.TariffitLoytyvat(tariffit)) continue;
+    const double kustannus = tapaus.KustannusYhteensa(tariffit);
+    if (parempi(kustannus, raja)) raja = kustannus, avain = tapaus.sKey;
+  }
+  return avain;
 }

@@ -94,3 +94,8 @@ double clsTariffiVertailuTapaus::KustannusYhteensa(const clsTariffit& tariffit) 
 } catch (...) {
   NostaVirhe("clsTariffiVertailuTapaus:KustannusYhteensa Method");
 }
+
+bool clsTariffiVertailuTapaus::TariffitLoytyvat(const clsTariffit& tariffit) const {
+  const auto loytyy = [&](const Tunniste& avain) { return avain.Tyhja() || tariffit.Etsi(avain); };
+  return loytyy(MyyntiTariffiSkey) && loytyy(SiirtoTariffiSkey);
+}

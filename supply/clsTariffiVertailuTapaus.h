@@ -27,6 +27,8 @@ class clsTariffiVertailuTapaus : public Malli<clsTariffiVertailuTapaus, Alkio> {
   Vuosilasku Siirto(const clsTariffit& tariffit) const;
   /// Both, €/a.
   double KustannusYhteensa(const clsTariffit& tariffit) const;
+  /// False when a tariff of the case has been removed since: it has no cost then.
+  bool TariffitLoytyvat(const clsTariffit& tariffit) const;
 
  private:
   Vuosilasku Lasku(const clsTariffit& tariffit, const Tunniste& tariffi) const;

@@ -22,6 +22,7 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Luvut.h"
 #include "settings/clsLumivirtaAsetukset.h"
+#include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
 #include "tests/app/Koekoti.h"
 #include "tests/qt/Ikkunatesti.h"
@@ -216,6 +217,47 @@ TEST_F(OppaanEsimerkki, TariffsAndTheirCatalogue) {
   AsetaRahayksikko(Asetukset().strDefaultCurrencyUnit);  // the euro
   const double lampo = rakennus().Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Lampo;
   EXPECT_FALSE(rakennus().Tariffit.NaytaKayttoliittyma(clsTariffi::LampoTariffi, {}, lampo));
+  AsetaRahayksikko("€");
+  Asetukset().HaeRekisteristä();
+}
+
+TEST_F(OppaanEsimerkki, ComparisonOfElectricityTariffs) {
+  const std::string opas = OppaanSivu("tariffivertailu.md");
+  AsetaQtLomakkeet(nullptr);
+  Asetukset().ValuuttaTyyppi(1);
+  AsetaRahayksikko(Asetukset().strDefaultCurrencyUnit);  // the euro
+  clsTariffi& tarjous = rakennus().Tariffit.LisaaTariffi(clsTariffi::SahkoMyyntiTariffi);
+  tarjous.Nimi = "Tarjous 42 €/MWh";
+  tarjous.Maksu(1).Hinta = 42;
+  tarjous.Maksu(1).Kulutusosuus = 100;
+  rakennus().SahkoTariffienVertailu.KaytaVertailussaALVHintoja = false;
+  rakennus().SahkoTariffienVertailu.NaytaKayttoliittyma();
+  const Lomake& vertailu = *AvoinLomake("frmSahkotariffiVertailu");
+  const auto kirjoita = [&](const char* kentta, const char* luku) {
+    vertailu.Etsi(kentta).KayttajaKirjoittaa(luku);
+    vertailu.Etsi(kentta).KayttajaPoistuu();
+  };
+  kirjoita("txtTotHuippuTeho", "75");
+  kirjoita("txtTotLoisteho", "10");
+  const auto talleta = [&](const char* nimi, const char* investointi) {
+    const auto& summat = vertailu.Etsi("lvwKustannukset").Summarivi();
+    for (const std::size_t i : {1u, 2u, 3u}) EXPECT_NE(opas.find(summat[i] + " €/a"), std::string::npos) << summat[i];
+    KunAuki("cmdOk", [=](Lomake& kuvaus) {
+      kuvaus.Etsi("txtNimi").KayttajaKirjoittaa(nimi);
+      kuvaus.Etsi("txtInvestointi").KayttajaKirjoittaa(investointi);
+    });
+    vertailu.Etsi("cmdTalletaYhdistelma").KayttajaPainaa();
+  };
+  talleta("Nykyiset sopimukset", "0");
+  vertailu.Etsi("cmbMyyntiTariffit").KayttajaValitsee(2);
+  talleta("Tarjous ja nykyinen siirto", "200");
+  QApplication::processEvents();
+  KuvaaLomake(vertailu);
+  KunAuki("cmdPeruuta", [&](Lomake& peruste) {
+    EXPECT_EQ(peruste.Etsi("lblSaasto").Teksti(), "Säästö 663 euro/a, takaisinmaksuaika 0,3 a");
+    EXPECT_NE(opas.find("säästö on 663 €/a ja takaisinmaksuaika 0,3 a"), std::string::npos);
+  });
+  vertailu.Etsi("cmdVieTaulukko2een").KayttajaPainaa();
   AsetaRahayksikko("€");
   Asetukset().HaeRekisteristä();
 }

@@ -10,6 +10,7 @@
 #include "kernel/Luvut.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "settings/clsKatselmoijienTiedot.h"
+#include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
 #include "supply/clsVesitariffit.h"
 #include "tests/building/Koerakennus.h"
@@ -150,6 +151,7 @@ class Sidonnat : public RakennusTesti {
         maksu.Kulutusosuus = (maksu.sKey == "EnergiaMaksu1" ? 45 : 10) + 5 / 6.0;
     rakennus->Vesitariffit.LisaaTariffi();
     rakennus->Perustiedot.LammonHankinta.LisaaMuoto().LisaaPolttoaine({});
+    rakennus->SahkoTariffienVertailu.Tapaukset.Add("yhdistelmä").Nimi = "Kilpailutettu";
     for (const char* sivulomake : {"frmPuhaltimenOttotehonTarkennettuLaskenta"})
       ikkunat.KunNaytetaan(sivulomake, [](Ikkunaton& l) { l.KayttajaPainaa("cmdOk"); });
   }
@@ -192,12 +194,17 @@ class Sidonnat : public RakennusTesti {
         {"frmTarkennettuVesiLaskenta", [this] { rakennus->VedenKulutusryhmat.Item(1).NaytaKayttoliittyma(); }},
         {"frmEnergiamuoto",
          [this] { rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).NaytaKayttoliityma(); }},
+        {"frmVertailunKuvausDialogi", [this] { MuokkaaTariffiyhdistelmaa(); }},
     };
   }
   void MuokkaaKerrosta() const {
     Rakenneratkaisu& ratkaisu = *Rakenne(Rakennelaji::Ulkoseina).RakenneRatkaisu;
     Kerrosmuokkaus muokkaus(ratkaisu, 1);
     if (muokkaus.Nayta()) ratkaisu = muokkaus.Ratkaisu();
+  }
+  void MuokkaaTariffiyhdistelmaa() const {
+    rakennus->SahkoTariffienVertailu.NaytaKayttoliittyma();
+    ikkunat.Ikkuna("frmSahkotariffiVertailu").KayttajaPainaa("cmdMuokkaa");
   }
   void MuokkaaPuhaltimia() const {
     Kone().PaivitaOsienTiedot();
@@ -297,6 +304,7 @@ TEST_F(Sidonnat, AnOkWithNothingTypedKeepsEveryUnshownDecimal) {
     Hienonna(rakennus->IVKoneet);
     Hienonna(rakennus->SahkonKulutusryhmat);
     Hienonna(rakennus->VedenKulutusryhmat);
+    Hienonna(rakennus->SahkoTariffienVertailu);
     const auto ennen = rakennus->Tilannekuva();
     Avaa(dialogi, "cmdOk", ok);
     EXPECT_EQ(MuutoksiaRakennukseen(*ennen), 0);
@@ -305,7 +313,7 @@ TEST_F(Sidonnat, AnOkWithNothingTypedKeepsEveryUnshownDecimal) {
 
 TEST_F(Sidonnat, EveryFormWithATableIsWalked) {
   // tests/settings, tests/consumers, tests/supply
-  std::set<std::string> kaydyt{"frmOptions", "frmVedenKulutus", "frmEmuo3"};
+  std::set<std::string> kaydyt{"frmOptions", "frmVedenKulutus", "frmEmuo3", "frmSahkotariffiVertailu"};
   for (const Dialogi& dialogi : Dialogit()) kaydyt.insert(dialogi.lomake);
   for (const Sidontalista* taulu : Sidontalista::Kaikki())
     EXPECT_TRUE(kaydyt.contains(taulu->Lomakkeenimi())) << taulu->Lomakkeenimi();

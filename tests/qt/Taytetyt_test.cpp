@@ -27,6 +27,7 @@
 #include "ui/frmRakenteet.h"
 #include "ui/frmSahkoLaitteet.h"
 #include "ui/frmSahkotariffi.h"
+#include "ui/frmSahkotariffiVertailu.h"
 #include "ui/frmSplash.h"
 #include "ui/frmTarkennettuLaiteLaskenta.h"
 #include "ui/frmTarkennettuVesiLaskenta.h"
@@ -237,6 +238,33 @@ TEST_F(Taytetyt, TheTariffsFitTheirFields) {
 
 /// A laptop of 1366 × 768 whose desktop is shown at 125 %, less its title bar and panel.
 constexpr QSize kSuurennettuNaytto{1092, 560};
+
+TEST_F(Taytetyt, TheComparisonOfTariffsFitsItsFieldsAndASmallScreen) {
+  frmSahkotariffiVertailu lomake;
+  for (const auto& ohjain : lomake.Ohjaimet())
+    if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("1 234 567,89");
+  lomake.cmbMyyntiTariffit.Rivit({"Aikasähkö, toistaiseksi voimassa oleva"});
+  lomake.cmbMyyntiTariffit.Indeksi(0);
+  Luettelosisalto kustannukset{{}, {"Yhteensä:", "123 456", "1 234 567", "1 358 023"}}, yhdistelmat;
+  for (const char* nimi :
+       {"Perusmaksu:", "Tehomaksu:", "Loistehomaksu:", "Energiamaksut:", "Sähkövero:", "Muut maksut:"})
+    kustannukset.rivit.push_back({{nimi, "123 456", "1 234 567", "1 358 023"}});
+  lomake.lvwKustannukset.Tayta(std::move(kustannukset));
+  for (const char* avain : {"a", "b", "c", "d"})
+    yhdistelmat.rivit.push_back(
+        {{"Aikasähkö. Tehosiirto. ALV 25,5 %", "Aikasähkö 2007", "123 456", "Pienjännitetehosiirto, Kymenlaakso",
+          "1 234 567", "1 358 023", "12 345", "1 234,5", "Tarjous 1.3.2026"},
+         avain});
+  yhdistelmat.rivit[1].piirteet.lihava = true;
+  yhdistelmat.rivit[2].piirteet = {.merkitys = Merkitys::Huomio, .merkitty = 5};
+  lomake.lvwYhdistelmat.Tayta(std::move(yhdistelmat));
+  lomake.lblHalvinJaKallein.Otsikko(
+      "Ero 1 234 €/a: halvin on Aikasähkö. Tehosiirto. ALV 25,5 %, kallein on Yleissähkö");
+  lomake.Nayta();
+  OdotaMahtuvan(lomake);
+  EiVieritettava(lomake, kSuurennettuNaytto);
+  TallennaKuva(lomake, "Pieni");
+}
 
 /// A tree of three levels with long names and large numbers.
 Luettelosisalto Kulutuspuu(int lukuja) {
