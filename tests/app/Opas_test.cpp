@@ -21,6 +21,7 @@
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Luvut.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
@@ -78,7 +79,7 @@ void KunAuki(const char* nappi, const std::function<void(Lomake&)>& katso = {}) 
 }
 
 /// The sample school of the guide, opened from a copy.
-class OppaanEsimerkki : public ::testing::Test {
+class OppaanKoulu : public ::testing::Test {
  protected:
   void SetUp() override {
     ikkuna_ = std::make_unique<frmMain>(istunto_);
@@ -102,6 +103,16 @@ class OppaanEsimerkki : public ::testing::Test {
   Koeviestit viestit_;
   Istunto istunto_;
   std::unique_ptr<frmMain> ikkuna_;
+};
+
+/// The school before its measures, which would keep objects of the model from being added.
+class OppaanEsimerkki : public OppaanKoulu {
+ protected:
+  void SetUp() override {
+    OppaanKoulu::SetUp();
+    clsSaastotoimenpiteet& toimenpiteet = rakennus().Saastotoimenpiteet;
+    while (toimenpiteet.Count() > 0) toimenpiteet.Poista(toimenpiteet.Item(1).sKey);
+  }
 };
 
 TEST_F(OppaanEsimerkki, BasicDataAndConstantShare) {
