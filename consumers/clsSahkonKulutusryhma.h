@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
+
+#include "kernel/Laskenta.h"
 #include "kernel/Olio.h"
 
 /// One electricity consumer group: a type of device, with its number and the rule that gives its yearly consumption.
@@ -39,8 +42,15 @@ class clsSahkonKulutusryhma : public Malli<clsSahkonKulutusryhma, Alkio> {
   double YhdenVuosikulutus() const;
   double Vuosikulutus() const;
 
+  /// What the person may do in the dialog.
+  enum class Muokkaus {
+    Kaikki,
+    TilaLukittu  ///< the space, and whether it is heated by the electricity, stay as they are
+  };
   /// Shows the dialog. True after OK.
-  bool NaytaKayttoliittyma();
+  bool NaytaKayttoliittyma(Muokkaus muokkaus = Muokkaus::Kaikki);
+  /// At the OK of the dialog.
+  Oma<std::function<void()>> DataMuuttui;
 
  private:
   double Kulutus(double ryhmia) const noexcept;

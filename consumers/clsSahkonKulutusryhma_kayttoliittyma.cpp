@@ -77,7 +77,7 @@ bool OnElavassaMallissa(const Ryhma& ryhma) { return VaadiRakennus().SahkonKulut
 
 }  // namespace
 
-bool clsSahkonKulutusryhma::NaytaKayttoliittyma() try {
+bool clsSahkonKulutusryhma::NaytaKayttoliittyma(Muokkaus muokkaus) try {
   frmTarkennettuLaiteLaskenta lomake;
   lomake.LaskentaMuuttui = [&] { Laske(lomake, *this); };
   Muokkausistunto istunto(*this, lomake,
@@ -89,8 +89,10 @@ bool clsSahkonKulutusryhma::NaytaKayttoliittyma() try {
                                  lomake.Yksikot(LaskentatapaTehopohjainen());
                                  kSidonnat.Lue(lomake, *this);
                                  lomake.Taytetty();
+                                 if (muokkaus == Muokkaus::TilaLukittu) lomake.LukitseTila();
                                },
-                           .kirjoita = [&] { kSidonnat.Kirjoita(lomake, *this); }});
+                           .kirjoita = [&] { kSidonnat.Kirjoita(lomake, *this); },
+                           .tapahtuma = DataMuuttui.arvo});
   return istunto.Nayta();
 } catch (...) {
   NostaVirhe("clsSahkonKulutusryhma:NaytaKayttoliittyma Method");

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
+
 #include "consumers/clsVedenTiedot.h"
+#include "kernel/Laskenta.h"
 
 /// One water consumer group.
 class clsVedenKulutusryhma : public Malli<clsVedenKulutusryhma, Alkio> {
@@ -40,4 +43,6 @@ class clsVedenKulutusryhma : public Malli<clsVedenKulutusryhma, Alkio> {
 
   /// Shows the dialog. True after OK.
   bool NaytaKayttoliittyma();
+  /// At the OK of the dialog.
+  Oma<std::function<void()>> DataMuuttui;
 };

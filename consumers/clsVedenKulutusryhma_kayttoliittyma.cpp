@@ -88,7 +88,8 @@ bool clsVedenKulutusryhma::NaytaKayttoliittyma() try {
                                  Laske(lomake, *this, kAluksi);
                                },
                            .kirjoita = [&] { kSidonnat.Kirjoita(lomake, *this); },
-                           .tarkista = [&] { return lomake.TunnitKelpaavat(); }});
+                           .tarkista = [&] { return lomake.TunnitKelpaavat(); },
+                           .tapahtuma = DataMuuttui.arvo});
   return istunto.Nayta();
 } catch (...) {
   NostaVirhe("clsVedenKulutusryhma:NaytaKayttoliittyma Method");

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "kernel/Kirjainkoko.h"
 #include "kernel/Virhe.h"
 #include "tekstit/virheet.h"
 #include "ui/Tekstivarasto.h"
@@ -29,8 +30,8 @@ std::string_view Valinta(std::string_view nimi) {
   return nimi;
 }
 
-bool OvatPari(std::string_view a, std::string_view b) {
-  return Valinta(a) == Valinta(b) || std::ranges::any_of(kParit, [&](const auto& pari) {
+bool NimetOvatPari(std::string_view a, std::string_view b) {
+  return SamaNimi(Valinta(a), Valinta(b)) || std::ranges::any_of(kParit, [&](const auto& pari) {
            return (a == pari.first && b == pari.second) || (b == pari.first && a == pari.second);
          });
 }
@@ -54,12 +55,13 @@ void clsMuuttuneetAttribuutit::Lisaa(const Muutos& muutos) try {
   NostaVirhe("clsMuuttuneetAttribuutit:Lisaa Method");
 }
 
+bool clsMuuttuneetAttribuutit::OvatPari(const clsMuuttunutAttribuutti& a, const clsMuuttunutAttribuutti& b) {
+  return a.InstanssiId == b.InstanssiId && NimetOvatPari(a.AttribuutinNimi, b.AttribuutinNimi);
+}
+
 void clsMuuttuneetAttribuutit::PoistaPareineen(const Tunniste& avain) try {
   const clsMuuttunutAttribuutti poistettava = Item(avain);
-  PoistaJos([&](const clsMuuttunutAttribuutti& muutos) {
-    return muutos.InstanssiId == poistettava.InstanssiId &&
-           OvatPari(muutos.AttribuutinNimi, poistettava.AttribuutinNimi);
-  });
+  PoistaJos([&](const clsMuuttunutAttribuutti& muutos) { return OvatPari(muutos, poistettava); });
 } catch (...) {
   NostaVirhe("clsMuuttuneetAttribuutit:PoistaPareineen Method");
 }

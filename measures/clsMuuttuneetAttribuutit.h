@@ -22,6 +22,8 @@ class clsMuuttuneetAttribuutit : public Malli<clsMuuttuneetAttribuutit, Kokoelma
   /// Removes the change and those of the same object that have no meaning without it: a choice and its text, the two
   /// ways of calculation, a U-value and the flag that it is computed. An error when there is no such change.
   void PoistaPareineen(const Tunniste& avain);
+  /// The two change together: they are of one object, and one has no meaning without the other.
+  static bool OvatPari(const clsMuuttunutAttribuutti& a, const clsMuuttunutAttribuutti& b);
   /// Shows error 1046: the two objects are of different classes.
   void LuokatEroavat(const Olio& tama, const Olio& toinen) override;
 };

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
 #include <memory>
 
 #include "building/Koti.h"
+#include "kernel/Laskenta.h"
 #include "measures/Hyodykkeet.h"
 #include "measures/KelluvaRyhma.h"
 #include "measures/Kustannussaastot.h"
@@ -86,6 +88,13 @@ class clsSaastotoimenpide : public Malli<clsSaastotoimenpide, Alkio> {
   /// What bought energy and water cost and emit less, each state by its own supplies and tariffs.
   Ostot Ostosaasto();
   Ostot Ostosaasto(Muunnelmalaskin& laskin);
+
+  /// Lets the person edit the measure, modal; what it changes is edited in the ordinary dialog of the object after. OK
+  /// commits. Cancel takes back what was written in the dialog's own fields; changes that were made through the object
+  /// after stay, committed too. True after OK.
+  bool NaytaKayttoliittyma();
+  /// At the OK of the dialog, with the measure's key.
+  Oma<std::function<void(const Tunniste&)>> OkKlikattu;
 
   /// Yearly gross heat and electricity, MWh/a, and water, m³/a, before. A new figure more than 0.1 away from the stored
   /// one makes the figures before and after invalid.

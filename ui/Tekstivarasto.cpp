@@ -3,6 +3,7 @@
 
 #include <array>
 #include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <unordered_map>
 #include <utility>
@@ -92,6 +93,17 @@ std::unordered_map<int, std::string> LueTekstit(const std::string& tiedosto, con
   return tekstit;
 }
 
+/// The texts of a choice: told one by one, or as the list of a form's control.
+std::vector<std::string> LueValinnat(const std::string& teksti) {
+  if (const auto piste = teksti.find('.'); teksti.starts_with("frm") && piste != std::string::npos)
+    return Valintalista(teksti.substr(0, piste), teksti.substr(piste + 1));
+  std::vector<std::string> valinnat;
+  for (std::istringstream virta(teksti); std::getline(virta, valinnat.emplace_back(), ';');) {
+  }
+  valinnat.pop_back();
+  return valinnat;
+}
+
 }  // namespace
 
 void AlustaTekstit() {
@@ -173,6 +185,19 @@ std::vector<std::string> Valintalista(std::string_view lomake, std::string_view 
   return nimet;
 } catch (...) {
   NostaVirhe("modTekstivarasto:Valintalista Method");
+}
+
+std::unordered_map<std::string, Ominaisuusteksti> Ominaisuustekstit() try {
+  const auto varasto = AvaaVarasto();
+  Kysely kysely(varasto, "SELECT Luokka, Ominaisuus, " + Kielisarake(varasto) + ", Kuvio, Valinnat FROM Ominaisuus");
+  std::unordered_map<std::string, Ominaisuusteksti> tekstit;
+  while (kysely.Seuraava())
+    tekstit.emplace(std::string(kysely.Teksti(0)) + "." + std::string(kysely.Teksti(1)),
+                    Ominaisuusteksti{std::string(kysely.Teksti(2)), std::string(kysely.Teksti(3)),
+                                     LueValinnat(std::string(kysely.Teksti(4)))});
+  return tekstit;
+} catch (...) {
+  NostaVirhe("modTekstivarasto:Ominaisuustekstit Method");
 }
 
 int Ohjeaihe(std::string_view lomake, int indeksi) try {

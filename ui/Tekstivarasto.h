@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "ui/Taulukko.h"
@@ -41,5 +42,14 @@ bool KysyPoisto(std::string_view nimi, std::string_view seuraus = {});
 std::vector<std::string> Valintalista(std::string_view lomake, std::string_view valinta);
 /// The same rows as cells: the name, and everyday words by which it is found, divided by ";", where it has any.
 Taulukko HaettavaValintalista(std::string_view lomake, std::string_view valinta);
+/// A member of a model class as a person knows it: its name, how a number is shown (kernel/Luvut.h), and the texts of a
+/// choice by its number, if it is one.
+struct Ominaisuusteksti {
+  std::string nimi;
+  std::string kuvio;
+  std::vector<std::string> valinnat;
+};
+/// The members that have a name, by "class.member". Raises when the store can't be read.
+std::unordered_map<std::string, Ominaisuusteksti> Ominaisuustekstit();
 /// The help topic of a form: index 0, 1 or 2 for its first to third topic; 0 when it has none.
 int Ohjeaihe(std::string_view lomake, int indeksi);

@@ -39,6 +39,11 @@ void frmTarkennettuLaiteLaskenta::Taytetty() {
   PaivitaKentat();
 }
 
+void frmTarkennettuLaiteLaskenta::LukitseTila() const {
+  cmbLiittyyTilaan.Kaytossa(false);
+  chkHyodynnetaanLammityksessa.Kaytossa(false);
+}
+
 /// The units of power and of energy each remember which was chosen.
 void frmTarkennettuLaiteLaskenta::VaihdaLaskentatapa() {
   if (teho_ == Teho()) return;

@@ -12,6 +12,8 @@ class frmTarkennettuLaiteLaskenta : public Kulutuslomake {
   /// Shows and enables what the way of calculation and the unit leave to the person. To be called after the form has
   /// been filled.
   void Taytetty();
+  /// The person can't change where the electricity is used.
+  void LukitseTila() const;
 
   ComboBox cmbLiittyyTilaan{*this, "cmbLiittyyTilaan"};
   CheckBox chkHyodynnetaanLammityksessa{*this, "chkHyodynnetaanLammityksessa"};

@@ -9,6 +9,16 @@ CREATE TABLE Combotaulu (
     Hakusanat TEXT NOT NULL DEFAULT ''  -- everyday words by which the row is found as well, divided by ";"
 );
 CREATE INDEX CombotaulunListat ON Combotaulu (frmName, cmbName);
+-- Names of the members of the model's classes as a person knows them. Kuvio: how a number is shown. Valinnat: what the
+-- numbers of a choice mean, in order, divided by ";", or the form and control of its list, "frmTila.cmbSaatotapa".
+CREATE TABLE Ominaisuus (
+    Luokka TEXT NOT NULL,
+    Ominaisuus TEXT NOT NULL,
+    Suomi TEXT NOT NULL,
+    Kuvio TEXT NOT NULL DEFAULT '### ##0.##',
+    Valinnat TEXT NOT NULL DEFAULT '',
+    PRIMARY KEY (Luokka, Ominaisuus)
+);
 -- ErrorLevel: 1 = an error that refuses something, 2 = a notice.
 CREATE TABLE Errortaulu (
     Id INTEGER PRIMARY KEY,
