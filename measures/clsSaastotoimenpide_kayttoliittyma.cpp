@@ -138,7 +138,6 @@ class Toimenpidemuokkaus {
     const std::string otsikko = lomake_.Otsikko();
     Muokkausistunto istunto(kentat, lomake_,
                             {.nimi = toimenpide_.Nimi,
-                             .elava = false,
                              .lue = [this] { LueDataluokka(); },
                              .kirjoita = [this] { kSidonnat.Kirjoita(lomake_, toimenpide_); },
                              .tapahtuma =

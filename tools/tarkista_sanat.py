@@ -9,6 +9,7 @@ from lahteet import JUURI, lopeta
 
 SAANNOT = [(re.compile(r["Valtettava"]), r["Sana"]) for r in csv.DictReader(open(JUURI / "data/sanalista.csv", encoding="utf-8"))]
 TIEDOSTOT = [*sorted((JUURI / "data/tekstit").glob("*.csv")), JUURI / "data/virheet.csv", JUURI / "data/valintalistat.csv",
+             JUURI / "data/ominaisuudet.csv",
              *sorted((JUURI / "docs/opas").glob("*.md"))]
 
 

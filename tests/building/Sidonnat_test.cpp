@@ -22,7 +22,7 @@ namespace {
 
 /// Fields for show, and those that say what is shown.
 const std::set<std::string> kNaytettavat{"cmbRakenteidenDynamiikka", "cmbRakennetyyppi", "txtKulutus",
-                                         "txtVedenkulutusM3a"};
+                                         "txtVedenkulutusM3a", "chkToimenpiteenVaikutusAste"};
 
 bool OnKentta(const Ohjain& ohjain) {
   switch (ohjain.Tyyppi()) {
@@ -152,6 +152,8 @@ class Sidonnat : public RakennusTesti {
     rakennus->Vesitariffit.LisaaTariffi();
     rakennus->Perustiedot.LammonHankinta.LisaaMuoto().LisaaPolttoaine({});
     rakennus->SahkoTariffienVertailu.Tapaukset.Add("yhdistelmä").Nimi = "Kilpailutettu";
+    rakennus->Saastotoimenpiteet.PaivitaHierarkiaLista();
+    rakennus->Saastotoimenpiteet.Lisaa(Tila().sKey);
     for (const char* sivulomake : {"frmPuhaltimenOttotehonTarkennettuLaskenta"})
       ikkunat.KunNaytetaan(sivulomake, [](Ikkunaton& l) { l.KayttajaPainaa("cmdOk"); });
   }
@@ -195,6 +197,7 @@ class Sidonnat : public RakennusTesti {
         {"frmEnergiamuoto",
          [this] { rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).NaytaKayttoliityma(); }},
         {"frmVertailunKuvausDialogi", [this] { MuokkaaTariffiyhdistelmaa(); }},
+        {"frmSaastotoimenpide", [this] { rakennus->Saastotoimenpiteet.Item(1).NaytaKayttoliittyma(); }},
     };
   }
   void MuokkaaKerrosta() const {

@@ -194,6 +194,7 @@ TEST_F(ToimenpideDialogi, MoneyFollowsWhatIsWrittenAndTheAdviceOnVat) {
   clsSaastotoimenpide& toimenpide = Uusi(Sali().sKey);
   toimenpide.LampoEnergiaHinta = 50;
   KunSisalampotila("19");
+  Asetukset().dblCurrencyConvCoeff = 1;
   Asetukset().KaytaKohtTulostuksissaALVHintoja = true;
   Asetukset().dblLampoALV = 25;
   Asetukset().YleinenALV = 20;
@@ -253,6 +254,7 @@ TEST_F(ToimenpideDialogi, ACancelledObjectAfterChangesNothing) {
   EXPECT_TRUE(Avaa(toimenpide, "cmdOk", Jalkeen));
   EXPECT_EQ(toimenpide.MuuttuneetAttribuutit.Count(), 0);
   EXPECT_TRUE(kirjatut.empty());
+  EXPECT_TRUE(rakennus->Tallennettu);
 }
 
 TEST_F(ToimenpideDialogi, AnErrorInTheMiddleLeavesModelAndMeasureAsTheyWere) {
