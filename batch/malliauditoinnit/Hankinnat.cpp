@@ -6,7 +6,6 @@
 
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
-#include "consumers/clsSahkonKulutusryhmat.h"
 #include "kernel/Paivamaara.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "supply/Energiamuotokanta.h"
@@ -99,7 +98,7 @@ Tunniste HaeTariffi(clsRakennus& rakennus, clsTariffi::Laji laji, const Rivi& hi
 
 clsTariffiVertailuTapaus& LisaaTapaus(const Rivi& rivi, const std::vector<Rivi>& tariffit, clsRakennus& rakennus) {
   clsSahkoTariffienVertailu& vertailu = rakennus.SahkoTariffienVertailu;
-  vertailu.TotEnergia = rakennus.SahkonKulutusryhmat.Vuosikulutus();
+  vertailu.TotEnergia = rakennus.Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Sahko;
   vertailu.TotHuippuTeho = Luku(rivi, "Teho");
   vertailu.TotLoisteho = Luku(rivi, "Loisteho");
   vertailu.BruttoAla = rakennus.Perustiedot.BruttoAla;

@@ -16,7 +16,7 @@ struct Hankintataulukot {
 /// std::runtime_error for what the tables or the database don't have.
 void AsetaHankinnat(const std::string& tunnus, const Hankintataulukot& taulukot, clsRakennus& rakennus);
 
-/// Saves the cases of the building's comparison of electricity tariffs, at its electricity and the powers of the rows.
-/// A tariff that the building doesn't have comes to its tariffs. A case with an investment is compared with the first
-/// one and goes to the end of the arranger's rows. Errors as above.
+/// Saves the cases of the building's comparison of electricity tariffs, at its measured electricity and the powers of
+/// the rows. A tariff that the building doesn't have comes to its tariffs. A case with an investment is compared with
+/// the first one and goes to the end of the arranger's rows. Errors as above.
 void AsetaTariffivertailu(const std::string& tunnus, const Hankintataulukot& taulukot, clsRakennus& rakennus);
