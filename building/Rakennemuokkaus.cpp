@@ -216,7 +216,7 @@ std::uint64_t Sormenjalki(clsRakenne& rakenne) { return Sormenjalki(rakenne, Vaa
 Luettelorivi Rivi(const frmRakenteet& l, const clsRakenne& rakenne) {
   Luettelorivi rivi{{rakenne.NaytettavaNimi(), ValinnanRivi(l.cmbRakennetyyppi, rakenne.Rakennetyyppi + 1)},
                     rakenne.sKey};
-  rivi.LisaaLuku(rakenne.PintaAla, kAla);
+  rivi.LisaaLuku(rakenne.PintaAla, "### ##0.00");
   rivi.LisaaLuku(rakenne.U_arvo(), kUarvo);
   rivi.solut.push_back(Rajoittuu(rakenne) ? ValinnanRivi(l.cmbTyyppi, rakenne.TyyppiID) : "");
   rivi.solut.push_back(OnIkkuna(rakenne) ? ValinnanRivi(l.cmbSuuntaus, rakenne.SuuntausID) : "");

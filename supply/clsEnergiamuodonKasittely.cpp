@@ -50,7 +50,7 @@ Tunniste Avain(std::int32_t id) { return std::to_string(id); }
 
 Luettelorivi Luettelonrivi(const Rivi& rivi) {
   Luettelorivi naytettava{{rivi.Nimi}, Avain(rivi.Id)};
-  naytettava.LisaaLuku(rivi.IlmastonLampeneminenCO2ekv, "### ##0.##");
+  naytettava.LisaaLuku(rivi.IlmastonLampeneminenCO2ekv, "### ##0.00");
   naytettava.piirteet.selite = rivi.Kuvaus;
   return naytettava;
 }

@@ -138,7 +138,7 @@ class Muotomuokkaus {
     for (const clsResurssi& polttoaine : muoto_.Resurssit) {
       Luettelorivi rivi{{polttoaine.Nimi}, polttoaine.sKey};
       rivi.LisaaLuku(polttoaine.Maara, kMaara);
-      rivi.LisaaLuku(polttoaine.IlmastonLampeneminenCO2ekv * polttoaine.Maara * Muoto::kMJ_MWh, "### ##0.##");
+      rivi.LisaaLuku(polttoaine.IlmastonLampeneminenCO2ekv * polttoaine.Maara * Muoto::kMJ_MWh, "### ##0.00");
       rivi.piirteet = {.selite = polttoaine.Kuvaus, .muokattavat = {kMaarasarake}};
       sisalto.rivit.push_back(std::move(rivi));
     }

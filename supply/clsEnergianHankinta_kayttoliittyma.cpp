@@ -70,10 +70,7 @@ class Hankintamuokkaus {
                                            .alusta = [this](Muoto& uusi) { hankinta_.AlustaMuoto(uusi); },
                                            .avaaKopio = true},
                                           [this] { return Sisalto(); });
-    toimet.lisaa = Nayttaen(toimet.lisaa);
-    toimet.muokkaa = Nayttaen(toimet.muokkaa);
-    toimet.kopioi = Nayttaen(toimet.kopioi);
-    toimet.poista = Nayttaen(toimet.poista);
+    toimet.naytaUudelleen = true;
     toimet.poistoeste = [this](const Tunniste& avain) { return Poistoeste(hankinta_.Energiamuodot.Item(avain)); };
     toimet.valittu = [this] { NaytaMuut(); };
     lomake_.muodot.Aseta(std::move(toimet));
@@ -90,15 +87,6 @@ class Hankintamuokkaus {
   bool Sahko() const { return hankinta_.Kayttotarkoitus == Hankinta::Sahko; }
   Muoto* Valittu() const { return hankinta_.Energiamuodot.Etsi(lomake_.lvwEnergiamuodot.Valittu()); }
 
-  /// The action, after which the list is shown anew.
-  template <class T, class... A>
-  std::function<T(A...)> Nayttaen(std::function<T(A...)> toimi) {
-    return [this, toimi = std::move(toimi)](A... arvot) {
-      const std::unique_ptr<Luettelomuokkain, void (*)(Luettelomuokkain*)> lopuksi(
-          &lomake_.muodot, [](Luettelomuokkain* muodot) { muodot->Nayta(); });
-      return toimi(arvot...);
-    };
-  }
   static std::string Poistoeste(Muoto& muoto) {
     const std::string toimenpiteet = ViittaavatToimenpiteet(muoto);
     if (toimenpiteet.empty()) return {};
@@ -128,7 +116,7 @@ class Hankintamuokkaus {
   Luettelorivi Rivi(const Muoto& muoto) const {
     Luettelorivi rivi{{muoto.Nimi}, muoto.sKey};
     rivi.LisaaLuku(muoto.OsuusNettotarpeesta, kOsuus);
-    rivi.LisaaLuku(muoto.Hyotysuhde, "0.0##");
+    rivi.LisaaLuku(muoto.Hyotysuhde, "0.00");
     rivi.piirteet.selite = muoto.Kuvaus;
     rivi.piirteet.muokattavat = {lomake_.kOsuussarake};
     LisaaTariffi(rivi, muoto.MyyntiTariffiSkey);

@@ -35,6 +35,7 @@ class Vesitariffimuokkaus : public Tariffimuokkaus<clsVesitariffit, clsVesitarif
     kMaksut.Paivita(lomake_, {tariffi.PuhdasVesi(), kerroin}, "1");
     kMaksut.Paivita(lomake_, {tariffi.Jatevesi(), kerroin}, "2");
     kJatevesi.Paivita(lomake_, {tariffi.Jatevesi(), kerroin});
+    lomake_.NaytaVesivero(tariffi.VesiVero);
   }
   bool KirjoitaKentta(const Ohjain& kentta, clsVesitariffi& tariffi) override {
     const double kerroin = tariffi.NayttoKerroin();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Luettelomuokkain.h"
 
+#include <memory>
 #include <type_traits>
 
 #include "tekstit/viestit.h"
@@ -86,28 +87,38 @@ bool Luettelomuokkain::Estetty(const std::string& syy) const {
   return !syy.empty();
 }
 
+/// What the action gives.
+template <class F>
+auto Luettelomuokkain::Tee(F toimi) {
+  const auto lopuksi = [this](Luettelomuokkain*) {
+    if (toimet_.naytaUudelleen) Nayta();
+  };
+  const std::unique_ptr<Luettelomuokkain, decltype(lopuksi)> naytto(this, lopuksi);
+  return toimi();
+}
+
 void Luettelomuokkain::Lisaa() {
   if (Estetty(Syy(toimet_.lukko)) || Estetty(Syy(toimet_.lisayseste)) || !OtaKentat()) return;
-  if (const Tunniste avain = toimet_.lisaa(); !avain.Tyhja()) Valitse(avain);
+  if (const Tunniste avain = Tee(toimet_.lisaa); !avain.Tyhja()) Valitse(avain);
 }
 
 void Luettelomuokkain::Muokkaa() {
-  if (toimet_.muokkaa && Muokattavissa() && OtaKentat()) toimet_.muokkaa(Valittu());
+  if (toimet_.muokkaa && Muokattavissa() && OtaKentat()) Tee([&] { toimet_.muokkaa(Valittu()); });
 }
 
 void Luettelomuokkain::Kopioi() {
   if (!Kopioitavissa() || Estetty(Syy(toimet_.lukko)) || !OtaKentat()) return;
-  if (const Tunniste avain = toimet_.kopioi(Valittu()); !avain.Tyhja()) Valitse(avain);
+  if (const Tunniste avain = Tee([&] { return toimet_.kopioi(Valittu()); }); !avain.Tyhja()) Valitse(avain);
 }
 
 /// What refers to the object is told before the lock, since it is the nearer reason.
 void Luettelomuokkain::Poista() {
   const Tunniste avain = Valittu();
   if (!Muokattavissa() || Estetty(Syy(toimet_.poistoeste, avain)) || Estetty(Syy(toimet_.lukko))) return;
-  if (KysyPoisto(toimet_.nimi(avain), Syy(toimet_.poistonSeuraus, avain))) toimet_.poista(avain);
+  if (KysyPoisto(toimet_.nimi(avain), Syy(toimet_.poistonSeuraus, avain))) Tee([&] { toimet_.poista(avain); });
 }
 
 void Luettelomuokkain::Liita(const Taulukko& rivit) {
   if (Estetty(Syy(toimet_.lukko)) || !OtaKentat()) return;
-  if (const Tunniste avain = toimet_.liita(rivit); !avain.Tyhja()) Valitse(avain);
+  if (const Tunniste avain = Tee([&] { return toimet_.liita(rivit); }); !avain.Tyhja()) Valitse(avain);
 }

@@ -24,6 +24,9 @@ struct Luettelotoimet {
   std::function<Tunniste(const Taulukko&)> liita{};
   /// Enter or a double click on a row; editing when left out.
   std::function<void(const Tunniste&)> paina{};
+  /// The list is shown anew after whatever the person has done in it, also after an error: for a list in a dialog,
+  /// whose changes nobody commits yet.
+  bool naytaUudelleen = false;
   /// The choice or the rows have changed: for what hangs on them beside the buttons of the editor.
   std::function<void()> valittu{};
 
@@ -76,6 +79,8 @@ class Luettelomuokkain {
   void Kopioi();
   void Poista();
   void Liita(const Taulukko& rivit);
+  template <class F>
+  auto Tee(F toimi);
   bool OtaKentat() const { return !toimet_.otaKentat || toimet_.otaKentat(); }
   bool Muokattavissa() const { return Sallittu(toimet_.muokattavissa); }
   bool Kopioitavissa() const { return Sallittu(toimet_.kopioitavissa); }

@@ -48,9 +48,9 @@ std::optional<double> Vuodesta(const Koneluvut& k) {
 
 constexpr Sarake kSarakkeet[] = {
     {[](const Koneluvut& k) { return std::optional(k.kone.OnTulopuhallin() ? k.kone.TuloIlmavirta11Teho : 0); },
-     "### ##0.00#", true},
+     "### ##0.000", true},
     {[](const Koneluvut& k) { return std::optional(k.kone.OnPoistopuhallin() ? k.kone.PoistoIlmavirta11Teho : 0); },
-     "### ##0.00#", true},
+     "### ##0.000", true},
     {Vuodesta<&clsIVKone::Vuosiluvut::kayntiaika>, "### ##0", false},
     {Vuodesta<&clsIVKone::Vuosiluvut::jalkilammitys>, "### ##0.00", true},
     {Vuodesta<&clsIVKone::Vuosiluvut::talteenotto>, "### ##0.00", true},

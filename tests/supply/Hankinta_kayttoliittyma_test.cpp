@@ -4,6 +4,7 @@
 #include "supply/clsTariffit.h"
 #include "supply/clsVesitariffit.h"
 #include "tests/building/Koerakennus.h"
+#include "ui/Lomakekaannos.h"
 
 namespace {
 
@@ -153,7 +154,7 @@ TEST_F(HankintadialogiTesti, PriceFeesEmissionAndPictureFollowTheForms) {
     l.KayttajaMuokkaa(kLista, "Hake", 1, "30");
     EXPECT_EQ(l.Teksti("txtKeskihinta"), "120,00");
     EXPECT_EQ(l.Etsi("chtOsuudet").Kaavio().arvot.back(), 30);
-    EXPECT_EQ(Rivit(l).back(), (std::vector<std::string>{"Hake", "30,0", "0,0", "Kallis"}));
+    EXPECT_EQ(Rivit(l).back(), (std::vector<std::string>{"Hake", "30,0", "0,00", "Kallis"}));
     l.KayttajaPainaa("cmdIrrotaTariffit");
     EXPECT_EQ(Rivit(l).front().back(), "Ei tariffia");
     EXPECT_FALSE(l.Etsi("cmdIrrotaTariffit").Kaytossa());
@@ -181,7 +182,7 @@ TEST_F(HankintadialogiTesti, EachFormChoosesItsTariffs) {
       });
       l.KayttajaPainaa(nappi);
     }
-    EXPECT_EQ(Rivit(l).front(), (std::vector<std::string>{"Sähkö", "75,0", "0,0", "Myynti A", "Siirto A"}));
+    EXPECT_EQ(Rivit(l).front(), (std::vector<std::string>{"Sähkö", "75,0", "0,00", "Myynti A", "Siirto A"}));
     l.KayttajaMuokkaa(kLista, "Sähkö", 1, "100");
   };
   // Cancel takes back the tariffs too, also that of the dialog around.
@@ -226,6 +227,23 @@ TEST_F(HankintadialogiTesti, WaterHasItsOwnLayoutAndTariffs) {
     l.KayttajaPainaa("cmdMyyntiTariffi");
     EXPECT_EQ(Rivit(l).front().back(), "Vesi A");
   }));
+}
+
+TEST_F(HankintadialogiTesti, AnotherCurrencyReachesTheOpenDialogAndNoStoredAmount) {
+  clsTariffi& tariffi = LisaaTariffi(clsTariffi::LampoTariffi, "Öljy", 100);
+  tariffi.Perusmaksu = 1000;
+  LisaaMuoto(tiedot.LammonHankinta, "Öljy", 100).MyyntiTariffiSkey = tariffi.sKey;
+  EXPECT_TRUE(Avaa(tiedot.LammonHankinta, "cmdOk", [](Ikkunaton& l) {
+    EXPECT_EQ(l.Teksti("txtKeskihinta"), "100,00");
+    Asetukset().dblCurrencyConvCoeff = 2;
+    AsetaRahayksikko("mk");
+    PaivitaRahat();
+    EXPECT_EQ(l.Teksti("txtKeskihinta") + " " + l.Teksti("lblYksKeskihinta"), "200,00 mk/MWh");
+    EXPECT_EQ(l.Teksti("txtVuosimaksut") + " " + l.Teksti("lblYksVuosimaksut"), "2 000,00 mk/a");
+  }));
+  AsetaRahayksikko("€");
+  EXPECT_EQ(tariffi.Maksu(1).Hinta, 100);
+  EXPECT_EQ(tariffi.Perusmaksu, 1000);
 }
 
 TEST_F(HankintadialogiTesti, ASupplyOfAMeasureIsLockedAndChoosesTariffsOnly) {

@@ -385,6 +385,7 @@ TEST_F(TariffidialogiTesti, WaterIsBilledCleanInFullAndWasteByItsShare) {
     Kirjoita(l, "txtEnergiamaksuHinta2", "3,66");
     Kirjoita(l, "TxtPerusmaksu", "61");
     EXPECT_EQ(l.Teksti("txtEnergiaYhteensa2"), "0,00") << "no waste water yet";
+    EXPECT_FALSE(l.Etsi("txtVesivero").Nakyva());
     Kirjoita(l, "txtLaskutettavaJateVesiOsuus", "80");
     const std::pair<const char*, const char*> odotetut[] = {{"txtEnergiaYhteensa1", "244,00"},
                                                             {"txtEnergiaYhteensa2", "292,80"},
@@ -402,8 +403,15 @@ TEST_F(TariffidialogiTesti, WaterIsBilledCleanInFullAndWasteByItsShare) {
   EXPECT_DOUBLE_EQ(tariffi.Keskihinta(), 4.4);
   EXPECT_DOUBLE_EQ(tariffi.VuosimaksutYht(), 50);
   tariffi.PuhdasVesi().Kulutusosuus = 40;  // from another program
-  AvaaVesi(Ok);
+  tariffi.VesiVero = 2;
+  AvaaVesi([](Ikkunaton& l) {
+    EXPECT_EQ(l.Teksti("txtVesivero"), "2,00");
+    EXPECT_TRUE(l.Etsi("txtVesivero").Lukittu());
+    EXPECT_EQ(l.Teksti("txtYhteensa"), "597,80") << "it costs nothing";
+    Ok(l);
+  });
   EXPECT_EQ(tariffi.PuhdasVesi().Kulutusosuus, 100);
+  EXPECT_EQ(tariffi.VesiVero, 2);
   rakennus->Perustiedot.VedenHankinta.Energiamuodot.Add("v").MyyntiTariffiSkey = tariffi.sKey;
   AvaaVesi([](Ikkunaton& l) {
     l.KayttajaPainaa("cmdPoista");

@@ -57,17 +57,17 @@ TEST_F(KoneDialogi, ListShowsTheYearOfEachMachineAndItsSums) {
   poisto.TuloIlmavirta11Teho = 0;
   Kone().LtoHyotysuhde = 50;
   rakennus->IVKoneet.NaytaKayttoliittyma();
-  EXPECT_EQ(Rivit()[0], (std::vector<std::string>{"TK01", "Tuloilmakone ja LTO", "Aula", "1,00", "1,00", "8 760",
+  EXPECT_EQ(Rivit()[0], (std::vector<std::string>{"TK01", "Tuloilmakone ja LTO", "Aula", "1,000", "1,000", "8 760",
                                                   Muotoile(Kone().VuotuinenIVjalkilammitysLampo(), "### ##0.00"),
                                                   Rivit()[0][7], "26,28"}))
       << "3 kW the year round";
   EXPECT_EQ(Rivit()[1],
-            (std::vector<std::string>{"Uusi kone", "", "---", "0,00", "0,50", "0", "0,00", "0,00", "0,00"}));
+            (std::vector<std::string>{"Uusi kone", "", "---", "0,000", "0,500", "0", "0,00", "0,00", "0,00"}));
   const double talteen = LueLuku(Rivit()[0][7]).value();
   Kone().LtoHyotysuhde = 0;
   EXPECT_NEAR(talteen, Kone().VuotuinenIVjalkilammitysLampo() - LueLuku(Rivit()[0][6]).value(), 0.011);
   const auto& summat = Luettelo().Etsi("lvwKoneet").Summarivi();
-  EXPECT_EQ(summat[4], "1,50");
+  EXPECT_EQ(summat[4], "1,500");
   EXPECT_EQ(summat[5], "") << "running hours have no sum";
   EXPECT_EQ(summat[8], "26,28");
   EXPECT_TRUE(rakennus->Tallennettu) << "looking changes nothing";
