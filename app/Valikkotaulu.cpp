@@ -154,7 +154,8 @@ constexpr Valikkorivi kRivit[] = {
     {"mnuRakennus", ""},
     {"mnuRakennus", "mnuLampo", tekstit::kValikkoLampo, "Ctrl+L", LampoAvattavissa,
      [](frmMain& i) { i.Kohteet().Rakennus()->NaytaLampoYhteenvetoDlg(); }},
-    {"mnuRakennus", "mnuYhteenveto", tekstit::kValikkoYhteenveto, "", kTulossa},
+    {"mnuRakennus", "mnuYhteenveto", tekstit::kValikkoYhteenveto, "", KohdeValmis,
+     [](frmMain& i) { i.Kohteet().Rakennus()->NaytaYhteenvetoDlg(); }},
 
     {"mnuKirjastot", "mnuRakennekirjasto", tekstit::kValikkoRakennekirjasto, "", nullptr,
      [](frmMain&) { RakennekirjastolinkkiNyt().NaytaRakennekirjasto(); }},

@@ -7,6 +7,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "results/Perusteet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
@@ -43,14 +44,6 @@ void LisaaHankinta(Tekstitaulu& taulu, const Hankinta& h, clsRakennus& rakennus)
   } catch (const Virhe& virhe) {
     taulu.Lisaa({hankinta.Nimi + ": " + virhe.SyynKuvaus()});
   }
-}
-
-/// What VAT the costs hold.
-std::string Alvperuste() {
-  const clsLumivirtaAsetukset& a = Asetukset();
-  if (!a.KaytaKohtTulostuksissaALVHintoja) return Teksti(tekstit::kKustannuksetIlmanAlvia);
-  return Teksti(tekstit::kKustannuksetAlvinKanssa) + " " + Prosentteina(a.dblLampoALV) + ", " +
-         Prosentteina(a.dblSahkoALV) + ", " + Prosentteina(a.dblVesiALV);
 }
 
 }  // namespace

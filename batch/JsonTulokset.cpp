@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <vector>
 
 #include "batch/Toimenpidelaskenta.h"
@@ -14,11 +15,14 @@
 #include "kernel/Virhe.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
+#include "results/Lampoyhteenveto.h"
+#include "results/clsYhteenveto.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
 #include "supply/clsVesitariffit.h"
 #include "tekstit/tulokset.h"
+#include "ui/Hiljaa.h"
 #include "ui/Tekstivarasto.h"
 #include "ventilation/clsIVKoneet.h"
 
@@ -43,8 +47,16 @@ constexpr Tulos kAsetukset[] = {
     Asetustulos<&clsLumivirtaAsetukset::KaytaKohtTulostuksissaALVHintoja>("KaytaKohtTulostuksissaALVHintoja"),
 };
 
+/// What the measured year has to tell is told once, with the building's own results.
+clsYhteenveto LaskeYhteenveto(clsRakennus& rakennus) {
+  const Hiljaisuus hiljaisuus;
+  clsYhteenveto yhteenveto;
+  yhteenveto.LueDataluokka(rakennus);
+  return yhteenveto;
+}
+
 /// The objects at the top of the JSON; what each shows stands in the table of results of its class.
-constexpr Tulos kJuuri[] = {
+const Tulos kJuuri[] = {
     Ryhmatulos("Asetukset", kAsetukset),
     Osatulos<[](clsRakennus& r) -> clsSaa& { return r.Saa; }>("Saa"),
     Osatulos<[](clsRakennus& r) -> Olio& { return r; }>("Rakennus"),
@@ -59,6 +71,8 @@ constexpr Tulos kJuuri[] = {
     Kokoelmatulos<[](clsRakennus& r) -> clsSaastotoimenpiteet& { return r.Saastotoimenpiteet; }>("Toimenpiteet"),
     Osatulos<[](clsRakennus& r) -> clsToimenpiteidenJarjestelija& { return r.ToimenpiteidenJarjestelija; }>(
         "Jarjestelija"),
+    Osatulos<[](clsRakennus& r) { return LaskeYhteenveto(r); }>("Yhteenveto"),
+    Ryhmatulos("LampoYhteenveto", LampoyhteenvedonTulokset()),
 };
 
 /// Writes rows of results, and keeps the errors of those that can't be computed.
@@ -71,9 +85,11 @@ class Tuloskirjoitin {
   }
   void LisaaVirhe(const std::exception& virhe) {
     const auto* nostettu = dynamic_cast<const Virhe*>(&virhe);
-    virheet_.push_back((nostettu ? nostettu->Lahde() + ": " : std::string()) + SyynKuvaus(virhe));
+    LisaaVirhe((nostettu ? nostettu->Lahde() + ": " : std::string()) + SyynKuvaus(virhe));
   }
-  void LisaaVirhe(const std::string& virhe) { virheet_.push_back(virhe); }
+  void LisaaVirhe(const std::string& virhe) {
+    if (std::ranges::find(virheet_, virhe) == virheet_.end()) virheet_.push_back(virhe);
+  }
   const std::vector<std::string>& Virheet() const { return virheet_; }
 
  private:
@@ -90,7 +106,7 @@ class Tuloskirjoitin {
       case Tuloslaji::Arvo:
         return Yrita([&] { std::visit([&](const auto& arvo) { json_.Arvo(arvo); }, rivi.arvo(kohde)); });
       case Tuloslaji::Osa:
-        return rivi.osat(kohde, [&](Olio& osa) { Kirjoita({osa, &kohde}); });
+        return Yrita([&] { rivi.osat(kohde, [&](Olio& osa) { Kirjoita({osa, &kohde}); }); });
       case Tuloslaji::Upotettu:
         return rivi.osat(kohde, [&](Olio& osa) { Rivit({osa, &kohde}, osa.LuokanTiedot().Tulokset()); });
       case Tuloslaji::Osat:

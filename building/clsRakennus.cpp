@@ -17,6 +17,7 @@
 #include "measures/Muunnelma.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
+#include "results/Yhteenvetoikkuna.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsProjektiAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"

@@ -23,6 +23,7 @@ class clsTilat;
 class clsToimenpiteidenJarjestelija;
 class clsVedenKulutusryhmat;
 class clsVesitariffit;
+class Yhteenvetoikkuna;
 class frmLampoYhteenveto;
 
 /// Sums over the spaces and the machines of a building on which its gross energies rest, MWh/a.
@@ -202,6 +203,8 @@ class clsRakennus : public Malli<clsRakennus> {
 
   /// Opens the heat summary after its warnings; re-bases all measures on the present model.
   void NaytaLampoYhteenvetoDlg();
+  /// Opens the yearly summary (results/Yhteenvetoikkuna.h).
+  void NaytaYhteenvetoDlg();
 
  private:
   Energiasummat Lammityssummat();
@@ -225,4 +228,5 @@ class clsRakennus : public Malli<clsRakennus> {
   bool vaurioitunut_ = false;   // the file had values that could not be read: the next save keeps it aside
   std::unique_ptr<frmLampoYhteenveto> lampoYhteenveto_;
   Muutostilaus lampoYhteenvedonTilaus_;
+  std::unique_ptr<Yhteenvetoikkuna> yhteenveto_;
 };

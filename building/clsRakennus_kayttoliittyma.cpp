@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The heat summary, and the first model of a new building.
+// The summaries, and the first model of a new building.
 #include "building/Kuukausitase.h"
 #include "building/Oletusmalli.h"
 #include "building/Tasehaarukka.h"
@@ -9,10 +9,13 @@
 #include "building/modAlkuarvojaRakennukseen.h"
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
+#include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "library/Rakennetyyppi.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
+#include "results/Lampoyhteenveto.h"
+#include "results/Yhteenvetoikkuna.h"
 #include "settings/clsProjektiAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"
 #include "tekstit/rakennus.h"
@@ -114,10 +117,18 @@ void clsRakennus::NaytaLampoYhteenvetoDlg() try {
   const Odotus odotus;
   VaroitaMaanvaraisista();
   VaroitaIlmavirroista();
+  ToteutunutNormitettuLampo();  // tells what is amiss with the comparison year
   PaivitaLampoYhteenveto();
   lampoYhteenveto_->Nayta();
 } catch (...) {
   NostaVirhe("clsRakennus:NaytaLampoYhteenvetoDlg Method");
+}
+
+void clsRakennus::NaytaYhteenvetoDlg() try {
+  if (!yhteenveto_) yhteenveto_ = std::make_unique<Yhteenvetoikkuna>(*this);
+  yhteenveto_->Nayta();
+} catch (...) {
+  NostaVirhe("clsRakennus:NaytaYhteenvetoDlg Method");
 }
 
 /// The figures, and with them the base of the measures.
@@ -152,18 +163,13 @@ void clsRakennus::VaroitaIlmavirroista() {
 }
 
 void clsRakennus::TaytaLampoYhteenveto() {
-  constexpr const char* kEnergia = "### ##0.00";
   constexpr const char* kTarkka = "0.00000000";
   frmLampoYhteenveto& lomake = *lampoYhteenveto_;
   lomake.BruttoAla = Perustiedot.BruttoAla;
   lomake.Kokonaistilavuus = Perustiedot.Kokonaistilavuus;
   lomake.KohteenNimi = Perustiedot.KohteenNimi;
-  lomake.txtTilojenLammitys.arvo.Luku(VuotuinenLampoEnergianTarveTilat(), kEnergia);
-  lomake.txtIlmanvaihtokoneet.arvo.Luku(VuotuinenIVjalkilammitysLampo(), kEnergia);
-  lomake.txtKayttoVedenLammitys.arvo.Luku(VuotuisetLKVHaviot(), kEnergia);
-  lomake.txtProsessiVedenLammitys.arvo.Luku(VuotuisetProsessiVesiHaviot(), kEnergia);
-  lomake.txtMuuLampo.arvo.Luku(MuuLampo, kEnergia);
-  lomake.txtToteutunutKulutus.arvo.Luku(ToteutunutNormitettuLampo(), kEnergia);
+  for (const Tulos& tulos : LampoyhteenvedonTulokset())
+    TextBox(lomake, tulos.nimi).Luku(tulos.Arvo({*this}), tulos.kuvio);
   lomake.txtSaatoHaviot.Luku(VuotuisetSaatohaviot(), kTarkka);
   lomake.txtLammonTuotonHaviot.Luku(VuotuisetLammonKonversiohaviot(), kTarkka);
   lomake.Laske();

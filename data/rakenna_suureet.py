@@ -72,6 +72,7 @@ LUOKAT = {
                                                      "LampoEnergiaHinta": "=Lämpöenergian hinta"}),
     "clsToimenpiteidenJarjestelija": ("Toimenpiteiden järjestelijä", "", {}),
     "clsValittuToimenpide": ("Järjestelijän rivi", "", {}),
+    "clsYhteenveto": ("Yhteenveto", "", {}),
     "clsRakennus": ("Rakennus", "frmLampoYhteenveto", {}),
 }
 ALKU = """# Suureiden taulukko
@@ -136,7 +137,7 @@ def jasentaulukko(jasenet, nimet, kentat):
 def tulostaulukko(tulokset, tekstit):
     yield "\n| Tulos | Tunnus | Yksikkö | Aika |\n|---|---|---|---|\n"
     for tunnus, yksikko, teksti, aika in tulokset:
-        yield f"| {tekstit[int(teksti)]} | `{tunnus}` | {yksikko} | {aika} |\n"
+        yield f"| {tekstit[int(teksti)]} | `{tunnus}` | {yksikko.replace('mkTagi', '€')} | {aika} |\n"
 
 
 def sivu(rivit, tekstit, lomakkeet):

@@ -155,11 +155,14 @@ constexpr Tulos Avaintulos() {
   return Tekstitulos<[](const Alkio& a) { return a.sKey.Teksti(); }>("sKey");
 }
 
-/// A part: the getter gives the object.
+/// A part: the getter gives the object, or makes it for the reading.
 template <auto F>
 constexpr Tulos Osatulos(std::string_view nimi) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Osa};
-  t.osat = [](const Tuloskohde& k, const std::function<void(Olio&)>& kasittele) { kasittele(tulos::Kutsu<F>(k)); };
+  t.osat = [](const Tuloskohde& k, const std::function<void(Olio&)>& kasittele) {
+    auto&& osa = tulos::Kutsu<F>(k);
+    kasittele(osa);
+  };
   return t;
 }
 template <auto F>

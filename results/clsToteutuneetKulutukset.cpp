@@ -19,6 +19,13 @@ const clsToteutunutKulutus& clsToteutuneetKulutukset::VertailuVuodenTiedot() con
   return kEiVertailuvuotta;
 }
 
+int clsToteutuneetKulutukset::Vertailuvuosi() const {
+  for (int i = 1; i <= Count(); ++i)
+    if (const clsToteutunutKulutus* vuosi = Vuosi(i); vuosi && vuosi == &VertailuVuodenTiedot())
+      return KulutusTietojenViimVuosi - (i - 1);
+  return 0;
+}
+
 clsToteutunutKulutus* clsToteutuneetKulutukset::Vuosi(int i) const {
   if (clsToteutunutKulutus* rivi = Etsi("Tot " + std::to_string(i))) return rivi;
   return Etsi("Tot " + std::to_string(KulutusTietojenViimVuosi - (i - 1)));

@@ -13,6 +13,8 @@ class clsToteutuneetKulutukset : public Malli<clsToteutuneetKulutukset, Kokoelma
 
   /// The first year marked as the comparison year. With none: a year of zeros, never nothing.
   const clsToteutunutKulutus& VertailuVuodenTiedot() const;
+  /// The comparison year, 2024; 0 with none.
+  int Vertailuvuosi() const;
   /// The i:th newest year, from 1, under the key "Tot i" or "Tot " + the year; nothing if there is no such row.
   clsToteutunutKulutus* Vuosi(int i) const;
 };

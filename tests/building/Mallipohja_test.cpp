@@ -6,6 +6,7 @@
 #include "kernel/Sha256.h"
 #include "kernel/Tietokanta.h"
 #include "kernel/Versio.h"
+#include "results/clsYhteenveto.h"
 #include "tests/building/Koerakennus.h"
 
 namespace {
@@ -59,6 +60,7 @@ TEST(Mallipohja, TablesAreTheClassesAndColumnsTheirMembersInOrder) {
 
   ASSERT_FALSE(clsRakennus::kLuokka.Jasenet().empty());
   for (const Luokka* luokka : Luokka::Kaikki()) {
+    if (luokka == &clsYhteenveto::kLuokka) continue;  // computed when it is shown, never saved
     const std::string nimi(luokka->Nimi());
     SCOPED_TRACE(nimi);
     EXPECT_EQ(taulut.erase(nimi), 1u) << "the template has no such class";
