@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/Hankintayhteenveto.h"
 
+#include "batch/Kustannusyhteenveto.h"
 #include "batch/Tekstitaulu.h"
 #include "building/Hankintalaskelma.h"
 #include "building/clsPerustiedot.h"
@@ -57,5 +58,7 @@ void KirjoitaHankinta(std::ostream& tulos, clsRakennus& rakennus) {
                      Asetukset().strDefaultCurrencyUnit + "/a", "t CO₂-ekv/a"});
   for (const Hankinta& h : kHankinnat) LisaaHankinta(taulu, h, rakennus);
   taulu.Tulosta(tulos);
-  tulos << "  " << Alvperuste() << "\n\n";
+  tulos << '\n';
+  KirjoitaKustannukset(tulos, rakennus);
+  tulos << "  " << Rahaperuste() << "\n\n";
 }

@@ -3,7 +3,6 @@
 
 #include "batch/Tekstitaulu.h"
 #include "kernel/Luvut.h"
-#include "results/Perusteet.h"
 #include "results/clsYhteenveto.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/lomakkeet_yhteenveto.h"
@@ -55,5 +54,5 @@ void KirjoitaKustannukset(std::ostream& tulos, clsRakennus& rakennus) {
                  rivi.paasto ? Muotoile((y.*rivi.paasto).yhteensa, kMaara) : std::string()});
   }
   taulu.Tulosta(tulos);
-  tulos << "  " << Rahaperuste() << "\n\n";
+  tulos << '\n';
 }

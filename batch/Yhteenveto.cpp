@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/Hankintayhteenveto.h"
-#include "batch/Kustannusyhteenveto.h"
 #include "batch/Tekstitaulu.h"
 #include "batch/Toimenpideyhteenveto.h"
 #include "batch/Tulokset.h"
@@ -123,7 +122,6 @@ void KirjoitaYhteenveto(std::ostream& tulos, const std::string& tiedosto, clsRak
   Taulu vesi(tiedot, tekstit::kYhteenvedonVesi, "m³", "dm³");
   vesi.Vertailu(Tulosrivit(vesi, rakennus.VedenKulutusryhmat, kVedet), tekstit::kMitattuKulutus, mitattu.Vesi);
   vesi.Tulosta(tulos);
-  KirjoitaKustannukset(tulos, rakennus);
   KirjoitaHankinta(tulos, rakennus);
   KirjoitaToimenpiteet(tulos, rakennus);
   for (const std::string& rivi : Viestirivit(viestit))

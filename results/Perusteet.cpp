@@ -11,14 +11,14 @@ namespace {
 
 std::string Prosentteina(double luku) { return Muotoile(luku, "0.##") + " %"; }
 
-}  // namespace
-
 std::string Alvperuste() {
   const clsLumivirtaAsetukset& a = Asetukset();
   if (!a.KaytaKohtTulostuksissaALVHintoja) return Teksti(tekstit::kKustannuksetIlmanAlvia);
   return Teksti(tekstit::kKustannuksetAlvinKanssa) + " " + Prosentteina(a.dblLampoALV) + ", " +
          Prosentteina(a.dblSahkoALV) + ", " + Prosentteina(a.dblVesiALV) + ".";
 }
+
+}  // namespace
 
 std::string Rahaperuste() {
   const clsLumivirtaAsetukset& a = Asetukset();

@@ -6,7 +6,5 @@
 
 /// The currency, and whether the amounts hold VAT, by the settings in force.
 std::string Rahaperuste();
-/// VAT alone.
-std::string Alvperuste();
 /// How the emissions of measured and of calculated use are computed.
 std::string Paastoperuste();

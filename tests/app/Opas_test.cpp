@@ -164,6 +164,13 @@ TEST_F(OppaanEsimerkki, AMeasureAndWhatItChanges) {
   EXPECT_FALSE(toimenpide.NaytaKayttoliittyma());
 }
 
+TEST_F(OppaanEsimerkki, YearlySummary) {
+  AsetaQtLomakkeet(nullptr);  // a window of its own has the room that it needs
+  rakennus().NaytaYhteenvetoDlg();
+  QApplication::processEvents();
+  KuvaaLomake(*AvoinLomake("frmYhteenveto"));
+}
+
 TEST_F(OppaanEsimerkki, StructuresAndALayer) {
   KunAuki("cmdPeruuta", [](Lomake& rakenteet) {
     rakenteet.Etsi("tabRakenne").Indeksi(1);

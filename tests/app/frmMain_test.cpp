@@ -86,11 +86,11 @@ class PaaikkunaTesti : public testing::Test {
 
 TEST_F(PaaikkunaTesti, EntriesFollowTheObject) {
   for (const char* nimi : {"mnuFileNew", "mnuFileOpen", "mnuFileExit"}) EXPECT_TRUE(Kaytossa(nimi)) << nimi;
-  for (const char* nimi : {"mnuFileSave", "mnuFileSaveAs", "mnuPerustiedot", "mnuLampo"})
+  for (const char* nimi : {"mnuFileSave", "mnuFileSaveAs", "mnuPerustiedot", "mnuLampo", "mnuYhteenveto"})
     EXPECT_FALSE(Kaytossa(nimi)) << nimi;
   ASSERT_TRUE(istunto.Avaa(kohde));
   AvaaValikko(*ikkuna, "mnuFile");
-  for (const char* nimi : {"mnuFileSave", "mnuFileSaveAs", "mnuPerustiedot", "mnuLampo"})
+  for (const char* nimi : {"mnuFileSave", "mnuFileSaveAs", "mnuPerustiedot", "mnuLampo", "mnuYhteenveto"})
     EXPECT_TRUE(Kaytossa(nimi)) << nimi;
 
   Toiminto(*ikkuna, "mnuLampo").trigger();
@@ -99,6 +99,8 @@ TEST_F(PaaikkunaTesti, EntriesFollowTheObject) {
   AvoinLomake("frmLampoYhteenveto")->Sulje();
   AvaaValikko(*ikkuna, "mnuRakennus");
   EXPECT_TRUE(Kaytossa("mnuLampo"));
+  Toiminto(*ikkuna, "mnuYhteenveto").trigger();
+  EXPECT_TRUE(AvoinLomake("frmYhteenveto"));
 }
 
 TEST_F(PaaikkunaTesti, EveryEntryHasAFinnishTextALetterAndKeysOfItsOwn) {

@@ -93,6 +93,9 @@ TEST_F(KohdelaskentaTesti, ATariffThatIsGoneLeavesOnlyItsSupplyUntold) {
   EXPECT_FALSE(json.onnistui);
   EXPECT_TRUE(Sisaltaa(json.tulos, "\"LammonHankinta\": {\n      \"Keskihinta\": null")) << json.tulos;
   EXPECT_TRUE(Sisaltaa(json.tulos, "clsEnergiamuodot:Keskihinta Method: avainta ei ole: poistettu"));
+  EXPECT_TRUE(Sisaltaa(json.tulos, "\"YhtLammitysenergiaKustannus\": null"));
+  EXPECT_FALSE(Sisaltaa(json.tulos, "\"YhtLammitysenergiaKulutus\": null"));
+  EXPECT_FALSE(Sisaltaa(json.tulos, "\"YhtSahkoKustannus\": null"));
   const Laskettu teksti = LaskeKohde(tiedosto, Tulostusmuoto::Yhteenveto, 0);
   EXPECT_TRUE(Sisaltaa(teksti.tulos, "Lämmön hankinta: avainta ei ole: poistettu")) << teksti.tulos;
   EXPECT_TRUE(Sisaltaa(teksti.tulos, "Sähkön hankinta  "));

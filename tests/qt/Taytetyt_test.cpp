@@ -33,6 +33,7 @@
 #include "ui/frmTarkennettuVesiLaskenta.h"
 #include "ui/frmVedenKulutus.h"
 #include "ui/frmVesitariffi.h"
+#include "ui/frmYhteenveto.h"
 #include "ui/qt/Kehys.h"
 
 namespace {
@@ -307,6 +308,20 @@ TEST_F(Taytetyt, TheListsOfConsumersFitAMagnifiedScreen) {
     vesi.Etsi("tabVesi").Indeksi(sivu);
     TallennaKuva(vesi, "Sivu" + QString::number(sivu));
   }
+}
+
+TEST_F(Taytetyt, TheYearlySummaryFitsAMagnifiedScreen) {
+  frmYhteenveto lomake;
+  for (const auto& ohjain : lomake.Ohjaimet())
+    if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("1 234 567");
+  lomake.lblMitattu.Otsikko("Mitattu, vuosi 2025");
+  lomake.lblPerusteet.Otsikko(Teksti(4723));
+  lomake.lblHuomautukset.Otsikko(Teksti(4725) + "\n" + Teksti(4726));
+  lomake.Laske();
+  lomake.Nayta();
+  OdotaMahtuvan(lomake);
+  EiVieritettava(lomake, kSuurennettuNaytto);
+  TallennaKuva(lomake, "Pieni");
 }
 
 void TaytaKone(frmIlmanvaihtokone& lomake) {

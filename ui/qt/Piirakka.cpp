@@ -12,9 +12,15 @@ constexpr int kKellonHuippu = 90 * kYksiAste;
 
 }  // namespace
 
-QSize Piirakka::sizeHint() const {
-  const int rivi = fontMetrics().height();
-  const int korkeus = std::max(20 * rivi, static_cast<int>(Tiedot().nimet.size() + 5) * rivi * 3 / 2);
+QSize Piirakka::sizeHint() const { return Koko(std::max(20, static_cast<int>(Tiedot().nimet.size() + 5) * 3 / 2)); }
+
+/// The legend and its title, and a pie in which the numbers can be read.
+QSize Piirakka::minimumSizeHint() const {
+  return Koko(std::max(11, static_cast<int>(Tiedot().nimet.size() + 3) * 3 / 2));
+}
+
+QSize Piirakka::Koko(int riveja) const {
+  const int rivi = fontMetrics().height(), korkeus = riveja * rivi;
   const int otsikko = QFontMetrics(Lihava(font())).horizontalAdvance(Teksti(Tiedot().otsikko)) + 2 * rivi;
   return {std::max(korkeus + SelitteenLeveys(), otsikko), korkeus};
 }

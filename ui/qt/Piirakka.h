@@ -7,10 +7,12 @@ class Piirakka : public Osuuskuva {
  public:
   using Osuuskuva::Osuuskuva;
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* tapahtuma) override;
 
  private:
+  QSize Koko(int riveja) const;
   void PiirraSiivut(QPainter& maalain, const QRectF& ympyra) const;
 };
