@@ -65,7 +65,8 @@ class YhteenvetoTesti : public RakennusTesti {
     return clsYhteenveto::kLuokka.TulosNimella(nimi).Arvo({y});
   }
   static bool Huomauttaa(const clsYhteenveto& y, std::string_view mista) {
-    return std::ranges::any_of(y.Huomautukset, [&](const std::string& h) { return h.contains(mista); });
+    return std::ranges::any_of(y.Huomautukset,
+                               [&](const std::string& h) { return h.find(mista) != std::string::npos; });
   }
 
   clsPerustiedot& tiedot = rakennus->Perustiedot;
@@ -144,7 +145,7 @@ TEST_F(YhteenvetoTesti, WhatIsMissingIsToldAndTheRestComputed) {
   EXPECT_TRUE(std::isnan(y.YhtSahkoKustannus.yhteensa));
   EXPECT_THROW(Arvo(y, "YhtSahkoKustannus"), std::runtime_error);
   EXPECT_THROW(Arvo(y, "LaskettuSahkoKustannus"), std::runtime_error);
-  EXPECT_GT(Arvo(y, "LaskettuSahkoKulutus"), 0);
+  EXPECT_EQ(Arvo(y, "LaskettuSahkoKulutus"), rakennus->VuotuinenBruttoSahkoEnergia());
   EXPECT_TRUE(Huomauttaa(y, "Vertailuvuotta ei ole valittu"));
   EXPECT_TRUE(Huomauttaa(y, "Lämmön hankinta: tariffia ei ole"));
   EXPECT_TRUE(Huomauttaa(y, "Sähkön hankinta: kustannusta ei voi laskea: avainta ei ole: poistettu"));
@@ -155,8 +156,9 @@ TEST_F(YhteenvetoTesti, TheWindowShowsTheFiguresAndFollowsCommitsAndCurrency) {
   const Ikkunaton& lomake = ikkunat.Ikkuna("frmYhteenveto");
   clsYhteenveto y = Lue();
   for (const Tulos& tulos : clsYhteenveto::kLuokka.Tulokset())
-    if (tulos.laji == Tuloslaji::Vuosi)
+    if (tulos.laji == Tuloslaji::Vuosi) {
       EXPECT_EQ(lomake.Teksti("txt" + std::string(tulos.nimi)), Muotoile(tulos.Arvo({y}), tulos.kuvio)) << tulos.nimi;
+    }
   EXPECT_EQ(lomake.Teksti("txtYhtLammitysenergiaKustannus"), "8 500");
   EXPECT_EQ(lomake.Teksti("txtSummaKustannus"), "13 900,00");
   EXPECT_EQ(lomake.Teksti("txtSummaOminaiskustannus1"), "3,48") << "2,13 + 1,00 + 0,35, as they are shown";
@@ -165,7 +167,7 @@ TEST_F(YhteenvetoTesti, TheWindowShowsTheFiguresAndFollowsCommitsAndCurrency) {
   EXPECT_EQ(kaavio.otsikko, "Kustannusten jakauma");
   EXPECT_EQ(kaavio.nimet, (std::vector<std::string>{"Lämpö", "Sähkö", "Vesi"}));
   EXPECT_EQ(kaavio.arvot, (std::vector<double>{8500, 4000, 1400}));
-  EXPECT_TRUE(lomake.Teksti("lblPerusteet").contains("ilman arvonlisäveroa"));
+  EXPECT_NE(lomake.Teksti("lblPerusteet").find("ilman arvonlisäveroa"), std::string::npos);
   EXPECT_TRUE(lomake.Etsi("txtTunLammitysenergiaOminaiskulutus2").Vihje().ends_with("200,00 kWh/m²,a"));
 
   tiedot.ToteutuneetKulutukset.Item(2).Vesi = 800;
@@ -184,7 +186,7 @@ TEST_F(YhteenvetoTesti, TheWindowShowsTheFiguresAndFollowsCommitsAndCurrency) {
   Asetukset().ValuuttaTyyppi(0);
   PaivitaRahat();
   EXPECT_EQ(lomake.Teksti("txtYhtVesiKustannus"), "9 513") << "1600 × 5.94573";
-  EXPECT_TRUE(lomake.Teksti("lblPerusteet").contains("(1 € = 5,94573 mk)"));
+  EXPECT_NE(lomake.Teksti("lblPerusteet").find("(1 € = 5,94573 mk)"), std::string::npos);
 }
 
 TEST_F(YhteenvetoTesti, TheHeatSummarysResultsAreTheWindowsFigures) {
