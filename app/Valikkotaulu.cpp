@@ -6,6 +6,7 @@
 #include "building/clsTilat.h"
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsEnergiamuodonKasittely.h"
@@ -176,7 +177,8 @@ constexpr Valikkorivi kRivit[] = {
     {"mnuSaastoToimenpiteet", "mnuTariffivertailu", tekstit::kValikkoSahkotariffienVertailu, "",
      ToimenpiteetAvattavissa, [](frmMain& i) { i.Kohteet().Rakennus()->SahkoTariffienVertailu.NaytaKayttoliittyma(); }},
     {"mnuSaastoToimenpiteet", "mnuToimenpiteidenJarjestelija", tekstit::kValikkoToimenpiteidenJarjestelija, "",
-     kTulossa},
+     ToimenpiteetAvattavissa,
+     [](frmMain& i) { i.Kohteet().Rakennus()->ToimenpiteidenJarjestelija.NaytaKayttoliittyma(); }},
 
     {"mnuElinkaari", "mnuOletusarvot", tekstit::kValikkoOletusarvot, "", kTulossa},
     {"mnuElinkaari", "mnuRakennusosat", tekstit::kValikkoRakennusosat, "", kTulossa},

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include "measures/Hyodykkeet.h"
 #include "settings/Alvprosentit.h"
 
 /// What a year's costs sink by, by what they come from, €/a without VAT.
@@ -11,6 +12,10 @@ struct Kustannussaastot {
   /// All together, each with its VAT.
   double Yhteensa(const Alvprosentit& alv) const noexcept;
 };
+
+/// Costs of a year, €/a without VAT, as they are shown: each with its VAT, if amounts are shown with it, and in the
+/// shown currency.
+double NaytettyHinta(const Hyodykkeet& hinta);
 
 /// Years of a payback that never comes.
 inline constexpr double kEiTakaisinmaksua = 9999;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measures/clsToimenpiteidenJarjestelija.h"
 
+#include <algorithm>
+
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
 #include "measures/Muunnelmaketju.h"
@@ -142,7 +144,7 @@ std::string clsToimenpiteidenJarjestelija::LaskeRivit() {
     else if (rivi.Tyyppi == Rivi::Tariffi)
       rivi.TiedotUpToDate = true;
   const auto jalkeen = Jos([&] { return laskenta.LaskeOstot(); });
-  paketti_.arvo = {perusta, laskenta.Tila(), ostot && jalkeen ? std::optional(*ostot - *jalkeen) : std::nullopt};
+  paketti_.arvo = {perusta, laskenta.Tila(), ostot, ostot && jalkeen ? std::optional(*ostot - *jalkeen) : std::nullopt};
   return laskenta.Puuttuvat();
 }
 
@@ -172,6 +174,21 @@ void clsToimenpiteidenJarjestelija::Vanhenna() noexcept {
     if (rivi.Tyyppi != Rivi::Tariffi) rivi.TiedotUpToDate = false;
 }
 
+bool clsToimenpiteidenJarjestelija::Vanhentunut() const {
+  for (const Rivi& rivi : ValitutToimenpiteet)
+    if (!rivi.TiedotUpToDate) return true;
+  return false;
+}
+
+/// The rows of these places, from 1, have others above them than before.
+void clsToimenpiteidenJarjestelija::Muuttui(int ensimmainen, int viimeinen) {
+  ValitutToimenpiteet.LaskelmatUpToDate = false;
+  paketti_.arvo.reset();
+  for (int i = ensimmainen; i <= viimeinen; ++i)
+    if (Rivi& rivi = ValitutToimenpiteet.Item(i); rivi.Tyyppi == Rivi::Toimenpide) rivi.TiedotUpToDate = false;
+  if (Rivi* yhteensa = ValitutToimenpiteet.Etsi(clsValitutToimenpiteet::kYhteensa)) yhteensa->TiedotUpToDate = false;
+}
+
 void clsToimenpiteidenJarjestelija::Valitse(const Tunniste& toimenpide, bool valittu) try {
   clsSaastotoimenpiteet& toimenpiteet = koti_.Rakennus().Saastotoimenpiteet;
   if (!valittu) return PoistaToimenpiteenRivit(toimenpide);
@@ -180,17 +197,25 @@ void clsToimenpiteidenJarjestelija::Valitse(const Tunniste& toimenpide, bool val
   Rivi& rivi = ValitutToimenpiteet.Add(Tunniste::Uusi(Rivi::kLuokka.NimiSana()), {});
   rivi.ToimenpidesKey = toimenpide;
   rivi.Nimi = kohde.Nimi;
-  Muuttui();
+  Muuttui(ValitutToimenpiteet.Count(), ValitutToimenpiteet.Count());
 } catch (...) {
   NostaVirhe("clsToimenpiteidenJarjestelija:Valitse Method");
 }
 
 void clsToimenpiteidenJarjestelija::PoistaToimenpiteenRivit(const Tunniste& toimenpide) try {
-  ValitutToimenpiteet.PoistaJos(
-      [&](const Rivi& rivi) { return rivi.Tyyppi == Rivi::Toimenpide && rivi.ToimenpidesKey == toimenpide; });
+  const auto onSen = [&](const Rivi& rivi) {
+    return rivi.Tyyppi == Rivi::Toimenpide && rivi.ToimenpidesKey == toimenpide;
+  };
   if (auto* solmu = koti_.Rakennus().Saastotoimenpiteet.ListaItems().Etsi(toimenpide))
     solmu->ValittuTaulukko2een = false;
-  Muuttui();
+  int paikka = 1;
+  for (const Rivi& rivi : ValitutToimenpiteet) {
+    if (onSen(rivi)) break;
+    ++paikka;
+  }
+  if (paikka > ValitutToimenpiteet.Count()) return;
+  ValitutToimenpiteet.PoistaJos(onSen);
+  Muuttui(paikka, ValitutToimenpiteet.Count());
 } catch (...) {
   NostaVirhe("clsToimenpiteidenJarjestelija:PoistaToimenpiteenRivit Method");
 }
@@ -200,8 +225,9 @@ void clsToimenpiteidenJarjestelija::PoistaRivi(const Tunniste& avain) try {
   if (rivi.Tyyppi == Rivi::Toimenpide)
     if (auto* solmu = koti_.Rakennus().Saastotoimenpiteet.ListaItems().Etsi(rivi.ToimenpidesKey))
       solmu->ValittuTaulukko2een = false;
+  const int paikka = Paikka(avain);
   ValitutToimenpiteet.Remove(avain);
-  Muuttui();
+  Muuttui(paikka, ValitutToimenpiteet.Count());
 } catch (...) {
   NostaVirhe("clsToimenpiteidenJarjestelija:PoistaRivi Method");
 }
@@ -242,6 +268,7 @@ Tunniste clsToimenpiteidenJarjestelija::SiirraAlas(const Tunniste& rivi) try {
 Tunniste clsToimenpiteidenJarjestelija::SiirraJalkeen(const Tunniste& avain, const Tunniste& edellinen) try {
   const Rivi& vanha = ValitutToimenpiteet.Item(avain);
   if (vanha.Tyyppi == Rivi::Yhteensa || edellinen == avain) return avain;
+  const int entinen = Paikka(avain);
   Rivi& uusi = ValitutToimenpiteet.Add(Tunniste::Uusi(Rivi::kLuokka.NimiSana()), edellinen);
   uusi.ToimenpidesKey = vanha.ToimenpidesKey;
   uusi.Nimi = vanha.Nimi;
@@ -252,7 +279,8 @@ Tunniste clsToimenpiteidenJarjestelija::SiirraJalkeen(const Tunniste& avain, con
     uusi.Investointi = vanha.Investointi;
   }
   ValitutToimenpiteet.Remove(avain);
-  Muuttui();
+  const int nykyinen = Paikka(uusi.sKey);
+  Muuttui(std::min(entinen, nykyinen), std::max(entinen, nykyinen));
   return uusi.sKey;
 } catch (...) {
   NostaVirhe("clsToimenpiteidenJarjestelija:SiirraJalkeen Method");
@@ -270,7 +298,7 @@ clsValittuToimenpide& clsToimenpiteidenJarjestelija::LisaaTariffirivi(const clsT
   rivi.KustannusSaastoSahkoPatoTeho = saasto;
   if (saasto != 0) rivi.Takaisinmaksuaika = tapaus.Investointi / saasto;
   rivi.TiedotUpToDate = true;
-  Muuttui();
+  Muuttui(ValitutToimenpiteet.Count(), ValitutToimenpiteet.Count());
   return rivi;
 } catch (...) {
   NostaVirhe("clsToimenpiteidenJarjestelija:LisaaTariffirivi Method");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <memory>
 #include <optional>
 
 #include "building/Koti.h"
@@ -7,6 +8,7 @@
 #include "measures/Muunnelmalaskin.h"
 #include "measures/clsValitutToimenpiteet.h"
 
+class Jarjestelijamuokkaus;
 class clsSaastotoimenpide;
 class clsTariffiVertailuTapaus;
 
@@ -29,8 +31,9 @@ class clsToimenpiteidenJarjestelija : public Malli<clsToimenpiteidenJarjestelija
   struct Paketti {
     Hyodykkeet ennen;    ///< gross figures of the base
     Hyodykkeet lopuksi;  ///< those with the whole package in force
-    /// Of costs by the supplies and tariffs of each state, and of emissions; nothing when tariffs or fuels don't give
-    /// it.
+    /// What the base costs and emits by its supplies and tariffs; nothing when tariffs or fuels don't give it.
+    std::optional<Ostot> ostot;
+    /// What the package saves of them, each state by its own supplies and tariffs.
     std::optional<Ostot> saasto;
   };
 
@@ -43,6 +46,10 @@ class clsToimenpiteidenJarjestelija : public Malli<clsToimenpiteidenJarjestelija
   std::optional<double> PaketinTakaisinmaksuaika(const Alvprosentit& alv) const;
   /// Every figure that rests on the building is stale.
   void Vanhenna() noexcept;
+  /// Some row or the totals aren't of the present building and order.
+  bool Vanhentunut() const;
+
+  // Each of these makes those rows stale that have others above them than when they were computed, and the totals.
 
   /// Ticks a measure: its row comes to the end, stale; or unticks it: its rows go.
   void Valitse(const Tunniste& toimenpide, bool valittu);
@@ -60,13 +67,17 @@ class clsToimenpiteidenJarjestelija : public Malli<clsToimenpiteidenJarjestelija
   /// Adds a change of electricity tariffs: what the case saves against the reference. It needs no computing.
   clsValittuToimenpide& LisaaTariffirivi(const clsTariffiVertailuTapaus& tapaus, const clsTariffiVertailuTapaus& viite);
 
+  /// Opens the arranger of the global building with all rows computed, or brings it to front.
+  void NaytaKayttoliittyma();
+
  private:
   class Laskenta;
   int Paikka(const Tunniste& rivi) const;
   std::string LaskeRivit();
   void PaivitaYhteensa();
-  void Muuttui() noexcept { ValitutToimenpiteet.LaskelmatUpToDate = false; }
+  void Muuttui(int ensimmainen, int viimeinen);
 
   Koti koti_;
   Oma<std::optional<Paketti>> paketti_;
+  Oma<std::shared_ptr<Jarjestelijamuokkaus>> kayttoLiittyma_;
 };

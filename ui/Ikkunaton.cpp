@@ -169,6 +169,22 @@ void Ikkunaton::KayttajaSiirtaa(std::string_view nimi, std::string_view rivi, st
   lista.KayttajaSiirtaa(paikka, kohde);
 }
 
+void Ikkunaton::KayttajaJarjestaa(std::string_view nimi, std::string_view rivi, std::string_view edellinen) {
+  Ohjain& lista = Kaytettava(nimi);
+  const int paikka = Rivi(lista, rivi), kohde = Rivi(lista, edellinen);
+  if (!lista.VoiJarjestaa(paikka, kohde))
+    throw std::logic_error(nimi_ + ": riviä " + std::string(rivi) + " ei voi siirtää");
+  lista.KayttajaJarjestaa(paikka, kohde);
+}
+
+void Ikkunaton::KayttajaRastittaa(std::string_view nimi, std::string_view rivi) {
+  Ohjain& lista = Kaytettava(nimi);
+  const int paikka = Rivi(lista, rivi);
+  if (!lista.Lista().Piirteet(paikka).rasti)
+    throw std::logic_error(nimi_ + ": rivillä " + std::string(rivi) + " ei ole ruutua");
+  lista.KayttajaRastittaa(paikka);
+}
+
 void Ikkunaton::KayttajaPainaa(std::string_view nimi) { Kaytettava(nimi).KayttajaPainaa(); }
 
 void Ikkunaton::NaytaModaalisena() {

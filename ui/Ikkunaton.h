@@ -37,6 +37,9 @@ class Ikkunaton : public Lomakeikkuna {
   void KayttajaMuokkaa(std::string_view nimi, std::string_view rivi, int sarake, const std::string& teksti);
   /// Drags a row under another one; to the top for "".
   void KayttajaSiirtaa(std::string_view nimi, std::string_view rivi, std::string_view ylempi);
+  /// Puts a row right behind another one.
+  void KayttajaJarjestaa(std::string_view nimi, std::string_view rivi, std::string_view edellinen);
+  void KayttajaRastittaa(std::string_view nimi, std::string_view rivi);
 
   void Otsikko(const std::string& otsikko) override { otsikko_ = otsikko; }
   void Nayta() override { auki_ = true; }

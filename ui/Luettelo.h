@@ -19,8 +19,9 @@ enum class Merkitys {
 struct Rivipiirteet {
   static constexpr int kKokoRivi = -1;
   bool lihava = false;
-  bool suljettu = false;     ///< its branch comes closed; once the row is there, the person's choice holds
-  bool siirrettava = false;  ///< the person can drag it under another row
+  bool suljettu = false;        ///< its branch comes closed; once the row is there, the person's choice holds
+  bool siirrettava = false;     ///< the person can drag it under another row, or to another place
+  std::optional<bool> rasti{};  ///< the tick in the row's box; nothing: it has no box
   Merkitys merkitys = Merkitys::Tavallinen;
   int merkitty = kKokoRivi;        ///< column that the meaning concerns
   std::string selite{};            ///< what the meaning, or the row, is about; shown as a tip

@@ -161,6 +161,15 @@ class ListView : public TyypitettyKahva<Ohjaintyyppi::ListView> {
     ohjain_->SaaSiirtaa = std::move(saa);
     ohjain_->Siirretty = std::move(f);
   }
+  /// Rows with Rivipiirteet::siirrettava can be put right behind another row (-1: first) where `saa` allows it, by
+  /// dragging and by Ctrl with an arrow key.
+  void KunJarjestetaan(std::function<bool(int rivi, int edellinen)> saa,
+                       std::function<void(int rivi, int edellinen)> f) const {
+    ohjain_->SaaJarjestaa = std::move(saa);
+    ohjain_->Jarjestetty = std::move(f);
+  }
+  /// The box of a row that has one (Rivipiirteet::rasti) is ticked or cleared.
+  void KunRastitetaan(std::function<void(int rivi, bool rasti)> f) const { ohjain_->Rastitettu = std::move(f); }
   /// A heading is pressed; the list doesn't sort then.
   void KunOtsikkoaPainetaan(std::function<void(int sarake)> f) const { ohjain_->OtsikkoaPainettu = std::move(f); }
   /// The person has opened or closed a branch.

@@ -28,6 +28,7 @@ constexpr Tyyppirivi kTyypit[] = {
     {"Piirakka", "MSChart", Ohjaintyyppi::MSChart},
     {"Pinopalkki", "MSChart", Ohjaintyyppi::MSChart},
     {"Pylvaikko", "MSChart", Ohjaintyyppi::MSChart},
+    {"Vesiputouskuva", "MSChart", Ohjaintyyppi::MSChart},
     {"Lampotilakuva", "MSChart", Ohjaintyyppi::MSChart},
     {"Viikkokuva", "MSChart", Ohjaintyyppi::MSChart},
     {"Kayrakuva", "MSChart", Ohjaintyyppi::MSChart},
@@ -254,6 +255,25 @@ bool Ohjain::VoiSiirtaa(int rivi, int ylempi) const {
 
 void Ohjain::KayttajaSiirtaa(int rivi, int ylempi) {
   if (VoiSiirtaa(rivi, ylempi)) Nosta([&] { Siirretty(rivi, ylempi); });
+}
+
+bool Ohjain::VoiJarjestaa(int rivi, int edellinen) const {
+  if (rivi < 0 || rivi >= lista_.Maara() || edellinen >= lista_.Maara() || lista_.Lajiteltu().sarake >= 0) return false;
+  return lista_.Piirteet(rivi).siirrettava && edellinen != rivi && edellinen != rivi - 1 && SaaJarjestaa &&
+         SaaJarjestaa(rivi, edellinen);
+}
+
+void Ohjain::KayttajaJarjestaa(int rivi, int edellinen) {
+  if (VoiJarjestaa(rivi, edellinen)) Nosta([&] { Jarjestetty(rivi, edellinen); });
+}
+
+void Ohjain::KayttajaJarjestaa(bool ylos) {
+  if (indeksi_ > 0 || !ylos) KayttajaJarjestaa(indeksi_, ylos ? indeksi_ - 2 : indeksi_ + 1);
+}
+
+void Ohjain::KayttajaRastittaa(int rivi) {
+  if (rivi >= 0 && lista_.Piirteet(rivi).rasti && Rastitettu)
+    Nosta([&, rasti = !*lista_.Piirteet(rivi).rasti] { Rastitettu(rivi, rasti); });
 }
 
 void Ohjain::KayttajaPoistuu() {

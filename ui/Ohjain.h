@@ -61,7 +61,8 @@ struct Kaaviosarja {
 
 /// What a chart shows. A pie or a stacked bar has a name and a value for each part; a column chart a name for each
 /// place of its axis, series and their unit; curves the name of their axis, its places in `arvot`, series and their
-/// unit.
+/// unit. A waterfall has a name for each row, its unit, and series: the first has the levels at the first and the last
+/// row, the others the changes of the rows between, whose sum leads from the one to the other.
 struct Kaaviotiedot {
   std::string otsikko;
   std::vector<std::string> nimet;
@@ -210,6 +211,9 @@ class Ohjain {
   std::function<void(int rivi, int sarake, const std::string& teksti)> Muokattu;  ///< written in a cell
   std::function<bool(int rivi, int ylempi)> SaaSiirtaa;                           ///< a row may hang under another one
   std::function<void(int rivi, int ylempi)> Siirretty;                            ///< the person has dragged it there
+  std::function<bool(int rivi, int edellinen)> SaaJarjestaa;                      ///< a row may be put behind another
+  std::function<void(int rivi, int edellinen)> Jarjestetty;                       ///< the person has put it there
+  std::function<void(int rivi, bool rasti)> Rastitettu;                           ///< the person has ticked its box
 
   void KayttajaKirjoittaa(std::string teksti);
   void KayttajaValitsee(int indeksi);
@@ -228,6 +232,13 @@ class Ohjain {
   /// True when the row can be dragged under the other one, or to the top for -1.
   bool VoiSiirtaa(int rivi, int ylempi) const;
   void KayttajaSiirtaa(int rivi, int ylempi);
+  /// True when the row can be put right behind the other one, or first for -1. Rows of a list that sorts stay.
+  bool VoiJarjestaa(int rivi, int edellinen) const;
+  void KayttajaJarjestaa(int rivi, int edellinen);
+  /// Keys that put the chosen row one place up or down.
+  void KayttajaJarjestaa(bool ylos);
+  /// Ticks the box of a row, or clears it. The row shows what the listener fills it with.
+  void KayttajaRastittaa(int rivi);
 
  protected:
   /// Shows the trait on the screen; nothing to show without windows.

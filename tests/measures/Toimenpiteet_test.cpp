@@ -5,48 +5,9 @@
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "supply/clsTariffiVertailuTapaus.h"
 #include "tests/kernel/Koehakemisto.h"
-#include "tests/measures/Koemuunnelma.h"
+#include "tests/measures/Koetoimenpiteet.h"
 
 namespace {
-
-class ToimenpiteetTesti : public Muunneltava {
- protected:
-  ToimenpiteetTesti() {
-    const Tunniste tariffi = Tariffi(clsTariffi::LampoTariffi, 60, 12, 0);
-    rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).MyyntiTariffiSkey = tariffi;
-    rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).OsuusNettotarpeesta = 100;
-    rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).Tyyppi = clsEnergianHankinta::Lampo;
-    clsEnergiamuoto& sahko = rakennus->Perustiedot.SahkonHankinta.LisaaMuoto();
-    sahko.MyyntiTariffiSkey = Tariffi(clsTariffi::SahkoMyyntiTariffi, 100, 5, 3);
-    sahko.OsuusNettotarpeesta = 100;
-    rakennus->SahkonKulutusryhmat.PaivitaKulutusRyhmatJaLaitteet();
-    toimenpiteet.PaivitaHierarkiaLista();
-    rakennus->PaivitaInstanssiIdLista();
-  }
-  Tunniste Tariffi(clsTariffi::Laji laji, double hinta, double teho, double loisteho) {
-    clsTariffi& tariffi = rakennus->Tariffit.LisaaTariffi(laji);
-    tariffi.Maksu(1).Hinta = hinta;
-    tariffi.Maksu(1).Kulutusosuus = 100;
-    tariffi.Tehomaksu = teho;
-    tariffi.Loistehomaksu = loisteho;
-    return tariffi.sKey;
-  }
-  clsTila& Tila(int i) { return rakennus->Tilat.Item(i); }
-  Hyodykkeet Kokonaan(clsRakennus& r) {
-    return {r.VuotuinenBruttoLampoEnergia(), r.VuotuinenBruttoSahkoEnergia(),
-            r.VedenKulutusryhmat.VuotuinenVedenKulutus()};
-  }
-  template <class T, class F>
-  clsSaastotoimenpide& Toimenpide(const Tunniste& solmu, F&& muuta) {
-    clsSaastotoimenpide& toimenpide = *toimenpiteet.Lisaa(solmu);
-    const auto jalkeen = toimenpide.TeeJalkeen();
-    muuta(static_cast<T&>(*jalkeen));
-    toimenpide.PaivitaMuuttuneetAttribuutit(*jalkeen);
-    return toimenpide;
-  }
-
-  clsSaastotoimenpiteet& toimenpiteet = rakennus->Saastotoimenpiteet;
-};
 
 TEST_F(ToimenpiteetTesti, EveryNodeGivesAMeasureOfItsKindWithoutEffect) {
   struct Odotus {
@@ -329,43 +290,6 @@ TEST_F(ToimenpiteetTesti, MeasuresAndRowsComeBackFromTheFileAsTheyWere) {
   EXPECT_EQ(rivit.Item(3).SaastoLampoEnergia, jarjestelija.ValitutToimenpiteet.Item(3).SaastoLampoEnergia);
 }
 
-class JarjestelijaTesti : public ToimenpiteetTesti {
- protected:
-  using Rivi = clsValittuToimenpide;
-  clsToimenpiteidenJarjestelija& jarjestelija = rakennus->ToimenpiteidenJarjestelija;
-  const clsValitutToimenpiteet& rivit = jarjestelija.ValitutToimenpiteet;
-
-  clsSaastotoimenpide& lampotila = Toimenpide<clsTila>(Tila(1).sKey, [](clsTila& t) { t.Sisalampotila -= 1; });
-  clsSaastotoimenpide& eristys = Toimenpide<clsTila>(Tila(1).sKey, [](clsTila& t) {
-    clsRakenne& rakenne = t.Rakenteet.Item(1);
-    rakenne.LaskeU_arvoMateriaaleista = false;
-    rakenne.U_arvo(0.1);
-  });
-  clsSaastotoimenpide& kone =
-      Toimenpide<clsIVKone>(rakennus->IVKoneet.Item(1).sKey, [](clsIVKone& k) { k.LtoHyotysuhde = 70; });
-  clsSaastotoimenpide& kelluva = *toimenpiteet.Lisaa("sKeySahko");
-
-  JarjestelijaTesti() {
-    auto& ennen = static_cast<clsSahkonKulutusryhma&>(*kelluva.Ennen());
-    ennen.LaskentaperusteNumber = 1000, ennen.LaskentayksikkoNumber = 2;
-    ennen.KayttoaikaHpD = 10, ennen.KayttoaikaDpA = 250, ennen.EnergiaHyodynnetaanLammityksessa = true;
-    const auto jalkeen = kelluva.TeeJalkeen();
-    static_cast<clsSahkonKulutusryhma&>(*jalkeen).KayttoaikaHpD = 4;
-    kelluva.PaivitaMuuttuneetAttribuutit(*jalkeen);
-    kelluva.Investointi = 700;
-    kone.SaastoPatoTeho = 3;
-    kone.Investointi = 20000;
-  }
-  static Hyodykkeet Saasto(const Rivi& rivi) {
-    return {rivi.SaastoLampoEnergia, rivi.SaastoSahkoEnergia, rivi.SaastoVedenKulutus};
-  }
-  const Rivi& Rivilla(const clsSaastotoimenpide& toimenpide) const {
-    for (const Rivi& rivi : rivit)
-      if (rivi.ToimenpidesKey == toimenpide.sKey) return rivi;
-    throw std::logic_error("no such row");
-  }
-};
-
 TEST_F(JarjestelijaTesti, NetSavingsSumUpToThePackageInAnyOrder) {
   jarjestelija.PaivitaValitutToimenpiteet();
   EXPECT_EQ(Saasto(rivit.Item(1)), Hyodykkeet{}) << "an empty list";
@@ -420,6 +344,25 @@ TEST_F(JarjestelijaTesti, RowsAreTickedMovedAndRemovedBelowTheTotals) {
   EXPECT_EQ(rivit.Item(3).ToimenpidesKey, kone.sKey);
   EXPECT_EQ(rivit.Item(1).Tyyppi, Rivi::Yhteensa);
   jarjestelija.PaivitaValitutToimenpiteet();
+  const auto vanhentuneet = [&] {
+    std::string paikat;
+    for (int i = 1; i <= rivit.Count(); ++i) paikat += rivit.Item(i).TiedotUpToDate ? '.' : 'v';
+    return paikat;
+  };
+  for (const auto* toimenpide : {&lampotila, &kelluva}) jarjestelija.Valitse(toimenpide->sKey, true);
+  EXPECT_EQ(vanhentuneet(), "v..vv");
+  jarjestelija.PaivitaValitutToimenpiteet();
+  jarjestelija.SiirraJalkeen(rivit.Item(4).sKey, rivit.Item(2).sKey);
+  EXPECT_EQ(vanhentuneet(), "v.vv.") << "the last one has the same rows above it, in another order";
+  EXPECT_FALSE(jarjestelija.LaskettuPaketti()) << "of another order";
+  jarjestelija.PaivitaValitutToimenpiteet();
+  jarjestelija.Valitse(lampotila.sKey, false);
+  EXPECT_EQ(vanhentuneet(), "v.vv");
+  jarjestelija.Valitse(lampotila.sKey, false);
+  jarjestelija.PoistaRivi(rivit.Item(4).sKey);
+  EXPECT_EQ(vanhentuneet(), "v.v");
+  jarjestelija.PaivitaValitutToimenpiteet();
+  EXPECT_FALSE(jarjestelija.Vanhentunut());
   rakennus->ToimenpiteetMuuttuivat("Järjestys");
   EXPECT_TRUE(rivit.Item(2).TiedotUpToDate);
   rakennus->Muuttui("Tila");

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The pictures of a machine's week, of its fans' powers and of what a bill consists of, as real widgets.
+// The pictures of a machine's week, of its fans' powers, of what a bill consists of and of what measures save one after
+// another, as real widgets.
 #include <gtest/gtest.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QPainter>
 #include <QSet>
 #include <limits>
 
+#include "tests/qt/Ikkunatesti.h"
 #include "ui/Tekstivarasto.h"
 #include "ui/Viikkokuvaus.h"
 #include "ui/qt/Kayrakuva.h"
 #include "ui/qt/Pinopalkki.h"
+#include "ui/qt/Vesiputouskuva.h"
 #include "ui/qt/Viikkokuva.h"
 
 namespace {
@@ -88,11 +92,70 @@ TEST(Kaaviokuvat, PartsOfABarTellTheirValuesAndShares) {
   kuva.grab();
 }
 
+Kaaviotiedot Vesiputous() {
+  return {.otsikko = "Lämpö",
+          .nimet = {"Perustapaus", "Ikkunat", "Valaistus", "Kierto", "Jälkeen"},
+          .sarjat = {{"Kulutus", {500, 0, 0, 0, 448}},
+                     {"Muutos mallissa", {0, -60, 12.5, 0, 0}},
+                     {"Kelluva", {0, 0, 0, -4.5, 0}}},
+          .yksikko = "MWh/a"};
+}
+
+TEST(Kaaviokuvat, StepsOfAWaterfallTellTheirChangeAndWhereItLeads) {
+  Vesiputouskuva kuva;
+  kuva.AsetaKaavio(Vesiputous());
+  kuva.resize(500, 300);
+  EXPECT_EQ(Selosteet(kuva),
+            (QSet<QString>{QString(), "Perustapaus: 500,0 MWh/a", "Ikkunat: -60,0 → 440,0 MWh/a",
+                           "Valaistus: +12,5 → 452,5 MWh/a", "Kierto: -4,5 → 448,0 MWh/a", "Jälkeen: 448,0 MWh/a"}));
+  EXPECT_TRUE(kuva.accessibleName().contains("Kierto -4,5 MWh/a"));
+  EXPECT_TRUE(Leikepoyta(kuva).contains("\nIkkunat\t-60,00\t440,00\tMWh/a"));
+  TallennaKuva(kuva, "Vesiputous");
+  const QImage selkea = kuva.grab().toImage();
+  kuva.setEnabled(false);
+  EXPECT_NE(kuva.grab().toImage(), selkea) << "paler while its figures are stale";
+}
+
+TEST(Kaaviokuvat, AWaterfallOfManyLongNamedStepsFitsALowWindow) {
+  Kaaviotiedot pitka = Vesiputous();
+  for (int i = 0; i < 26; ++i) {
+    pitka.nimet.insert(pitka.nimet.end() - 1, "Ilmanvaihtokoneen TK" + std::to_string(i) + " käyntiaikojen lyhennys");
+    for (Kaaviosarja& sarja : pitka.sarjat) sarja.arvot.insert(sarja.arvot.end() - 1, 0);
+    pitka.sarjat[1].arvot[pitka.nimet.size() - 2] = -10;
+  }
+  pitka.sarjat[0].arvot.back() -= 260;
+  Vesiputouskuva kuva;
+  kuva.AsetaKaavio(pitka);
+  kuva.resize(kuva.minimumSizeHint());
+  EXPECT_LT(kuva.height(), 480);
+  EXPECT_EQ(Selosteet(kuva).size(), 32) << "each row has its tip";
+  TallennaKuva(kuva, "VesiputousPitka");
+}
+
+TEST(Kaaviokuvat, AChartIsPaintedOnAPageInBlackOnWhiteAtItsScale) {
+  Vesiputouskuva kuva;
+  kuva.setPalette(QPalette(Qt::white, Qt::black));
+  kuva.AsetaKaavio(Vesiputous());
+  QImage sivu(1400, 1000, QImage::Format_RGB32);
+  sivu.fill(Qt::red);
+  QPainter maalain(&sivu);
+  kuva.Tulosta(maalain, QRectF(100, 50, 1200, 900), 3);
+  maalain.end();
+  EXPECT_EQ(sivu.pixel(101, 51), qRgb(255, 255, 255));
+  EXPECT_EQ(sivu.pixel(1299, 949), qRgb(255, 255, 255));
+  EXPECT_EQ(sivu.pixel(99, 500), qRgb(255, 0, 0)) << "nothing beyond its area";
+  EXPECT_EQ(sivu.pixel(700, 951), qRgb(255, 0, 0));
+  bool mustaa = false;
+  for (int x = 100; x < 1300; ++x) mustaa = mustaa || sivu.pixel(x, 90) == qRgb(0, 0, 0);
+  EXPECT_TRUE(mustaa) << "the title";
+}
+
 TEST(Kaaviokuvat, EmptyOnesAreDrawnAndBearThePointer) {
   Viikkokuva viikko;
   Kayrakuva kayra;
   Pinopalkki palkki;
-  for (Kaaviokuva* kuva : std::initializer_list<Kaaviokuva*>{&viikko, &kayra, &palkki}) {
+  Vesiputouskuva putous;
+  for (Kaaviokuva* kuva : std::initializer_list<Kaaviokuva*>{&viikko, &kayra, &palkki, &putous}) {
     kuva->resize(300, 150);
     kuva->grab();
     EXPECT_EQ(Selosteet(*kuva), QSet<QString>{QString()});

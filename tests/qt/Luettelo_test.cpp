@@ -245,6 +245,34 @@ TEST_F(Puuluettelo, ARowIsDraggedUnderAnAllowedRow) {
   EXPECT_FALSE(Paikka("Aula").flags().testFlag(Qt::ItemIsDragEnabled));
 }
 
+TEST_F(Tilaluettelo, RowsAreOrderedByDraggingAndByKeysAndTickedByTheSpaceBar) {
+  lomake_.lvwTilat.Tayta({{{{"Kaikki", "9"}, "kaikki"},
+                           {{"Sali", "1"}, "sali", {}, {.siirrettava = true, .rasti = false}},
+                           {{"Aula", "2"}, "aula", {}, {.siirrettava = true, .rasti = true}}}});
+  lomake_.lvwTilat.KunJarjestetaan(
+      [](int, int edellinen) { return edellinen >= 0; },
+      [&](int rivi, int edellinen) { tehty_ += std::to_string(rivi) + ">" + std::to_string(edellinen) + " "; });
+  lomake_.lvwTilat.KunRastitetaan(
+      [&](int rivi, bool rasti) { tehty_ += std::to_string(rivi) + (rasti ? "x " : "- "); });
+  QAbstractItemModel& malli = *Lista().model();
+  Lista().setCurrentIndex(malli.index(2, 0));
+  const std::unique_ptr<QMimeData> data(malli.mimeData({malli.index(2, 0)}));
+  EXPECT_FALSE(malli.canDropMimeData(data.get(), Qt::MoveAction, 0, 0, {})) << "the first row stays first";
+  EXPECT_FALSE(malli.canDropMimeData(data.get(), Qt::MoveAction, 2, 0, {})) << "it stands there already";
+  EXPECT_TRUE(malli.dropMimeData(data.get(), Qt::MoveAction, 1, 0, {}));
+  QCoreApplication::processEvents();
+  for (const auto nappi : {Qt::Key_Up, Qt::Key_Down}) QTest::keyClick(&Lista(), nappi, Qt::ControlModifier);
+  QTest::keyClick(&Lista(), Qt::Key_Space);
+  Lista().setCurrentIndex(malli.index(1, 0));
+  for (const auto nappi : {Qt::Key_Up, Qt::Key_Down}) QTest::keyClick(&Lista(), nappi, Qt::ControlModifier);
+  EXPECT_TRUE(malli.setData(malli.index(1, 0), Qt::Checked, Qt::CheckStateRole));
+  EXPECT_EQ(tehty_, "2>0 2>0 2- 1>2 1x ");
+  EXPECT_EQ(malli.index(2, 0).data(Qt::CheckStateRole), Qt::Checked);
+  EXPECT_FALSE(malli.index(0, 0).data(Qt::CheckStateRole).isValid());
+  NapsautaOtsikkoa(Lista(), 0);
+  EXPECT_FALSE(malli.canDropMimeData(data.get(), Qt::MoveAction, 1, 0, {})) << "a sorted list has no order of its own";
+}
+
 TEST_F(Puuluettelo, TheNameColumnTakesTheRoomAndNarrowsLast) {
   int muut = 0;
   for (int s = 1; s < Lista().model()->columnCount(); ++s) muut += Lista().columnWidth(s);

@@ -31,6 +31,7 @@
 #include "ui/frmSplash.h"
 #include "ui/frmTarkennettuLaiteLaskenta.h"
 #include "ui/frmTarkennettuVesiLaskenta.h"
+#include "ui/frmToimenpiteidenJarjestelija.h"
 #include "ui/frmVedenKulutus.h"
 #include "ui/frmVesitariffi.h"
 #include "ui/frmYhteenveto.h"
@@ -321,6 +322,57 @@ TEST_F(Taytetyt, TheYearlySummaryFitsItsFields) {
   lomake.Nayta();
   OdotaMahtuvan(lomake);
   TallennaKuva(lomake, "Pieni");
+}
+
+/// An arranger of so many measures, every fourth row stale, and its picture.
+void TaytaJarjestelija(const frmToimenpiteidenJarjestelija& lomake, int toimenpiteita) {
+  for (const ListView& lista : {lomake.lvwToimenpiteet, lomake.lvwValitut})
+    lista.Kohde().Osat({{.otsikko = "Toimenpide", .leveys = 1 / 2.9},
+                        {.otsikko = "Säästö yhteensä (euro/a)", .leveys = 1 / 4.7},
+                        {.otsikko = "Lämpöenergian säästö (euro/a)", .leveys = 1 / 4.7},
+                        {.otsikko = "Sähköenergian säästö (euro/a)", .leveys = 1 / 4.7},
+                        {.otsikko = "Veden säästö (euro/a)", .leveys = 1 / 4.7}});
+  Luettelosisalto brutto, netto{{{.solut = {"Valitut yhteensä", "1 234 567", "123 456", "12 345", "0"},
+                                  .avain = "yhteensä",
+                                  .piirteet = {.lihava = true}}}};
+  Kaaviotiedot kuva{.otsikko = "Lämpöenergia",
+                    .nimet = {"Perustapaus"},
+                    .sarjat = {{"Perustapaus ja tulos", {764}}, {"Toimenpide", {0}}, {"Kelluva toimenpide", {0}}},
+                    .yksikko = "MWh/a"};
+  for (int i = 1; i <= toimenpiteita; ++i) {
+    const std::string nimi = "Luokkahuoneiden ja käytävien lisäeristys ja ikkunat, itäsiipi " + std::to_string(i);
+    const std::vector<std::string> solut{nimi, "123 456", "12 345", "-1 234", "0"};
+    brutto.rivit.push_back({.solut = solut, .avain = nimi, .piirteet = {.rasti = i % 2 == 0}});
+    netto.rivit.push_back(
+        {.solut = solut,
+         .avain = nimi,
+         .piirteet = {.siirrettava = true, .merkitys = i % 4 == 2 ? Merkitys::Vanhentunut : Merkitys::Tavallinen}});
+    kuva.nimet.push_back(nimi);
+    const double muutos = i % 5 == 3 ? 9.5 : -21.25;
+    const double arvot[] = {0, i % 3 == 0 ? 0 : muutos, i % 3 == 0 ? muutos : 0};
+    for (std::size_t s = 0; s < std::size(arvot); ++s) kuva.sarjat[s].arvot.push_back(arvot[s]);
+  }
+  kuva.nimet.push_back("Paketin jälkeen");
+  for (Kaaviosarja& sarja : kuva.sarjat) sarja.arvot.push_back(&sarja == &kuva.sarjat[0] ? 355.5 : 0);
+  lomake.lvwToimenpiteet.Tayta(std::move(brutto));
+  lomake.lvwValitut.Tayta(std::move(netto));
+  lomake.lvwValitut.Indeksi(std::min(3, toimenpiteita));
+  lomake.chtVesiputous.Kaavio(std::move(kuva));
+  lomake.lblPaketti.Otsikko(
+      "Paketin takaisinmaksuaika: 12,3 a. Päästöt vähenevät (CO₂-ekvivalentti): 123,4 t/a. Säästö kunkin tilanteen "
+      "omilla tariffeilla: 123 456 euro/a.");
+}
+
+TEST_F(Taytetyt, TheArrangerFitsASmallScreenWithAFullPackage) {
+  for (const int toimenpiteita : {0, 3, 26}) {
+    frmToimenpiteidenJarjestelija lomake;
+    TaytaJarjestelija(lomake, toimenpiteita);
+    lomake.Nayta();
+    OdotaMahtuvan(lomake);
+    TallennaKuva(lomake, QString::number(toimenpiteita));
+    EiVieritettava(lomake, kSuurennettuNaytto);
+    TallennaKuva(lomake, QString::number(toimenpiteita) + "Pieni");
+  }
 }
 
 void TaytaKone(frmIlmanvaihtokone& lomake) {

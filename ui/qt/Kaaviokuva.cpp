@@ -2,10 +2,12 @@
 #include "ui/qt/Kaaviokuva.h"
 
 #include <QClipboard>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QToolTip>
 #include <algorithm>
 #include <iterator>
@@ -46,6 +48,28 @@ void Kaaviokuva::KopioiLeikepoydalle() {
 }
 
 bool Kaaviokuva::TallennaKuva(const std::string& tiedosto) { return grab().save(Teksti(tiedosto)); }
+
+void Kaaviokuva::paintEvent(QPaintEvent*) {
+  QPainter maalain(this);
+  Piirra(maalain);
+}
+
+// A font in pixels has its size from the painter's scale alone, whatever the resolution of the device.
+void Kaaviokuva::Tulosta(QPainter& maalain, const QRectF& alue, double mittakaava) {
+  QFont fontti = font();
+  fontti.setPixelSize(QFontInfo(fontti).pixelSize());
+  setFont(fontti);
+  QPalette varit(Qt::black, Qt::white);
+  setPalette(varit);
+  resize((alue.size() / mittakaava).toSize());
+  QResizeEvent koko(size(), size());
+  resizeEvent(&koko);  // a hidden widget isn't told
+  maalain.save();
+  maalain.translate(alue.topLeft());
+  maalain.scale(mittakaava, mittakaava);
+  Piirra(maalain);
+  maalain.restore();
+}
 
 void Kaaviokuva::mouseMoveEvent(QMouseEvent* tapahtuma) {
   osoitin_ = tapahtuma->position();

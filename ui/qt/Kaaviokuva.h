@@ -15,6 +15,9 @@ class Kaaviokuva : public QWidget {
   virtual void AsetaKaavio(const Kaaviotiedot& kaavio);
   /// Picture of the widget and its figures as text.
   void KopioiLeikepoydalle();
+  /// Paints the chart on another device, a page of a report, in black on white. `alue` is in the painter's units, of
+  /// which a screen's pixel takes `mittakaava`. For a chart that no window shows: its size and colours change.
+  void Tulosta(QPainter& maalain, const QRectF& alue, double mittakaava);
   /// Writes the picture in the format that the file's extension tells. False when it can't be written.
   bool TallennaKuva(const std::string& tiedosto);
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -22,6 +25,9 @@ class Kaaviokuva : public QWidget {
   virtual QString Seloste(const QPointF&) const { return {}; }
 
  protected:
+  /// Paints the whole chart in the widget's size, font and colours.
+  virtual void Piirra(QPainter& maalain) const = 0;
+  void paintEvent(QPaintEvent* tapahtuma) override;
   void mouseMoveEvent(QMouseEvent* tapahtuma) override;
   void leaveEvent(QEvent* tapahtuma) override;
   /// Where the pointer is; outside the widget when it isn't over it.

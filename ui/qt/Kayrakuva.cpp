@@ -89,8 +89,7 @@ QString Kayrakuva::Seloste(const QPointF& kohta) const {
   return osat.size() > 1 ? osat.join(QStringLiteral("; ")) : QString();
 }
 
-void Kayrakuva::paintEvent(QPaintEvent*) {
-  QPainter maalain(this);
+void Kayrakuva::Piirra(QPainter& maalain) const {
   PiirraPohja(maalain);
   if (Tiedot().sarjat.empty()) return;
   asteikko_.Piirra(maalain, Kuvaala(), Teksti(Tiedot().yksikko));

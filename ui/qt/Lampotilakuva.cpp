@@ -108,8 +108,7 @@ std::vector<QPointF> Lampotilakuva::Viiva() const {
   return pisteet;
 }
 
-void Lampotilakuva::paintEvent(QPaintEvent*) {
-  QPainter maalain(this);
+void Lampotilakuva::Piirra(QPainter& maalain) const {
   PiirraPohja(maalain);
   if (Tiedot().nimet.empty()) return;
   PiirraKerrokset(maalain);

@@ -12,7 +12,7 @@ class Lampotilakuva : public Kaaviokuva {
   QSize sizeHint() const override;
 
  protected:
-  void paintEvent(QPaintEvent* tapahtuma) override;
+  void Piirra(QPainter& maalain) const override;
   QStringList Luvut() const override;
   QStringList Nimet() const override;
   void PiirraMerkki(QPainter& maalain, const QRect& merkki, std::size_t i) const override;

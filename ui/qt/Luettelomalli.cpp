@@ -151,6 +151,10 @@ QVariant Luettelomalli::Vihje(const QModelIndex& paikka) const {
   return selite.isEmpty() ? Teksti(paikka) : selite;
 }
 
+std::optional<bool> Luettelomalli::Rasti(const QModelIndex& paikka) const {
+  return paikka.column() == 0 && Rivi(paikka) >= 0 ? Lista().Piirteet(Rivi(paikka)).rasti : std::nullopt;
+}
+
 QVariant Luettelomalli::data(const QModelIndex& paikka, int rooli) const {
   if (!paikka.isValid()) return {};
   switch (rooli) {
@@ -169,6 +173,9 @@ QVariant Luettelomalli::data(const QModelIndex& paikka, int rooli) const {
       return Vari(paikka);
     case Qt::DecorationRole:
       return Merkki(paikka);
+    case Qt::CheckStateRole:
+      if (const auto rasti = Rasti(paikka)) return *rasti ? Qt::Checked : Qt::Unchecked;
+      return {};
     default:
       return {};
   }
@@ -189,11 +196,16 @@ Qt::ItemFlags Luettelomalli::flags(const QModelIndex& paikka) const {
   Qt::ItemFlags liput = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
   if (Lista().Muokattava(rivi, paikka.column())) liput |= Qt::ItemIsEditable;
   if (Lista().Piirteet(rivi).siirrettava) liput |= Qt::ItemIsDragEnabled;
+  if (Rasti(paikka)) liput |= Qt::ItemIsUserCheckable;
   if (ohjain_.SaaSiirtaa) liput |= Qt::ItemIsDropEnabled;
   return liput;
 }
 
 bool Luettelomalli::setData(const QModelIndex& paikka, const QVariant& arvo, int rooli) {
+  if (rooli == Qt::CheckStateRole && Rasti(paikka)) {
+    ohjain_.KayttajaRastittaa(Rivi(paikka));
+    return true;
+  }
   if (rooli != Qt::EditRole || arvo.toString() == Teksti(paikka)) return false;
   ohjain_.KayttajaMuokkaa(Rivi(paikka), paikka.column(), arvo.toString().toStdString());
   return true;
@@ -208,17 +220,29 @@ QMimeData* Luettelomalli::mimeData(const QModelIndexList&) const {
   return data;
 }
 
-/// A row dropped between others goes under the same one as they.
-bool Luettelomalli::canDropMimeData(const QMimeData* data, Qt::DropAction, int, int, const QModelIndex& ylempi) const {
-  return data->hasFormat(kTyyppi) && !OnSumma(ylempi) && ohjain_.VoiSiirtaa(data->data(kTyyppi).toInt(), Rivi(ylempi));
+int Luettelomalli::Edellinen(int rivi, const QModelIndex& ylempi) const {
+  if (ylempi.isValid()) return Rivi(ylempi);
+  return rivi < 0 || rivi > Lista().Maara() ? Lista().Maara() - 1 : rivi - 1;
+}
+
+/// In a tree a row dropped between others goes under the same one as they.
+bool Luettelomalli::canDropMimeData(const QMimeData* data, Qt::DropAction, int rivi, int,
+                                    const QModelIndex& ylempi) const {
+  if (!data->hasFormat(kTyyppi) || OnSumma(ylempi)) return false;
+  const int siirrettava = data->data(kTyyppi).toInt();
+  return ohjain_.SaaJarjestaa ? ohjain_.VoiJarjestaa(siirrettava, Edellinen(rivi, ylempi))
+                              : ohjain_.VoiSiirtaa(siirrettava, Rivi(ylempi));
 }
 
 /// The listener fills the list anew: it is called when the toolkit has ended the drag.
 bool Luettelomalli::dropMimeData(const QMimeData* data, Qt::DropAction toimi, int rivi, int sarake,
                                  const QModelIndex& ylempi) {
   if (!canDropMimeData(data, toimi, rivi, sarake, ylempi)) return false;
-  const int siirrettava = data->data(kTyyppi).toInt(), kohde = Rivi(ylempi);
-  QMetaObject::invokeMethod(
-      this, [this, siirrettava, kohde] { ohjain_.KayttajaSiirtaa(siirrettava, kohde); }, Qt::QueuedConnection);
+  const int siirrettava = data->data(kTyyppi).toInt(), kohde = Rivi(ylempi), edellinen = Edellinen(rivi, ylempi);
+  const auto siirra = [this, siirrettava, kohde, edellinen] {
+    ohjain_.SaaJarjestaa ? ohjain_.KayttajaJarjestaa(siirrettava, edellinen)
+                         : ohjain_.KayttajaSiirtaa(siirrettava, kohde);
+  };
+  QMetaObject::invokeMethod(this, siirra, Qt::QueuedConnection);
   return true;
 }

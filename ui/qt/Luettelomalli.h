@@ -48,6 +48,10 @@ class Luettelomalli : public QAbstractItemModel {
   QVariant Vari(const QModelIndex& paikka) const;
   QVariant Merkki(const QModelIndex& paikka) const;
   QVariant Vihje(const QModelIndex& paikka) const;
+  /// The tick of the row, in its first cell; nothing in others.
+  std::optional<bool> Rasti(const QModelIndex& paikka) const;
+  /// The row behind which a drop puts the dragged one.
+  int Edellinen(int rivi, const QModelIndex& ylempi) const;
   QString Selite(const QModelIndex& paikka) const;
   bool Koskee(const QModelIndex& paikka) const;
   /// The meaning that the cell shows.

@@ -25,8 +25,7 @@ QSize Piirakka::Koko(int riveja) const {
   return {std::max(korkeus + SelitteenLeveys(), otsikko), korkeus};
 }
 
-void Piirakka::paintEvent(QPaintEvent*) {
-  QPainter maalain(this);
+void Piirakka::Piirra(QPainter& maalain) const {
   PiirraPohja(maalain);
   const int rivi = fontMetrics().height();
   const QRect kuva = rect().adjusted(rivi, 5 * rivi / 2, -SelitteenLeveys(), -rivi);

@@ -10,7 +10,7 @@ class Piirakka : public Osuuskuva {
   QSize minimumSizeHint() const override;
 
  protected:
-  void paintEvent(QPaintEvent* tapahtuma) override;
+  void Piirra(QPainter& maalain) const override;
 
  private:
   QSize Koko(int riveja) const;

@@ -48,8 +48,7 @@ QString Pinopalkki::Seloste(const QPointF& kohta) const {
   return {};
 }
 
-void Pinopalkki::paintEvent(QPaintEvent*) {
-  QPainter maalain(this);
+void Pinopalkki::Piirra(QPainter& maalain) const {
   PiirraPohja(maalain);
   const QRectF palkki = Palkki();
   maalain.drawRect(palkki);

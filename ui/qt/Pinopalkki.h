@@ -15,7 +15,7 @@ class Pinopalkki : public Osuuskuva {
   QString Seloste(const QPointF& kohta) const override;
 
  protected:
-  void paintEvent(QPaintEvent* tapahtuma) override;
+  void Piirra(QPainter& maalain) const override;
 
  private:
   QRectF Palkki() const;

@@ -145,8 +145,7 @@ QString Pylvaikko::Seloste(const QPointF& kohta) const {
   return pala ? Seloste(*pala) : QString();
 }
 
-void Pylvaikko::paintEvent(QPaintEvent*) {
-  QPainter maalain(this);
+void Pylvaikko::Piirra(QPainter& maalain) const {
   PiirraPohja(maalain);
   if (Tiedot().sarjat.empty()) return;
   PiirraAsteikko(maalain);

@@ -16,7 +16,7 @@ class Pylvaikko : public Kaaviokuva {
   QString Seloste(const QPointF& kohta) const override;
 
  protected:
-  void paintEvent(QPaintEvent* tapahtuma) override;
+  void Piirra(QPainter& maalain) const override;
   void resizeEvent(QResizeEvent* tapahtuma) override;
   void changeEvent(QEvent* tapahtuma) override;
   QStringList Luvut() const override;

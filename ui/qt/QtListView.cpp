@@ -103,6 +103,7 @@ bool QtListView::eventFilter(QObject* kohde, QEvent* tapahtuma) {
 bool QtListView::Nappain(const QKeyEvent& tapahtuma) {
   const int nappi = tapahtuma.key();
   const bool ilman = tapahtuma.modifiers() == Qt::NoModifier;
+  const bool siirto = (tapahtuma.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier && Jarjestetty;
   if ((nappi == Qt::Key_Return || nappi == Qt::Key_Enter) && Indeksi() >= 0)
     KayttajaPainaa();
   else if (tapahtuma.matches(QKeySequence::Copy))
@@ -113,6 +114,10 @@ bool QtListView::Nappain(const QKeyEvent& tapahtuma) {
     KayttajaLisaa();
   else if (nappi == Qt::Key_Delete && ilman && Poistettava)
     KayttajaPoistaa();
+  else if (nappi == Qt::Key_Space && Indeksi() >= 0 && Lista().Piirteet(Indeksi()).rasti)
+    KayttajaRastittaa(Indeksi());
+  else if (siirto && (nappi == Qt::Key_Up || nappi == Qt::Key_Down))
+    KayttajaJarjestaa(nappi == Qt::Key_Up);
   else
     return nappi == Qt::Key_F2 && MuokkaaSolua();
   return true;

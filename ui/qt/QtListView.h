@@ -8,7 +8,8 @@
 
 /// A list or a tree with columns. A click on a heading sorts it, Ctrl+C copies the selected rows (all when none is),
 /// Ctrl+V gives rows to the form, Enter and a double click press it, F2 and a double click on a cell that can be
-/// written in edit it, Insert and Delete ask for a new row and for the chosen one's removal.
+/// written in edit it, Insert and Delete ask for a new row and for the chosen one's removal, the space bar ticks its
+/// box, Ctrl with the arrow up or down asks for it to change places.
 class QtListView : public QtOhjain {
  public:
   QtListView(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QTreeView& lista);

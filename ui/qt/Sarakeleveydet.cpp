@@ -82,6 +82,8 @@ int Sarakeleveydet::SolunLeveys(int rivi, int sarake) const {
   const Rivipiirteet& piirteet = lista_.Piirteet(rivi);
   if (piirteet.merkitys != Merkitys::Tavallinen && sarake == std::max(piirteet.merkitty, 0))
     leveys += ilma + nakyma_.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &nakyma_);
+  if (sarake == 0 && piirteet.rasti)
+    leveys += ilma + nakyma_.style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &nakyma_);
   if (sarake > 0 || !lista_.OnPuu()) return leveys;
   for (int r = rivi; r >= 0; r = lista_.Ylempi(r)) leveys += nakyma_.indentation();
   return leveys;

@@ -96,8 +96,7 @@ QString Viikkokuva::Seloste(const QPointF& kohta) const {
   return {};
 }
 
-void Viikkokuva::paintEvent(QPaintEvent*) {
-  QPainter maalain(this);
+void Viikkokuva::Piirra(QPainter& maalain) const {
   PiirraPohja(maalain);
   if (Tiedot().nimet.empty()) return;
   PiirraRuudukko(maalain);

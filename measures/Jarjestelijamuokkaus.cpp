@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "measures/Jarjestelijamuokkaus.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "building/clsRakennus.h"
+#include "kernel/Luvut.h"
+#include "kernel/Virhe.h"
+#include "measures/Riviperuste.h"
+#include "measures/Toimenpidesarakkeet.h"
+#include "measures/Vesiputous.h"
+#include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
+#include "settings/clsLumivirtaAsetukset.h"
+#include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "tekstit/lomakkeet_jarjestelija.h"
+#include "tekstit/tulokset.h"
+#include "ui/Hiljaa.h"
+#include "ui/Lomakekaannos.h"
+#include "ui/Odotus.h"
+#include "ui/Tekstivarasto.h"
+#include "ui/Virheilmoitus.h"
+
+namespace {
+
+using Rivi = clsValittuToimenpide;
+
+constexpr const char* kEiLukua = "---";
+constexpr int kNakymia = 4;
+
+/// Nodes of the filter in the order of its list.
+constexpr const char* kHaarat[] = {
+    "sKeyKokoKohde", "sKeyEnergianJaVedenHankinta", "sKeyJohtuminen", "sKeyIlmanvaihtokoneet", "sKeySahko", "sKeyVesi"};
+
+std::string Alvhuomautus() {
+  return Asetukset().KaytaKohtTulostuksissaALVHintoja ? Teksti(tekstit::kMaksutSisaltavatAlvn)
+                                                      : Teksti(tekstit::kArvonlisaveroOtsikko) + " 0 %";
+}
+
+/// A row whose figures can't be computed.
+Luettelorivi Luvuton(const std::string& nimi) {
+  Luettelorivi rivi{.solut = {nimi}};
+  rivi.solut.resize(ToimenpiderivinSolut({}).solut.size(), kEiLukua);
+  return rivi;
+}
+
+}  // namespace
+
+Jarjestelijamuokkaus::Jarjestelijamuokkaus(clsRakennus& rakennus)
+    : rakennus_(rakennus), jarjestelija_(rakennus.ToimenpiteidenJarjestelija) {
+  Kuuntele();
+  tilaus_ = rakennus_.TilaaMuutokset([this] { MuutosTuli(); });
+}
+
+void Jarjestelijamuokkaus::Kuuntele() {
+  lomake_.NakymatasonValintaCmbKlikattu = [this](int nakyma) {
+    jarjestelija_.TaulukonNakymaTyyppiID = nakyma;
+    jarjestelija_.TaulukonNakymaStr = lomake_.cmbNakymatasonValinta.Teksti();
+    NaytaSarakkeet();
+    Nayta();
+  };
+  lomake_.VaihtoehtoSuodatusCmbKlikattu = [this](int haara) {
+    jarjestelija_.NaytaToimenpiteetID = haara;
+    jarjestelija_.NaytaToimenpiteetStr = kHaarat[haara];
+    Nayta();
+  };
+  lomake_.TehtyToimenpideChekattu = [this](const Tunniste& toimenpide, bool valittu) {
+    Muuta(valittu ? tekstit::kPakettiinValinta : tekstit::kPaketistaPoisto, [&] {
+      jarjestelija_.Valitse(toimenpide, valittu);
+      return lomake_.lvwValitut.Valittu();
+    });
+  };
+  lomake_.ValittuToimenpideSiirtyiYlos = [this](const Tunniste& rivi) {
+    Muuta(tekstit::kPaketinJarjestys, [&] { return jarjestelija_.SiirraYlos(rivi); });
+  };
+  lomake_.ValittuToimenpideSiirtyiAlas = [this](const Tunniste& rivi) {
+    Muuta(tekstit::kPaketinJarjestys, [&] { return jarjestelija_.SiirraAlas(rivi); });
+  };
+  lomake_.SaaSiirtaa = [](const Tunniste&, const Tunniste& edellinen) { return !edellinen.Tyhja(); };
+  lomake_.ValittuToimenpideSiirtyi = [this](const Tunniste& rivi, const Tunniste& edellinen) {
+    Muuta(tekstit::kPaketinJarjestys, [&] { return jarjestelija_.SiirraJalkeen(rivi, edellinen); });
+  };
+  lomake_.PoistaValittuKlikattu = [this](const Tunniste& rivi) {
+    Muuta(tekstit::kPaketistaPoisto, [&] {
+      jarjestelija_.PoistaRivi(rivi);
+      return rivi;
+    });
+  };
+  lomake_.LaskeKlikattu = [this] {
+    Laske();
+    Nayta();
+  };
+  lomake_.RiviVaihtui = [this] { PaivitaNapit(); };
+  lomake_.SuureVaihtui = [this] { NaytaKuva(); };
+  lomake_.RahatMuuttuivat = [this] {
+    NaytaOtsikot();
+    NaytaSarakkeet();
+    if (lomake_.chkLaskeHeti.Valittu() || !jarjestelija_.Vanhentunut()) Laske();
+    Nayta();
+  };
+  lomake_.OkKlikattu = [this] { lomake_.Sulje(); };
+  lomake_.PeruutaKlikattu = [this] { lomake_.Sulje(); };  // each action was committed
+}
+
+void Jarjestelijamuokkaus::Avaa() {
+  rakennus_.Saastotoimenpiteet.PaivitaHierarkiaLista();
+  if (!lomake_.Auki()) {
+    lomake_.cmbVaihtoehtoSuodatus.Indeksi(0);
+    jarjestelija_.NaytaToimenpiteetID = 0;
+    jarjestelija_.NaytaToimenpiteetStr = kHaarat[0];
+    lomake_.cmbNakymatasonValinta.Indeksi(std::clamp(jarjestelija_.TaulukonNakymaTyyppiID, 0, kNakymia - 1));
+    NaytaOtsikot();
+    NaytaSarakkeet();
+  }
+  Laske();
+  Nayta();
+  lomake_.Nayta();
+}
+
+/// The window must open also over a building that can't be calculated. False after an error, which it tells.
+bool Jarjestelijamuokkaus::Yrita(const std::function<void()>& laske) {
+  const Odotus odotus;
+  try {
+    laske();
+    return true;
+  } catch (const Virhe& virhe) {
+    KerroVirhe(virhe);
+    return false;
+  }
+}
+
+void Jarjestelijamuokkaus::Laske() {
+  jarjestelija_.ValitutToimenpiteet.LaskelmatUpToDate = false;
+  laskettu_ = Yrita([this] { jarjestelija_.PaivitaValitutToimenpiteet(); });
+}
+
+void Jarjestelijamuokkaus::LaskeBruttosaastot() {
+  laskettu_ = Yrita([this] { rakennus_.Saastotoimenpiteet.PaivitaEnnenTiedotToimenpiteisiin(); });
+}
+
+/// Makes a change, commits it and chooses the row of the key that it gives. After an error all is as it was.
+void Jarjestelijamuokkaus::Muuta(Tekstinumero nimi, const std::function<Tunniste()>& muutos) {
+  const auto rivit = jarjestelija_.Kopioi();
+  const auto toimenpiteet = rakennus_.Saastotoimenpiteet.Kopioi();
+  Tunniste valittava;
+  omaMuutos_ = true;
+  try {
+    valittava = muutos();
+    if (lomake_.chkLaskeHeti.Valittu()) Laske();
+    rakennus_.ToimenpiteetMuuttuivat(Teksti(nimi));
+  } catch (...) {
+    omaMuutos_ = false;
+    rivit->Kopioi(jarjestelija_);
+    toimenpiteet->Kopioi(rakennus_.Saastotoimenpiteet);
+    Nayta();
+    throw;
+  }
+  omaMuutos_ = false;
+  lomake_.lvwValitut.Valitse(valittava);
+  PaivitaNapit();
+}
+
+/// What can't be computed was told at opening, or when the person pressed.
+void Jarjestelijamuokkaus::MuutosTuli() {
+  if (!lomake_.Auki()) return;
+  if (!omaMuutos_) {
+    const Hiljaisuus hiljaisuus;
+    rakennus_.Saastotoimenpiteet.PaivitaHierarkiaLista();
+    if (lomake_.chkLaskeHeti.Valittu() && jarjestelija_.Vanhentunut())
+      Laske();
+    else
+      LaskeBruttosaastot();
+  }
+  Nayta();
+}
+
+void Jarjestelijamuokkaus::NaytaOtsikot() {
+  const std::string alv = ". " + Alvhuomautus();
+  lomake_.lblBrutto.Otsikko(Teksti(tekstit::kBruttovaikutukset) + alv);
+  lomake_.lblNetto.Otsikko(Teksti(tekstit::kNettovaikutukset) + alv);
+}
+
+void Jarjestelijamuokkaus::NaytaSarakkeet() {
+  const int nakyma = lomake_.cmbNakymatasonValinta.Indeksi();
+  for (const ListView& lista : {lomake_.lvwToimenpiteet, lomake_.lvwValitut}) AsetaToimenpidesarakkeet(lista, nakyma);
+}
+
+void Jarjestelijamuokkaus::Nayta() {
+  lomake_.lvwToimenpiteet.Tayta(Toimenpiteet());
+  lomake_.lvwValitut.Tayta(Valitut());
+  lomake_.lblPaketti.Otsikko(Yhteenveto());
+  NaytaKuva();
+  PaivitaNapit();
+}
+
+Luettelosisalto Jarjestelijamuokkaus::Toimenpiteet() {
+  const clsSaastotoimenpiteet& toimenpiteet = rakennus_.Saastotoimenpiteet;
+  Luettelosisalto sisalto;
+  for (clsSaastotoimenpide* toimenpide : toimenpiteet.Toimenpiteet(jarjestelija_.NaytaToimenpiteetStr)) {
+    Luettelorivi& rivi = sisalto.rivit.emplace_back(Bruttorivi(*toimenpide));
+    rivi.avain = toimenpide->sKey;
+    rivi.piirteet.rasti = toimenpiteet.ListaItem(toimenpide->sKey).ValittuTaulukko2een;
+  }
+  return sisalto;
+}
+
+Luettelorivi Jarjestelijamuokkaus::Bruttorivi(clsSaastotoimenpide& toimenpide) const {
+  return laskettu_ ? ToimenpiderivinSolut(ToimenpiteenRivi(toimenpide)) : Luvuton(toimenpide.Nimi);
+}
+
+Luettelosisalto Jarjestelijamuokkaus::Valitut() {
+  Luettelosisalto sisalto;
+  for (const Rivi& rivi : jarjestelija_.ValitutToimenpiteet) sisalto.rivit.push_back(Nettorivi(rivi));
+  return sisalto;
+}
+
+Luettelorivi Jarjestelijamuokkaus::Nettorivi(const Rivi& rivi) {
+  Luettelorivi nakyva = ToimenpiderivinSolut(JarjestelijanRivi(rivi));
+  nakyva.avain = rivi.sKey;
+  nakyva.piirteet.lihava = rivi.Tyyppi != Rivi::Toimenpide;
+  nakyva.piirteet.siirrettava = rivi.Tyyppi != Rivi::Yhteensa;
+  nakyva.piirteet.merkitys = rivi.TiedotUpToDate ? Merkitys::Tavallinen : Merkitys::Vanhentunut;
+  nakyva.piirteet.selite = Riviperuste(rakennus_, rivi);
+  if (rivi.TiedotUpToDate) return nakyva;
+  if (!nakyva.piirteet.selite.empty()) nakyva.piirteet.selite += "\n\n";
+  nakyva.piirteet.selite += Teksti(tekstit::kRiviVanhentunut);
+  return nakyva;
+}
+
+/// What the package as a whole gives.
+std::string Jarjestelijamuokkaus::Yhteenveto() const {
+  const auto& paketti = jarjestelija_.LaskettuPaketti();
+  if (!paketti) return {};
+  const auto aika = jarjestelija_.PaketinTakaisinmaksuaika(Asetukset().NaytettavatAlvt());
+  std::string teksti = Teksti(tekstit::kPaketinTakaisinmaksuaika) + ": " +
+                       (aika ? Muotoile(*aika, "### ##0.0") + " a" : std::string(kEiLukua));
+  if (!paketti->saasto) return teksti;
+  teksti += ". " + Teksti(tekstit::kPaketinPaastot) + ": " + Muotoile(paketti->saasto->paastot, "### ##0.0") + " t/a";
+  return teksti + ". " + Teksti(tekstit::kPaketinTariffisaasto) + ": " +
+         Muotoile(NaytettyHinta(paketti->saasto->hinta), "### ##0") + " " +
+         RahayksikonKanssa("mkTagi/a", Asetukset().strDefaultCurrencyUnit) + ".";
+}
+
+/// A stale picture stays, paler, until there are new figures.
+void Jarjestelijamuokkaus::NaytaKuva() {
+  const auto suure = static_cast<Vesiputoussuure>(lomake_.cmbSuure.Indeksi());
+  const bool vanhentunut = !jarjestelija_.LaskettuPaketti() && jarjestelija_.ValitutToimenpiteet.Count() > 1;
+  Kaaviotiedot kuva = Vesiputous(rakennus_, suure);
+  if (vanhentunut) {
+    if (lomake_.chtVesiputous.Kaavio().yksikko == kuva.yksikko) kuva = Kaaviotiedot(lomake_.chtVesiputous.Kaavio());
+    kuva.otsikko = lomake_.cmbSuure.Teksti() + " – " + Teksti(tekstit::kVesiputousVanhentunut);
+  }
+  lomake_.chtVesiputous.Kaavio(std::move(kuva));
+  lomake_.chtVesiputous.Kaytossa(!vanhentunut);
+}
+
+void Jarjestelijamuokkaus::PaivitaNapit() {
+  const Tunniste valittu = lomake_.lvwValitut.Valittu();
+  const Rivi* rivi = jarjestelija_.ValitutToimenpiteet.Etsi(valittu);
+  lomake_.cmdYlos.Kaytossa(jarjestelija_.VoiSiirtaaYlos(valittu));
+  lomake_.cmdAlas.Kaytossa(jarjestelija_.VoiSiirtaaAlas(valittu));
+  lomake_.cmdPoista.Kaytossa(rivi && rivi->Tyyppi != Rivi::Yhteensa);
+  lomake_.cmdTaulukko2een.Kaytossa(lomake_.cmbNakymatasonValinta.Indeksi() == 2);
+}
