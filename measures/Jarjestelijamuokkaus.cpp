@@ -54,15 +54,13 @@ Jarjestelijamuokkaus::Jarjestelijamuokkaus(clsRakennus& rakennus)
 }
 
 void Jarjestelijamuokkaus::Kuuntele() {
-  lomake_.NakymatasonValintaCmbKlikattu = [this](int nakyma) {
-    jarjestelija_.TaulukonNakymaTyyppiID = nakyma;
-    jarjestelija_.TaulukonNakymaStr = lomake_.cmbNakymatasonValinta.Teksti();
+  lomake_.NakymatasonValintaCmbKlikattu = [this] {
+    KirjoitaDataluokka();
     NaytaSarakkeet();
     Nayta();
   };
-  lomake_.VaihtoehtoSuodatusCmbKlikattu = [this](int haara) {
-    jarjestelija_.NaytaToimenpiteetID = haara;
-    jarjestelija_.NaytaToimenpiteetStr = kHaarat[haara];
+  lomake_.VaihtoehtoSuodatusCmbKlikattu = [this] {
+    KirjoitaDataluokka();
     Nayta();
   };
   lomake_.TehtyToimenpideChekattu = [this](const Tunniste& toimenpide, bool valittu) {
@@ -99,7 +97,10 @@ void Jarjestelijamuokkaus::Kuuntele() {
     if (lomake_.chkLaskeHeti.Valittu() || !jarjestelija_.Vanhentunut()) Laske();
     Nayta();
   };
-  lomake_.OkKlikattu = [this] { lomake_.Sulje(); };
+  lomake_.OkKlikattu = [this] {
+    KirjoitaDataluokka();
+    lomake_.Sulje();
+  };
   lomake_.PeruutaKlikattu = [this] { lomake_.Sulje(); };  // each action was committed
 }
 
@@ -107,9 +108,8 @@ void Jarjestelijamuokkaus::Avaa() {
   rakennus_.Saastotoimenpiteet.PaivitaHierarkiaLista();
   if (!lomake_.Auki()) {
     lomake_.cmbVaihtoehtoSuodatus.Indeksi(0);
-    jarjestelija_.NaytaToimenpiteetID = 0;
-    jarjestelija_.NaytaToimenpiteetStr = kHaarat[0];
     lomake_.cmbNakymatasonValinta.Indeksi(std::clamp(jarjestelija_.TaulukonNakymaTyyppiID, 0, kNakymia - 1));
+    KirjoitaDataluokka();
     NaytaOtsikot();
     NaytaSarakkeet();
   }
@@ -117,6 +117,18 @@ void Jarjestelijamuokkaus::Avaa() {
   Nayta();
   lomake_.Nayta();
 }
+
+/// How the lists are shown is stored, but is no change of the object.
+void Jarjestelijamuokkaus::KirjoitaDataluokka() {
+  jarjestelija_.NaytaToimenpiteetID = lomake_.cmbVaihtoehtoSuodatus.Indeksi();
+  jarjestelija_.NaytaToimenpiteetStr = Haara();
+  jarjestelija_.TaulukonNakymaTyyppiID = lomake_.cmbNakymatasonValinta.Indeksi();
+  jarjestelija_.TaulukonNakymaStr = lomake_.cmbNakymatasonValinta.Teksti();
+  rakennus_.OtaKirjatuksi();
+}
+
+/// The node whose measures the upper list shows.
+const char* Jarjestelijamuokkaus::Haara() const { return kHaarat[lomake_.cmbVaihtoehtoSuodatus.Indeksi()]; }
 
 /// The window must open also over a building that can't be calculated. False after an error, which it tells.
 bool Jarjestelijamuokkaus::Yrita(const std::function<void()>& laske) {
@@ -197,7 +209,7 @@ void Jarjestelijamuokkaus::Nayta() {
 Luettelosisalto Jarjestelijamuokkaus::Toimenpiteet() {
   const clsSaastotoimenpiteet& toimenpiteet = rakennus_.Saastotoimenpiteet;
   Luettelosisalto sisalto;
-  for (clsSaastotoimenpide* toimenpide : toimenpiteet.Toimenpiteet(jarjestelija_.NaytaToimenpiteetStr)) {
+  for (clsSaastotoimenpide* toimenpide : toimenpiteet.Toimenpiteet(Haara())) {
     Luettelorivi& rivi = sisalto.rivit.emplace_back(Bruttorivi(*toimenpide));
     rivi.avain = toimenpide->sKey;
     rivi.piirteet.rasti = toimenpiteet.ListaItem(toimenpide->sKey).ValittuTaulukko2een;

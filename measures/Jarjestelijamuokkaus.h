@@ -25,6 +25,8 @@ class Jarjestelijamuokkaus {
 
  private:
   void Kuuntele();
+  void KirjoitaDataluokka();
+  const char* Haara() const;
   void Laske();
   void LaskeBruttosaastot();
   bool Yrita(const std::function<void()>& laske);

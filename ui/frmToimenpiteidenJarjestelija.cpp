@@ -9,8 +9,8 @@ frmToimenpiteidenJarjestelija::frmToimenpiteidenJarjestelija() : Muokkauslomake(
     valinta.Indeksi(0);
   }
   chkLaskeHeti.Valittu(true);
-  cmbNakymatasonValinta.KunMuuttuu([this] { Nosta(NakymatasonValintaCmbKlikattu, cmbNakymatasonValinta.Indeksi()); });
-  cmbVaihtoehtoSuodatus.KunMuuttuu([this] { Nosta(VaihtoehtoSuodatusCmbKlikattu, cmbVaihtoehtoSuodatus.Indeksi()); });
+  cmbNakymatasonValinta.KunMuuttuu([this] { Nosta(NakymatasonValintaCmbKlikattu); });
+  cmbVaihtoehtoSuodatus.KunMuuttuu([this] { Nosta(VaihtoehtoSuodatusCmbKlikattu); });
   cmbSuure.KunMuuttuu([this] { Nosta(SuureVaihtui); });
   lvwToimenpiteet.KunRastitetaan(
       [this](int rivi, bool valittu) { Nosta(TehtyToimenpideChekattu, lvwToimenpiteet.Avain(rivi), valittu); });

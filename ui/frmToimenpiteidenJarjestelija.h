@@ -8,8 +8,8 @@ class frmToimenpiteidenJarjestelija : public Muokkauslomake {
  public:
   frmToimenpiteidenJarjestelija();
 
-  std::function<void(int nakyma)> NakymatasonValintaCmbKlikattu;
-  std::function<void(int haara)> VaihtoehtoSuodatusCmbKlikattu;
+  std::function<void()> NakymatasonValintaCmbKlikattu;
+  std::function<void()> VaihtoehtoSuodatusCmbKlikattu;
   std::function<void(const Tunniste& toimenpide, bool valittu)> TehtyToimenpideChekattu;
   std::function<void()> LaskeKlikattu;
   std::function<void(const Tunniste& rivi)> ValittuToimenpideSiirtyiYlos;
