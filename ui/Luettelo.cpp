@@ -158,7 +158,8 @@ std::string Luettelo::Tekstina(std::vector<std::string> otsikot, const std::vect
                                const std::vector<int>& rivit) const {
   const auto poimitut = [&](const std::vector<std::string>& solut) {
     std::vector<std::string> tulos;
-    for (const int sarake : sarakkeet) tulos.emplace_back(Solu(solut, Koko(sarake)));
+    for (const int sarake : sarakkeet)
+      if (Koko(sarake) < solut.size()) tulos.push_back(solut[Koko(sarake)]);
     return tulos;
   };
   std::vector<char> mukana(rivit_.size(), rivit.empty());

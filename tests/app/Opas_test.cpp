@@ -22,6 +22,7 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Luvut.h"
 #include "measures/clsSaastotoimenpiteet.h"
+#include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
@@ -256,6 +257,22 @@ TEST_F(OppaanEsimerkki, TariffsAndTheirCatalogue) {
   const double lampo = rakennus().Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot().Lampo;
   EXPECT_FALSE(rakennus().Tariffit.NaytaKayttoliittyma(clsTariffi::LampoTariffi, {}, lampo));
   AsetaRahayksikko("€");
+  Asetukset().HaeRekisteristä();
+}
+
+TEST_F(OppaanKoulu, TheArrangerShowsThePackageOfTheGuide) {
+  AsetaQtLomakkeet(nullptr);
+  Asetukset().ValuuttaTyyppi(1);  // the euro
+  rakennus().ToimenpiteidenJarjestelija.NaytaKayttoliittyma();
+  const Lomake& jarjestelija = *AvoinLomake("frmToimenpiteidenJarjestelija");
+  const std::string opas = OppaanSivu("esimerkkipaketti.md");
+  const std::string paketti = jarjestelija.Etsi("lblPaketti").Teksti();
+  EXPECT_TRUE(paketti.starts_with("Paketin takaisinmaksuaika: ")) << paketti;
+  for (const auto& solut : jarjestelija.Etsi("lvwValitut").Rivit())
+    EXPECT_TRUE(solut[0] == "Valitut yhteensä" || opas.find(solut[0]) != std::string::npos) << solut[0];
+  jarjestelija.Etsi("lvwValitut").KayttajaValitsee(3);
+  QApplication::processEvents();
+  KuvaaLomake(jarjestelija);
   Asetukset().HaeRekisteristä();
 }
 
