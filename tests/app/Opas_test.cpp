@@ -337,6 +337,20 @@ TEST_F(OppaanEsimerkki, GroupsOfConsumers) {
   avaa(nimella(rakennus().VedenKulutusryhmat, "Käsienpesu"), "vesiryhma.md");
 }
 
+TEST_F(OppaanKoulu, AMeasureWithItsChangesAndPayback) {
+  AsetaQtLomakkeet(nullptr);
+  Asetukset().ValuuttaTyyppi(1);  // the euro
+  clsSaastotoimenpiteet& toimenpiteet = rakennus().Saastotoimenpiteet;
+  clsSaastotoimenpide& ylapohja =
+      *std::ranges::find(toimenpiteet, "Yläpohjan puhallusvilla", &clsSaastotoimenpide::Nimi);
+  KunAuki("cmdPeruuta", [](Lomake& lomake) {
+    EXPECT_NE(OppaanSivu("esimerkkipaketti.md").find(lomake.Etsi("txtTakaisinmaksuaika").Teksti() + " |\n"),
+              std::string::npos);
+  });
+  EXPECT_FALSE(ylapohja.NaytaKayttoliittyma());
+  Asetukset().HaeRekisteristä();
+}
+
 TEST_F(OppaanEsimerkki, ASupplyFromNetDemandToMoneyAndTonnes) {
   const std::string opas = OppaanSivu("hankinta.md");
   Asetukset().ValuuttaTyyppi(1);  // the euro
