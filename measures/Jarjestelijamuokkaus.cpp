@@ -248,10 +248,10 @@ std::string Jarjestelijamuokkaus::Yhteenveto() const {
   std::string teksti = Teksti(tekstit::kPaketinTakaisinmaksuaika) + ": " +
                        (aika ? Muotoile(*aika, "### ##0.0") + " a" : std::string(kEiLukua));
   if (!paketti->saasto) return teksti;
-  teksti += ". " + Teksti(tekstit::kPaketinPaastot) + ": " + Muotoile(paketti->saasto->paastot, "### ##0.0") + " t/a";
-  return teksti + ". " + Teksti(tekstit::kPaketinTariffisaasto) + ": " +
+  teksti += "\n" + Teksti(tekstit::kPaketinPaastot) + ": " + Muotoile(paketti->saasto->paastot, "### ##0.0") + " t/a";
+  return teksti + "\n" + Teksti(tekstit::kPaketinTariffisaasto) + ": " +
          Muotoile(NaytettyHinta(paketti->saasto->hinta), "### ##0") + " " +
-         RahayksikonKanssa("mkTagi/a", Asetukset().strDefaultCurrencyUnit) + ".";
+         RahayksikonKanssa("mkTagi/a", Asetukset().strDefaultCurrencyUnit);
 }
 
 /// A stale picture stays, paler, until there are new figures.

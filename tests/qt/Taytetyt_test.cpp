@@ -359,8 +359,8 @@ void TaytaJarjestelija(const frmToimenpiteidenJarjestelija& lomake, int toimenpi
   lomake.lvwValitut.Indeksi(std::min(3, toimenpiteita));
   lomake.chtVesiputous.Kaavio(std::move(kuva));
   lomake.lblPaketti.Otsikko(
-      "Paketin takaisinmaksuaika: 12,3 a. Päästöt vähenevät (CO₂-ekvivalentti): 123,4 t/a. Säästö kunkin tilanteen "
-      "omilla tariffeilla: 123 456 euro/a.");
+      "Paketin takaisinmaksuaika: 12,3 a\nPäästöt vähenevät (CO₂-ekvivalentti): 123,4 t/a\nSäästö kunkin tilanteen "
+      "omilla tariffeilla: 123 456 euro/a");
 }
 
 TEST_F(Taytetyt, TheArrangerFitsASmallScreenWithAFullPackage) {
