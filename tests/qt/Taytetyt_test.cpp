@@ -10,6 +10,8 @@
 #include <functional>
 
 #include "kernel/Luvut.h"
+#include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "tekstit/lomakkeet_toimenpide.h"
 #include "tests/qt/Ikkunatesti.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
@@ -25,6 +27,7 @@
 #include "ui/frmNormeeraamatonKulutus.h"
 #include "ui/frmPerustiedot.h"
 #include "ui/frmRakenteet.h"
+#include "ui/frmSaastotoimenpide.h"
 #include "ui/frmSahkoLaitteet.h"
 #include "ui/frmSahkotariffi.h"
 #include "ui/frmSahkotariffiVertailu.h"
@@ -47,6 +50,16 @@ void OdotaMahtuvan(const Lomake& lomake) {
         << kentta->objectName().toStdString() << ": " << kentta->text().toStdString();
   }
   TallennaKuva(lomake);
+}
+
+/// Pixels of the picture that differ from the window's background.
+int Piirretty(const QWidget& pinta) {
+  const QImage kuva = const_cast<QWidget&>(pinta).grab().toImage();
+  const QRgb tausta = pinta.palette().color(QPalette::Window).rgb();
+  int maara = 0;
+  for (int y = 0; y < kuva.height(); ++y)
+    for (int x = 0; x < kuva.width(); ++x) maara += kuva.pixel(x, y) != tausta;
+  return maara;
 }
 
 class Taytetyt : public Ikkunatesti {
@@ -375,6 +388,33 @@ TEST_F(Taytetyt, TheArrangerFitsASmallScreenWithAFullPackage) {
   }
 }
 
+TEST_F(Taytetyt, ASavingMeasureFitsItsFieldsAndAMagnifiedScreen) {
+  frmSaastotoimenpide lomake;
+  Luettelosisalto muutokset;
+  for (int i = 1; i <= 12; ++i)
+    muutokset.rivit.push_back(
+        {{"Työväenopiston luokkahuoneet ja käytävät, itäsiipi, Ulkoseinä (" + std::to_string(i) + ")", "U-arvo",
+          "0,40 W/m²K", "0,17 W/m²K"},
+         Tunniste(std::to_string(i))});
+  lomake.NaytaMuutokset(std::move(muutokset));
+  lomake.NaytaVero(Teksti(tekstit::kMaksutSisaltavatAlvn));
+  lomake.lblModuuli.Otsikko(Teksti(tekstit::kModuuliHankinta));
+  for (const auto& ohjain : lomake.Ohjaimet())
+    if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti(ohjain->Lukittu() ? "123 456,78" : "12345,67");
+  lomake.Etsi("txtNimi").Teksti("Työväenopiston luokkahuoneet ja käytävät, itäsiipi, lisäeristys");
+  lomake.lblHuomautus.Otsikko(Teksti(tekstit::kLahtotilanneMuuttui));
+  lomake.Nayta();
+  OdotaMahtuvan(lomake);
+  EiVieritettava(lomake, {1092, 614});
+  for (const char* kuva :
+       {"ToimenpideTila", "ToimenpideIVKone", "ToimenpideSahko", "ToimenpideVesi", "ToimenpideHankinta"}) {
+    lomake.imgModuuli.Kuva(kuva);
+    QCoreApplication::processEvents();
+    TallennaKuva(lomake, kuva);
+    EXPECT_GT(Piirretty(*Juuri(lomake).findChild<QWidget*>("imgModuuli")), 300) << kuva;
+  }
+}
+
 void TaytaKone(frmIlmanvaihtokone& lomake) {
   lomake.Tilat({"Työväenopiston luokkahuoneet ja käytävät, itäsiipi", "Kirjasto"});
   lomake.cmbLiittyyTilaan.Indeksi(1);
@@ -471,16 +511,6 @@ TEST_F(Taytetyt, GroupsOfConsumersFitTheirFieldsInEachWayOfCalculation) {
     OdotaMahtuvan(vesi);
     TallennaKuva(vesi, QString::number(yksikko));
   }
-}
-
-/// Pixels of the picture that differ from the window's background.
-int Piirretty(const QWidget& pinta) {
-  const QImage kuva = const_cast<QWidget&>(pinta).grab().toImage();
-  const QRgb tausta = pinta.palette().color(QPalette::Window).rgb();
-  int maara = 0;
-  for (int y = 0; y < kuva.height(); ++y)
-    for (int x = 0; x < kuva.width(); ++x) maara += kuva.pixel(x, y) != tausta;
-  return maara;
 }
 
 TEST_F(Taytetyt, ThePictureOfTheSystemChangesAndFollowsTheTheme) {
