@@ -145,31 +145,6 @@ TEST_F(OppaanEsimerkki, FiguresOfTheHeatSummaryAreTheGuides) {
   }
 }
 
-TEST_F(OppaanEsimerkki, AMeasureAndWhatItChanges) {
-  Asetukset().ValuuttaTyyppi(1);
-  AsetaRahayksikko(Asetukset().strDefaultCurrencyUnit);  // the euro
-  clsSaastotoimenpiteet& toimenpiteet = rakennus().Saastotoimenpiteet;
-  toimenpiteet.PaivitaHierarkiaLista();
-  clsSaastotoimenpide& toimenpide = *toimenpiteet.Lisaa(tila().sKey, "Yläpohjan lisäeristys");
-  const auto jalkeen = toimenpide.TeeJalkeen();
-  for (clsRakenne& rakenne : static_cast<clsTila&>(*jalkeen).Rakenteet) {
-    if (rakenne.Rakennetyyppi != Rakennelaji::Ylapohja) continue;
-    rakenne.LaskeU_arvoMateriaaleista = false;
-    rakenne.U_arvo(0.12);
-  }
-  toimenpide.PaivitaMuuttuneetAttribuutit(*jalkeen);
-  toimenpide.Kuvaus = "Puhallusvillaa 300 mm";
-  toimenpide.ToimenpiteenTekijanNimi = "Maija Meikäläinen";
-  toimenpide.Investointi = 45000;
-  KunAuki("cmdPeruuta", [](Lomake& lomake) {
-    EXPECT_EQ(lomake.Etsi("lvwMuutokset").Rivit().front().at(1), "U-arvo");
-    EXPECT_GT(LueLuku(lomake.Etsi("txtLampoSaasto").Teksti()), 0);
-  });
-  EXPECT_FALSE(toimenpide.NaytaKayttoliittyma());
-  Asetukset().HaeRekisteristä();
-  AsetaRahayksikko("€");
-}
-
 TEST_F(OppaanEsimerkki, YearlySummary) {
   AsetaQtLomakkeet(nullptr);  // a window of its own has the room that it needs
   rakennus().NaytaYhteenvetoDlg();
