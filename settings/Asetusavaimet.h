@@ -47,6 +47,13 @@ enum class Avain {
   MainHeight,                 ///< main window's size, twips
   TyokaluriviNakyy,           ///< tool bar shown
   TilariviNakyy,              ///< status bar shown
+  SivunPaperi,                ///< paper of sheets and prints, settings/Sivuasetukset.h
+  SivuVaakasuorassa,          ///< the paper lies on its long side
+  SivunVasenReuna,            ///< margins, mm
+  SivunYlareuna,
+  SivunOikeaReuna,
+  SivunAlareuna,
+  Taulukkokansio,  ///< where the sheets go that are opened in the spreadsheet program; "" a temporary folder
   Lukumaara
 };
 
@@ -112,6 +119,13 @@ inline constexpr std::array kAsetukset = {
     AsetusRivi{Avain::MainHeight, "Settings", "MainHeight", "9510", AsetusLaji::Kokonaisluku},
     AsetusRivi{Avain::TyokaluriviNakyy, "Settings", "TyokaluriviNakyy", "-1", AsetusLaji::Totuus},
     AsetusRivi{Avain::TilariviNakyy, "Settings", "TilariviNakyy", "-1", AsetusLaji::Totuus},
+    AsetusRivi{Avain::SivunPaperi, "Asetukset_Sivu", "Paperi", "A4", AsetusLaji::Teksti},
+    AsetusRivi{Avain::SivuVaakasuorassa, "Asetukset_Sivu", "Vaakasuorassa", "-1", AsetusLaji::Totuus},
+    AsetusRivi{Avain::SivunVasenReuna, "Asetukset_Sivu", "VasenReuna", "20000000", AsetusLaji::Miljoonasosat},
+    AsetusRivi{Avain::SivunYlareuna, "Asetukset_Sivu", "Ylareuna", "20000000", AsetusLaji::Miljoonasosat},
+    AsetusRivi{Avain::SivunOikeaReuna, "Asetukset_Sivu", "OikeaReuna", "20000000", AsetusLaji::Miljoonasosat},
+    AsetusRivi{Avain::SivunAlareuna, "Asetukset_Sivu", "Alareuna", "20000000", AsetusLaji::Miljoonasosat},
+    AsetusRivi{Avain::Taulukkokansio, "Asetukset_Sivu", "Taulukkokansio", "", AsetusLaji::Teksti},
 };
 
 constexpr bool RivitJarjestyksessa() {

@@ -31,10 +31,11 @@ TESTIT = {"tests/*"}
 QT = {"ui/qt", "app", "library/server", "bench/qt"}
 KIRJASTOT = [
     (r"sqlite3\.h", {"kernel", "bench"}),
-    (r"pugixml\.hpp", {"ui"}),
+    (r"pugixml\.hpp", {"ui", "results", "tests/tuki"}),
     (r"fontconfig/fontconfig\.h", {"app"}),
     (r"libvoikko/voikko\.h", {"ui"}),
     (r"xlsxwriter\.h", {"results"}),
+    (r"zip\.h", {"results", "tests/tuki"}),
     (r"(Q\w+|Lomaketaulu\.h)", {*QT, "tests/qt", "tests/app", "tests/palvelin"}),
     (r"(gtest|gmock)/.*", TESTIT),
     (r"fuzzer/.*", {"tests/fuzz"}),

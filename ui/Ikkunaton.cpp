@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "kernel/Kirjainkoko.h"
+#include "ui/Asettelu.h"
 
 /// Remembers where the program has put the focus.
 class IkkunatonOhjain : public Ohjain {
@@ -39,7 +40,10 @@ std::vector<Osa> LueOsat(const pugi::xml_node& widget, Ohjaintyyppi tyyppi) {
   std::vector<Osa> osat;
   if (tyyppi == Ohjaintyyppi::TabStrip)
     for (const pugi::xml_node sivu : widget.children("widget"))
-      osat.push_back({{}, {}, Ominaisuus(sivu, "Tag"), Ominaisuus(sivu, "ToolTipText")});
+      osat.push_back({.otsikko = {},
+                      .tag = Ominaisuus(sivu, "Tag"),
+                      .vihjetag = Ominaisuus(sivu, "ToolTipText"),
+                      .nimi = sivu.attribute("name").value()});
   if (tyyppi == Ohjaintyyppi::ListView)
     for (const pugi::xml_node sarake :
          widget.find_child_by_attribute("property", "name", "Sarakkeet").child("stringlist").children("string"))
@@ -113,6 +117,8 @@ Ikkunaton::Ikkunaton(Ikkunattomat& omistaja, std::string nimi) : omistaja_(omist
   AsetaTag(Ominaisuus(juuri, "Tag"));
   std::vector<Ohjainkuvaus> kuvaukset;
   KeraaKuvaukset(juuri, nimi_, kuvaukset);
+  const Asettelu asettelu(juuri);
+  for (Ohjainkuvaus& kuvaus : kuvaukset) kuvaus.paikka = asettelu[kuvaus.nimi];
   for (Ohjainkuvaus& kuvaus : kuvaukset) Lisaa(std::make_unique<IkkunatonOhjain>(*this, std::move(kuvaus)));
   omistaja_.ikkunat_.push_back(this);
 }

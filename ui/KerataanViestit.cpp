@@ -50,6 +50,11 @@ std::optional<std::string> KerataanViestit::KysyTallennettavaTiedosto(std::strin
   return KysyAvattavaTiedosto(otsikko, suodatin);
 }
 
+bool KerataanViestit::AvaaTiedosto(const std::string& tiedosto) {
+  if (avaaja_) avatut_.push_back(tiedosto);
+  return avaaja_;
+}
+
 void KerataanViestit::AsetaPaneeli(std::string teksti) {
   paneeli_ = std::move(teksti);
   paneelit_.push_back(paneeli_);

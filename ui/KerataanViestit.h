@@ -21,6 +21,7 @@ class KerataanViestit : public Viestit {
   std::optional<std::string> KysyAvattavaTiedosto(std::string_view otsikko, std::string_view suodatin) override;
   std::optional<std::string> KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin,
                                                        std::string_view ehdotus) override;
+  bool AvaaTiedosto(const std::string& tiedosto) override;
   std::string Paneeli() const override { return paneeli_; }
   void AsetaPaneeli(std::string teksti) override;
   void Odotusosoitin(bool paalla) override { odotuksia_ += paalla ? 1 : -1; }
@@ -31,6 +32,10 @@ class KerataanViestit : public Viestit {
   void AsetaSeuraavaTeksti(std::optional<std::string> teksti) { tekstit_.push_back(std::move(teksti)); }
   void AsetaSeuraavaTiedosto(std::optional<std::string> tiedosto) { tiedostot_.push_back(std::move(tiedosto)); }
 
+  /// Whether there is a program that opens files; there is one at first.
+  void AsetaAvaaja(bool on) { avaaja_ = on; }
+  /// Files opened so far.
+  const std::vector<std::string>& Avatut() const { return avatut_; }
   /// Boxes shown so far; a question for a text or a file is there too, with its prompt or title.
   const std::vector<Viesti>& Naytetyt() const { return naytetyt_; }
   /// How many boxes had this text in them.
@@ -48,6 +53,8 @@ class KerataanViestit : public Viestit {
   std::deque<Vastaus> vastaukset_;
   std::deque<std::optional<std::string>> tekstit_;
   std::deque<std::optional<std::string>> tiedostot_;
+  std::vector<std::string> avatut_;
+  bool avaaja_ = true;
   std::string paneeli_;
   std::vector<std::string> paneelit_;
   int odotuksia_ = 0;

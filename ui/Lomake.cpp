@@ -14,6 +14,11 @@ std::vector<Lomake*>& Avoimet() {
   return avoimet;
 }
 
+std::function<void(const Lomake&)>& Tulostus() {
+  static std::function<void(const Lomake&)> tulosta;
+  return tulosta;
+}
+
 /// The control raises no more events.
 void Vaienna(Ohjain& ohjain) {
   for (auto* tapahtuma : {&ohjain.Muuttui, &ohjain.Klikattu, &ohjain.Poistuttu, &ohjain.Lisattava, &ohjain.Poistettava})
@@ -28,6 +33,8 @@ void Vaienna(Ohjain& ohjain) {
 
 Lomake::Lomake(std::string nimi) : nimi_(std::move(nimi)), ikkuna_(TeeLomakeikkuna(nimi_)) {
   KaannaLomake(*this);
+  ikkuna_->Tulostettava = [this] { Nosta(Tulostus(), *this); };
+  if (Ohjain* nappi = ikkuna_->Loyda("cmdTulosta")) nappi->Klikattu = ikkuna_->Tulostettava;
   ikkuna_->Suljettu = [this] {
     Sulje();
     Nosta(Suljettu);
@@ -76,6 +83,8 @@ Lomake* AktiivinenLomake() {
   const auto it = std::find_if(Avoimet().rbegin(), Avoimet().rend(), [](const Lomake* l) { return l->Aktiivinen(); });
   return it == Avoimet().rend() ? nullptr : *it;  // a modal form lies over those shown before it
 }
+
+void AsetaTulostus(std::function<void(const Lomake&)> tulosta) { Tulostus() = std::move(tulosta); }
 
 void SuljeLomakkeet() {
   while (!Avoimet().empty()) Avoimet().back()->Sulje();

@@ -61,6 +61,10 @@ Lomake* AktiivinenLomake();
 /// Closes every shown form.
 void SuljeLomakkeet();
 
+/// What printing a form means: its button cmdTulosta and Ctrl+P call this, unless the form has something of its own for
+/// the button. The program sets it; without it nothing is printed.
+void AsetaTulostus(std::function<void(const Lomake&)> tulosta);
+
 /// Raises an event; one that nobody listens to does nothing.
 template <class... A, class... B>
 void Nosta(const std::function<void(A...)>& tapahtuma, B&&... arvot) {

@@ -26,6 +26,8 @@ class Lomakeikkuna {
   Ohjain* Loyda(std::string_view nimi) const;
   /// As Loyda; raises TuntematonOhjain.
   Ohjain& Etsi(std::string_view nimi) const;
+  /// The person sees the control: its own flag and those of the frames around it are on, and its page is in front.
+  bool Nakyvissa(const Ohjain& ohjain) const;
   /// Design-time Tag of the form: id of its caption.
   const std::string& Tag() const { return tag_; }
 
@@ -41,6 +43,9 @@ class Lomakeikkuna {
   void KayttajaHyvaksyy();
   /// Escape or the window's close button: presses the cancelling button, or closes a form that has none.
   void KayttajaPeruuttaa();
+  /// Ctrl+P in a window of its own: presses the print button, or prints a form that has none.
+  void KayttajaTulostaa();
+  std::function<void()> Tulostettava;
   /// Closed by KayttajaPeruuttaa without a button.
   std::function<void()> Suljettu;
 

@@ -86,12 +86,20 @@ struct Osa {
   Tasaus tasaus = Tasaus::Vasen;
   /// Of a column: its share of the list's width, 0 hidden; without one, as wide as its contents need.
   std::optional<double> leveys{};
+  std::string nimi{};  ///< of a page: the container of the controls on it
 
   bool Nakyva() const { return leveys != 0.0; }
 };
 
 /// A column as a form file tells it in the list's property Sarakkeet: "id" or "id,oikea" or "id,keski".
 Osa Sarakkeeksi(std::string_view kuvaus);
+
+/// Top left corner of a control's place on its form, in twips (15 to a pixel of 96 dpi). Controls of one row have one
+/// top, whatever their heights.
+struct Lomakepaikka {
+  double vasen = 0;
+  double yla = 0;
+};
 
 /// What a form file tells of a control.
 struct Ohjainkuvaus {
@@ -107,6 +115,7 @@ struct Ohjainkuvaus {
   bool kaytossa = true;
   bool nakyva = true;
   std::vector<Osa> osat;
+  Lomakepaikka paikka{};  ///< without a screen: where the layout of the form file puts it
 };
 
 /// One control of an open form. It holds all that the program knows of it; an adapter derives from it and shows what
@@ -150,6 +159,8 @@ class Ohjain {
   /// The control's own flag, whatever its page or frame.
   bool Nakyva() const { return kuvaus_.nakyva; }
   void Nakyva(bool nakyva);
+  /// Where it lies at present, measured from the form's corner, also in a frame or on a page.
+  virtual Lomakepaikka Sijainti() const { return kuvaus_.paikka; }
   /// A text field shows its text in the colour that catches the eye.
   bool Korostettu() const { return korostettu_; }
   void Korostettu(bool korostettu);

@@ -35,12 +35,17 @@ std::string Yrita(const std::function<bool(const std::string&)>& tallenna, const
 
 }  // namespace
 
+std::optional<std::string> KysyTallennuspaikka(const Tallennettava& mika, std::string_view ehdotus) {
+  auto valittu = ViestitNyt().KysyTallennettavaTiedosto(Teksti(mika.otsikko), Teksti(mika.suodatin), ehdotus);
+  if (!valittu) return std::nullopt;
+  std::string tiedosto = Paatteella(*valittu, mika.paate);
+  return SaaKirjoittaa(tiedosto) ? std::optional(std::move(tiedosto)) : std::nullopt;
+}
+
 void KysyJaTallenna(const Tallennettava& mika, const std::function<bool(const std::string&)>& tallenna) {
-  const auto valittu = ViestitNyt().KysyTallennettavaTiedosto(Teksti(mika.otsikko), Teksti(mika.suodatin));
-  if (!valittu) return;
-  const std::string tiedosto = Paatteella(*valittu, mika.paate);
-  if (!SaaKirjoittaa(tiedosto)) return;
-  if (const std::string syy = Yrita(tallenna, tiedosto); !syy.empty())
-    Ilmoita(Teksti(tekstit::kTiedostoaEiVoituTallentaa) + " " + tiedosto + syy, Teksti(tekstit::kVirhe),
+  const auto tiedosto = KysyTallennuspaikka(mika);
+  if (!tiedosto) return;
+  if (const std::string syy = Yrita(tallenna, *tiedosto); !syy.empty())
+    Ilmoita(Teksti(tekstit::kTiedostoaEiVoituTallentaa) + " " + *tiedosto + syy, Teksti(tekstit::kVirhe),
             Vakavuus::Virhe);
 }

@@ -39,6 +39,9 @@ class Viestit {
   virtual std::optional<std::string> KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin,
                                                                std::string_view ehdotus = {}) = 0;
 
+  /// Opens the file in the program that the person's desktop has for its kind. False when there is none.
+  virtual bool AvaaTiedosto(const std::string& tiedosto) = 0;
+
   /// Text of the first panel of the status bar.
   virtual std::string Paneeli() const = 0;
   virtual void AsetaPaneeli(std::string teksti) = 0;

@@ -43,6 +43,7 @@ void Dialogikehys::Mahduta(const QSize& naytto) {
 void Dialogikehys::reject() { lomake_.KayttajaPeruuttaa(); }
 
 void Dialogikehys::keyPressEvent(QKeyEvent* tapahtuma) {
+  if (tapahtuma->matches(QKeySequence::Print)) return lomake_.KayttajaTulostaa();
   OnHyvaksyva(*tapahtuma) ? lomake_.KayttajaHyvaksyy() : QDialog::keyPressEvent(tapahtuma);
 }
 

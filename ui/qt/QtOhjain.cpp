@@ -4,7 +4,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
+#include <QBoxLayout>
 #include <QFocusEvent>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,10 +22,12 @@
 #include "ui/qt/Kaaviokuva.h"
 #include "ui/qt/Kuvapinta.h"
 #include "ui/qt/QtComboBox.h"
+#include "ui/qt/QtIkkuna.h"
 #include "ui/qt/QtListView.h"
 
 namespace {
 
+constexpr int kTwipseja = 15;     // in a pixel
 constexpr int kLuvunLeveys = 14;  // of a number field, in digits
 constexpr int kAjanLeveys = 8;    // of a field for a time of day
 
@@ -248,11 +252,44 @@ class QtImage : public QtOhjain {
   Kuvapinta& pinta_;
 };
 
+/// The innermost layout that holds the widget, or nothing.
+QLayout* OmaAsettelu(QLayout* asettelu, const QWidget& widget) {
+  if (!asettelu || asettelu->indexOf(&widget) >= 0) return asettelu;
+  for (int i = 0; i < asettelu->count(); ++i)
+    if (QLayout* loytyi = OmaAsettelu(asettelu->itemAt(i)->layout(), widget)) return loytyi;
+  return nullptr;
+}
+
+/// Corner of the widget's place in its layout, in its parent's coordinates: that of the cell in a grid, the top of the
+/// row in a row of widgets.
+QPoint PaikkaAsettelussa(const QWidget& widget) {
+  QLayout* asettelu = OmaAsettelu(widget.parentWidget()->layout(), widget);
+  if (auto* ruudukko = qobject_cast<QGridLayout*>(asettelu)) {
+    int rivi = 0, sarake = 0, riveja = 0, sarakkeita = 0;
+    ruudukko->getItemPosition(ruudukko->indexOf(&widget), &rivi, &sarake, &riveja, &sarakkeita);
+    return ruudukko->cellRect(rivi, sarake).topLeft();
+  }
+  if (auto* jono = qobject_cast<QHBoxLayout*>(asettelu)) return {widget.x(), jono->contentsRect().top()};
+  return widget.pos();
+}
+
+/// The same in the form's coordinates, however it has been scrolled.
+QPoint Lomakkeella(const QWidget& widget, const QWidget& juuri) {
+  QPoint paikka = PaikkaAsettelussa(widget);
+  for (const QWidget* w = widget.parentWidget(); w && w != &juuri; w = w->parentWidget())
+    if (!w->parentWidget() || w->parentWidget()->objectName() != QLatin1String("qt_scrollarea_viewport"))
+      paikka += w->pos();
+  return paikka;
+}
+
 std::vector<Osa> LueOsat(QWidget& widget) {
   std::vector<Osa> osat;
   if (auto* sivut = dynamic_cast<QTabWidget*>(&widget))
     for (int i = 0; i < sivut->count(); ++i)
-      osat.push_back({{}, {}, Ominaisuus(*sivut->widget(i), "Tag"), Ominaisuus(*sivut->widget(i), "ToolTipText")});
+      osat.push_back({.otsikko = {},
+                      .tag = Ominaisuus(*sivut->widget(i), "Tag"),
+                      .vihjetag = Ominaisuus(*sivut->widget(i), "ToolTipText"),
+                      .nimi = sivut->widget(i)->objectName().toStdString()});
   for (const QString& sarake : widget.property("Sarakkeet").toStringList())
     osat.push_back(Sarakkeeksi(sarake.toStdString()));
   return osat;
@@ -300,6 +337,12 @@ void QtOhjain::Paivita(Piirre piirre) {
     default:
       return NaytaPiirre(piirre);
   }
+}
+
+Lomakepaikka QtOhjain::Sijainti() const {
+  if (!widget_) return {};
+  const QPoint kulma = Lomakkeella(*widget_, *static_cast<const QtIkkuna&>(Ikkuna()).Juuri());
+  return {.vasen = kulma.x() * kTwipseja, .yla = kulma.y() * kTwipseja};
 }
 
 void QtOhjain::Kohdista() {

@@ -13,6 +13,7 @@ class QtOhjain : public QObject, public Ohjain {
   QtOhjain(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QWidget* widget);
 
   QWidget* Widget() const { return widget_; }
+  Lomakepaikka Sijainti() const override;
   /// Letter underlined in the caption, which the control answers to with Alt; a null one for none.
   virtual void AsetaPikakirjain(QChar) {}
 

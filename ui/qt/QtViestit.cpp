@@ -2,6 +2,7 @@
 #include "ui/qt/QtViestit.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -13,6 +14,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTranslator>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -190,6 +192,10 @@ std::optional<std::string> QtViestit::KysyTallennettavaTiedosto(std::string_view
   dialogi.setLabelText(QFileDialog::Accept, QStringLiteral("Tallenna"));
   dialogi.selectFile(Q(ehdotus));
   return KysyTiedosto(dialogi, Q(suodatin));
+}
+
+bool QtViestit::AvaaTiedosto(const std::string& tiedosto) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(tiedosto)));
 }
 
 void QtViestit::AsetaPaneeli(std::string teksti) {

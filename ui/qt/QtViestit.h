@@ -23,6 +23,7 @@ class QtViestit : public Viestit {
   std::optional<std::string> KysyAvattavaTiedosto(std::string_view otsikko, std::string_view suodatin) override;
   std::optional<std::string> KysyTallennettavaTiedosto(std::string_view otsikko, std::string_view suodatin,
                                                        std::string_view ehdotus) override;
+  bool AvaaTiedosto(const std::string& tiedosto) override;
   std::string Paneeli() const override { return paneeli_; }
   void AsetaPaneeli(std::string teksti) override;
   void Odotusosoitin(bool paalla) override;
