@@ -2,10 +2,12 @@
 #pragma once
 #include <QPageLayout>
 
+struct Sivuasetukset;
 class QWidget;
 
-/// An upright A4 page with margins of 20 mm.
-QPageLayout Oletussivu();
+/// The page of the settings as the toolkit has it, and the other way round.
+QPageLayout Sivuna(const Sivuasetukset& asetukset);
+Sivuasetukset Asetuksina(const QPageLayout& sivu);
 
-/// Shows the system's page set-up over the window. On OK `sivu` becomes the chosen page; Cancel leaves it.
-void KysySivunAsetukset(QWidget& ikkuna, QPageLayout& sivu);
+/// Shows the system's page set-up over the window. On OK the chosen page goes to the settings; Cancel leaves them.
+void KysySivunAsetukset(QWidget& ikkuna);

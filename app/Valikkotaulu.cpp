@@ -11,6 +11,7 @@
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsEnergiamuodonKasittely.h"
 #include "supply/clsSahkoTariffienVertailu.h"
+#include "tekstit/lomakkeet_taulukot.h"
 #include "tekstit/paaikkuna.h"
 #include "ui/Lomake.h"
 #include "ui/Ohje.h"
@@ -47,6 +48,7 @@ bool VoiLeikata(const frmMain& ikkuna) { return ikkuna.Leike().VoiLeikata(); }
 bool VoiKopioida(const frmMain& ikkuna) { return ikkuna.Leike().VoiKopioida(); }
 bool VoiLiittaa(const frmMain& ikkuna) { return ikkuna.Leike().VoiLiittaa(); }
 bool IkkunoitaAuki(const frmMain& ikkuna) { return ikkuna.IkkunoitaAuki(); }
+bool VoiEsikatsella(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && AktiivinenLomake(); }
 bool VoiTulostaa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && frmMain::Tulostusnappi(); }
 
 /// An entry whose module isn't built yet.
@@ -102,10 +104,12 @@ constexpr Valikkorivi kRivit[] = {
     {"mnuFile", "mnuFileProperties", tekstit::kValikkoKatselmoijienTiedot, "", KohdeValmis,
      [](frmMain& i) { i.Kohteet().Rakennus()->KatselmoijienTiedot.NaytaKayttoliittyma(); }},
     {"mnuFile", ""},
-    {"mnuFile", "mnuFilePageSetup", tekstit::kValikkoSivunAsetukset, "", kTulossa,
+    {"mnuFile", "mnuFilePageSetup", tekstit::kValikkoSivunAsetukset, "", nullptr,
      [](frmMain& i) { i.mnuFilePageSetup_Click(); }},
     Vaiennettu("mnuFile", "mnuFilePrintPreview", tekstit::kValikkoEsikatselu,
                [](frmMain&) { Ilmoita("Add 'mnuFilePrintPreview_Click' code."); }),
+    {"mnuFile", "mnuEsikatselu", tekstit::kValikkoEsikatseluJaTulostus, "Ctrl+Shift+P", VoiEsikatsella,
+     [](frmMain& i) { i.mnuEsikatselu_Click(); }},
     {"mnuFile", "mnuFilePrint", tekstit::kValikkoTulosta, "Ctrl+P", VoiTulostaa,
      [](frmMain&) { frmMain::mnuFilePrint_Click(); }, "Print", tekstit::kVihjeTulostaAktiivinenIkkuna},
     Vaiennettu("mnuFile", "mnuFileSend", tekstit::kValikkoLaheta,

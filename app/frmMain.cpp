@@ -12,8 +12,10 @@
 #include "app/Ikkunapaikka.h"
 #include "app/Istunto.h"
 #include "app/Sivunasetus.h"
+#include "app/Taulukkotulostus.h"
 #include "app/Viimeisimmat.h"
 #include "kernel/Hakemistot.h"
+#include "results/Taulukkovienti.h"
 #include "settings/Asetusavaimet.h"
 #include "tekstit/paaikkuna.h"
 #include "tekstit/viestit.h"
@@ -39,9 +41,7 @@ QString Valikkoteksti(int tunnus) {
 }  // namespace
 
 frmMain::frmMain(Istunto& istunto)
-    : istunto_(istunto), alue_(this), paneeli_(this), sivu_(Oletussivu()), leike_([this] {
-        PaivitaKaytossa("mnuEdit");
-      }) {
+    : istunto_(istunto), alue_(this), paneeli_(this), leike_([this] { PaivitaKaytossa("mnuEdit"); }) {
   setObjectName("frmMain");
   setCentralWidget(&alue_);
   alue_.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -57,6 +57,7 @@ frmMain::frmMain(Istunto& istunto)
   PalautaPaikka(*this);
   AsetaQtLomakkeet(&alue_);
   AsetaPaaikkuna(this);
+  AsetaTulostus(VieTaulukkoon);
   AsetaOtsikko({});
   AsetaKomennonJalki([this] { PaivitaValikot(); });
   PaivitaValikot();
@@ -65,6 +66,7 @@ frmMain::frmMain(Istunto& istunto)
 frmMain::~frmMain() {
   AsetaKomennonJalki({});
   alue_.disconnect(this);
+  AsetaTulostus({});
   AsetaPaaikkuna(nullptr);
   AsetaQtLomakkeet(nullptr);
 }
@@ -167,7 +169,11 @@ void frmMain::Suorita(const Valikkorivi& rivi) {
   SuoritaKomento([&] { rivi.toiminto(*this); });
 }
 
-void frmMain::mnuFilePageSetup_Click() { KysySivunAsetukset(*this, sivu_); }
+void frmMain::mnuFilePageSetup_Click() { KysySivunAsetukset(*this); }
+
+void frmMain::mnuEsikatselu_Click() {
+  if (const Lomake* lomake = AktiivinenLomake()) EsikatseleSivut(KohteenSivut(*lomake), *this);
+}
 
 bool frmMain::TyokalutNakyvat() const { return !tyokalut_->isHidden(); }
 bool frmMain::TilariviNakyy() const { return !statusBar()->isHidden(); }

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
-#include <QPageLayout>
 #include <vector>
 
 #include "app/Leikepoyta.h"
@@ -32,9 +31,10 @@ class frmMain : public QMainWindow, public Paaikkuna {
 
   /// The clipboard, on the control that has the focus.
   const Leikepoyta& Leike() const { return leike_; }
-  /// Asks for the page of prints, for this run of the program.
+  /// Asks for the page of sheets and prints, which the settings keep.
   void mnuFilePageSetup_Click();
-  const QPageLayout& Sivu() const { return sivu_; }
+  /// Shows on a preview how the sheets of the active form come on paper; prints from there.
+  void mnuEsikatselu_Click();
   bool TyokalutNakyvat() const;
   bool TilariviNakyy() const;
   void mnuViewToolbar_Click();
@@ -79,7 +79,6 @@ class frmMain : public QMainWindow, public Paaikkuna {
   QMdiArea alue_;
   QLabel paneeli_;
   QToolBar* tyokalut_ = nullptr;
-  QPageLayout sivu_;
   std::vector<Toiminto> toiminnot_;
   std::vector<QAction*> viimeisimmat_;
   Leikepoyta leike_;

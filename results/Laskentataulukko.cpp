@@ -60,8 +60,7 @@ Laskentataulukko TaulukkoLuettelosta(const ListView& lista, std::string otsikko)
   Laskentataulukko taulukko{std::move(otsikko), {}};
   for (const int s : nakyvat) taulukko.sarakkeet.push_back(sarakkeet[static_cast<std::size_t>(s)].otsikko);
   for (const int rivi : rivit.Jarjestys()) {
-    auto& solut =
-        taulukko.rivit.emplace_back(Soluiksi(rivit, rivit.Solut()[static_cast<std::size_t>(rivi)], nakyvat));
+    auto& solut = taulukko.rivit.emplace_back(Soluiksi(rivit, rivit.Solut()[static_cast<std::size_t>(rivi)], nakyvat));
     for (const Luettelorivi::Luku& luku : rivit.Luvut(rivi))
       if (const auto it = std::ranges::find(nakyvat, luku.sarake); it != nakyvat.end())
         solut[static_cast<std::size_t>(it - nakyvat.begin())] = Taulukkoluku{luku.arvo, luku.kuvio};

@@ -19,7 +19,7 @@ constexpr const char *kRastittu = "☑ ", *kRastimaton = "☐ ", *kValittu = "�
 
 /// Windows of which the list is what is printed; the first one where there are several.
 constexpr std::string_view kLuettelolomakkeet[] = {
-    "frmTilaYhteenveto",     "frmIVKoneYhteenveto",       "frmSahkoLaitteet",       "frmVedenKulutus",
+    "frmTilaYhteenveto",     "frmIVKoneYhteenveto",           "frmSahkoLaitteet",        "frmVedenKulutus",
     "frmSaastoToimenpiteet", "frmToimenpiteidenJarjestelija", "frmSahkotariffiVertailu",
 };
 
@@ -111,8 +111,7 @@ std::vector<const Ohjain*> Luettelot(const Lomake& lomake) {
 
 /// The form that the control stands on, if it is open.
 const Lomake* Oma(const Ohjain& ohjain) {
-  const auto it =
-      std::ranges::find(AvoimetLomakkeet(), &ohjain.Ikkuna(), [](const Lomake* l) { return &l->Ikkuna(); });
+  const auto it = std::ranges::find(AvoimetLomakkeet(), &ohjain.Ikkuna(), [](const Lomake* l) { return &l->Ikkuna(); });
   return it == AvoimetLomakkeet().end() ? nullptr : *it;
 }
 

@@ -26,8 +26,8 @@ struct Sivusolu {
 
 /// A sheet of a workbook. Rows and columns count from 1.
 struct Taulukkosivu {
-  std::string nimi;     ///< any text: the file gets what fits (ValilehdenNimi)
-  std::string otsikko;  ///< over each page on paper
+  std::string nimi;                                 ///< any text: the file gets what fits (ValilehdenNimi)
+  std::string otsikko;                              ///< over each page on paper
   std::map<std::pair<int, int>, Sivusolu> solut{};  ///< by row and column
   int otsikkoriveja = 0;                            ///< the first rows, frozen on the screen and repeated on paper
   int otsikkosarakkeita = 0;                        ///< the first columns, frozen on the screen

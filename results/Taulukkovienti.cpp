@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/Taulukkovienti.h"
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -11,8 +9,11 @@
 #include "building/Yhteiset.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsRakennus.h"
+#include "results/Laskentataulukko.h"
 #include "results/Lomakesivu.h"
+#include "results/Paataulu.h"
 #include "settings/Asetusavaimet.h"
+#include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/lomakkeet_asetukset.h"
 #include "tekstit/lomakkeet_taulukot.h"
 #include "tekstit/viestit.h"
@@ -78,7 +79,7 @@ fs::path Kansio() {
   std::error_code virhe;
   const std::string valittu = HaeAsetus(Avain::Taulukkokansio);
   if (!valittu.empty() && fs::is_directory(valittu, virhe)) return valittu;
-  const fs::path kansio = fs::temp_directory_path(virhe) / ("lumivirta-" + std::to_string(geteuid()));
+  const fs::path kansio = fs::temp_directory_path(virhe) / ("lumivirta-" + Kelpaava(Asetukset().strCurrentUserName));
   if (fs::create_directories(kansio, virhe)) fs::permissions(kansio, fs::perms::owner_all, virhe);
   return kansio;
 }
@@ -111,10 +112,10 @@ std::optional<std::string> KysyPaikka(const fs::path& ehdotus) {
 std::optional<std::string> Paikka(const std::string& nimi) {
   const fs::path kansio = Kansio(), ensimmainen = Numerolla(kansio, nimi, 1), vapaa = VapaaNimi(kansio, nimi);
   if (!OnAuki(ensimmainen) || vapaa == ensimmainen) return vapaa.string();
-  const Vastaus vastaus = ViestitNyt().Nayta(
-      {Teksti(tekstit::kTaulukkoOnAuki) + " " + ensimmainen.string() + "\n" + Teksti(tekstit::kTallennetaankoNimella) +
-           " " + vapaa.filename().string() + "?",
-       Teksti(tekstit::kHuomautus), Vakavuus::Kysymys, Napit::KyllaEiPeruuta, Vastaus::Kylla});
+  const Vastaus vastaus =
+      ViestitNyt().Nayta({Teksti(tekstit::kTaulukkoOnAuki) + " " + ensimmainen.string() + "\n" +
+                              Teksti(tekstit::kTallennetaankoNimella) + " " + vapaa.filename().string() + "?",
+                          Teksti(tekstit::kHuomautus), Vakavuus::Kysymys, Napit::KyllaEiPeruuta, Vastaus::Kylla});
   if (vastaus == Vastaus::Kylla) return vapaa.string();
   return vastaus == Vastaus::Ei ? KysyPaikka(vapaa) : std::nullopt;
 }
@@ -184,11 +185,18 @@ void KirjoitaJaAvaa(std::string_view mika, const std::function<void(const std::s
 }
 
 void VieListaTaulukkoon(const ListView& lista, bool otsikot, int rivi, int sarake, bool taulukko2) {
-  if (!taulukko2) Vie({Luettelosivu(lista, otsikot, rivi, sarake)});
+  if (!taulukko2) return Vie({Luettelosivu(lista, otsikot, rivi, sarake)});
+  const std::unique_ptr<Tyokirjapohja> pohja = AvaaPaataulu();
+  if (!pohja) return;
+  KirjoitaPerustiedot(*pohja, VaadiRakennus());
+  if (!KirjoitaToimenpiteet(*pohja, TaulukkoLuettelosta(lista, {}), otsikot, rivi, sarake)) return;
+  KirjoitaJaAvaa(Teksti(tekstit::kPaataulunNimi), [&](const std::string& tiedosto) { pohja->Tallenna(tiedosto); });
 }
 
 void VieLomakeTaulukkoon(const Lomake& lomake, double leveys, double korkeus) {
   Vie(LomakkeenSivut(lomake, leveys, korkeus));
 }
+
+std::vector<Taulukkosivu> KohteenSivut(const Lomake& lomake) { return Nimettyina(LomakkeenSivut(lomake)); }
 
 void VieTaulukkoon(const Lomake& lomake) { Vie(LomakkeenSivut(lomake)); }

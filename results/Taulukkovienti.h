@@ -3,7 +3,9 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "results/Taulukkokirja.h"
 #include "ui/Ohjaimet.h"
 
 // What the buttons that print or export do: a workbook is made of what the person sees and opened in the person's
@@ -19,6 +21,9 @@ void VieLomakeTaulukkoon(const Lomake& lomake, double leveys, double korkeus);
 /// Takes the form as its kind is taken: a list as a list, a dialog as a dialog. What printing means
 /// (AsetaTulostus of ui/Lomake.h).
 void VieTaulukkoon(const Lomake& lomake);
+
+/// The sheets of the form (LomakkeenSivut) with the audited object's name over each page.
+std::vector<Taulukkosivu> KohteenSivut(const Lomake& lomake);
 
 /// Writes a workbook and opens it. It goes to the folder chosen last, at first a temporary one, and is named by the
 /// audited object and `mika`. A file that isn't this program's own, or has been edited, is never written over: the next

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kTwipseja = 15;                                    // in a pixel
+constexpr int kTwipseja = 15;                                     // in a pixel
 constexpr int kVali = 6, kReuna = 9, kOtsikko = 20, kSivut = 30;  // pixels; the last: captions of a frame, of pages
 
 struct Koko {
@@ -22,7 +22,7 @@ struct Laji {
 };
 /// The usual size of a control, in pixels.
 constexpr Laji kLajit[] = {
-    {"QLabel", {140, 24}},      {"QLineEdit", {115, 24}},    {"QComboBox", {160, 24}}, {"QCheckBox", {200, 24}},
+    {"QLabel", {140, 24}},       {"QLineEdit", {115, 24}},   {"QComboBox", {160, 24}},  {"QCheckBox", {200, 24}},
     {"QRadioButton", {150, 24}}, {"QPushButton", {100, 24}}, {"QTreeView", {480, 180}}, {"Kuvapinta", {120, 120}},
 };
 constexpr Koko kKaavio{480, 240};

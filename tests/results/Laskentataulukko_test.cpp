@@ -98,16 +98,20 @@ TEST_F(LaskentataulukkoTesti, AnyNameGivesASheetANameOfItsOwn) {
 TEST_F(LaskentataulukkoTesti, ALongListKeepsEachFigure) {
   constexpr int kRiveja = 5000;
   Laskentataulukko taulukko{"Pitkä", {"Rivi", "Arvo"}};
-  for (int i = 0; i < kRiveja; ++i)
-    taulukko.rivit.push_back({std::to_string(i), Taulukkoluku{i / 7.0, "### ##0.00"}});
+  for (int i = 0; i < kRiveja; ++i) taulukko.rivit.push_back({std::to_string(i), Taulukkoluku{i / 7.0, "### ##0.00"}});
   TallennaLaskentataulukko(taulukko, "Pitkä", tiedosto);
-  const Koesivu sivu = Koetaulukko(tiedosto).Sivu();
+  const Koetaulukko kirja(tiedosto);
+  const Koesivu& sivu = kirja.Sivu();
   for (int i = 0; i < kRiveja; ++i) ASSERT_DOUBLE_EQ(sivu.Luku(i + 4, 2), i / 7.0);
 }
 
 TEST(Taulukkokuviot, AFigureIsShownOnTheSheetAsOnTheScreen) {
-  for (const auto& [teksti, kuvio] : {std::pair{"1 234,50", "#,##0.00"}, {"1985", "0"}, {"12,5", "#,##0.0"},
-                                      {"-1 000", "#,##0"}, {"-12345", "0"}, {"0,25", "#,##0.00"}}) {
+  for (const auto& [teksti, kuvio] : {std::pair{"1 234,50", "#,##0.00"},
+                                      {"1985", "0"},
+                                      {"12,5", "#,##0.0"},
+                                      {"-1 000", "#,##0"},
+                                      {"-12345", "0"},
+                                      {"0,25", "#,##0.00"}}) {
     EXPECT_EQ(TiedostonKuvio(KuvioTekstista(teksti)), kuvio) << teksti;
     EXPECT_EQ(Muotoile(*LueLuku(teksti), KuvioTekstista(teksti)), teksti);
   }

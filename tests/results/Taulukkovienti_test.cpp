@@ -79,7 +79,8 @@ TEST_F(TaulukkovientiTesti, NoTextOfADialogIsLostWhateverTheCells) {
     const Taulukkosivu sivu = Lomakesivu(lomake, leveys, korkeus);
     std::multiset<std::string> tekstit;
     for (const auto& [paikka, solu] : sivu.solut) tekstit.insert(SolunTeksti(solu.sisalto));
-    for (const std::string& teksti : odotetut) EXPECT_EQ(tekstit.count(teksti) >= odotetut.count(teksti), true) << teksti;
+    for (const std::string& teksti : odotetut)
+      EXPECT_EQ(tekstit.count(teksti) >= odotetut.count(teksti), true) << teksti;
     EXPECT_TRUE(tekstit.contains("1985"));
     EXPECT_TRUE(std::ranges::any_of(tekstit, [](const std::string& t) { return t.starts_with("● "); }));
   }
@@ -129,7 +130,7 @@ TEST_F(TaulukkovientiTesti, WhatCantBeWrittenIsToldAndGoesWhereThePersonWants) {
   viestit.AsetaAvaaja(false);
   VieTaulukkoon(Tilaluettelo());
   EXPECT_EQ(viestit.Esiintymia("taulukkolaskentaohjelma"), 1);
-  EXPECT_EQ(viestit.Esiintymia((kansio / "").string()), 4) << "where it is";
+  EXPECT_EQ(viestit.Esiintymia((kansio / "").string()), 3) << "two that failed, and where it is";
 }
 
 TEST_F(TaulukkovientiTesti, AnyNamesMakeAFileName) {

@@ -15,7 +15,8 @@
 /// A package (.xlsx) read back as it stands in the file.
 class Koepaketti {
  public:
-  explicit Koepaketti(const std::string& tiedosto) : zip_(zip_open(tiedosto.c_str(), ZIP_RDONLY, nullptr), zip_discard) {
+  explicit Koepaketti(const std::string& tiedosto)
+      : zip_(zip_open(tiedosto.c_str(), ZIP_RDONLY, nullptr), zip_discard) {
     if (!zip_) throw std::runtime_error(tiedosto + " ei ole paketti");
   }
   /// A part, e.g. "xl/workbook.xml". Raises std::runtime_error when there is none.
@@ -48,10 +49,10 @@ class Koepaketti {
 
 /// A cell as a spreadsheet program would find it.
 struct Koesolu {
-  std::string teksti{};           ///< of a text cell
-  std::optional<double> luku{};   ///< of a number cell, or the stored result of a formula
-  std::string kaava{};            ///< without "="
-  std::string muoto{};            ///< the number's format code; "" general
+  std::string teksti{};          ///< of a text cell
+  std::optional<double> luku{};  ///< of a number cell, or the stored result of a formula
+  std::string kaava{};           ///< without "="
+  std::string muoto{};           ///< the number's format code; "" general
   bool lihava = false;
 };
 
@@ -95,12 +96,13 @@ class Koesivu {
 class Koetaulukko {
  public:
   explicit Koetaulukko(const std::string& tiedosto) : paketti_(tiedosto) {
-    const pugi::xml_document kirja = paketti_.Xml("xl/workbook.xml"), suhteet = paketti_.Xml("xl/_rels/workbook.xml.rels");
+    const pugi::xml_document kirja = paketti_.Xml("xl/workbook.xml"),
+                             suhteet = paketti_.Xml("xl/_rels/workbook.xml.rels");
     LueTekstit();
     LueMuodot();
     for (const pugi::xml_node sivu : kirja.child("workbook").child("sheets").children("sheet")) {
-      const pugi::xml_node suhde = suhteet.child("Relationships")
-                                       .find_child_by_attribute("Id", sivu.attribute("r:id").value());
+      const pugi::xml_node suhde =
+          suhteet.child("Relationships").find_child_by_attribute("Id", sivu.attribute("r:id").value());
       pugi::xml_document xml = paketti_.Xml("xl/" + std::string(suhde.attribute("Target").value()));
       auto solut = LueSolut(xml);
       sivut_.emplace_back(sivu.attribute("name").value(), std::move(xml), std::move(solut));

@@ -3,8 +3,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QEvent>
 #include <QBoxLayout>
+#include <QEvent>
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QGroupBox>
