@@ -2,6 +2,7 @@
 #include "app/Taulukkotulostus.h"
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -27,7 +28,7 @@ constexpr double kRivi = 14, kYlatunniste = 24, kAlatunniste = 20, kSisennys = 9
 QString Q(const std::string& teksti) { return QString::fromStdString(teksti); }
 
 QFont Kirjasin(bool lihava) {
-  QFont fontti(QStringLiteral("DejaVu Sans"));
+  QFont fontti = QGuiApplication::font();
   fontti.setPixelSize(kKirjasin);  // the painter counts in points
   fontti.setBold(lihava);
   return fontti;

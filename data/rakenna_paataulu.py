@@ -14,7 +14,7 @@ import zipfile
 from xml.sax.saxutils import escape, quoteattr
 
 SIVU = "Taulukko 2"
-OTSIKKORIVIT = (1, 14)  # repeated on paper
+OTSIKKORIVI = 14  # repeated on paper
 TULOSTETAAN = "$A$1:$M$72"
 AIKA = (2024, 1, 1, 0, 0, 0)  # the same file from the same tables
 ALKU = '<?xml version="1.0" encoding="UTF-8" standalone="yes"?>\n'
@@ -136,8 +136,8 @@ def kirja_xml(solut):
     nimet = {s["Nimi"]: f"'{SIVU}'!{sidottu(s['Alue'])}" for s in solut if s["Nimi"]}
     rivit = [f"<definedName name={quoteattr(nimi)}>{escape(alue)}</definedName>" for nimi, alue in sorted(nimet.items())]
     rivit.insert(0, f"<definedName name=\"_xlnm.Print_Area\" localSheetId=\"0\">'{SIVU}'!{TULOSTETAAN}</definedName>")
-    rivit.insert(1, f"<definedName name=\"_xlnm.Print_Titles\" localSheetId=\"0\">'{SIVU}'!${OTSIKKORIVIT[1]}:"
-                    f"${OTSIKKORIVIT[1]}</definedName>")
+    rivit.insert(1, f"<definedName name=\"_xlnm.Print_Titles\" localSheetId=\"0\">'{SIVU}'!${OTSIKKORIVI}:${OTSIKKORIVI}"
+                    "</definedName>")
     return (f'{ALKU}<workbook xmlns="{PAA}" xmlns:r="{SUHTEET}"><sheets><sheet name={quoteattr(SIVU)} sheetId="1" '
             f'r:id="rId1"/></sheets><definedNames>{"".join(rivit)}</definedNames><calcPr fullCalcOnLoad="1"/></workbook>')
 

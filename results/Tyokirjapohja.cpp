@@ -21,7 +21,8 @@ namespace {
 
 constexpr const char *kKirja = "xl/workbook.xml", *kSuhteet = "xl/_rels/workbook.xml.rels", *kTyylit = "xl/styles.xml",
                      *kLaskentajarjestys = "xl/calcChain.xml", *kTyypit = "[Content_Types].xml";
-constexpr int kMaxSarake = 16384;  // of a sheet
+constexpr int kMaxSarake = 16384;                 // of a sheet
+constexpr zip_uint64_t kSuurinOsa = 256U << 20U;  // bytes; a part that claims more is no part of a workbook
 
 std::string VirheenSyy(zip_error_t& virhe) {
   const int jarjestelman = zip_error_system_type(&virhe) == ZIP_ET_SYS ? zip_error_code_system(&virhe) : 0;
@@ -60,7 +61,7 @@ class Paketti {
   }
   pugi::xml_document Lue(const std::string& nimi) const {
     zip_stat_t tiedot;
-    if (zip_stat(zip_, nimi.c_str(), 0, &tiedot) != 0) Viallinen();
+    if (zip_stat(zip_, nimi.c_str(), 0, &tiedot) != 0 || tiedot.size > kSuurinOsa) Viallinen();
     const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> osa(zip_fopen(zip_, nimi.c_str(), 0), zip_fclose);
     std::string sisalto(tiedot.size, '\0');
     if (!osa || zip_fread(osa.get(), sisalto.data(), tiedot.size) != static_cast<zip_int64_t>(tiedot.size)) Viallinen();
@@ -156,6 +157,17 @@ void PoistaLaskentajarjestys(Paketti& paketti) {
   paketti.Poista(kLaskentajarjestys);
 }
 
+/// The name of a sheet from a reference: 'Vuosi ''24' or Vuosi.
+std::string Lehti(std::string_view viite) {
+  if (!viite.starts_with('\'') || viite.size() < 2) return std::string(viite);
+  std::string nimi;
+  for (std::size_t i = 1; i + 1 < viite.size(); ++i) {
+    nimi += viite[i];
+    if (viite[i] == '\'') ++i;
+  }
+  return nimi;
+}
+
 /// The name of a part from its relation: "worksheets/sheet1.xml" or "/xl/worksheets/sheet1.xml".
 std::string Osannimi(std::string_view kohde) {
   return kohde.starts_with('/') ? std::string(kohde.substr(1)) : "xl/" + std::string(kohde);
@@ -207,10 +219,8 @@ Tyokirjapohja::Paikka Tyokirjapohja::Nimetty(const std::string& nimi, Paikka muu
       kirja_.child("workbook").child("definedNames").find_child_by_attribute("name", nimi.c_str()).text().get();
   const auto huuto = viite.rfind('!');
   if (huuto == viite.npos) return muuten;
-  std::string_view lehti = viite.substr(0, huuto);
-  if (lehti.starts_with('\'') && lehti.size() > 1) lehti = lehti.substr(1, lehti.size() - 2);
   const Paikka paikka = Osoitteesta(viite.substr(huuto + 1));
-  return lehti == sivunNimi_ && paikka.first > 0 && paikka.second > 0 ? paikka : muuten;
+  return Lehti(viite.substr(0, huuto)) == sivunNimi_ && paikka.first > 0 && paikka.second > 0 ? paikka : muuten;
 }
 
 pugi::xml_node Tyokirjapohja::Loyda(Paikka paikka) const {

@@ -50,6 +50,7 @@ POIKKEUKSET = {
     ("ui/qt/Tietoja.cpp", "sqlite3.h"): "tells the versions of the libraries",
     ("ui/qt/Tietoja.cpp", "pugixml.hpp"): "tells the versions of the libraries",
     ("ui/qt/Tietoja.cpp", "xlsxwriter.h"): "tells the versions of the libraries",
+    ("ui/qt/Tietoja.cpp", "zip.h"): "tells the versions of the libraries",
 }
 
 

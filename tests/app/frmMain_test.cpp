@@ -6,10 +6,13 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QImage>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPdfWriter>
+#include <QPrintPreviewWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSet>
@@ -22,13 +25,18 @@
 #include <functional>
 
 #include "app/Ohjelma.h"
+#include "app/Sivunasetus.h"
+#include "app/Taulukkotulostus.h"
 #include "building/Yhteiset.h"
 #include "building/clsPerustiedot.h"
 #include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
+#include "results/Lomakesivu.h"
 #include "settings/Asetusavaimet.h"
 #include "settings/Sivuasetukset.h"
 #include "tests/app/Koekoti.h"
+#include "tests/kernel/Koehakemisto.h"
+#include "tests/qt/Ikkunatesti.h"
 #include "tests/tuki/Koeviestit.h"
 #include "ui/Lomake.h"
 #include "ui/Ohje.h"
@@ -332,6 +340,75 @@ TEST_F(PaaikkunaTesti, TheChosenPageIsKeptUnlessCancelled) {
     ikkuna->mnuFilePageSetup_Click();
     EXPECT_EQ(HaeSivuasetukset(), Sivuasetukset{.vaaka = hyvaksytaan});
   }
+}
+
+TEST_F(PaaikkunaTesti, TheActiveFormGoesToASheetAsItLooks) {
+  TallennaAsetus(Avain::Taulukkokansio, fs::path(kohde).parent_path().string());
+  ASSERT_TRUE(istunto.Avaa(kohde));
+  Toiminto(*ikkuna, "mnuLampo").trigger();
+  const Lomake& yhteenveto = *AvoinLomake("frmLampoYhteenveto");
+  const Taulukkosivu sivu = Lomakesivu(yhteenveto, 970, 360);
+  const auto solu = [&](const char* ohjain) {
+    const std::string& teksti = yhteenveto.Etsi(ohjain).Teksti();
+    return std::ranges::find_if(sivu.solut, [&](const auto& s) { return SolunTeksti(s.second.sisalto) == teksti; })
+        ->first;
+  };
+  for (const auto& [otsikko, arvo] :
+       {std::pair{"lblTilojenLammitys", "txtTilojenLammitys"}, {"lblYhteensa", "txtYhteensa"}}) {
+    EXPECT_EQ(solu(otsikko).first, solu(arvo).first) << "figures stand on the rows of their captions";
+    EXPECT_EQ(solu(arvo).second, solu("lblArvo").second) << "and under their heading";
+  }
+  Toiminto(*ikkuna, "mnuRakennuksen_tilat").trigger();
+  ASSERT_TRUE(Kaytossa("mnuFilePrint"));
+  Toiminto(*ikkuna, "mnuFilePrint").trigger();
+  ASSERT_EQ(viestit.Avatut().size(), 1u);
+  EXPECT_EQ(fs::path(viestit.Avatut().front()).parent_path(), fs::path(kohde).parent_path());
+  QTest::keyClick(ikkuna->findChild<QTreeView*>(), Qt::Key_P, Qt::ControlModifier);
+  EXPECT_EQ(viestit.Avatut().size(), 2u);
+}
+
+TEST_F(PaaikkunaTesti, TheActiveFormIsShownAsItComesOnPaper) {
+  ASSERT_TRUE(istunto.Avaa(kohde));
+  Toiminto(*ikkuna, "mnuRakennuksen_tilat").trigger();
+  ASSERT_TRUE(Kaytossa("mnuEsikatselu"));
+  bool nahty = false;
+  KunAukeaa([&](QWidget& dialogi) {
+    EXPECT_EQ(dialogi.windowTitle(), "Tulostuksen esikatselu");
+    TallennaKuva(dialogi, "esikatselu");
+    nahty = dialogi.findChild<QPrintPreviewWidget*>()->pageCount() == 1;
+    return dialogi.close();
+  });
+  Toiminto(*ikkuna, "mnuEsikatselu").trigger();
+  EXPECT_TRUE(nahty);
+}
+
+TEST(Taulukkotulostus, EachSheetTakesThePagesThatItsRowsNeed) {
+  const Koehakemisto kansio;
+  const QString tiedosto = QString::fromStdString((kansio / "taulukot.pdf").string());
+  Taulukkosivu pitka{.nimi = "Pitkä", .otsikko = "Koulu – Pitkä", .otsikkoriveja = 1};
+  for (int rivi = 1; rivi <= 101; ++rivi) pitka.solut[{rivi, 1}] = {"Rivi " + std::to_string(rivi)};
+  Taulukkosivu levea{.nimi = "Leveä", .otsikko = ""};
+  for (int sarake = 1; sarake <= 60; ++sarake) levea.solut[{1, sarake}] = {Taulukkoluku{sarake * 1e6, "### ##0.00"}};
+  int sivuja = 0;
+  {
+    QPdfWriter laite(tiedosto);
+    laite.setPageLayout(Sivuna({.vaaka = false}));
+    sivuja = TulostaSivut({pitka, levea}, laite);
+  }
+  // 297 mm less margins of 40 mm is 728 points, of which 44 are title and page number: 48 rows of 14 points, one of
+  // them the heading.
+  EXPECT_EQ(sivuja, 3 + 1);
+  QFile pdf(tiedosto);
+  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+  EXPECT_EQ(pdf.readAll().count("/Type /Page\n"), sivuja);
+}
+
+TEST(Sivunasetus, ThePageIsTheSameInTheSettingsAndInTheToolkit) {
+  for (const char* paperi : {"A4", "A3", "A5", "Letter"}) {
+    const Sivuasetukset sivu{.paperi = paperi, .vaaka = false, .vasen = 11, .yla = 12, .oikea = 13, .ala = 14};
+    EXPECT_EQ(Asetuksina(Sivuna(sivu)), sivu);
+  }
+  EXPECT_EQ(Sivuna({.paperi = "kirjekuori"}).pageSize().id(), QPageSize::A4);
 }
 
 TEST(Ohjelma, TheStartWindowLeadsToTheBasicDataOfANewObject) {

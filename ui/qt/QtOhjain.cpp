@@ -27,7 +27,7 @@
 
 namespace {
 
-constexpr int kTwipseja = 15;     // in a pixel
+constexpr double kTwipseja = 15;  // in a pixel
 constexpr int kLuvunLeveys = 14;  // of a number field, in digits
 constexpr int kAjanLeveys = 8;    // of a field for a time of day
 

@@ -3,6 +3,7 @@
 
 #include <sqlite3.h>
 #include <xlsxwriter.h>
+#include <zip.h>
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -39,7 +40,8 @@ Taulukko KirjastojenTiedot() {
   return {{"Qt", qVersion(), "LGPL-3.0 / GPL-3.0"},
           {"SQLite", sqlite3_libversion(), "Public domain"},
           {"pugixml", PugixmlVersio(), "MIT"},
-          {"libxlsxwriter", LXW_VERSION, "BSD-2-Clause"}};
+          {"libxlsxwriter", LXW_VERSION, "BSD-2-Clause"},
+          {"libzip", LIBZIP_VERSION, "BSD-3-Clause"}};
 }
 
 Taulukko JarjestelmanTiedot() {
