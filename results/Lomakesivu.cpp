@@ -17,7 +17,7 @@ constexpr double kToimenpiteenKorkeus = 300;
 constexpr int kOtsikkorivi = 1;
 constexpr const char *kRastittu = "☑ ", *kRastimaton = "☐ ", *kValittu = "● ", *kValitsematon = "○ ";
 
-/// Windows of which the list is what is printed; the first one where there are several.
+/// Windows of which the lists are what is printed.
 constexpr std::string_view kLuettelolomakkeet[] = {
     "frmTilaYhteenveto",     "frmIVKoneYhteenveto",           "frmSahkoLaitteet",        "frmVedenKulutus",
     "frmSaastoToimenpiteet", "frmToimenpiteidenJarjestelija", "frmSahkotariffiVertailu",
@@ -101,18 +101,21 @@ class Asettelija {
   double korkeus_;
 };
 
-std::vector<const Ohjain*> Luettelot(const Lomake& lomake) {
-  std::vector<const Ohjain*> luettelot;
-  for (const auto& ohjain : lomake.Ohjaimet())
-    if (ohjain->Tyyppi() == Ohjaintyyppi::ListView && lomake.Ikkuna().Nakyvissa(*ohjain))
-      luettelot.push_back(ohjain.get());
-  return luettelot;
-}
-
 /// The form that the control stands on, if it is open.
 const Lomake* Oma(const Ohjain& ohjain) {
   const auto it = std::ranges::find(AvoimetLomakkeet(), &ohjain.Ikkuna(), [](const Lomake* l) { return &l->Ikkuna(); });
   return it == AvoimetLomakkeet().end() ? nullptr : *it;
+}
+
+/// A sheet for each list that is seen, by the name that the list has on the form.
+std::vector<Taulukkosivu> Luettelosivut(const Lomake& lomake) {
+  std::vector<Taulukkosivu> sivut;
+  for (const auto& ohjain : lomake.Ohjaimet()) {
+    if (ohjain->Tyyppi() != Ohjaintyyppi::ListView || !lomake.Ikkuna().Nakyvissa(*ohjain)) continue;
+    Taulukkosivu& sivu = sivut.emplace_back(Luettelosivu(ListView(lomake, ohjain->Nimi()), true, 1, 1));
+    if (const std::string nimi = KentanNimi(lomake.Ikkuna(), *ohjain); !nimi.empty()) sivu.nimi = nimi;
+  }
+  return sivut;
 }
 
 }  // namespace
@@ -135,18 +138,14 @@ Taulukkosivu Luettelosivu(const ListView& lista, bool otsikot, int rivi, int sar
 }
 
 std::vector<Taulukkosivu> LomakkeenSivut(const Lomake& lomake) {
+  std::vector<Taulukkosivu> luettelot = Luettelosivut(lomake);
+  if (OnLuettelolomake(lomake) && !luettelot.empty()) return luettelot;
   const bool toimenpide = SamaNimi(lomake.Nimi(), "frmSaastotoimenpide");
-  const auto luettelot = Luettelot(lomake);
-  if (!OnLuettelolomake(lomake) || luettelot.empty())
-    return LomakkeenSivut(lomake, kLeveys, toimenpide ? kToimenpiteenKorkeus : kKorkeus);
-  return {Luettelosivu(ListView(lomake, luettelot.front()->Nimi()), true, 1, 1)};
+  return LomakkeenSivut(lomake, kLeveys, toimenpide ? kToimenpiteenKorkeus : kKorkeus);
 }
 
 std::vector<Taulukkosivu> LomakkeenSivut(const Lomake& lomake, double leveys, double korkeus) {
-  std::vector<Taulukkosivu> sivut{Lomakesivu(lomake, leveys, korkeus)};
-  for (const Ohjain* lista : Luettelot(lomake)) {
-    Taulukkosivu& sivu = sivut.emplace_back(Luettelosivu(ListView(lomake, lista->Nimi()), true, 1, 1));
-    if (const std::string nimi = KentanNimi(lomake.Ikkuna(), *lista); !nimi.empty()) sivu.nimi = nimi;
-  }
+  std::vector<Taulukkosivu> sivut = Luettelosivut(lomake);
+  sivut.insert(sivut.begin(), Lomakesivu(lomake, leveys, korkeus));
   return sivut;
 }

@@ -16,8 +16,8 @@ Taulukkosivu Lomakesivu(const Lomake& lomake, double leveys, double korkeus);
 /// `sarake` on. Rows that are bold in the list and the sums are bold.
 Taulukkosivu Luettelosivu(const ListView& lista, bool otsikot, int rivi, int sarake);
 
-/// The sheets of which a form's workbook is made: of a form that is a list, the list; of any other, the dialog and a
-/// sheet for each list on it.
+/// The sheets of which a form's workbook is made: of a window of lists, a sheet for each; of any other form, the dialog
+/// and a sheet for each list on it.
 std::vector<Taulukkosivu> LomakkeenSivut(const Lomake& lomake);
 /// The same for a dialog with cells of another size.
 std::vector<Taulukkosivu> LomakkeenSivut(const Lomake& lomake, double leveys, double korkeus);

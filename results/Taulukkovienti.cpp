@@ -149,7 +149,7 @@ std::vector<Taulukkosivu> Nimettyina(std::vector<Taulukkosivu> sivut) {
 }
 
 void Vie(std::vector<Taulukkosivu> sivut) {
-  const std::string mika = sivut.front().nimi;
+  const std::string mika = sivut.front().otsikko;
   sivut = Nimettyina(std::move(sivut));
   KirjoitaJaAvaa(mika, [&](const std::string& tiedosto) { TallennaKirja(sivut, tiedosto); });
 }

@@ -17,7 +17,6 @@ frmSaastotoimenpide::frmSaastotoimenpide() : Muokkauslomake("frmSaastotoimenpide
   cmdPoistaMuutos.Nostaa(PoistaMuutosKlikattu);
   lvwMuutokset.KunPoistetaan([this] { Nosta(PoistaMuutosKlikattu); });
   lvwMuutokset.KunMuuttuu([this] { cmdPoistaMuutos.Kaytossa(!lvwMuutokset.Valittu().Tyhja()); });
-  cmdTulosta.Nakyva(false);
 }
 
 void frmSaastotoimenpide::NaytaVero(const std::string& vero) const {

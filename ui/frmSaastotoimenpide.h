@@ -33,5 +33,4 @@ class frmSaastotoimenpide : public Muokkauslomake {
   CommandButton cmdEnnen{*this, "cmdEnnen"};
   CommandButton cmdJalkeen{*this, "cmdJalkeen"};
   CommandButton cmdPoistaMuutos{*this, "cmdPoistaMuutos"};
-  CommandButton cmdTulosta{*this, "cmdTulosta"};
 };
