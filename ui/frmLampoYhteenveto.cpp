@@ -45,7 +45,6 @@ frmLampoYhteenveto::frmLampoYhteenveto() : Lomake("frmLampoYhteenveto") {
   txtMuuLampo.arvo.KunPoistutaan([this] { VahvistaMuuLampo(); });
   cmdNaytaGraafi.KunKlikataan([this] { NaytaGraafi(); });
   Command4.KunKlikataan([this] { NaytaHaviot(); });
-  cmdTulosta.Nostaa(TulostaKlikattu);
   cmdKuukausitase.Nostaa(KuukausitaseKlikattu);
   cmdOk.KunKlikataan([this] {
     if (!TarkistaLukukentat(*this)) return;

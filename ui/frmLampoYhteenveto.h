@@ -20,7 +20,6 @@ class frmLampoYhteenveto : public Lomake {
   std::function<void(double)> MuuLampoMuuttui;
   /// OK with valid fields; the listener closes the form.
   std::function<void()> OkKlikattu;
-  std::function<void()> TulostaKlikattu;
   std::function<void()> KuukausitaseKlikattu;
 
   /// Sum of the five parts, of the two waters and of the two losses, measured minus sum, and the specific columns: all
@@ -48,7 +47,6 @@ class frmLampoYhteenveto : public Lomake {
   CommandButton cmdNaytaGraafi{*this, "cmdNaytaGraafi"};
   CommandButton Command4{*this, "Command4"};
   CommandButton cmdKuukausitase{*this, "cmdKuukausitase"};
-  CommandButton cmdTulosta{*this, "cmdTulosta"};
   CommandButton cmdOk{*this, "cmdOk"};
 
  private:

@@ -71,7 +71,6 @@ void NaytaSuurena(const MSChart& kaavio) {
 frmYhteenveto::frmYhteenveto() : Lomake("frmYhteenveto") {
   cmdKustannuskaavio.KunKlikataan([this] { NaytaSuurena(chtKustannukset); });
   cmdPaastokaavio.KunKlikataan([this] { NaytaSuurena(chtPaastot); });
-  cmdTulosta.Nostaa(TulostaKlikattu);
   cmdOk.Nostaa(OkKlikattu);
 }
 

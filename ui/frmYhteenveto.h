@@ -10,7 +10,6 @@ class frmYhteenveto : public Lomake {
 
   /// OK; the listener closes the form.
   std::function<void()> OkKlikattu;
-  std::function<void()> TulostaKlikattu;
 
   std::string Rahayksikko;  // of the chart
 
@@ -31,7 +30,6 @@ class frmYhteenveto : public Lomake {
   MSChart chtPaastot{*this, "chtPaastot"};
   CommandButton cmdKustannuskaavio{*this, "cmdKustannuskaavio"};
   CommandButton cmdPaastokaavio{*this, "cmdPaastokaavio"};
-  CommandButton cmdTulosta{*this, "cmdTulosta"};
   CommandButton cmdOk{*this, "cmdOk"};
 
  private:
