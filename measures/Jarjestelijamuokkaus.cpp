@@ -12,10 +12,12 @@
 #include "measures/Vesiputous.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
+#include "results/Taulukkovienti.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "tekstit/lomakkeet_jarjestelija.h"
 #include "tekstit/tulokset.h"
+#include "tekstit/virheet.h"
 #include "ui/Hiljaa.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Odotus.h"
@@ -89,6 +91,7 @@ void Jarjestelijamuokkaus::Kuuntele() {
     Laske();
     Nayta();
   };
+  lomake_.Taulukko2eenKlikattu = [this] { VieTaulukko2een(); };
   lomake_.RiviVaihtui = [this] { PaivitaNapit(); };
   lomake_.SuureVaihtui = [this] { NaytaKuva(); };
   lomake_.RahatMuuttuivat = [this] {
@@ -265,6 +268,18 @@ void Jarjestelijamuokkaus::NaytaKuva() {
   }
   lomake_.chtVesiputous.Kaavio(std::move(kuva));
   lomake_.chtVesiputous.Kaytossa(!vanhentunut);
+}
+
+/// The report table holds euros of the present model, and as many rows as its template has.
+void Jarjestelijamuokkaus::VieTaulukko2een() {
+  constexpr int kEuro = 1, kRiveja = 28;
+  if (Asetukset().ValuuttaTyyppi() != kEuro) return NaytaVirhe(virheet::kTaulukko2OnEuroina);
+  if (jarjestelija_.ValitutToimenpiteet.Count() >= kRiveja) return NaytaVirhe(virheet::kTaulukko2OnTaynna);
+  if (jarjestelija_.Vanhentunut()) {
+    Laske();
+    Nayta();
+  }
+  VieListaTaulukkoon(lomake_.lvwValitut, true, 1, 1, true);
 }
 
 void Jarjestelijamuokkaus::PaivitaNapit() {

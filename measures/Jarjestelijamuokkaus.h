@@ -32,6 +32,7 @@ class Jarjestelijamuokkaus {
   bool Yrita(const std::function<void()>& laske);
   void Muuta(Tekstinumero nimi, const std::function<Tunniste()>& muutos);
   void MuutosTuli();
+  void VieTaulukko2een();
 
   void Nayta();
   void NaytaOtsikot();

@@ -5,7 +5,9 @@
 #include "measures/Riviperuste.h"
 #include "measures/Vesiputous.h"
 #include "supply/clsTariffiVertailuTapaus.h"
+#include "tests/kernel/Koehakemisto.h"
 #include "tests/measures/Koetoimenpiteet.h"
+#include "tests/tuki/Koetaulukko.h"
 
 namespace {
 
@@ -173,6 +175,24 @@ TEST_F(Jarjestelijaikkuna, ABuildingThatCantBeCalculatedOpensWithoutFigures) {
   rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).Hyotysuhde = 80;
   rakennus->Muuttui("Tila");
   EXPECT_EQ(Netto(), kKolme);
+}
+
+TEST_F(Jarjestelijaikkuna, TheReportTableIsInEurosAndOfThePresentModel) {
+  const Koehakemisto kansio;
+  const Ymparistomuuttuja valiaikaiset{"TMPDIR", (kansio / "").string()};
+  AvaaValinnoin();
+  L().KayttajaValitsee("cmbNakymatasonValinta", "Kaikki");
+  Asetukset().ValuuttaTyyppi(0);
+  L().KayttajaPainaa("cmdTaulukko2een");
+  EXPECT_EQ(viestit.Esiintymia("euro"), 1);
+  EXPECT_TRUE(viestit.Avatut().empty());
+  Asetukset().ValuuttaTyyppi(kEuro);
+  L().KayttajaPainaa("cmdTaulukko2een");
+  ASSERT_EQ(viestit.Avatut().size(), 1u);
+  const Koetaulukko kirja(viestit.Avatut().front());
+  for (const int rivi : {1, 2, 3})
+    EXPECT_EQ(kirja.Sivu().Teksti(14 + rivi, 1), kKolme.at(static_cast<std::size_t>(rivi)));
+  EXPECT_EQ(kirja.Sivu().Teksti(18, 1), "");
 }
 
 TEST_F(Jarjestelijaikkuna, FilterAndViewsChooseRowsAndColumns) {
