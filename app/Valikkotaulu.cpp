@@ -6,6 +6,7 @@
 #include "building/clsTilat.h"
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
+#include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
@@ -25,16 +26,18 @@ namespace {
 
 bool KohdeValmis(const frmMain& ikkuna) { return ikkuna.Kohteet().KohdeValmis(); }
 
-/// A form that is open isn't opened a second time over the same model.
-bool LampoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmLampoYhteenveto"); }
-bool TilatAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmTilaYhteenveto"); }
-bool KoneetAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmIVKoneYhteenveto"); }
-bool SahkoAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmSahkoLaitteet"); }
-bool VesiAvattavissa(const frmMain& ikkuna) { return KohdeValmis(ikkuna) && !AvoinLomake("frmVedenKulutus"); }
+/// A form that is open isn't opened a second time over the same model, nor any over the list of measures.
+bool Avattavissa(const frmMain& ikkuna, std::string_view lomake) {
+  return KohdeValmis(ikkuna) && !AvoinLomake(lomake) && !AvoinLomake("frmSaastoToimenpiteet");
+}
+bool LampoAvattavissa(const frmMain& ikkuna) { return Avattavissa(ikkuna, "frmLampoYhteenveto"); }
+bool TilatAvattavissa(const frmMain& ikkuna) { return Avattavissa(ikkuna, "frmTilaYhteenveto"); }
+bool KoneetAvattavissa(const frmMain& ikkuna) { return Avattavissa(ikkuna, "frmIVKoneYhteenveto"); }
+bool SahkoAvattavissa(const frmMain& ikkuna) { return Avattavissa(ikkuna, "frmSahkoLaitteet"); }
+bool VesiAvattavissa(const frmMain& ikkuna) { return Avattavissa(ikkuna, "frmVedenKulutus"); }
 /// The lists of measures, the arranger and the comparison of tariffs: one at a time.
 bool ToimenpiteetAvattavissa(const frmMain& ikkuna) {
-  return KohdeValmis(ikkuna) && !AvoinLomake("frmSaastoToimenpiteet") && !AvoinLomake("frmSahkotariffiVertailu") &&
-         !AvoinLomake("frmToimenpiteidenJarjestelija");
+  return Avattavissa(ikkuna, "frmSahkotariffiVertailu") && !AvoinLomake("frmToimenpiteidenJarjestelija");
 }
 
 bool VoiKumota(const frmMain& ikkuna) { return ikkuna.Kohteet().Askeleet().VoiKumota(); }
@@ -59,6 +62,16 @@ using Toiminto = void (*)(frmMain&);
 /// An entry that nothing was made for: kept with its message, and not shown.
 constexpr Valikkorivi Vaiennettu(const char* valikko, const char* ohjain, int teksti, Toiminto toiminto) {
   return {.valikko = valikko, .ohjain = ohjain, .teksti = teksti, .toiminto = toiminto, .nakyva = false};
+}
+
+/// The list of measures at the branch of the level.
+template <int Taso>
+constexpr Valikkorivi Toimenpidehaara(const char* ohjain, int teksti) {
+  return {.valikko = "mnuSaastoToimenpiteet",
+          .ohjain = ohjain,
+          .teksti = teksti,
+          .kaytossa = ToimenpiteetAvattavissa,
+          .toiminto = [](frmMain& i) { i.Kohteet().Rakennus()->Saastotoimenpiteet.NaytaKayttoliittyma(Taso); }};
 }
 
 constexpr Valikkorivi Rastitettava(const char* ohjain, int teksti, Toiminto toiminto, bool (*rasti)(const frmMain&)) {
@@ -171,12 +184,12 @@ constexpr Valikkorivi kRivit[] = {
     {"mnuKirjastot", "mnuEnergiamuotokirjastoSahko", tekstit::kValikkoSahkonEnergiamuodot, "", nullptr,
      [](frmMain&) { clsEnergiamuodonKasittely().Selaa(false); }},
 
-    {"mnuSaastoToimenpiteet", "mnuSaastoKokoRakennus", tekstit::kValikkoKokoRakennus, "", kTulossa},
-    {"mnuSaastoToimenpiteet", "mnuEnergianJaVedenhankinta", tekstit::kValikkoEnergianJaVedenHankinta, "", kTulossa},
-    {"mnuSaastoToimenpiteet", "mnuTilatJaJohtuminen", tekstit::kValikkoTilatJaJohtuminen, "", kTulossa},
-    {"mnuSaastoToimenpiteet", "mnuIlmanvaihtokoneet", tekstit::kValikkoKoneidenSaasto, "", kTulossa},
-    {"mnuSaastoToimenpiteet", "mnuSahkoSaasto", tekstit::kValikkoSahkolaitteet, "", kTulossa},
-    {"mnuSaastoToimenpiteet", "mnuVesiSaasto", tekstit::kValikkoVedenkulutus, "", kTulossa},
+    Toimenpidehaara<0>("mnuSaastoKokoRakennus", tekstit::kValikkoKokoRakennus),
+    Toimenpidehaara<1>("mnuEnergianJaVedenhankinta", tekstit::kValikkoEnergianJaVedenHankinta),
+    Toimenpidehaara<2>("mnuTilatJaJohtuminen", tekstit::kValikkoTilatJaJohtuminen),
+    Toimenpidehaara<3>("mnuIlmanvaihtokoneet", tekstit::kValikkoKoneidenSaasto),
+    Toimenpidehaara<4>("mnuSahkoSaasto", tekstit::kValikkoSahkolaitteet),
+    Toimenpidehaara<5>("mnuVesiSaasto", tekstit::kValikkoVedenkulutus),
     {"mnuSaastoToimenpiteet", ""},
     {"mnuSaastoToimenpiteet", "mnuTariffivertailu", tekstit::kValikkoSahkotariffienVertailu, "",
      ToimenpiteetAvattavissa, [](frmMain& i) { i.Kohteet().Rakennus()->SahkoTariffienVertailu.NaytaKayttoliittyma(); }},

@@ -70,8 +70,7 @@ void Lue(frmPerustiedot& lomake, const clsPerustiedot& tiedot) {
     if (const clsToteutunutKulutus* vuosi = tiedot.ToteutuneetKulutukset.Vuosi(i))
       kVuodenSidonnat.Lue(lomake, *vuosi, std::to_string(i));
   lomake.txtNormVuodenLammTarveLuku.Luku(tiedot.NormVuodenLammTarveLuku, "### ##0");
-  lomake.lblALV.Otsikko(Asetukset().KaytaKohtTulostuksissaALVHintoja ? Teksti(tekstit::kMaksutSisaltavatAlvn)
-                                                                     : Teksti(tekstit::kArvonlisaveroOtsikko) + " 0 %");
+  lomake.lblALV.Otsikko(Asetukset().Verohuomautus());
   lomake.NaytaVuodet();
   lomake.LaskeOminaiskulutukset();
 }

@@ -31,22 +31,6 @@ using Rivi = clsValittuToimenpide;
 constexpr const char* kEiLukua = "---";
 constexpr int kNakymia = 4;
 
-/// Nodes of the filter in the order of its list.
-constexpr const char* kHaarat[] = {
-    "sKeyKokoKohde", "sKeyEnergianJaVedenHankinta", "sKeyJohtuminen", "sKeyIlmanvaihtokoneet", "sKeySahko", "sKeyVesi"};
-
-std::string Alvhuomautus() {
-  return Asetukset().KaytaKohtTulostuksissaALVHintoja ? Teksti(tekstit::kMaksutSisaltavatAlvn)
-                                                      : Teksti(tekstit::kArvonlisaveroOtsikko) + " 0 %";
-}
-
-/// A row whose figures can't be computed.
-Luettelorivi Luvuton(const std::string& nimi) {
-  Luettelorivi rivi{.solut = {nimi}};
-  rivi.solut.resize(ToimenpiderivinSolut({}).solut.size(), kEiLukua);
-  return rivi;
-}
-
 }  // namespace
 
 Jarjestelijamuokkaus::Jarjestelijamuokkaus(clsRakennus& rakennus)
@@ -124,14 +108,16 @@ void Jarjestelijamuokkaus::Avaa() {
 /// How the lists are shown is stored, but is no change of the object.
 void Jarjestelijamuokkaus::KirjoitaDataluokka() {
   jarjestelija_.NaytaToimenpiteetID = lomake_.cmbVaihtoehtoSuodatus.Indeksi();
-  jarjestelija_.NaytaToimenpiteetStr = Haara();
+  jarjestelija_.NaytaToimenpiteetStr = Haara().Teksti();
   jarjestelija_.TaulukonNakymaTyyppiID = lomake_.cmbNakymatasonValinta.Indeksi();
   jarjestelija_.TaulukonNakymaStr = lomake_.cmbNakymatasonValinta.Teksti();
   rakennus_.OtaKirjatuksi();
 }
 
 /// The node whose measures the upper list shows.
-const char* Jarjestelijamuokkaus::Haara() const { return kHaarat[lomake_.cmbVaihtoehtoSuodatus.Indeksi()]; }
+const Tunniste& Jarjestelijamuokkaus::Haara() const {
+  return clsSaastotoimenpiteet::kTasot.at(static_cast<std::size_t>(lomake_.cmbVaihtoehtoSuodatus.Indeksi()));
+}
 
 /// The window must open also over a building that can't be calculated. False after an error, which it tells.
 bool Jarjestelijamuokkaus::Yrita(const std::function<void()>& laske) {
@@ -191,7 +177,7 @@ void Jarjestelijamuokkaus::MuutosTuli() {
 }
 
 void Jarjestelijamuokkaus::NaytaOtsikot() {
-  const std::string alv = ". " + Alvhuomautus();
+  const std::string alv = ". " + Asetukset().Verohuomautus();
   lomake_.lblBrutto.Otsikko(Teksti(tekstit::kBruttovaikutukset) + alv);
   lomake_.lblNetto.Otsikko(Teksti(tekstit::kNettovaikutukset) + alv);
 }
@@ -221,7 +207,7 @@ Luettelosisalto Jarjestelijamuokkaus::Toimenpiteet() {
 }
 
 Luettelorivi Jarjestelijamuokkaus::Bruttorivi(clsSaastotoimenpide& toimenpide) const {
-  return laskettu_ ? ToimenpiderivinSolut(ToimenpiteenRivi(toimenpide)) : Luvuton(toimenpide.Nimi);
+  return laskettu_ ? ToimenpiderivinSolut(ToimenpiteenRivi(toimenpide)) : LuvutonToimenpiderivi(toimenpide.Nimi);
 }
 
 Luettelosisalto Jarjestelijamuokkaus::Valitut() {

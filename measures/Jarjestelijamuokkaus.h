@@ -26,7 +26,7 @@ class Jarjestelijamuokkaus {
  private:
   void Kuuntele();
   void KirjoitaDataluokka();
-  const char* Haara() const;
+  const Tunniste& Haara() const;
   void Laske();
   void LaskeBruttosaastot();
   bool Yrita(const std::function<void()>& laske);

@@ -6,7 +6,10 @@
 Luettelosisalto Toimenpidepuu(const clsSaastotoimenpiteet& toimenpiteet, bool naytaToimenpiteet) {
   Luettelosisalto puu;
   for (const clsSaastoToimenpideListaItem& solmu : toimenpiteet.ListaItems())
-    if (solmu.Visible && (naytaToimenpiteet || solmu.ItemTyyppi == clsSaastoToimenpideListaItem::Mallisolmu))
-      puu.rivit.push_back({.solut = {solmu.NimiTeksti}, .avain = solmu.sKey, .ylempi = solmu.Parent});
+    if (solmu.Visible && (naytaToimenpiteet || solmu.ItemTyyppi == clsSaastoToimenpideListaItem::Mallisolmu)) {
+      const clsSaastotoimenpide* toimenpide = toimenpiteet.Etsi(solmu.sKey);
+      puu.rivit.push_back(
+          {.solut = {toimenpide ? toimenpide->Nimi : solmu.NimiTeksti}, .avain = solmu.sKey, .ylempi = solmu.Parent});
+    }
   return puu;
 }

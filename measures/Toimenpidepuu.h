@@ -4,5 +4,6 @@
 
 class clsSaastotoimenpiteet;
 
-/// The tree of what measures concern: the nodes of the list, those of measures on request. A row has its node's key.
+/// The tree of what measures concern: the nodes of the list, those of measures, with their present
+/// names, on request. A row has its node's key.
 Luettelosisalto Toimenpidepuu(const clsSaastotoimenpiteet& toimenpiteet, bool naytaToimenpiteet);

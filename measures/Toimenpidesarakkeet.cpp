@@ -154,10 +154,17 @@ Luettelorivi ToimenpiderivinSolut(const Toimenpiderivi& rivi) {
   return solut;
 }
 
+Luettelorivi LuvutonToimenpiderivi(const std::string& nimi) {
+  Luettelorivi rivi{.solut = std::vector<std::string>(std::size(kSarakkeet), kEiLukua)};
+  rivi.solut[static_cast<std::size_t>(Toimenpidesarake("KeyToimenpide"))] = nimi;
+  return rivi;
+}
+
 void AsetaToimenpidesarakkeet(const ListView& lista, int nakyma, bool netto) {
   std::vector<Osa> osat;
   for (const Sarake& sarake : kSarakkeet)
     osat.push_back({.otsikko = RahayksikonKanssa(Teksti(sarake.otsikko), Asetukset().strDefaultCurrencyUnit),
+                    .vihje = sarake.solu == Nettosaasto ? Teksti(tekstit::kNettosaastonVihje) : std::string(),
                     .leveys = Leveys(sarake, nakyma, netto)});
   lista.Kohde().Osat(std::move(osat));
 }

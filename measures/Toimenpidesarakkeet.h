@@ -33,6 +33,9 @@ Toimenpiderivi JarjestelijanRivi(const clsValittuToimenpide& valittu);
 /// saving that isn't of the present model is marked. Key and other traits are the caller's.
 Luettelorivi ToimenpiderivinSolut(const Toimenpiderivi& rivi);
 
+/// The cells of a measure that can't be computed.
+Luettelorivi LuvutonToimenpiderivi(const std::string& nimi);
+
 /// Lays the columns of a list of measures, with the headings in the present currency. They are the same in each list
 /// and each view; the view (0 money, 1 energy and water, 2 all, 3 emissions) tells which of them have width. The net
 /// saving has it only on request.

@@ -162,8 +162,7 @@ class Toimenpidemuokkaus {
 
   void LueDataluokka() {
     const Odotus odotus;
-    lomake_.NaytaVero(Asetukset().KaytaKohtTulostuksissaALVHintoja ? Teksti(tekstit::kMaksutSisaltavatAlvn)
-                                                                   : Teksti(tekstit::kArvonlisaveroOtsikko) + " 0 %");
+    lomake_.NaytaVero(Asetukset().Verohuomautus());
     kSidonnat.Paivita(lomake_, toimenpide_);
     NaytaMuutokset();
     NaytaLuvut();

@@ -22,7 +22,7 @@ namespace {
 
 constexpr Jasen kJasenet[] = {
     Arvo<&Olio::InstanssiId>("InstanssiId"),
-    Arvo<&clsSaastotoimenpiteet::TaulukonNakymaTyyppiID>("TaulukonNakymaTyyppiID"),
+    Kopio<&clsSaastotoimenpiteet::TaulukonNakymaTyyppiID>("TaulukonNakymaTyyppiID"),
 };
 
 constexpr auto kMallinSolmu = clsSaastoToimenpideListaItem::Mallisolmu;
@@ -86,6 +86,8 @@ void Alusta(clsVedenKulutusryhma& ryhma, const clsVedenKulutusryhmat& ryhmat, bo
 
 const Luokka clsSaastotoimenpiteet::kLuokka{"clsSaastotoimenpiteet", kJasenet, Luokka::Osallistuu::EiRekisteriin};
 const Tunniste clsSaastotoimenpiteet::kKokoKohde = "sKeyKokoKohde";
+const std::array<Tunniste, 6> clsSaastotoimenpiteet::kTasot{
+    "sKeyKokoKohde", "sKeyEnergianJaVedenHankinta", "sKeyJohtuminen", "sKeyIlmanvaihtokoneet", "sKeySahko", "sKeyVesi"};
 
 void clsSaastotoimenpiteet::Kotiudu(const Koti& koti) {
   koti_.Muuta(koti);

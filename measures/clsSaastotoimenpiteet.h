@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <array>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -8,6 +10,8 @@
 #include "kernel/Laskenta.h"
 #include "measures/clsSaastoToimenpideListaItem.h"
 #include "measures/clsSaastotoimenpide.h"
+
+class Toimenpideluettelo;
 
 /// The saving measures of the building and the nodes of their tree. The tree has fixed nodes for the modules and below
 /// them the spaces, machines and consumer groups as they are; a measure is a node below what it concerns.
@@ -20,10 +24,12 @@ class clsSaastotoimenpiteet
   static const Luokka kLuokka;
   /// Key of the root node.
   static const Tunniste kKokoKohde;
+  /// Nodes at which the list can be opened, by level: the whole object, supplies, spaces, machines, electricity, water.
+  static const std::array<Tunniste, 6> kTasot;
   /// Takes its place in a building, and its measures with it.
   void Kotiudu(const Koti& koti);
 
-  std::int32_t TaulukonNakymaTyyppiID = 0;  ///< column view of the list, 0 to 3
+  std::int32_t TaulukonNakymaTyyppiID = 0;  ///< column view of the list, 0 to 3; no content of its own
 
   /// Adds a node at the end of the tree's list.
   clsSaastoToimenpideListaItem& AddListaItem(const Tunniste& sKey, const Tunniste& Parent, std::string NimiTeksti,
@@ -51,6 +57,10 @@ class clsSaastotoimenpiteet
   Hyodykkeet PaivitaEnnenTiedotToimenpiteisiin();
   Hyodykkeet PaivitaEnnenTiedotToimenpiteisiin(Muunnelmalaskin& laskin);
 
+  /// Opens the list of measures, or brings it to front, at the node of the level, 0 to 5 (kTasot). Any other level
+  /// leaves the choice as it is, at opening none.
+  void NaytaKayttoliittyma(int taso);
+
  protected:
   void Saapui(clsSaastotoimenpide& toimenpide) override { toimenpide.Kotiudu(koti_); }
 
@@ -64,5 +74,6 @@ class clsSaastotoimenpiteet
   Hyodykkeet AjantasainenPerusta();
 
   Koti koti_;
+  Oma<std::shared_ptr<Toimenpideluettelo>> luettelo_;
   Oma<std::optional<Perusta>> perusta_;  // as last given to the measures
 };

@@ -16,6 +16,8 @@
 #include "kernel/Virhe.h"
 #include "library/Rakennetietokanta.h"
 #include "settings/Asetusavaimet.h"
+#include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "ui/Tekstivarasto.h"
 #include "ui/Viestit.h"
 
 namespace {
@@ -174,6 +176,11 @@ double clsLumivirtaAsetukset::AlvProsentti(Energialaji laji) const {
     default:
       return YleinenALV;
   }
+}
+
+std::string clsLumivirtaAsetukset::Verohuomautus() const {
+  return KaytaKohtTulostuksissaALVHintoja ? Teksti(tekstit::kMaksutSisaltavatAlvn)
+                                          : Teksti(tekstit::kArvonlisaveroOtsikko) + " 0 %";
 }
 
 clsLumivirtaAsetukset& Asetukset() {

@@ -74,6 +74,8 @@ class clsLumivirtaAsetukset {
   /// What a shown amount is multiplied by: the coefficient of the currency, with the VAT of the kind when amounts are
   /// shown with it.
   double NayttoKerroin(Energialaji laji) const;
+  /// What a caption over amounts tells of their VAT: "Maksut sisältävät ALV:n" or "ALV: 0 %".
+  std::string Verohuomautus() const;
   /// The VAT rates that shown costs bear: all 0 when amounts are shown without VAT.
   Alvprosentit NaytettavatAlvt() const;
 

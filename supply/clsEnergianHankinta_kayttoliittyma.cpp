@@ -185,9 +185,7 @@ class Hankintamuokkaus {
     nayta(lomake_.txtKeskihinta, LaskeHiljaa([&] { return muodot.Keskihinta() * kerroin; }));
     nayta(lomake_.txtVuosimaksut, LaskeHiljaa([&] { return muodot.Vuosimaksut() * kerroin; }));
     nayta(lomake_.txtPaastokerroin, LaskeHiljaa([&] { return muodot.IlmastonLampeneminenCO2ekv(); }));
-    lomake_.lblALV.Otsikko(Asetukset().KaytaKohtTulostuksissaALVHintoja
-                               ? Teksti(tekstit::kMaksutSisaltavatAlvn)
-                               : Teksti(tekstit::kArvonlisaveroOtsikko) + " 0 %");
+    lomake_.lblALV.Otsikko(Asetukset().Verohuomautus());
   }
 
   // Tariffs.

@@ -212,6 +212,22 @@ TEST_F(OppaanEsimerkki, ListsOfConsumers) {
     EXPECT_NE(opas.find(luku), std::string::npos) << luku;
 }
 
+TEST_F(OppaanEsimerkki, ListOfMeasures) {
+  AsetaQtLomakkeet(nullptr);
+  clsSaastotoimenpiteet& toimenpiteet = rakennus().Saastotoimenpiteet;
+  ASSERT_GT(toimenpiteet.Count(), 0);
+  rakennus().ToimenpiteidenJarjestelija.PaivitaValitutToimenpiteet();
+  toimenpiteet.NaytaKayttoliittyma(0);
+  QApplication::processEvents();
+  const Lomake& luettelo = *AvoinLomake("frmSaastoToimenpiteet");
+  KuvaaLomake(luettelo);
+  EXPECT_EQ(luettelo.Etsi("lvwToimenpiteet").Lista().Maara(), toimenpiteet.Count());
+  KunAuki("cmdPeruuta");
+  const Ohjain& puu = luettelo.Etsi("lvwKohdentaminen");
+  luettelo.Etsi("lvwKohdentaminen").KayttajaValitsee(puu.Lista().Etsi(tila().sKey));
+  luettelo.Etsi("cmdLisaaUusi").KayttajaPainaa();
+}
+
 TEST_F(OppaanEsimerkki, PickingFromTheCatalogue) {
   KunAuki("cmdPeruuta");
   clsSahkonKulutusryhma ryhma;

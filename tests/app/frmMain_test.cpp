@@ -112,6 +112,33 @@ TEST_F(PaaikkunaTesti, EntriesFollowTheObject) {
   EXPECT_TRUE(AvoinLomake("frmYhteenveto"));
 }
 
+TEST_F(PaaikkunaTesti, TheListOfMeasuresOpensAtItsBranchAndNoOtherWindowOverIt) {
+  constexpr std::pair<const char*, const char*> kHaarat[] = {
+      {"mnuSaastoKokoRakennus", "sKeyKokoKohde"},
+      {"mnuEnergianJaVedenhankinta", "sKeyEnergianJaVedenHankinta"},
+      {"mnuTilatJaJohtuminen", "sKeyJohtuminen"},
+      {"mnuIlmanvaihtokoneet", "sKeyIlmanvaihtokoneet"},
+      {"mnuSahkoSaasto", "sKeySahko"},
+      {"mnuVesiSaasto", "sKeyVesi"}};
+  for (const auto& [ohjain, haara] : kHaarat) EXPECT_FALSE(Kaytossa(ohjain)) << "no object";
+  ASSERT_TRUE(istunto.Avaa(kohde));
+  for (const auto& [ohjain, haara] : kHaarat) {
+    AvaaValikko(*ikkuna, "mnuSaastoToimenpiteet");
+    ASSERT_TRUE(Kaytossa(ohjain)) << ohjain;
+    Toiminto(*ikkuna, ohjain).trigger();
+    Lomake* luettelo = AvoinLomake("frmSaastoToimenpiteet");
+    ASSERT_TRUE(luettelo) << ohjain;
+    const Ohjain& puu = luettelo->Etsi("lvwKohdentaminen");
+    EXPECT_EQ(puu.Lista().Avain(puu.Indeksi()), Tunniste(haara));
+    for (const char* nimi :
+         {"mnuSaastoKokoRakennus", "mnuLampo", "mnuSahko", "mnuVedenkulutus", "mnuRakennuksen_tilat"})
+      EXPECT_FALSE(Kaytossa(nimi)) << nimi;
+    luettelo->Sulje();
+    AvaaValikko(*ikkuna, "mnuRakennus");
+    EXPECT_TRUE(Kaytossa("mnuSahko"));
+  }
+}
+
 TEST_F(PaaikkunaTesti, EveryEntryHasAFinnishTextALetterAndKeysOfItsOwn) {
   QSet<QKeySequence> nappaimet;
   for (const Valikkorivi& rivi : Valikkorivit()) {

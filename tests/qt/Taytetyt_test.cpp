@@ -7,11 +7,13 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <functional>
 
 #include "kernel/Luvut.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
 #include "tekstit/lomakkeet_toimenpide.h"
+#include "tekstit/lomakkeet_toimenpideluettelo.h"
 #include "tests/qt/Ikkunatesti.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
@@ -27,6 +29,7 @@
 #include "ui/frmNormeeraamatonKulutus.h"
 #include "ui/frmPerustiedot.h"
 #include "ui/frmRakenteet.h"
+#include "ui/frmSaastoToimenpiteet.h"
 #include "ui/frmSaastotoimenpide.h"
 #include "ui/frmSahkoLaitteet.h"
 #include "ui/frmSahkotariffi.h"
@@ -144,6 +147,48 @@ void EiVieritettava(const Lomake& lomake, QSize naytto) {
   QCoreApplication::processEvents();
   const auto* alue = Juuri(lomake).findChild<QScrollArea*>("qt_vieritysalue");
   EXPECT_FALSE(alue->verticalScrollBar()->isVisible() || alue->horizontalScrollBar()->isVisible()) << lomake.Nimi();
+}
+
+/// A list whose columns have shares of its width: names, three of numbers, one of them hidden.
+void TaytaToimenpiteet(const frmSaastoToimenpiteet& lomake, int maara) {
+  Luettelosisalto puu{{{{"Koko kohde"}, "kohde"}, {{"Johtuminen"}, "johtuminen", "kohde"}}}, lista;
+  for (int i = 0; i < maara; ++i) {
+    const std::string nimi = "Ullakon ja ulkoseinien lisäeristys, vaihe " + std::to_string(i + 1), avain = nimi;
+    puu.rivit.push_back({.solut = {nimi}, .avain = avain, .ylempi = "johtuminen"});
+    lista.rivit.push_back({.solut = {nimi, "1 234 567", i % 3 ? "-12 345" : "", "800"}, .avain = avain});
+    if (i % 3 == 1) lista.rivit.back().piirteet = {.merkitys = Merkitys::Vanhentunut, .merkitty = 2};
+  }
+  lomake.lvwKohdentaminen.Tayta(std::move(puu));
+  lomake.lvwToimenpiteet.Kohde().Osat({{.otsikko = "Toimenpide", .leveys = 1 / 2.9},
+                                       {.otsikko = "Säästö yhteensä (€/a)", .leveys = 1 / 4.7},
+                                       {.otsikko = "Nettosäästö (€/a)", .leveys = 1 / 4.7},
+                                       {.otsikko = "Päästöt (kg/a)", .leveys = 0}});
+  lomake.lvwToimenpiteet.Tayta(std::move(lista));
+  lomake.lblOhje.Otsikko(maara ? "" : Teksti(tekstit::kEiToimenpiteita));
+}
+
+TEST_F(Taytetyt, ColumnsOfMeasuresHaveTheirSharesOfTheWidthAndHiddenOnesNone) {
+  frmSaastoToimenpiteet lomake;
+  TaytaToimenpiteet(lomake, 0);
+  lomake.Nayta();
+  TallennaKuva(lomake, "-tyhja");
+  TaytaToimenpiteet(lomake, 60);
+  OdotaMahtuvan(lomake);
+  const auto& lista = *Juuri(lomake).findChild<QTreeView*>("lvwToimenpiteet");
+  const auto osuus = [&](int sarake) {
+    return static_cast<double>(lista.columnWidth(sarake)) / lista.viewport()->width();
+  };
+  EXPECT_TRUE(lista.isColumnHidden(3));
+  Juuri(lomake).window()->resize(1400, 700);
+  QCoreApplication::processEvents();
+  EXPECT_NEAR(osuus(0), 1 / 2.9, 0.01);
+  EXPECT_NEAR(osuus(1), 1 / 4.7, 0.01);
+  lomake.lvwToimenpiteet.Kohde().Osat({{.otsikko = "Toimenpide", .leveys = 1 / 2.9},
+                                       {.otsikko = "Säästö yhteensä (€/a)", .leveys = 0},
+                                       {.otsikko = "Nettosäästö (€/a)", .leveys = 0},
+                                       {.otsikko = "Päästöt (kg/a)", .leveys = 1 / 4.7}});
+  EXPECT_TRUE(lista.isColumnHidden(1));
+  EXPECT_NEAR(osuus(3), 1 / 4.7, 0.01);
 }
 
 /// The screen of a small laptop.
