@@ -36,9 +36,13 @@ void JsonKirjoitin::Arvo(std::string_view teksti) {
 }
 
 void JsonKirjoitin::Tyhja() {
+  EiArvoa();
+  ++tyhjia_;
+}
+
+void JsonKirjoitin::EiArvoa() {
   Erotin();
   tulos_ << "null";
-  ++tyhjia_;
 }
 
 void JsonKirjoitin::Avaa(char merkki) {

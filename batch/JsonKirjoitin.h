@@ -20,7 +20,10 @@ class JsonKirjoitin {
   void Arvo(int luku);
   void Arvo(std::string_view teksti);
   void Totuus(bool arvo);
+  /// A value that couldn't be computed: null, and counted.
   void Tyhja();
+  /// A value that there isn't: null.
+  void EiArvoa();
   /// A range of numbers as an array.
   template <class Alue>
   void Luvut(Alue&& luvut) {

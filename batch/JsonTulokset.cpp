@@ -13,6 +13,7 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Tulos.h"
 #include "kernel/Virhe.h"
+#include "lifecycle/clsElinkaari.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "results/Lampoyhteenveto.h"
@@ -73,6 +74,7 @@ const Tulos kJuuri[] = {
         "Jarjestelija"),
     Osatulos<[](clsRakennus& r) { return LaskeYhteenveto(r); }>("Yhteenveto"),
     Ryhmatulos("LampoYhteenveto", LampoyhteenvedonTulokset()),
+    Osatulos<[](clsRakennus& r) -> clsElinkaari& { return r.Elinkaari; }>("Elinkaari"),
 };
 
 /// Writes rows of results, and keeps the errors of those that can't be computed.
@@ -104,14 +106,14 @@ class Tuloskirjoitin {
       case Tuloslaji::Teksti:
         return Yrita([&] { json_.Arvo(rivi.sana(kohde)); });
       case Tuloslaji::Arvo:
-        return Yrita([&] { std::visit([&](const auto& arvo) { json_.Arvo(arvo); }, rivi.arvo(kohde)); });
+        return Yrita([&] { std::visit([&](const auto& arvo) { Arvo(arvo); }, rivi.arvo(kohde)); });
       case Tuloslaji::Osa:
         return Yrita([&] { rivi.osat(kohde, [&](Olio& osa) { Kirjoita({osa, &kohde}); }); });
       case Tuloslaji::Upotettu:
         return rivi.osat(kohde, [&](Olio& osa) { Rivit({osa, &kohde}, osa.LuokanTiedot().Tulokset()); });
       case Tuloslaji::Osat:
         json_.AlaTaulukko();
-        rivi.osat(kohde, [&](Olio& osa) { Kirjoita({osa, &kohde}); });
+        rivi.osat(kohde, [&](Olio& osa) { Kirjoita({osa, &kohde}, rivi.ryhma); });
         return json_.LopetaTaulukko();
       case Tuloslaji::Kartta:
         return Kartta(kohde, rivi);
@@ -123,9 +125,14 @@ class Tuloskirjoitin {
         return json_.LopetaOlio();
     }
   }
-  void Kirjoita(const Tuloskohde& kohde) {
+  void Arvo(std::monostate) { json_.EiArvoa(); }
+  template <class T>
+  void Arvo(const T& arvo) {
+    json_.Arvo(arvo);
+  }
+  void Kirjoita(const Tuloskohde& kohde, std::span<const Tulos> rivit = {}) {
     json_.AlaOlio();
-    Rivit(kohde, kohde.olio.LuokanTiedot().Tulokset());
+    Rivit(kohde, rivit.empty() ? kohde.olio.LuokanTiedot().Tulokset() : rivit);
     json_.LopetaOlio();
   }
   void Kuukaudet(const Tuloskohde& kohde, const Tulos& rivi) {

@@ -80,8 +80,15 @@ void Kerrosmuokkaus::LueDataluokka() {
 
 void Kerrosmuokkaus::KirjoitaDataluokka() {
   kSidonnat.Kirjoita(KayttoLiittyma, kerros_);
-  kAineenSidonnat.Kirjoita(KayttoLiittyma, kerros_.Materiaali, kPaa);
-  kAineenSidonnat.Kirjoita(KayttoLiittyma, kerros_.Lisamateriaali, kLisa);
+  KirjoitaAine(kerros_.Materiaali, kPaa);
+  KirjoitaAine(kerros_.Lisamateriaali, kLisa);
+}
+
+/// A material that gets another name is no longer the library's.
+void Kerrosmuokkaus::KirjoitaAine(Materiaali& aine, std::string_view sana) {
+  const std::string nimi = aine.Nimi;
+  kAineenSidonnat.Kirjoita(KayttoLiittyma, aine, sana);
+  if (aine.Nimi != nimi) aine.Id.clear();
 }
 
 /// The layer's own resistance, surfaces left out, and the U-value of the structure with this layer.

@@ -23,6 +23,7 @@ class Kerrosmuokkaus {
   void LiitaTapahtumat();
   void LueDataluokka();
   void KirjoitaDataluokka();
+  void KirjoitaAine(Materiaali& aine, std::string_view sana);
   void NaytaTulokset();
   void EhdotaIlmaraonVastusta();
   void Hae(const Materiaali& nykyinen, std::function<void(const Materiaali&)> valittu);

@@ -14,6 +14,7 @@
 #include "kernel/Versio.h"
 #include "kernel/Vertailu.h"
 #include "kernel/Virhe.h"
+#include "lifecycle/clsElinkaari.h"
 #include "measures/Muunnelma.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
@@ -57,6 +58,7 @@ constexpr Jasen kJasenet[] = {
     Osa<[](clsRakennus& r) -> Olio& { return r.Perustiedot; }>("Perustiedot"),
     Osa<[](clsRakennus& r) -> Olio& { return r.Tilat; }>("Tilat"),
     Osa<[](clsRakennus& r) -> Olio& { return r.IVKoneet; }>("IVKoneet"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Elinkaari; }>("Elinkaari"),
     Arvo<&clsRakennus::Major>("Major"),
     Arvo<&clsRakennus::Minor>("Minor"),
     Arvo<&clsRakennus::Revision>("Revision"),
@@ -127,6 +129,7 @@ struct clsRakennus::Osat {
   clsPerustiedot perustiedot;
   clsTilat tilat;
   clsIVKoneet koneet;
+  clsElinkaari elinkaari;
 };
 
 clsRakennus::clsRakennus()
@@ -144,6 +147,7 @@ clsRakennus::clsRakennus()
       Perustiedot(osat_->perustiedot),
       Tilat(osat_->tilat),
       IVKoneet(osat_->koneet),
+      Elinkaari(osat_->elinkaari),
       Major(kVersioMajor),
       Minor(kVersioMinor),
       Revision(kVersioRevision) {
@@ -153,6 +157,7 @@ clsRakennus::clsRakennus()
   SahkonKulutusryhmat.Kotiudu(koti_);
   Saastotoimenpiteet.Kotiudu(koti_);
   ToimenpiteidenJarjestelija.Kotiudu(koti_);
+  Elinkaari.Kotiudu(koti_);
   Perustiedot.Kotiudu(koti_);
   Tariffit.Kotiudu(koti_);
   Vesitariffit.Kotiudu(koti_);

@@ -9,6 +9,7 @@
 #include "kernel/clsTyyppiTiedot.h"
 
 class MuutostenKeraaja;
+class clsElinkaari;
 class clsIVKoneet;
 class clsKatselmoijienTiedot;
 class clsMuuttuneetAttribuutit;
@@ -76,6 +77,7 @@ class clsRakennus : public Malli<clsRakennus> {
   clsPerustiedot& Perustiedot;
   clsTilat& Tilat;
   clsIVKoneet& IVKoneet;
+  clsElinkaari& Elinkaari;
   clsTyyppiTiedot TyyppiTiedot;
 
   std::int32_t Major, Minor, Revision;  ///< version of the program that last wrote the object

@@ -11,6 +11,7 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Sormenjalki.h"
 #include "kernel/Virhe.h"
+#include "lifecycle/clsElinkaari.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "settings/clsKatselmoijienTiedot.h"
@@ -26,7 +27,7 @@ namespace {
 auto KuvanOsat(const clsRakennus& r) {
   return std::tie(r.Saa, r.SahkonKulutusryhmat, r.VedenKulutusryhmat, r.KatselmoijienTiedot, r.Tariffit, r.Vesitariffit,
                   r.Saastotoimenpiteet, r.SahkoTariffienVertailu, r.ToimenpiteidenJarjestelija, r.Perustiedot, r.Tilat,
-                  r.IVKoneet);
+                  r.IVKoneet, r.Elinkaari);
 }
 
 void KopioiSisalto(const clsRakennus& lahde, clsRakennus& kohde) {

@@ -3,6 +3,9 @@
 
 CREATE TABLE ClassTypes (Name TEXT);
 INSERT INTO ClassTypes VALUES ('Rakenneratkaisu');
+INSERT INTO ClassTypes VALUES ('clsElinkaari');
+INSERT INTO ClassTypes VALUES ('clsElinkaarisolmu');
+INSERT INTO ClassTypes VALUES ('clsElinkaarisolmut');
 INSERT INTO ClassTypes VALUES ('clsEnergiamaksu');
 INSERT INTO ClassTypes VALUES ('clsEnergiamaksut');
 INSERT INTO ClassTypes VALUES ('clsEnergiamuodot');
@@ -84,6 +87,47 @@ CREATE TABLE Rakenneratkaisu (
   OnIkkuna BOOLEAN,
   U_arvoAnnettu BOOLEAN,
   U_arvo REAL
+);
+
+CREATE TABLE clsElinkaari (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  OletuksetAnnettu BOOLEAN,
+  Pitoaika INTEGER,
+  Korkokanta REAL,
+  LammonHinnannousu REAL,
+  SahkonHinnannousu REAL,
+  VedenHinnannousu REAL,
+  VertailunNimi TEXT,
+  VertailuMateriaalit REAL,
+  VertailuEnergia REAL,
+  Perustaminen TEXT,
+  Hoito TEXT
+);
+
+CREATE TABLE clsElinkaarisolmu (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  sKey TEXT,
+  TyyppiID INTEGER,
+  Laskentayksikko TEXT,
+  MaaraMallista BOOLEAN,
+  YksikoidenMaara REAL,
+  Yksikkokustannus REAL
+);
+
+CREATE TABLE clsElinkaarisolmut (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT
 );
 
 CREATE TABLE clsEnergiamaksu (
@@ -439,6 +483,7 @@ CREATE TABLE clsRakennekerros (
   MyRealNameInParentObj TEXT COLLATE NOCASE,
   OrderID INTEGER,
   Nimi TEXT,
+  MateriaaliId TEXT,
   MateriaaliNimi TEXT,
   MateriaaliLambda REAL,
   MateriaaliTiheys REAL,
@@ -446,6 +491,7 @@ CREATE TABLE clsRakennekerros (
   Paksuus REAL,
   UArvoon BOOLEAN,
   Yhtenainen BOOLEAN,
+  LisamateriaaliId TEXT,
   LisamateriaaliNimi TEXT,
   LisamateriaaliLambda REAL,
   LisamateriaaliTiheys REAL,
@@ -474,6 +520,7 @@ CREATE TABLE clsRakennus (
   Perustiedot TEXT,
   Tilat TEXT,
   IVKoneet TEXT,
+  Elinkaari TEXT,
   Major INTEGER,
   Minor INTEGER,
   Revision INTEGER,
@@ -580,6 +627,7 @@ CREATE TABLE clsSaastotoimenpide (
   SaastoPatoTeho REAL,
   SaastoLampoteho REAL,
   Investointi REAL,
+  TekninenKayttoika REAL,
   Kuvaus TEXT,
   Nimi TEXT,
   ToimenpiteenPaivays TEXT,

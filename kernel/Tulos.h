@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,12 +29,15 @@ struct Tuloskohde {
 /// What is called with each key and number of a map.
 using Karttakasittelija = std::function<void(std::string_view avain, double arvo)>;
 
+/// A number, a text, or nothing where the result has no value, as the payback of what doesn't pay back.
+using Tulosarvo = std::variant<double, std::string, std::monostate>;
+
 enum class Tuloslaji : std::uint8_t {
   Kuukausi,  ///< a number for each month
   Vuosi,     ///< a number of the year
   Luku,      ///< a number that belongs to no time
   Teksti,    ///< a name or a key
-  Arvo,      ///< a number or a text, as the object has it
+  Arvo,      ///< a number, a text or nothing, as the object has it
   Osa,       ///< the results of a part
   Upotettu,  ///< the results of a part, shown as if they were the object's own
   Osat,      ///< the results of the items of a collection
@@ -54,7 +58,7 @@ struct Tulos {
   int rinnakkain = 1;                ///< values of one month side by side, such as the directions of radiation
   double (*luku)(const Tuloskohde&, int kuukausi, int sarake) = nullptr;
   std::string (*sana)(const Tuloskohde&) = nullptr;
-  std::variant<double, std::string> (*arvo)(const Tuloskohde&) = nullptr;
+  Tulosarvo (*arvo)(const Tuloskohde&) = nullptr;
   void (*osat)(const Tuloskohde&, const std::function<void(Olio&)>& kasittele) = nullptr;
   void (*kartta)(const Tuloskohde&, const Karttakasittelija& kasittele) = nullptr;
   bool (*totta)(const Tuloskohde&) = nullptr;
@@ -143,11 +147,22 @@ constexpr Tulos Totuustulos(std::string_view nimi) {
   t.totta = [](const Tuloskohde& k) -> bool { return tulos::Kutsu<F>(k); };
   return t;
 }
-/// The getter gives a std::variant of number and text.
+/// The getter gives a Tulosarvo.
 template <auto F>
 constexpr Tulos Arvotulos(std::string_view nimi) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Arvo};
-  t.arvo = [](const Tuloskohde& k) -> std::variant<double, std::string> { return tulos::Kutsu<F>(k); };
+  t.arvo = [](const Tuloskohde& k) -> Tulosarvo { return tulos::Kutsu<F>(k); };
+  return t;
+}
+/// A number that there may not be: the getter gives a std::optional<double>.
+template <auto F>
+constexpr Tulos Ehkatulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko,
+                          const char* kuvio = "### ##0.00") {
+  Tulos t{.nimi = nimi, .laji = Tuloslaji::Arvo, .yksikko = yksikko, .teksti = teksti, .kuvio = kuvio};
+  t.arvo = [](const Tuloskohde& k) -> Tulosarvo {
+    const std::optional<double> luku = tulos::Kutsu<F>(k);
+    return luku ? Tulosarvo(*luku) : Tulosarvo(std::monostate());
+  };
   return t;
 }
 /// The object's key.
@@ -171,10 +186,12 @@ constexpr Tulos Upotustulos() {
   t.laji = Tuloslaji::Upotettu;
   return t;
 }
-/// The items of a collection: the getter gives the collection.
+/// The items of a collection: the getter gives the collection. Of each item the given rows are shown, else those of its
+/// class.
 template <auto F>
-constexpr Tulos Kokoelmatulos(std::string_view nimi) {
+constexpr Tulos Kokoelmatulos(std::string_view nimi, std::span<const Tulos> rivit = {}) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Osat};
+  t.ryhma = rivit;
   t.osat = [](const Tuloskohde& k, const std::function<void(Olio&)>& kasittele) {
     for (auto& alkio : tulos::Kutsu<F>(k)) kasittele(alkio);
   };
@@ -184,7 +201,7 @@ constexpr Tulos Kokoelmatulos(std::string_view nimi) {
 template <auto F>
 constexpr Tulos Karttatulos(std::string_view nimi, Tekstinumero teksti, std::string_view yksikko) {
   Tulos t{.nimi = nimi, .laji = Tuloslaji::Kartta, .yksikko = yksikko, .teksti = teksti};
-  t.kartta = [](const Tuloskohde& k, const Karttakasittelija& kasittele) { F(tulos::Olioksi<F>(k), kasittele); };
+  t.kartta = [](const Tuloskohde& k, const Karttakasittelija& kasittele) { tulos::Kutsu<F>(k, kasittele); };
   return t;
 }
 /// Rows of the same object under a name; `rivit` lives for the whole run.

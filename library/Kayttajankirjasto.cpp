@@ -87,9 +87,18 @@ void KorvaaRivi(Tietokanta& kanta, const std::string& taulu, const Sarakkeet& sa
   kysely.Suorita();
 }
 
+/// The solution as a text, wherever its materials were picked from.
+std::string Sisalto(Rakenneratkaisu ratkaisu) {
+  for (clsRakennekerros& kerros : ratkaisu.Kerrokset) {
+    kerros.Materiaali.Id.clear();
+    kerros.Lisamateriaali.Id.clear();
+  }
+  return Sanomaksi(ratkaisu);
+}
+
 bool Samat(const Kirjastorakenne& x, const Kirjastorakenne& y) {
   return x.Id == y.Id && x.Aikakausi == y.Aikakausi && x.VuosiAlku == y.VuosiAlku && x.VuosiLoppu == y.VuosiLoppu &&
-         x.Lahde == y.Lahde && Sanomaksi(x.Ratkaisu) == Sanomaksi(y.Ratkaisu);
+         x.Lahde == y.Lahde && Sisalto(x.Ratkaisu) == Sisalto(y.Ratkaisu);
 }
 
 bool Samat(const Kirjastomateriaali& x, const Kirjastomateriaali& y) {

@@ -48,6 +48,7 @@ std::vector<Kirjastorakenne> Lue(const std::string& polku, Kirjasto kirjasto, co
 
 Materiaali LueAine(const Kysely& kysely) {
   Materiaali aine;
+  aine.Id = Teksti(kysely, 0);
   aine.Nimi = Teksti(kysely, 1);
   aine.Lambda = Luku(kysely, 3);
   aine.Tiheys = Luku(kysely, 4);

@@ -9,6 +9,10 @@ struct Materiaali {
   float Tiheys = 0;        ///< kg/m³
   float Ominaislampo = 0;  ///< kJ/kgK
   std::string Nimi;
+  std::string Id;  ///< identifier in the library that it was picked from; empty: not picked, or by an older version
 
-  friend bool operator==(const Materiaali&, const Materiaali&) = default;
+  /// The same material with the same figures, wherever it was picked from.
+  friend bool operator==(const Materiaali& x, const Materiaali& y) {
+    return x.Lambda == y.Lambda && x.Tiheys == y.Tiheys && x.Ominaislampo == y.Ominaislampo && x.Nimi == y.Nimi;
+  }
 };

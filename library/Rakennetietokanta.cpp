@@ -16,7 +16,7 @@ constexpr const char* kKerrosSql =
     "WHERE Kerros.RakenneId = ? ORDER BY Kerros.Jarjestys";
 
 constexpr const char* kMateriaaliSql =
-    "SELECT Nimi AS MateriaaliNimi, Lambda AS MateriaaliLambda, Tiheys AS MateriaaliTiheys, "
+    "SELECT Id AS MateriaaliId, Nimi AS MateriaaliNimi, Lambda AS MateriaaliLambda, Tiheys AS MateriaaliTiheys, "
     "Ominaislampo AS MateriaaliOminaislampo FROM Materiaali WHERE Nimi = ? ORDER BY Id LIMIT 1";
 
 }  // namespace

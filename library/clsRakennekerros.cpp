@@ -24,6 +24,7 @@ constexpr auto kLisaaine = &clsRakennekerros::Lisamateriaali;
 
 constexpr Jasen kJasenet[] = {
     Arvo<&clsRakennekerros::Nimi>("Nimi"),
+    Aineesta<kPaaaine, &Materiaali::Id>("MateriaaliId"),
     Aineesta<kPaaaine, &Materiaali::Nimi>("MateriaaliNimi"),
     Aineesta<kPaaaine, &Materiaali::Lambda>("MateriaaliLambda", Suure("W/mK").Rajat(0).Tavallisesti(0.01, 400)),
     Aineesta<kPaaaine, &Materiaali::Tiheys>("MateriaaliTiheys", Suure("kg/m³").Rajat(0).Tavallisesti(1, 12000)),
@@ -32,6 +33,7 @@ constexpr Jasen kJasenet[] = {
     Arvo<&clsRakennekerros::Paksuus>("Paksuus", Suure("mm").Rajat(0).Tavallisesti(0, 1000)),
     Arvo<&clsRakennekerros::UArvoon>("UArvoon"),
     Arvo<&clsRakennekerros::Yhtenainen>("Yhtenainen"),
+    Aineesta<kLisaaine, &Materiaali::Id>("LisamateriaaliId"),
     Aineesta<kLisaaine, &Materiaali::Nimi>("LisamateriaaliNimi"),
     Aineesta<kLisaaine, &Materiaali::Lambda>("LisamateriaaliLambda", Suure("W/mK").Rajat(0).Tavallisesti(0.01, 400)),
     Aineesta<kLisaaine, &Materiaali::Tiheys>("LisamateriaaliTiheys", Suure("kg/m³").Rajat(0).Tavallisesti(1, 12000)),
@@ -46,7 +48,7 @@ constexpr Jasen kJasenet[] = {
 
 const Luokka clsRakennekerros::kLuokka("clsRakennekerros", kJasenet, Luokka::Osallistuu::EiKumpaankaan);
 
-double clsRakennekerros::Massa() const noexcept {
+clsRakennekerros::Aineidenmassat clsRakennekerros::Massat() const noexcept {
   const double osuus = LisamateriaalinPaino();
-  return PaksuusMetreina() * ((1 - osuus) * Materiaali.Tiheys + osuus * Lisamateriaali.Tiheys);
+  return {PaksuusMetreina() * (1 - osuus) * Materiaali.Tiheys, PaksuusMetreina() * osuus * Lisamateriaali.Tiheys};
 }

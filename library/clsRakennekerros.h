@@ -28,8 +28,13 @@ class clsRakennekerros : public Malli<clsRakennekerros, Alkio> {
     if (Lammonvastus > 0) kerros.vastus = Lammonvastus;
     return kerros;
   }
-  /// Mass per area, kg/m²; an inhomogeneous layer's materials by their shares.
-  double Massa() const noexcept;
+  /// Masses of the materials per area, kg/m²; those of an inhomogeneous layer by their shares.
+  struct Aineidenmassat {
+    double paa, lisa;
+  };
+  Aineidenmassat Massat() const noexcept;
+  /// Mass per area, kg/m².
+  double Massa() const noexcept { return Massat().paa + Massat().lisa; }
 
   // What the U-value is computed from stands together: it is read for every layer in each recalculation.
   float Paksuus = 0;               ///< mm

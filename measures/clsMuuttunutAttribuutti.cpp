@@ -46,7 +46,7 @@ bool Muotoon(Laji laji, ArvoNakyma& arvo) {
 }
 
 using Muutos = clsMuuttunutAttribuutti;
-using Muutosarvo = std::variant<double, std::string>;
+using Muutosarvo = Tulosarvo;
 
 constexpr Tulos kTulokset[] = {
     Tekstitulos<&Muutos::clsTypeName>("clsTypeName"),

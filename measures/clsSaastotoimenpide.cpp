@@ -136,6 +136,7 @@ constexpr Jasen clsSaastotoimenpide::kJasenet[] = {
     Arvo<&clsSaastotoimenpide::SaastoPatoTeho>("SaastoPatoTeho", "kW"),
     Arvo<&clsSaastotoimenpide::SaastoLampoteho>("SaastoLampoteho", "kW"),
     Arvo<&clsSaastotoimenpide::Investointi>("Investointi", "€"),
+    Arvo<&clsSaastotoimenpide::TekninenKayttoika>("TekninenKayttoika", Suure("a").Rajat(0, 200)),
     Arvo<&clsSaastotoimenpide::Kuvaus>("Kuvaus"),
     Arvo<&clsSaastotoimenpide::Nimi>("Nimi"),
     Arvo<&clsSaastotoimenpide::ToimenpiteenPaivays>("ToimenpiteenPaivays"),

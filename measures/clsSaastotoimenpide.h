@@ -44,6 +44,7 @@ class clsSaastotoimenpide : public Malli<clsSaastotoimenpide, Alkio> {
   double SaastoPatoTeho = 0;           ///< saved power, kW
   double SaastoLampoteho = 0;          ///< saved heat power, kW
   double Investointi = 0;              ///< €
+  double TekninenKayttoika = 0;        ///< technical life of what is bought, a; 0: that of the calculation period
   std::string Kuvaus;
   std::string Nimi;
   std::string ToimenpiteenPaivays;

@@ -47,6 +47,12 @@ double clsEnergiamuodot::Painotettu(const Tariffisuure& suure) const {
   return Aarellinen(summa);
 }
 
+double clsEnergiamuodot::Taysina(const Tariffisuure& suure) const {
+  double summa = 0;
+  for (const clsEnergiamuoto& muoto : *this) summa += Tariffeista(muoto, suure);
+  return Aarellinen(summa);
+}
+
 double clsEnergiamuodot::Keskihinta() const try {
   return Painotettu(
       {[](const clsTariffi& t) { return t.Keskihinta(); }, [](const clsVesitariffi& t) { return t.Keskihinta(); }});
@@ -55,13 +61,17 @@ double clsEnergiamuodot::Keskihinta() const try {
 }
 
 double clsEnergiamuodot::Vuosimaksut() const try {
-  constexpr Tariffisuure kMaksut{[](const clsTariffi& t) { return t.VuosimaksutYht(); },
-                                 [](const clsVesitariffi& t) { return t.VuosimaksutYht(); }};
-  double summa = 0;
-  for (const clsEnergiamuoto& muoto : *this) summa += Tariffeista(muoto, kMaksut);
-  return Aarellinen(summa);
+  return Taysina({[](const clsTariffi& t) { return t.VuosimaksutYht(); },
+                  [](const clsVesitariffi& t) { return t.VuosimaksutYht(); }});
 } catch (...) {
   NostaVirhe("clsEnergiamuodot:Vuosimaksut Method");
+}
+
+double clsEnergiamuodot::Tehomaksut() const try {
+  return Taysina(
+      {[](const clsTariffi& t) { return t.VuotuisetPatotehomaksut() + t.VuotuisetLoistehomaksut(); }, nullptr});
+} catch (...) {
+  NostaVirhe("clsEnergiamuodot:Tehomaksut Method");
 }
 
 double clsEnergiamuodot::TehoKeskihinta() const try {

@@ -18,6 +18,8 @@ class clsEnergiamuodot : public Malli<clsEnergiamuodot, Kokoelma<clsEnergiamuoto
   double Keskihinta() const;
   /// Yearly fees of all tariffs, €/a; in full, whatever the share.
   double Vuosimaksut() const;
+  /// The part of them that is charged on power and reactive power, €/a; a water form has none.
+  double Tehomaksut() const;
   /// Power fee, €/kW,a, by the shares; a water form has none.
   double TehoKeskihinta() const;
   /// Reactive power fee, €/kVAr,a, by the shares; a water form has none.
@@ -41,6 +43,7 @@ class clsEnergiamuodot : public Malli<clsEnergiamuodot, Kokoelma<clsEnergiamuoto
   struct Tariffisuure;
   double Tariffeista(const clsEnergiamuoto& muoto, const Tariffisuure& suure) const;
   double Painotettu(const Tariffisuure& suure) const;
+  double Taysina(const Tariffisuure& suure) const;
 
   Koti koti_;
 };

@@ -7,7 +7,7 @@ import re
 
 from lahteet import lahteet, lopeta, rivit
 
-MALLI = {"building", "ventilation", "consumers", "supply", "measures", "results", "settings"}
+MALLI = {"building", "ventilation", "consumers", "supply", "measures", "lifecycle", "results", "settings"}
 # layer: the layers that it may include besides itself
 SALLITUT = {
     "kernel": set(),

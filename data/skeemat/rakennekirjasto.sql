@@ -12,6 +12,22 @@ CREATE TABLE Materiaali (
     Lahde TEXT NOT NULL DEFAULT '',
     Tila TEXT NOT NULL DEFAULT ''           -- how sure the figures are
 );
+-- Environmental impact of the production of one kilogram (modules A1-A3). Null: not known, which isn't nought.
+CREATE TABLE Materiaalivaikutus (
+    MateriaaliId TEXT PRIMARY KEY,
+    Nimi TEXT NOT NULL,                     -- also of products that the library has no material of
+    UusiutumatonEnergia REAL,               -- MJ/kg
+    UusiutuvaEnergia REAL,                  -- MJ/kg
+    UusiutumattomatRaakaaineet REAL,        -- kg/kg
+    UusiutuvatRaakaaineet REAL,             -- kg/kg
+    IlmastonLampeneminenCO2ekv REAL,        -- g of CO2 equivalent, fossil
+    VarastoitunutCO2 REAL,                  -- g of CO2 held in the product, never taken off the former
+    HappamoituminenSOxekv REAL,             -- g of SO2 equivalent
+    OksidanttienMuodostus REAL,             -- g of ethene equivalent
+    Particle REAL,                          -- g, process dust
+    Lahde TEXT NOT NULL,
+    Tila TEXT NOT NULL                      -- how sure the figures are
+);
 CREATE TABLE Rakenne (
     Id TEXT PRIMARY KEY,
     Rakennetyyppi TEXT NOT NULL CHECK (Rakennetyyppi IN ('Ulkoseinä', 'Yläpohja', 'Alapohja', 'Ikkuna', 'Ovi',
