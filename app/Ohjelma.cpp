@@ -13,6 +13,8 @@
 #include "building/clsRakennus.h"
 #include "kernel/Hakemistot.h"
 #include "kernel/Versio.h"
+#include "pdf/Pdfraportti.h"
+#include "results/raportti/Raporttiikkuna.h"
 #include "settings/Asetusavaimet.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/paaikkuna.h"
@@ -93,6 +95,7 @@ Ohjelma::Ohjelma() : lopetussignaali_([this] { Lopeta(); }) {
 void Ohjelma::Lataa() {
   const Odotus odotus;
   LueAineistot();
+  AsetaPdfkirjoitin(KirjoitaPdfraportti);
   AsetaQtLomakkeet(nullptr);
   frmSplash_ = TeeAlkuikkuna();
   frmSplash_->Nayta();

@@ -8,10 +8,12 @@
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
+#include "results/raportti/Raporttiikkuna.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsEnergiamuodonKasittely.h"
 #include "supply/clsSahkoTariffienVertailu.h"
+#include "tekstit/lomakkeet_raportti.h"
 #include "tekstit/lomakkeet_taulukot.h"
 #include "tekstit/paaikkuna.h"
 #include "ui/Lomake.h"
@@ -174,6 +176,8 @@ constexpr Valikkorivi kRivit[] = {
      [](frmMain& i) { i.Kohteet().Rakennus()->NaytaLampoYhteenvetoDlg(); }},
     {"mnuRakennus", "mnuYhteenveto", tekstit::kValikkoYhteenveto, "", KohdeValmis,
      [](frmMain& i) { i.Kohteet().Rakennus()->NaytaYhteenvetoDlg(); }},
+    {"mnuRakennus", "mnuRaportti", tekstit::kValikkoRaportti, "", KohdeValmis,
+     [](frmMain& i) { NaytaRaporttiikkuna(*i.Kohteet().Rakennus()); }},
 
     {"mnuKirjastot", "mnuRakennekirjasto", tekstit::kValikkoRakennekirjasto, "", nullptr,
      [](frmMain&) { RakennekirjastolinkkiNyt().NaytaRakennekirjasto(); }},

@@ -8,7 +8,9 @@
 #include <utility>
 
 #include "batch/Kohdelaskenta.h"
+#include "batch/Raporttitiedosto.h"
 #include "batch/Rinnakkain.h"
+#include "batch/Salkku.h"
 #include "batch/Toimenpidelaskenta.h"
 #include "kernel/Virhe.h"
 #include "settings/clsLumivirtaAsetukset.h"
@@ -19,11 +21,17 @@ namespace {
 constexpr const char* kOhje =
     "Käyttö: lumivirta-laske [--json] [--rinnakkain=N] KOHDE.lvt...\n"
     "        lumivirta-laske --toimenpide NIMI --vie UUSI.lvt KOHDE.lvt\n"
+    "        lumivirta-laske --raportti RAPORTTI.xlsx|RAPORTTI.pdf KOHDE.lvt\n"
+    "        lumivirta-laske [--rinnakkain=N] --salkku SALKKU.xlsx KOHDE.lvt...\n"
     "Laskee kohdetiedostojen lämpötaseen. Tiedostoja ei muuteta.\n"
     "  --json         tulokset JSON-muodossa: yksi olio, usealle tiedostolle taulukko\n"
     "  --rinnakkain=N montako tiedostoa lasketaan yhtä aikaa; oletus on suorittimien määrä\n"
     "  --toimenpide NIMI --vie UUSI.lvt\n"
     "                 kirjoittaa uuden kohteen, jossa säästötoimenpide on toteutettu; nimi tai avain\n"
+    "  --raportti TIEDOSTO\n"
+    "                 kirjoittaa katselmuksen raportin laskentataulukoksi (.xlsx) tai PDF:ksi (.pdf)\n"
+    "  --salkku TIEDOSTO.xlsx\n"
+    "                 kirjoittaa kohteet taulukoksi, rivi kohdetta kohti, eniten säästävä ensin\n"
     "  --help         tämä ohje\n"
     "Paluuarvo on 0, kun kaikki on laskettu, 1, kun jotain ei voitu laskea, ja 2, kun komento on virheellinen.\n";
 constexpr std::string_view kRinnakkain = "--rinnakkain=";
@@ -32,14 +40,17 @@ struct Komento {
   std::vector<std::string> tiedostot;
   Tulostusmuoto muoto = Tulostusmuoto::Yhteenveto;
   unsigned rinnakkain = std::max(1u, std::thread::hardware_concurrency());
-  std::string toimenpide, vie;
+  std::string toimenpide, vie, raportti, salkku;
   bool ohje = false;
 
   bool OnVienti() const { return !toimenpide.empty() || !vie.empty(); }
   bool OnKelvollinen() const {
     if (ohje) return true;
+    if (OnVienti() + !raportti.empty() + !salkku.empty() + (muoto == Tulostusmuoto::Json) > 1) return false;
+    if (!raportti.empty()) return tiedostot.size() == 1 && OnRaporttitiedosto(raportti);
+    if (!salkku.empty() && !salkku.ends_with(".xlsx")) return false;
     if (!OnVienti()) return !tiedostot.empty();
-    return !toimenpide.empty() && !vie.empty() && tiedostot.size() == 1 && muoto == Tulostusmuoto::Yhteenveto;
+    return !toimenpide.empty() && !vie.empty() && tiedostot.size() == 1;
   }
 };
 
@@ -47,6 +58,8 @@ struct Komento {
 std::string* Arvollinen(std::string_view sana, Komento& komento) {
   if (sana == "--toimenpide") return &komento.toimenpide;
   if (sana == "--vie") return &komento.vie;
+  if (sana == "--raportti") return &komento.raportti;
+  if (sana == "--salkku") return &komento.salkku;
   return nullptr;
 }
 
@@ -82,12 +95,34 @@ std::optional<Komento> LueKomento(std::span<char*> sanat) {
   return komento;
 }
 
-/// Writes the object with the measure carried out. True when it could be done.
+/// Writes the object with the measure carried out, or its report. True when it could be done.
 bool Vie(const Komento& komento) try {
-  VieToimenpide(komento.tiedostot.front(), komento.toimenpide, komento.vie);
+  if (komento.raportti.empty())
+    VieToimenpide(komento.tiedostot.front(), komento.toimenpide, komento.vie);
+  else
+    TeeRaporttitiedosto(komento.tiedostot.front(), komento.raportti);
   return true;
 } catch (const std::exception& virhe) {
   std::cerr << "lumivirta-laske: " << komento.tiedostot.front() << ": " << SyynKuvaus(virhe) << '\n';
+  return false;
+}
+
+/// Writes the portfolio of the files that can be computed. True when all could be.
+bool TeeSalkku(const Komento& komento) try {
+  bool kaikki = true;
+  std::vector<std::string> rivit;
+  LaskeRinnakkain(
+      komento.tiedostot.size(), komento.rinnakkain,
+      [&](std::size_t i) { return LaskeSalkkurivi(komento.tiedostot[i]); },
+      [&](const Laskettu& laskettu) {
+        kaikki &= laskettu.onnistui;
+        std::cerr << laskettu.virheet;
+        if (laskettu.onnistui) rivit.push_back(laskettu.tulos);
+      });
+  KirjoitaSalkku(rivit, komento.salkku);
+  return kaikki;
+} catch (const std::exception& virhe) {
+  std::cerr << "lumivirta-laske: " << komento.salkku << ": " << SyynKuvaus(virhe) << '\n';
   return false;
 }
 
@@ -121,5 +156,6 @@ int main(int argc, char** argv) {
   if (komento->ohje) return std::cout << kOhje, 0;
   AlustaTekstit();
   Asetukset().HaeRekisteristä();
-  return (komento->OnVienti() ? Vie(*komento) : Laske(*komento)) ? 0 : 1;
+  if (komento->OnVienti() || !komento->raportti.empty()) return Vie(*komento) ? 0 : 1;
+  return (komento->salkku.empty() ? Laske(*komento) : TeeSalkku(*komento)) ? 0 : 1;
 }

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 #include <array>
+#include <string>
 
 #include "kernel/Laskenta.h"
 
 class clsRakennus;
 class clsTila;
+struct Kaaviotiedot;
 
 /// Terms of the monthly heat balance, in the order in which they are shown.
 enum class Tasetermi {
@@ -42,6 +44,9 @@ struct Kuukausitase {
 /// The balance as the spaces compute it, inside a Tasehaarukka. Errors: 9999 of the calculation.
 Kuukausitase LaskeKuukausitase(clsRakennus& rakennus);
 Kuukausitase LaskeKuukausitase(clsRakennus& rakennus, clsTila& tila);
+
+/// The balance as a chart: losses and gains in columns of their own, the demand as a line.
+Kaaviotiedot TaseenKaavio(const Kuukausitase& tase, const std::string& otsikko);
 
 /// Shows the balance of the whole building, or of one of its spaces, as a table and a chart; returns when it is closed.
 void NaytaKuukausitase(clsRakennus& rakennus);

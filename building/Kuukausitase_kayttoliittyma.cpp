@@ -58,13 +58,6 @@ std::string NormitusTekstina(const Kuukausitase& tase) {
          " °Cd = " + Muotoile(tase.NormitettuTarve(), "### ##0.00") + " MWh/a";
 }
 
-Kaaviotiedot Kaavio(const Kuukausitase& tase, const std::string& nimi) {
-  Kaaviotiedot kaavio{.otsikko = nimi, .nimet = KuukausienNimet(), .yksikko = Teksti(tekstit::kKWh)};
-  for (const Sarja& s : kSarjat)
-    kaavio.sarjat.push_back({TerminNimi(s.termi), {tase[s.termi].begin(), tase[s.termi].end()}, s.pino});
-  return kaavio;
-}
-
 void TaytaTaulukko(const frmKuukausitase& lomake, const Kuukausitase& tase) {
   Luettelosisalto sisalto;
   for (std::size_t i = 0; i < kTasetermeja; ++i) sisalto.rivit.push_back(TerminRivi(tase, Termi(i)));
@@ -83,7 +76,7 @@ void Nayta(const Kuukausitase& tase, const std::string& nimi) {
   frmKuukausitase lomake;
   lomake.Otsikko(Teksti(tekstit::kKuukausitase) + ": " + nimi);
   TaytaTaulukko(lomake, tase);
-  lomake.chtTase.Kaavio(Kaavio(tase, nimi));
+  lomake.chtTase.Kaavio(TaseenKaavio(tase, nimi));
   lomake.lblNormitus.Otsikko(NormitusTekstina(tase));
   lomake.TallennaTaulukko = [&](const std::string& tiedosto) {
     TallennaLaskentataulukko(Taulukoksi(lomake, tase), Teksti(tekstit::kKuukausitase), tiedosto);
@@ -100,6 +93,13 @@ Kuukausitase Odottaen(Lasku&& lasku) {
 }
 
 }  // namespace
+
+Kaaviotiedot TaseenKaavio(const Kuukausitase& tase, const std::string& otsikko) {
+  Kaaviotiedot kaavio{.otsikko = otsikko, .nimet = KuukausienNimet(), .yksikko = Teksti(tekstit::kKWh)};
+  for (const Sarja& s : kSarjat)
+    kaavio.sarjat.push_back({TerminNimi(s.termi), {tase[s.termi].begin(), tase[s.termi].end()}, s.pino});
+  return kaavio;
+}
 
 void NaytaKuukausitase(clsRakennus& rakennus) try {
   const Kuukausitase tase = Odottaen([&] { return LaskeKuukausitase(rakennus); });

@@ -51,6 +51,12 @@ clsPerustiedot::clsPerustiedot() : Pvm(TamaPaiva()) {}
 clsPerustiedot::clsPerustiedot(const clsPerustiedot&) = default;
 clsPerustiedot& clsPerustiedot::operator=(const clsPerustiedot&) = default;
 
+double clsPerustiedot::NormitettuLampo(const clsToteutunutKulutus& vuosi) const noexcept {
+  const double vakio = LammKulVakioOsuus.VuosiOsuus;
+  if (vuosi.LammTarveLuku <= 0) return 0;
+  return (vuosi.Lampo - vakio) * NormVuodenLammTarveLuku / vuosi.LammTarveLuku + vakio;
+}
+
 void clsPerustiedot::LammTarveLukuPaikkakuntaID(std::int32_t paikkakunta) {
   paikkakunta_ = paikkakunta;
   const auto indeksi = static_cast<std::size_t>(paikkakunta);

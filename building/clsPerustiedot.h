@@ -45,6 +45,10 @@ class clsPerustiedot : public Malli<clsPerustiedot> {
   /// Sets the locality and its degree days; a number outside 0 to 15 leaves the degree days as they were.
   void LammTarveLukuPaikkakuntaID(std::int32_t paikkakunta);
 
+  /// A year's measured heat as it would be in the normal year, MWh: what depends on the weather in proportion to the
+  /// degree days, the constant share as it is. 0 for a year without degree days.
+  double NormitettuLampo(const clsToteutunutKulutus& vuosi) const noexcept;
+
   /// At OK when the locality has changed.
   Oma<std::function<void(int paikkakunta)>> SaaTietoMuuttui;
   /// At OK while OletusarvotLaskettu is False.

@@ -19,6 +19,7 @@
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "results/Yhteenvetoikkuna.h"
+#include "results/clsRaporttiasetukset.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsProjektiAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"
@@ -59,6 +60,7 @@ constexpr Jasen kJasenet[] = {
     Osa<[](clsRakennus& r) -> Olio& { return r.Tilat; }>("Tilat"),
     Osa<[](clsRakennus& r) -> Olio& { return r.IVKoneet; }>("IVKoneet"),
     Osa<[](clsRakennus& r) -> Olio& { return r.Elinkaari; }>("Elinkaari"),
+    Osa<[](clsRakennus& r) -> Olio& { return r.Raporttiasetukset; }>("Raporttiasetukset"),
     Arvo<&clsRakennus::Major>("Major"),
     Arvo<&clsRakennus::Minor>("Minor"),
     Arvo<&clsRakennus::Revision>("Revision"),
@@ -130,6 +132,7 @@ struct clsRakennus::Osat {
   clsTilat tilat;
   clsIVKoneet koneet;
   clsElinkaari elinkaari;
+  clsRaporttiasetukset raportti;
 };
 
 clsRakennus::clsRakennus()
@@ -148,6 +151,7 @@ clsRakennus::clsRakennus()
       Tilat(osat_->tilat),
       IVKoneet(osat_->koneet),
       Elinkaari(osat_->elinkaari),
+      Raporttiasetukset(osat_->raportti),
       Major(kVersioMajor),
       Minor(kVersioMinor),
       Revision(kVersioRevision) {
@@ -405,9 +409,8 @@ double clsRakennus::VuotuinenBruttoLaiteSahkoEnergia() try {
 }
 
 double clsRakennus::ToteutunutNormitettuLampo() try {
-  const double norm = Perustiedot.NormVuodenLammTarveLuku;
   const double vakio = Perustiedot.LammKulVakioOsuus.VuosiOsuus;
-  const clsToteutunutKulutus vertailuvuosi = Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot();
+  const clsToteutunutKulutus& vertailuvuosi = Perustiedot.ToteutuneetKulutukset.VertailuVuodenTiedot();
   if (vakio > vertailuvuosi.Lampo)
     Ilmoita(Teksti(tekstit::kVakioOsuusAlku) + " " + Muotoile(vertailuvuosi.Lampo, "0") + " " +
             Teksti(tekstit::kVakioOsuusKeski) + " " + Muotoile(vakio, "0") + " " + Teksti(tekstit::kVakioOsuusLoppu));
@@ -415,7 +418,7 @@ double clsRakennus::ToteutunutNormitettuLampo() try {
     NaytaVirhe(virheet::kVuodenLammitystarvelukuPuuttuu);
     return 0;
   }
-  return Aarellinen((vertailuvuosi.Lampo - vakio) * norm / vertailuvuosi.LammTarveLuku + vakio);
+  return Aarellinen(Perustiedot.NormitettuLampo(vertailuvuosi));
 } catch (...) {
   NostaVirhe("clsRakennus:ToteutunutNormitettuLampo Method");
 }

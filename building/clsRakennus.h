@@ -15,6 +15,7 @@ class clsKatselmoijienTiedot;
 class clsMuuttuneetAttribuutit;
 class clsPerustiedot;
 class clsProjektiAsetukset;
+class clsRaporttiasetukset;
 class clsSaa;
 class clsSaastotoimenpiteet;
 class clsSahkoTariffienVertailu;
@@ -78,6 +79,7 @@ class clsRakennus : public Malli<clsRakennus> {
   clsTilat& Tilat;
   clsIVKoneet& IVKoneet;
   clsElinkaari& Elinkaari;
+  clsRaporttiasetukset& Raporttiasetukset;
   clsTyyppiTiedot TyyppiTiedot;
 
   std::int32_t Major, Minor, Revision;  ///< version of the program that last wrote the object

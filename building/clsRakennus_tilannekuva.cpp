@@ -14,6 +14,7 @@
 #include "lifecycle/clsElinkaari.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
+#include "results/clsRaporttiasetukset.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "settings/clsProjektiAsetukset.h"
 #include "supply/clsSahkoTariffienVertailu.h"
@@ -27,7 +28,7 @@ namespace {
 auto KuvanOsat(const clsRakennus& r) {
   return std::tie(r.Saa, r.SahkonKulutusryhmat, r.VedenKulutusryhmat, r.KatselmoijienTiedot, r.Tariffit, r.Vesitariffit,
                   r.Saastotoimenpiteet, r.SahkoTariffienVertailu, r.ToimenpiteidenJarjestelija, r.Perustiedot, r.Tilat,
-                  r.IVKoneet, r.Elinkaari);
+                  r.IVKoneet, r.Elinkaari, r.Raporttiasetukset);
 }
 
 void KopioiSisalto(const clsRakennus& lahde, clsRakennus& kohde) {

@@ -32,6 +32,7 @@ INSERT INTO ClassTypes VALUES ('clsRakenne');
 INSERT INTO ClassTypes VALUES ('clsRakennekerros');
 INSERT INTO ClassTypes VALUES ('clsRakennus');
 INSERT INTO ClassTypes VALUES ('clsRakenteet');
+INSERT INTO ClassTypes VALUES ('clsRaporttiasetukset');
 INSERT INTO ClassTypes VALUES ('clsResurssi');
 INSERT INTO ClassTypes VALUES ('clsResurssit');
 INSERT INTO ClassTypes VALUES ('clsSaa');
@@ -521,6 +522,7 @@ CREATE TABLE clsRakennus (
   Tilat TEXT,
   IVKoneet TEXT,
   Elinkaari TEXT,
+  Raporttiasetukset TEXT,
   Major INTEGER,
   Minor INTEGER,
   Revision INTEGER,
@@ -534,6 +536,17 @@ CREATE TABLE clsRakenteet (
   MyRealNameInParentObj TEXT COLLATE NOCASE,
   OrderID INTEGER,
   InstanssiId TEXT
+);
+
+CREATE TABLE clsRaporttiasetukset (
+  ObjID TEXT COLLATE NOCASE,
+  ParentID TEXT COLLATE NOCASE,
+  MyRealNameInParentObj TEXT COLLATE NOCASE,
+  OrderID INTEGER,
+  InstanssiId TEXT,
+  Nykytila TEXT,
+  Suositus TEXT,
+  Poisjatetyt TEXT
 );
 
 CREATE TABLE clsResurssi (

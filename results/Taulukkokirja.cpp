@@ -200,10 +200,14 @@ std::vector<double> Tasaiset(const Taulukkosivu& sivu) {
 
 }  // namespace
 
-void TallennaKirja(const std::vector<Taulukkosivu>& sivut, const std::string& tiedosto) try {
+void TallennaKirja(const std::vector<Taulukkosivu>& sivut, const std::string& tiedosto) {
+  KirjoitaKokonaan(tiedosto, [&](const std::string& uusi) { Kirjoita(sivut, uusi); });
+}
+
+void KirjoitaKokonaan(const std::string& tiedosto, const std::function<void(const std::string& uusi)>& kirjoita) try {
   const std::string uusi = tiedosto + ".uusi";
   try {
-    Kirjoita(sivut, uusi);
+    kirjoita(uusi);
     std::filesystem::rename(uusi, tiedosto);
   } catch (...) {
     std::remove(uusi.c_str());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -39,6 +40,10 @@ struct Taulukkosivu {
 /// Writes the sheets to a workbook (.xlsx) whose pages are as page set-up tells (settings/Sivuasetukset.h), one page
 /// wide. The file is written whole or not at all. Raises std::runtime_error with the reason in Finnish.
 void TallennaKirja(const std::vector<Taulukkosivu>& sivut, const std::string& tiedosto);
+
+/// Lets `kirjoita` write a file beside the one wanted and puts it in that one's place: whole or not at all. Raises what
+/// it raises, and std::runtime_error with the reason in Finnish when the file can't be replaced.
+void KirjoitaKokonaan(const std::string& tiedosto, const std::function<void(const std::string& uusi)>& kirjoita);
 
 /// Widths of the columns, in letters, the first column first: as wide as the contents need.
 std::vector<double> Sarakeleveydet(const Taulukkosivu& sivu);

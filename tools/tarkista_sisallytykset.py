@@ -17,9 +17,10 @@ SALLITUT = {
     "model": {"ui", "library", "solar", "kernel"},
     "batch": {"model", "ui", "library", "solar", "kernel"},
     "ui/qt": {"ui", "library", "kernel"},
+    "pdf": {"ui/qt", "model", "ui", "library", "solar", "kernel"},
     "library/server": {"ui/qt", "ui", "library", "kernel"},
-    "app": {"ui/qt", "model", "ui", "library", "solar", "kernel"},
-    "bench/qt": {"app", "batch", "ui/qt", "model", "ui", "library", "solar", "kernel"},
+    "app": {"pdf", "ui/qt", "model", "ui", "library", "solar", "kernel"},
+    "bench/qt": {"app", "batch", "pdf", "ui/qt", "model", "ui", "library", "solar", "kernel"},
 }
 # Folders beside the layers count as the layer whose rules they follow.
 VERTAISET = {"bench": "batch", "bench/vertailu": "batch", "tests/fault": "batch", "tests/fuzz": "batch", "tests/qt": "ui/qt",
@@ -28,7 +29,7 @@ KAIKILLE = ("tests/tuki/", "tekstit/")  # the tests' helpers, and the numbers of
 # header of a library: the folders that may include it. One that matches no row is refused; the last rows are the C++ and
 # the operating system's own.
 TESTIT = {"tests/*"}
-QT = {"ui/qt", "app", "library/server", "bench/qt"}
+QT = {"ui/qt", "pdf", "app", "library/server", "bench/qt"}
 KIRJASTOT = [
     (r"sqlite3\.h", {"kernel", "bench"}),
     (r"pugixml\.hpp", {"ui", "results", "tests/tuki"}),
@@ -36,7 +37,7 @@ KIRJASTOT = [
     (r"libvoikko/voikko\.h", {"ui"}),
     (r"xlsxwriter\.h", {"results"}),
     (r"zip\.h", {"results", "tests/tuki"}),
-    (r"(Q\w+|Lomaketaulu\.h)", {*QT, "tests/qt", "tests/app", "tests/palvelin"}),
+    (r"(Q\w+|Lomaketaulu\.h)", {*QT, "tests/qt", "tests/pdf", "tests/app", "tests/palvelin"}),
     (r"(gtest|gmock)/.*", TESTIT),
     (r"fuzzer/.*", {"tests/fuzz"}),
     (r"benchmark/.*", {"bench", "bench/qt"}),

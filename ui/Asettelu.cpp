@@ -22,8 +22,9 @@ struct Laji {
 };
 /// The usual size of a control, in pixels.
 constexpr Laji kLajit[] = {
-    {"QLabel", {140, 24}},       {"QLineEdit", {115, 24}},   {"QComboBox", {160, 24}},  {"QCheckBox", {200, 24}},
-    {"QRadioButton", {150, 24}}, {"QPushButton", {100, 24}}, {"QTreeView", {480, 180}}, {"Kuvapinta", {120, 120}},
+    {"QLabel", {140, 24}},     {"QLineEdit", {115, 24}},    {"QComboBox", {160, 24}},
+    {"QCheckBox", {200, 24}},  {"QRadioButton", {150, 24}}, {"QPushButton", {100, 24}},
+    {"QTreeView", {480, 180}}, {"Kuvapinta", {120, 120}},   {"QPlainTextEdit", {480, 90}},
 };
 constexpr Koko kKaavio{480, 240};
 

@@ -18,6 +18,7 @@ struct Tyyppirivi {
 constexpr Tyyppirivi kTyypit[] = {
     {"QLabel", "Label", Ohjaintyyppi::Label},
     {"QLineEdit", "TextBox", Ohjaintyyppi::TextBox},
+    {"QPlainTextEdit", "TextBox", Ohjaintyyppi::TextBox},
     {"QComboBox", "ComboBox", Ohjaintyyppi::ComboBox},
     {"QCheckBox", "CheckBox", Ohjaintyyppi::CheckBox},
     {"QRadioButton", "OptionButton", Ohjaintyyppi::OptionButton},

@@ -4,6 +4,7 @@
 #include "building/Mallivaraus.h"
 #include "building/clsSaa.h"
 #include "kernel/Projektitiedosto.h"
+#include "kernel/Versio.h"
 #include "tests/app/Koeistunto.h"
 
 namespace {
@@ -84,13 +85,14 @@ TEST_F(IstuntoTesti, FilesThatCannotBeOpenedLeaveTheObject) {
   Kirjoita(koti.Tiedosto("Muistio.txt"), "x");
   Kirjoita(koti.Tiedosto("vt"), "x");
   Kirjoita(koti.Tiedosto("Vieras.LVT"), "Tämä ei ole kohde.");
-  const std::string uudempi = Muunnos(oma, "UPDATE clsRakennus SET Major = 2, Minor = 1");
+  const std::string uudempi = Muunnos(oma, "UPDATE clsRakennus SET Minor = Minor + 1");
   const Tapaus tapaukset[] = {
       {koti.Tiedosto("Muistio.txt"), Teksti(1156)},
       {koti.Tiedosto("vt"), Teksti(1156)},
       {koti.Tiedosto("Vieras.LVT"), Teksti(9501)},
       {koti.Tiedosto("Puuttuva.lvt"), Teksti(9501)},
-      {uudempi, "Kohdetiedoston ohjelmaversio 2.1.xx " + Teksti(9223)},
+      {uudempi, "Kohdetiedoston ohjelmaversio " + std::to_string(kVersioMajor) + "." +
+                    std::to_string(kVersioMinor + 1) + ".xx " + Teksti(9223)},
   };
   for (const Tapaus& tapaus : tapaukset) {
     Avaa(tapaus.tiedosto);

@@ -9,6 +9,7 @@
 #include "kernel/Kirjainkoko.h"
 #include "kernel/Luvut.h"
 #include "measures/clsSaastotoimenpiteet.h"
+#include "results/raportti/Raporttiikkuna.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "supply/clsSahkoTariffienVertailu.h"
 #include "supply/clsTariffit.h"
@@ -197,6 +198,7 @@ class Sidonnat : public RakennusTesti {
         {"frmEnergiamuoto",
          [this] { rakennus->Perustiedot.LammonHankinta.Energiamuodot.Item(1).NaytaKayttoliityma(); }},
         {"frmVertailunKuvausDialogi", [this] { MuokkaaTariffiyhdistelmaa(); }},
+        {"frmRaportti", [this] { NaytaRaporttiikkuna(*rakennus); }},
         {"frmSaastotoimenpide", [this] { rakennus->Saastotoimenpiteet.Item(1).NaytaKayttoliittyma(); }},
     };
   }

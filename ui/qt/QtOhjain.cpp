@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopedValueRollback>
@@ -188,6 +189,29 @@ class QtTextBox : public QtOhjain {
 
   inline static const QWidget* poistuttava_ = nullptr;  // window of the field that is being left
   QLineEdit& kentta_;
+};
+
+/// A field of several lines.
+class QtTekstialue : public QtOhjain {
+ public:
+  QtTekstialue(Lomakeikkuna& ikkuna, Ohjainkuvaus kuvaus, QPlainTextEdit& kentta)
+      : QtOhjain(ikkuna, std::move(kuvaus), &kentta), kentta_(kentta) {
+    kentta.setTabChangesFocus(true);
+    connect(&kentta, &QPlainTextEdit::textChanged, this,
+            [this] { KayttajaKirjoittaa(kentta_.toPlainText().toStdString()); });
+  }
+
+ protected:
+  void NaytaPiirre(Piirre piirre) override {
+    if (piirre == Piirre::Tekstivalinta) kentta_.selectAll();
+    if (piirre == Piirre::Lukittu) kentta_.setReadOnly(Lukittu());
+    if (piirre != Piirre::Teksti) return;
+    const QSignalBlocker esto(kentta_);
+    kentta_.setPlainText(Q(Teksti()));
+  }
+
+ private:
+  QPlainTextEdit& kentta_;
 };
 
 class QtTabStrip : public QtOhjain {
