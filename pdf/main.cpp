@@ -15,6 +15,7 @@
 int main(int argc, char** argv) try {
   if (argc != 3) return std::cerr << "Käyttö: lumivirta-pdf KOHDE.lvt RAPORTTI.pdf\n", 2;
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // no desktop is missed here
   const QApplication ohjelma(argc, argv);
   AlustaTekstit();
   Asetukset().HaeRekisteristä();

@@ -94,14 +94,7 @@ class Kirjoittaja {
       Solu(lehti, static_cast<lxw_row_t>(paikka.first - 1), static_cast<lxw_col_t>(paikka.second - 1), solu);
   }
 
-  /// Writes the file. Raises std::runtime_error with the reason.
-  void Sulje() {
-    errno = 0;
-    const lxw_error virhe = workbook_close(kirja_);
-    if (virhe == LXW_NO_ERROR) return;
-    const int syy = errno;
-    throw std::runtime_error(syy ? Selitys({syy, std::generic_category()}) : lxw_strerror(virhe));
-  }
+  void Sulje() { SuljeKirja(kirja_); }
 
  private:
   void Paperille(const Taulukkosivu& sivu, lxw_worksheet* lehti) const {
@@ -202,6 +195,14 @@ std::vector<double> Tasaiset(const Taulukkosivu& sivu) {
 
 void TallennaKirja(const std::vector<Taulukkosivu>& sivut, const std::string& tiedosto) {
   KirjoitaKokonaan(tiedosto, [&](const std::string& uusi) { Kirjoita(sivut, uusi); });
+}
+
+void SuljeKirja(lxw_workbook* kirja) {
+  errno = 0;
+  const lxw_error virhe = workbook_close(kirja);
+  if (virhe == LXW_NO_ERROR) return;
+  const int syy = errno;
+  throw std::runtime_error(syy ? Selitys({syy, std::generic_category()}) : lxw_strerror(virhe));
 }
 
 void KirjoitaKokonaan(const std::string& tiedosto, const std::function<void(const std::string& uusi)>& kirjoita) try {

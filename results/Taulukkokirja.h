@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+struct lxw_workbook;
+
 /// A number of a sheet and the pattern by which it is shown (kernel/Luvut.h).
 struct Taulukkoluku {
   double arvo = 0;
@@ -40,6 +42,9 @@ struct Taulukkosivu {
 /// Writes the sheets to a workbook (.xlsx) whose pages are as page set-up tells (settings/Sivuasetukset.h), one page
 /// wide. The file is written whole or not at all. Raises std::runtime_error with the reason in Finnish.
 void TallennaKirja(const std::vector<Taulukkosivu>& sivut, const std::string& tiedosto);
+
+/// Writes the file of the library's workbook and frees it. Raises std::runtime_error with the reason in Finnish.
+void SuljeKirja(lxw_workbook* kirja);
 
 /// Lets `kirjoita` write a file beside the one wanted and puts it in that one's place: whole or not at all. Raises what
 /// it raises, and std::runtime_error with the reason in Finnish when the file can't be replaced.

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::size_t kPiirakassa = 8;  // parts that can still be told apart
+constexpr std::size_t kPiirakassa = 7;  // with the rest as many as charts have colours
 
 /// The rows below that one in the order of the tree, a step deeper each; titles without anything in them are left out.
 template <class Puu, class Rivi, class F>

@@ -104,8 +104,7 @@ class Kirja {
     return sivu;
   }
   const std::string& ViimeisenNimi() const { return varatut_.back(); }
-  /// Writes the file. Raises std::runtime_error with the library's reason.
-  void Sulje() { Onnistui(workbook_close(std::exchange(kirja_, nullptr))); }
+  void Sulje() { SuljeKirja(std::exchange(kirja_, nullptr)); }
 
  private:
   lxw_format* TeeMuoto(const Ulkoasu& u) {
