@@ -76,7 +76,7 @@ TEST_F(Kirjastohaku, PickedSolutionTakesThePlaceOfTheStructuresOwn) {
     kirjasto.Valitse(Kirjastoikkuna());
     const Taulukko& rivit = l.Etsi("lvwRakenteet").Rivit();
     ASSERT_EQ(rivit.size(), 1u) << "stays though only walls are shown";
-    EXPECT_EQ(rivit[0], (std::vector<std::string>{"Kirjaston ikkuna", "Ikkuna", "150,0", "1,25", "", "Pohjoinen",
+    EXPECT_EQ(rivit[0], (std::vector<std::string>{"Kirjaston ikkuna", "Ikkuna", "150,00", "1,25", "", "Pohjoinen",
                                                   "187,5", "97,1"}));  // beside the door of 5,6 W/K
     EXPECT_TRUE(l.Etsi("cmbSuuntaus").Nakyva());
     EXPECT_EQ(l.Teksti("txtAurinkoenergianlapaisy"), "55");
