@@ -383,6 +383,7 @@ std::unique_ptr<QtOhjain> TeeOhjain(Lomakeikkuna& ikkuna, QWidget& widget) {
     case Ohjaintyyppi::Label:
       return Tee<QtLabel, QLabel>(ikkuna, widget, tyyppi);
     case Ohjaintyyppi::TextBox:
+      if (qobject_cast<QPlainTextEdit*>(&widget)) return Tee<QtTekstialue, QPlainTextEdit>(ikkuna, widget, tyyppi);
       return Tee<QtTextBox, QLineEdit>(ikkuna, widget, tyyppi);
     case Ohjaintyyppi::ComboBox:
       return Tee<QtComboBox, QComboBox>(ikkuna, widget, tyyppi);
