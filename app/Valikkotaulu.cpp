@@ -6,6 +6,7 @@
 #include "building/clsTilat.h"
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
+#include "lifecycle/clsElinkaari.h"
 #include "measures/clsSaastotoimenpiteet.h"
 #include "measures/clsToimenpiteidenJarjestelija.h"
 #include "results/raportti/Raporttiikkuna.h"
@@ -201,10 +202,14 @@ constexpr Valikkorivi kRivit[] = {
      ToimenpiteetAvattavissa,
      [](frmMain& i) { i.Kohteet().Rakennus()->ToimenpiteidenJarjestelija.NaytaKayttoliittyma(); }},
 
-    {"mnuElinkaari", "mnuOletusarvot", tekstit::kValikkoOletusarvot, "", kTulossa},
-    {"mnuElinkaari", "mnuRakennusosat", tekstit::kValikkoRakennusosat, "", kTulossa},
-    {"mnuElinkaari", "mnuYmparistovaikutukset", tekstit::kValikkoYmparistovaikutukset, "", kTulossa},
-    {"mnuElinkaari", "mnuEkoprofiili", tekstit::kValikkoEkoprofiili, "", kTulossa},
+    {"mnuElinkaari", "mnuOletusarvot", tekstit::kValikkoOletusarvot, "", KohdeValmis,
+     [](frmMain& i) { i.Kohteet().Rakennus()->Elinkaari.NaytaOletusarvot(); }},
+    {"mnuElinkaari", "mnuRakennusosat", tekstit::kValikkoRakennusosat, "", KohdeValmis,
+     [](frmMain& i) { i.Kohteet().Rakennus()->Elinkaari.NaytaKustannukset(); }},
+    {"mnuElinkaari", "mnuYmparistovaikutukset", tekstit::kValikkoYmparistovaikutukset, "", KohdeValmis,
+     [](frmMain& i) { i.Kohteet().Rakennus()->Elinkaari.NaytaYmparistovaikutukset(); }},
+    {"mnuElinkaari", "mnuEkoprofiili", tekstit::kValikkoEkoprofiili, "", KohdeValmis,
+     [](frmMain& i) { i.Kohteet().Rakennus()->Elinkaari.NaytaEkoprofiili(); }},
 
     {"mnuTools", "mnuToolsOptions", tekstit::kValikkoAsetukset, "", nullptr,
      [](frmMain&) { Asetukset().NaytaKayttoliittyma(); }},

@@ -49,8 +49,7 @@ Kustannuspuu::Kustannuspuu(clsRakennus& rakennus, Laji laji) try {
     if (hoito) solmu.nousu = SolmunNousu(solmu.avain, solmu.vanhempi < 0 ? Nousu::Ei : solmut_[solmu.vanhempi].nousu);
   }
   if (hoito) OtaHankinta(rakennus);
-  OtaSyotetyt(hoito ? rakennus.Elinkaari.Hoito : rakennus.Elinkaari.Perustaminen);
-  LaskeKustannukset();
+  Laske(hoito ? rakennus.Elinkaari.Hoito : rakennus.Elinkaari.Perustaminen);
 } catch (...) {
   NostaVirhe("Kustannuspuu:Kustannuspuu Constructor");
 }
@@ -80,20 +79,35 @@ void Kustannuspuu::OtaHankinta(clsRakennus& rakennus) {
   ota(tiedot.SahkonHankinta, clsEnergianHankinta::Sahko, "Persah", "Tehsah", "Kulsan");
 }
 
-void Kustannuspuu::OtaSyotetyt(const clsElinkaarisolmut& syotetyt) {
+void Kustannuspuu::Laske(const clsElinkaarisolmut& syotetyt) {
   for (Solmu& solmu : solmut_) {
-    solmu.maara = solmu.mallinMaara;
-    solmu.tyyppi = solmu.mallinArvo       ? clsElinkaarisolmu::Mallista
-                   : solmu.lapset.empty() ? clsElinkaarisolmu::OmaArvo
-                                          : clsElinkaarisolmu::SummaAlemmista;
-    const clsElinkaarisolmu* syotetty = syotetyt.Etsi(solmu.avain);
-    if (!syotetty) continue;
-    solmu.syotetty = true;
-    solmu.tyyppi = syotetty->TyyppiID;
-    if (!syotetty->Laskentayksikko.empty()) solmu.yksikko = syotetty->Laskentayksikko;
-    if (!syotetty->MaaraMallista) solmu.maara = syotetty->YksikoidenMaara;
-    solmu.yksikkokustannus = syotetty->Yksikkokustannus;
+    OtaOmat(solmu);
+    if (const clsElinkaarisolmu* syotetty = syotetyt.Etsi(solmu.avain)) OtaSyotetty(solmu, *syotetty);
   }
+  LaskeKustannukset();
+}
+
+/// What the node is by itself.
+void Kustannuspuu::OtaOmat(Solmu& solmu) {
+  solmu.omaTyyppi = solmu.mallinArvo       ? clsElinkaarisolmu::Mallista
+                    : solmu.lapset.empty() ? clsElinkaarisolmu::OmaArvo
+                                           : clsElinkaarisolmu::SummaAlemmista;
+  solmu.tyyppi = solmu.omaTyyppi;
+  solmu.syotetty = false;
+  solmu.laskentayksikko = solmu.yksikko;
+  solmu.maaraMallista = solmu.mallinMaara.has_value();
+  solmu.maara = solmu.mallinMaara;
+  solmu.yksikkokustannus.reset();
+  solmu.kustannus.reset();
+}
+
+void Kustannuspuu::OtaSyotetty(Solmu& solmu, const clsElinkaarisolmu& syotetty) {
+  solmu.syotetty = true;
+  solmu.tyyppi = syotetty.TyyppiID;
+  if (!syotetty.Laskentayksikko.empty()) solmu.laskentayksikko = syotetty.Laskentayksikko;
+  solmu.maaraMallista = syotetty.MaaraMallista && solmu.mallinMaara;
+  if (!solmu.maaraMallista) solmu.maara = syotetty.YksikoidenMaara;
+  solmu.yksikkokustannus = syotetty.Yksikkokustannus;
 }
 
 void Kustannuspuu::LaskeKustannukset() {

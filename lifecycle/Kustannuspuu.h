@@ -24,15 +24,24 @@ class Kustannuspuu {
   struct Solmu : Hierarkiasolmu {
     Nousu nousu = Nousu::Ei;
     std::int32_t tyyppi = clsElinkaarisolmu::OmaArvo;
-    bool syotetty = false;             ///< the person has made an entry
+    std::int32_t omaTyyppi = clsElinkaarisolmu::OmaArvo;  ///< type without an entry
+    bool syotetty = false;                                ///< the person has made an entry
+    std::string laskentayksikko;
+    bool maaraMallista = false;        ///< the number of units is the model's
     std::optional<double> mallinArvo;  ///< yearly cost by the model
     std::optional<double> maara;       ///< number of units
     std::optional<double> yksikkokustannus;
     std::optional<double> kustannus;
+
+    /// The person's own cost stands in place of the model's.
+    bool OhittaaMallin() const { return mallinArvo && tyyppi != clsElinkaarisolmu::Mallista; }
   };
 
   /// Errors: 9999 when a supply's fees can't be computed.
   Kustannuspuu(clsRakennus& rakennus, Laji laji);
+
+  /// Reckons anew with these entries; what the model says stays.
+  void Laske(const clsElinkaarisolmut& syotetyt);
 
   const std::vector<Solmu>& Solmut() const noexcept { return solmut_; }
   /// The node, or nothing.
@@ -45,7 +54,8 @@ class Kustannuspuu {
  private:
   Solmu* Solmuksi(std::string_view avain);
   void OtaHankinta(clsRakennus& rakennus);
-  void OtaSyotetyt(const clsElinkaarisolmut& syotetyt);
+  static void OtaOmat(Solmu& solmu);
+  static void OtaSyotetty(Solmu& solmu, const clsElinkaarisolmu& syotetty);
   void LaskeKustannukset();
   std::optional<double> Nykyarvo(const Solmu& solmu, const Elinkaarioletukset& oletukset) const;
 

@@ -60,6 +60,7 @@ std::optional<Investointi> PaketinInvestointi(const clsToimenpiteidenJarjestelij
     if (!laskettu || !laskettu->saasto) return std::nullopt;
     riveittain = laskettu->saasto->hinta;
   }
+  if (paketti.hankinnat.empty()) return std::nullopt;
   riveittain += tariffirivit;
   paketti.saasto = Alvineen(riveittain, alv);
   return paketti;

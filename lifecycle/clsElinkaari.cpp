@@ -6,6 +6,7 @@
 
 #include "building/clsRakennus.h"
 #include "kernel/Tulos.h"
+#include "kernel/Virhe.h"
 #include "lifecycle/Kustannuspuu.h"
 #include "lifecycle/Toimenpideinvestointi.h"
 #include "lifecycle/Vaikutuspuu.h"
@@ -107,13 +108,7 @@ constexpr auto kPaketinTulokset = kInvestointitulokset<clsElinkaari, kPaketin>;
 constexpr auto kMitat = kInvestointitulokset<clsSaastotoimenpide, kToimenpiteen>;
 constexpr Tulos kToimenpiteenTulokset[] = {Avaintulos(), kMitat[0], kMitat[1], kMitat[2], kMitat[3]};
 
-std::optional<int> PitoaikaJosAnnettu(const clsElinkaari& elinkaari) {
-  return elinkaari.OletuksetAnnettu ? std::optional<int>(elinkaari.Pitoaika) : std::nullopt;
-}
-Vaikutuspuu Vaikutukset(const Tuloskohde& kohde) {
-  clsRakennus& rakennus = kohde.Omistaja<clsRakennus>();
-  return {rakennus, Materiaalivaikutukset(Asetukset().strVakioTietokanta), PitoaikaJosAnnettu(rakennus.Elinkaari)};
-}
+Vaikutuspuu Vaikutukset(const Tuloskohde& kohde) { return kohde.Omistaja<clsRakennus>().Elinkaari.Vaikutukset(); }
 Vaikutusarvot EnergianVaikutukset(const Tuloskohde& kohde) {
   const Vaikutuspuu puu = Vaikutukset(kohde);
   return puu.OstoPitoaikana(puu.Solmut().front());
@@ -168,4 +163,11 @@ std::optional<Elinkaarioletukset> clsElinkaari::Oletukset() const {
       .pitoaika = Pitoaika,
       .korko = Korkokanta / kProsentti,
       .nousu = {LammonHinnannousu / kProsentti, SahkonHinnannousu / kProsentti, VedenHinnannousu / kProsentti}};
+}
+
+Vaikutuspuu clsElinkaari::Vaikutukset() const try {
+  return {koti_.Rakennus(), Materiaalivaikutukset(Asetukset().strVakioTietokanta),
+          OletuksetAnnettu ? std::optional<int>(Pitoaika) : std::nullopt};
+} catch (...) {
+  NostaVirhe("clsElinkaari:Vaikutukset Method");
 }

@@ -6,6 +6,8 @@
 #include "lifecycle/Investointilaskelma.h"
 #include "lifecycle/clsElinkaarisolmu.h"
 
+class Vaikutuspuu;
+
 /// What the person assumes of the building's life, and the costs entered for it. Nothing is assumed by the program:
 /// until the defaults are given, no figure over the life is computed.
 class clsElinkaari : public Malli<clsElinkaari> {
@@ -29,6 +31,15 @@ class clsElinkaari : public Malli<clsElinkaari> {
 
   /// The given defaults as the reckoning takes them; nothing before they are given.
   std::optional<Elinkaarioletukset> Oletukset() const;
+
+  /// Environmental impact of the building by the structure library of the settings. Errors: those of both.
+  Vaikutuspuu Vaikutukset() const;
+
+  // Dialogs, modal. Errors: those of the figures that they show.
+  void NaytaOletusarvot();
+  void NaytaKustannukset();
+  void NaytaYmparistovaikutukset();
+  void NaytaEkoprofiili();
 
  private:
   Koti koti_;

@@ -4,6 +4,7 @@
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "lifecycle/Elinkaariehdotukset.h"
 #include "measures/Muunnelmalaskin.h"
 #include "measures/Muutoskuvaus.h"
 #include "measures/Toimenpidekohde.h"
@@ -54,6 +55,7 @@ const Sidontataulu kSidonnat{"frmSaastotoimenpide",
                                  Lukukentta<&Toimenpide::SaastoPatoTeho>("txtSaastoPatoTeho", kTeho),
                                  Lukukentta<&Toimenpide::SaastoLoisTeho>("txtSaastoLoisTeho", kTeho),
                                  Lukukentta<&Toimenpide::Investointi, kYleinen>("txtInvestointi", "### ##0"),
+                                 Lukukentta<&Toimenpide::TekninenKayttoika>("txtTekninenKayttoika", "##0.##"),
                              }};
 
 /// What the person writes in the dialog. Cancel takes it back, but not the changes that the object after has brought.
@@ -76,7 +78,8 @@ class Kentat {
                                  &Toimenpide::SaastoLampoteho,
                                  &Toimenpide::SaastoPatoTeho,
                                  &Toimenpide::SaastoLoisTeho,
-                                 &Toimenpide::Investointi};
+                                 &Toimenpide::Investointi,
+                                 &Toimenpide::TekninenKayttoika};
     std::apply([&](auto... kentta) { ((kohde.toimenpide_->*kentta = arvot_.*kentta), ...); }, kKentat);
   }
 
@@ -125,6 +128,7 @@ class Toimenpidemuokkaus {
     lomake_.EnnenKlikattu = [this] { NaytaEnnen(); };
     lomake_.JalkeenKlikattu = [this] { NaytaJalkeen(); };
     lomake_.PoistaMuutosKlikattu = [this] { PoistaMuutos(); };
+    lomake_.KayttoiatKlikattu = [this] { OtaKayttoika(); };
     lomake_.RahatMuuttuivat = [this] { LueDataluokka(); };
     const std::string& luokka = toimenpide_.MuuttuneetAttribuutit.TyypinNimi;
     lomake_.imgModuuli.Kuva(std::string(ToimenpiteenKuva(luokka)));
@@ -252,6 +256,12 @@ class Toimenpidemuokkaus {
       lahtotilanneMuuttui_ = false;
       LueDataluokka();
     });
+  }
+  void OtaKayttoika() {
+    const auto ehdotus = PoimiEhdotus(Ehdotuslaji::Kayttoika);
+    if (!ehdotus) return;
+    toimenpide_.TekninenKayttoika = ehdotus->Arvo;
+    kSidonnat.Paivita(lomake_, toimenpide_);
   }
   void PoistaMuutos() {
     const Tunniste avain = lomake_.lvwMuutokset.Valittu();

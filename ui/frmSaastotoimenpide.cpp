@@ -15,6 +15,7 @@ frmSaastotoimenpide::frmSaastotoimenpide() : Muokkauslomake("frmSaastotoimenpide
   NostaaKunKelpaa(cmdEnnen, EnnenKlikattu);
   NostaaKunKelpaa(cmdJalkeen, JalkeenKlikattu);
   cmdPoistaMuutos.Nostaa(PoistaMuutosKlikattu);
+  cmdKayttoiat.Nostaa(KayttoiatKlikattu);
   lvwMuutokset.KunPoistetaan([this] { Nosta(PoistaMuutosKlikattu); });
   lvwMuutokset.KunMuuttuu([this] { cmdPoistaMuutos.Kaytossa(!lvwMuutokset.Valittu().Tyhja()); });
 }

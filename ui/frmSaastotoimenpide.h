@@ -12,6 +12,7 @@ class frmSaastotoimenpide : public Muokkauslomake {
   std::function<void()> EnnenKlikattu;
   std::function<void()> JalkeenKlikattu;
   std::function<void()> PoistaMuutosKlikattu;
+  std::function<void()> KayttoiatKlikattu;
 
   /// What is told behind the captions of the frames with amounts: how they stand to VAT.
   void NaytaVero(const std::string& vero) const;
@@ -33,4 +34,5 @@ class frmSaastotoimenpide : public Muokkauslomake {
   CommandButton cmdEnnen{*this, "cmdEnnen"};
   CommandButton cmdJalkeen{*this, "cmdJalkeen"};
   CommandButton cmdPoistaMuutos{*this, "cmdPoistaMuutos"};
+  CommandButton cmdKayttoiat{*this, "cmdKayttoiat"};
 };

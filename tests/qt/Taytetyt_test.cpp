@@ -17,11 +17,15 @@
 #include "tests/qt/Ikkunatesti.h"
 #include "ui/Lampotilakuvaus.h"
 #include "ui/Tekstivarasto.h"
+#include "ui/frmEkoprofiili.h"
+#include "ui/frmElinkaarenYmparistoVaikutukset.h"
 #include "ui/frmEnergiamuotomuutokset.h"
 #include "ui/frmIVKoneYhteenveto.h"
 #include "ui/frmIlmanvaihtokone.h"
 #include "ui/frmJakaumaGraafi.h"
 #include "ui/frmKulutusluettelo.h"
+#include "ui/frmKustannukset.h"
+#include "ui/frmKustannusLaskennanOletusarvot.h"
 #include "ui/frmLTOhyotylaskenta.h"
 #include "ui/frmLammonTuotonJaJaonHaviot.h"
 #include "ui/frmLampoYhteenveto.h"
@@ -298,6 +302,39 @@ TEST_F(Taytetyt, TheTariffsFitTheirFields) {
 
 /// A laptop of 1366 × 768 whose desktop is shown at 125 %, less its title bar and panel.
 constexpr QSize kSuurennettuNaytto{1092, 560};
+
+TEST_F(Taytetyt, TheLifeCycleFormsFitAMagnifiedScreen) {
+  frmKustannukset kustannukset;
+  frmKustannusLaskennanOletusarvot oletukset;
+  frmElinkaarenYmparistoVaikutukset vaikutukset;
+  frmEkoprofiili profiili;
+  Luettelosisalto puu{{{{"Koko kohde", "1 234 567"}, "Kaikki"}, {{"Ulkoseinät", "234 567"}, "US1", "Kaikki"}}};
+  for (const ListView& lista : {kustannukset.puut[0], kustannukset.puut[1], vaikutukset.TreeView1}) lista.Tayta(puu);
+  kustannukset.cmbJasentelynValinta.Rivit({"Perustamiskustannukset rakennusosittain"});
+  kustannukset.cmbJasentelynValinta.Indeksi(0);
+  kustannukset.NaytaJasentely();
+  kustannukset.lblOletukset.Otsikko(
+      "Nykyarvoa ei lasketa, koska laskennan oletusarvoja ei ole annettu. Anna ne valikosta.");
+  for (const auto& laji : vaikutukset.lajit) laji.lblIlman.Otsikko("12,3 %");
+  vaikutukset.lblTiedot.Otsikko(
+      "Materiaaleja yhteensä: 2 345 678 kg, 12,3 % massasta ei ole mitään tietoa vaikutuksista.");
+  profiili.cmbLaji.Rivit({"Ilmaston lämpeneminen CO2-ekv"});
+  profiili.cmbLaji.Indeksi(0);
+  profiili.Picture1.Kaavio({.otsikko = "Ilmaston lämpeneminen CO2-ekv",
+                            .nimet = {"A1–A3 Materiaalit", "B6 Energia"},
+                            .sarjat = {{"Tämä kohde", {6.2, 24.8}}},
+                            .yksikko = "kg/m²"});
+  for (Lomake* lomake : std::initializer_list<Lomake*>{&kustannukset, &oletukset, &vaikutukset, &profiili}) {
+    for (const auto& ohjain : lomake->Ohjaimet())
+      if (ohjain->Tyyppi() == Ohjaintyyppi::TextBox) ohjain->Teksti("1 234 567,89");
+    lomake->Nayta();
+    OdotaMahtuvan(*lomake);
+    dynamic_cast<Dialogikehys&>(*Juuri(*lomake).window()).Mahduta(kSuurennettuNaytto);
+    QCoreApplication::processEvents();
+    const auto* alue = Juuri(*lomake).findChild<QScrollArea*>("qt_vieritysalue");
+    EXPECT_FALSE(alue->verticalScrollBar()->isVisible() || alue->horizontalScrollBar()->isVisible()) << lomake->Nimi();
+  }
+}
 
 TEST_F(Taytetyt, TheComparisonOfTariffsFitsItsFieldsAndASmallScreen) {
   frmSahkotariffiVertailu lomake;
