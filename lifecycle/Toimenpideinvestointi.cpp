@@ -31,6 +31,18 @@ Hankinta Hankittava(double hinta, double kayttoika, const Alvprosentit& alv) {
 
 }  // namespace
 
+Elinkaariluvut LaskeElinkaariluvut(const std::optional<Investointi>& investointi,
+                                   const std::optional<Elinkaarioletukset>& oletukset) {
+  constexpr double kProsentti = 100;
+  if (!investointi || !oletukset) return {};
+  const Investointilaskelma laskelma(*investointi, *oletukset);
+  Elinkaariluvut luvut{.nettonykyarvo = laskelma.Nettonykyarvo(),
+                       .takaisinmaksuaika = laskelma.DiskontattuTakaisinmaksuaika(),
+                       .energianHinta = laskelma.SaastetynEnergianHinta()};
+  if (const auto korko = laskelma.SisainenKorko()) luvut.sisainenKorko = *korko * kProsentti;
+  return luvut;
+}
+
 Investointi ToimenpiteenInvestointi(clsSaastotoimenpide& toimenpide, const Alvprosentit& alv) {
   const Hyodykkeet saasto = toimenpide.Saasto();
   const Hyodykkeet hinta =
@@ -38,6 +50,15 @@ Investointi ToimenpiteenInvestointi(clsSaastotoimenpide& toimenpide, const Alvpr
   return {.hankinnat = {Hankittava(toimenpide.Investointi, toimenpide.TekninenKayttoika, alv)},
           .saasto = Alvineen(hinta, alv),
           .energia = saasto.lampo + saasto.sahko};
+}
+
+std::optional<Investointi> RivinInvestointi(const clsValittuToimenpide& rivi, const clsSaastotoimenpiteet& toimenpiteet,
+                                            const Alvprosentit& alv) {
+  if (!rivi.TiedotUpToDate) return std::nullopt;
+  const clsSaastotoimenpide* toimenpide = toimenpiteet.Etsi(rivi.ToimenpidesKey);
+  return Investointi{.hankinnat = {Hankittava(rivi.Investointi, toimenpide ? toimenpide->TekninenKayttoika : 0, alv)},
+                     .saasto = Alvineen(Hyodykkeittain(rivi.Kustannussaasto()), alv),
+                     .energia = rivi.SaastoLampoEnergia + rivi.SaastoSahkoEnergia};
 }
 
 std::optional<Investointi> PaketinInvestointi(const clsToimenpiteidenJarjestelija& jarjestelija,

@@ -67,31 +67,22 @@ constexpr Tulos kHinnannousu[] = {
     Oletustulos<&clsElinkaari::VedenHinnannousu>("Vesi", tekstit::kVedenHinnannousu, "%", "0.0"),
 };
 
-Luku Prosentteina(Luku osuus) { return osuus ? Luku(*osuus * kProsentti) : std::nullopt; }
-
-/// A figure of an investment over the calculation period; nothing before its defaults are given, or when there is no
-/// investment to tell of.
-template <auto Suure, auto Hae>
+/// A figure of an investment over the calculation period.
+template <auto Luvun, auto Hae>
 Luku Laskelmasta(const Tuloskohde& kohde) {
   const auto oletukset = kohde.Omistaja<clsRakennus>().Elinkaari.Oletukset();
-  if (!oletukset) return std::nullopt;
-  const std::optional<Investointi> investointi = Hae(kohde);
-  return investointi ? Suure(Investointilaskelma(*investointi, *oletukset)) : std::nullopt;
+  return oletukset ? LaskeElinkaariluvut(Hae(kohde), oletukset).*Luvun : std::nullopt;
 }
-constexpr auto kNettonykyarvo = [](const Investointilaskelma& l) -> Luku { return l.Nettonykyarvo(); };
-constexpr auto kTakaisinmaksu = [](const Investointilaskelma& l) { return l.DiskontattuTakaisinmaksuaika(); };
-constexpr auto kKorko = [](const Investointilaskelma& l) { return Prosentteina(l.SisainenKorko()); };
-constexpr auto kEnergianHinta = [](const Investointilaskelma& l) { return l.SaastetynEnergianHinta(); };
 
 template <class Olio, auto Hae>
 constexpr std::array kInvestointitulokset{
-    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<kNettonykyarvo, Hae>(k); }>(
+    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<&Elinkaariluvut::nettonykyarvo, Hae>(k); }>(
         "Nettonykyarvo", tekstit::kNettonykyarvo, "€", "### ##0"),
-    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<kTakaisinmaksu, Hae>(k); }>(
+    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<&Elinkaariluvut::takaisinmaksuaika, Hae>(k); }>(
         "DiskontattuTakaisinmaksuaika", tekstit::kDiskontattuTakaisinmaksuaika, "a", "### ##0.0"),
-    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<kKorko, Hae>(k); }>(
+    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<&Elinkaariluvut::sisainenKorko, Hae>(k); }>(
         "SisainenKorko", tekstit::kSisainenKorko, "%", "### ##0.0"),
-    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<kEnergianHinta, Hae>(k); }>(
+    Ehkatulos<[](Olio&, const Tuloskohde& k) { return Laskelmasta<&Elinkaariluvut::energianHinta, Hae>(k); }>(
         "SaastetynEnergianHinta", tekstit::kSaastetynEnergianHinta, "€/MWh", "### ##0.00"),
 };
 

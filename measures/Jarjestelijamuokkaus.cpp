@@ -7,6 +7,8 @@
 #include "building/clsRakennus.h"
 #include "kernel/Luvut.h"
 #include "kernel/Virhe.h"
+#include "lifecycle/Toimenpideinvestointi.h"
+#include "lifecycle/clsElinkaari.h"
 #include "measures/Riviperuste.h"
 #include "measures/Toimenpidesarakkeet.h"
 #include "measures/Vesiputous.h"
@@ -29,7 +31,7 @@ namespace {
 using Rivi = clsValittuToimenpide;
 
 constexpr const char* kEiLukua = "---";
-constexpr int kNakymia = 4;
+constexpr int kElinkaarinakyma = 4, kNakymia = 5;
 
 }  // namespace
 
@@ -207,7 +209,17 @@ Luettelosisalto Jarjestelijamuokkaus::Toimenpiteet() {
 }
 
 Luettelorivi Jarjestelijamuokkaus::Bruttorivi(clsSaastotoimenpide& toimenpide) const {
-  return laskettu_ ? ToimenpiderivinSolut(ToimenpiteenRivi(toimenpide)) : LuvutonToimenpiderivi(toimenpide.Nimi);
+  if (!laskettu_) return LuvutonToimenpiderivi(toimenpide.Nimi);
+  Toimenpiderivi rivi = ToimenpiteenRivi(toimenpide);
+  rivi.elinkaari =
+      Elinkaari([&] { return std::optional(ToimenpiteenInvestointi(toimenpide, Asetukset().NaytettavatAlvt())); });
+  return ToimenpiderivinSolut(rivi);
+}
+
+/// Figures over the life for the view that shows them; none where the investment can't be told.
+Elinkaariluvut Jarjestelijamuokkaus::Elinkaari(const std::function<std::optional<Investointi>()>& investointi) const {
+  if (lomake_.cmbNakymatasonValinta.Indeksi() != kElinkaarinakyma) return {};
+  return LaskeElinkaariluvut(LaskeHiljaa(investointi).value_or(std::nullopt), rakennus_.Elinkaari.Oletukset());
 }
 
 Luettelosisalto Jarjestelijamuokkaus::Valitut() {
@@ -217,7 +229,13 @@ Luettelosisalto Jarjestelijamuokkaus::Valitut() {
 }
 
 Luettelorivi Jarjestelijamuokkaus::Nettorivi(const Rivi& rivi) {
-  Luettelorivi nakyva = ToimenpiderivinSolut(JarjestelijanRivi(rivi));
+  Toimenpiderivi luvut = JarjestelijanRivi(rivi);
+  luvut.elinkaari = Elinkaari([&] {
+    const Alvprosentit alv = Asetukset().NaytettavatAlvt();
+    return rivi.Tyyppi == Rivi::Yhteensa ? PaketinInvestointi(jarjestelija_, rakennus_.Saastotoimenpiteet, alv)
+                                         : RivinInvestointi(rivi, rakennus_.Saastotoimenpiteet, alv);
+  });
+  Luettelorivi nakyva = ToimenpiderivinSolut(luvut);
   nakyva.avain = rivi.sKey;
   nakyva.piirteet.lihava = rivi.Tyyppi != Rivi::Toimenpide;
   nakyva.piirteet.siirrettava = rivi.Tyyppi != Rivi::Yhteensa;

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "building/Muutosilmoitus.h"
+#include "lifecycle/Toimenpideinvestointi.h"
 #include "ui/Luettelo.h"
 #include "ui/frmToimenpiteidenJarjestelija.h"
 
@@ -41,6 +42,7 @@ class Jarjestelijamuokkaus {
   void PaivitaNapit();
   Luettelosisalto Toimenpiteet();
   Luettelorivi Bruttorivi(clsSaastotoimenpide& toimenpide) const;
+  Elinkaariluvut Elinkaari(const std::function<std::optional<Investointi>()>& investointi) const;
   Luettelosisalto Valitut();
   Luettelorivi Nettorivi(const clsValittuToimenpide& rivi);
   std::string Yhteenveto() const;

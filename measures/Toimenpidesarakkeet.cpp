@@ -9,6 +9,7 @@
 #include "measures/clsValittuToimenpide.h"
 #include "settings/clsLumivirtaAsetukset.h"
 #include "tekstit/hankinta_ja_toimenpiteet.h"
+#include "tekstit/lomakkeet_elinkaari.h"
 #include "tekstit/lomakkeet_toimenpideluettelo.h"
 #include "ui/Lomakekaannos.h"
 #include "ui/Tekstivarasto.h"
@@ -67,6 +68,16 @@ void Takaisinmaksu(Luettelorivi& solut, const Rivi& rivi, const Kertoimet&) {
     solut.solut.emplace_back("--");
 }
 
+/// A figure over the life; a dash where there is none.
+template <std::optional<double> Elinkaariluvut::*Luvun, bool Rahaa>
+void Elinkaari(Luettelorivi& solut, const Rivi& rivi, const Kertoimet&) {
+  if (const auto& luku = rivi.elinkaari.*Luvun)
+    solut.LisaaLuku(*luku * (Rahaa ? Asetukset().dblCurrencyConvCoeff : 1),
+                    Luvun == &Elinkaariluvut::nettonykyarvo ? kKokonaisina : "### ##0.0");
+  else
+    solut.solut.emplace_back(kEiLukua);
+}
+
 void Kohdentuminen(Luettelorivi& solut, const Rivi&, const Kertoimet&) {
   solut.solut.emplace_back("Koko kohde/Johtuminen/Tila1");
 }
@@ -80,12 +91,12 @@ struct Sarake {
 };
 
 constexpr Sarake kSarakkeet[] = {
-    {"KeyToimenpide", tekstit::kSarakeToimenpide, "0123", Nimi},
+    {"KeyToimenpide", tekstit::kSarakeToimenpide, "01234", Nimi},
     {"KeySaastoMKYht", tekstit::kSarakeSaastoYhteensa, "012",
      kLuku<[](const Rivi& r, const Kertoimet& k) { return Yhteensa(r.kustannukset, k); }>},
     {"KeyNettosaasto", tekstit::kSarakeNettosaasto, "012", Nettosaasto},
     {"KeyTakaisinmaksuaika", tekstit::kSarakeTakaisinmaksu, "2", Takaisinmaksu},
-    {"KeyInvestointi", tekstit::kSarakeInvestointi, "2",
+    {"KeyInvestointi", tekstit::kSarakeInvestointi, "24",
      kLuku<[](const Rivi& r, const Kertoimet& k) { return r.investointi * k.yleinen; }>},
     {"KeyLampoEnergiaSaasto", tekstit::kSarakeLampoEnergia, "12",
      kLuku<[](const Rivi& r, const Kertoimet&) { return r.saasto.lampo; }>},
@@ -113,6 +124,11 @@ constexpr Sarake kSarakkeet[] = {
     {"KeyPaastotLampoSaasto", tekstit::kSarakeLammonPaastot, "3", kVakio<800>},
     {"KeyPaastotSahkoSaasto", tekstit::kSarakeSahkonPaastot, "", kVakio<200>},
     {"KeyKohdentuminen", tekstit::kSarakeKohdentuminen, "", Kohdentuminen},
+    {"KeyNettonykyarvo", tekstit::kSarakeNettonykyarvo, "4", Elinkaari<&Elinkaariluvut::nettonykyarvo, true>},
+    {"KeyDiskontattuTakaisinmaksu", tekstit::kSarakeDiskontattuTakaisinmaksu, "4",
+     Elinkaari<&Elinkaariluvut::takaisinmaksuaika, false>},
+    {"KeySisainenKorko", tekstit::kSarakeSisainenKorko, "4", Elinkaari<&Elinkaariluvut::sisainenKorko, false>},
+    {"KeyEnergianHinta", tekstit::kSarakeSaastetynEnergianHinta, "4", Elinkaari<&Elinkaariluvut::energianHinta, true>},
 };
 
 /// Share of the list's width.

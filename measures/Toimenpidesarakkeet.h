@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "lifecycle/Toimenpideinvestointi.h"
 #include "measures/Hyodykkeet.h"
 #include "measures/Kustannussaastot.h"
 #include "ui/Ohjaimet.h"
@@ -22,6 +23,7 @@ struct Toimenpiderivi {
   const char* takaisinmaksukuvio = "### ##0";
   /// The measure's row in the arranger, if it stands there: its net saving is shown beside the one that it has alone.
   const clsValittuToimenpide* netto = nullptr;
+  Elinkaariluvut elinkaari{};  ///< for the view of the life cycle; € with VAT where amounts are shown so
 };
 
 /// A measure alone. Its figures are computed when they aren't valid; errors as in doing so.
@@ -37,8 +39,8 @@ Luettelorivi ToimenpiderivinSolut(const Toimenpiderivi& rivi);
 Luettelorivi LuvutonToimenpiderivi(const std::string& nimi);
 
 /// Lays the columns of a list of measures, with the headings in the present currency. They are the same in each list
-/// and each view; the view (0 money, 1 energy and water, 2 all, 3 emissions) tells which of them have width. The net
-/// saving has it only on request.
+/// and each view; the view (0 money, 1 energy and water, 2 all, 3 emissions, 4 life cycle) tells which of them have
+/// width. The net saving has it only on request.
 void AsetaToimenpidesarakkeet(const ListView& lista, int nakyma, bool netto = false);
 
 /// Place of a column of lists of measures by its key, e.g. "KeyInvestointi". Raises std::out_of_range.

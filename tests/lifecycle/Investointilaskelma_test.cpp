@@ -5,6 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <fstream>
+#include <iterator>
+
+#include "kernel/Luvut.h"
+#include "tests/tuki/Lahdekoodi.h"
 
 namespace {
 
@@ -76,6 +81,20 @@ TEST_F(Investoinnit, WhatDoesntPayBackHasNoPayback) {
   oletukset.pitoaika = 0;
   EXPECT_EQ(Laskelma().Nettonykyarvo(), 0);
   EXPECT_FALSE(Laskelma().SaastetynEnergianHinta());
+}
+
+TEST_F(Investoinnit, TheGuidesExampleIsWhatIsComputed) {
+  std::ifstream tiedosto(Lahdekoodi("docs/opas/elinkaari.md"));
+  const std::string opas{std::istreambuf_iterator<char>(tiedosto), {}};
+  const auto kerrotaan = [&](double luku, const char* kuvio, const char* ennen, const char* jalkeen) {
+    const std::string teksti = ennen + Muotoile(luku, kuvio) + jalkeen;
+    EXPECT_NE(opas.find(teksti), std::string::npos) << teksti;
+  };
+  kerrotaan(Nykyarvokerroin(20, 0.05), "0.00", "Nykyarvokerroin on ", ", joten");
+  kerrotaan(Laskelma().Nettonykyarvo(), "### ##0", "= ", " €");
+  kerrotaan(*Laskelma().DiskontattuTakaisinmaksuaika(), "0.0", "takaisinmaksuaika on ", " vuotta");
+  kerrotaan(*Laskelma().SisainenKorko() * 100, "0.0", "sisäinen korko on ", " %");
+  kerrotaan(*Laskelma().SaastetynEnergianHinta(), "0.00", "= ", " €/MWh");
 }
 
 }  // namespace

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The arranger's window: ticking, moving, when it computes, what it follows, and its picture.
+#include <algorithm>
 #include <numeric>
 
+#include "kernel/Luvut.h"
+#include "lifecycle/clsElinkaari.h"
 #include "measures/Riviperuste.h"
+#include "measures/Toimenpidesarakkeet.h"
 #include "measures/Vesiputous.h"
 #include "supply/clsTariffiVertailuTapaus.h"
 #include "tests/kernel/Koehakemisto.h"
@@ -70,6 +74,32 @@ class Jarjestelijaikkuna : public JarjestelijaTesti {
 };
 
 const Rivit kKolme{"Valitut yhteensä", "Lämpötila", "Eristys", "Talteenotto"};
+
+TEST_F(Jarjestelijaikkuna, TheLifeCycleViewHasAFigureForEachMeasureAndForThePackage) {
+  eristys.Investointi = 1000;
+  AvaaValinnoin();
+  const auto solu = [this](const char* lista, std::size_t rivi, const char* avain) {
+    return L().Etsi(lista).Rivit().at(rivi).at(static_cast<std::size_t>(Toimenpidesarake(avain)));
+  };
+  L().KayttajaValitsee("cmbNakymatasonValinta", "Elinkaari");
+  EXPECT_EQ(solu(kNetto, 0, "KeyNettonykyarvo"), "---") << "no defaults are given";
+  L().KayttajaPainaa("cmdPeruuta");
+  rakennus->Elinkaari.OletuksetAnnettu = true;
+  rakennus->Elinkaari.Pitoaika = 20;
+  rakennus->Elinkaari.Korkokanta = 5;
+  Avaa();
+  const auto luvut = LaskeElinkaariluvut(PaketinInvestointi(jarjestelija, toimenpiteet, Asetukset().NaytettavatAlvt()),
+                                         rakennus->Elinkaari.Oletukset());
+  ASSERT_TRUE(luvut.nettonykyarvo);
+  EXPECT_EQ(solu(kNetto, 0, "KeyNettonykyarvo"), Muotoile(*luvut.nettonykyarvo, "### ##0"));
+  const auto yksin = LaskeElinkaariluvut(ToimenpiteenInvestointi(eristys, Asetukset().NaytettavatAlvt()),
+                                         rakennus->Elinkaari.Oletukset());
+  const auto& nimet = L().Etsi(kBrutto).Rivit();
+  const auto rivi = std::ranges::find(nimet, "Eristys", [](const auto& solut) { return solut.front(); });
+  EXPECT_EQ(solu(kBrutto, static_cast<std::size_t>(rivi - nimet.begin()), "KeyDiskontattuTakaisinmaksu"),
+            yksin.takaisinmaksuaika ? Muotoile(*yksin.takaisinmaksuaika, "### ##0.0") : "---");
+  EXPECT_EQ(L().Etsi(kBrutto).Osat().at(static_cast<std::size_t>(Toimenpidesarake("KeyLampoEnergiaSaasto"))).leveys, 0);
+}
 
 TEST_F(Jarjestelijaikkuna, EachActionIsOneStepAndComputedAtOnce) {
   Avaa();
