@@ -11,6 +11,7 @@
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsEnergianHankinta.h"
 #include "tekstit/rakennus.h"
+#include "tekstit/raportti.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 
@@ -26,7 +27,7 @@ Tekstitaulu Taulu(Tekstinumero otsikko) {
   const std::string& valuutta = Asetukset().strDefaultCurrencyUnit;
   return Tekstitaulu({Teksti(otsikko), Teksti(tekstit::kLampoMWh), Teksti(tekstit::kSahkoMWh), Teksti(tekstit::kVesiM3),
                       valuutta + "/a", Teksti(tekstit::kToimenpiteenInvestointi) + ", " + valuutta,
-                      Teksti(tekstit::kToimenpiteenTakaisinmaksuaika) + ", a"});
+                      Teksti(tekstit::kRapTakaisinmaksu) + ", a"});
 }
 
 /// The yearly saving of costs is in euros with its VAT, the investment without.
@@ -69,7 +70,7 @@ void LisaaTariffein(Tekstitaulu& taulu, clsSaastotoimenpide& toimenpide) try {
 void KirjoitaTariffein(std::ostream& tulos, clsRakennus& rakennus) {
   const std::string& valuutta = Asetukset().strDefaultCurrencyUnit;
   Tekstitaulu taulu({Teksti(tekstit::kHankinnatTariffein), valuutta + "/a",
-                     Teksti(tekstit::kToimenpiteenTakaisinmaksuaika) + ", a", "t CO₂-ekv/a"});
+                     Teksti(tekstit::kRapTakaisinmaksu) + ", a", "t CO₂-ekv/a"});
   bool hankintoja = false;
   for (clsSaastotoimenpide& toimenpide : rakennus.Saastotoimenpiteet)
     if (toimenpide.MuuttuneetAttribuutit.TyypinNimi == clsEnergianHankinta::kLuokka.Nimi()) {

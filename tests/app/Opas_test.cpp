@@ -212,7 +212,7 @@ TEST_F(OppaanEsimerkki, ListsOfConsumers) {
     EXPECT_NE(opas.find(luku), std::string::npos) << luku;
 }
 
-TEST_F(OppaanEsimerkki, ListOfMeasures) {
+TEST_F(OppaanKoulu, ListOfMeasures) {
   AsetaQtLomakkeet(nullptr);
   clsSaastotoimenpiteet& toimenpiteet = rakennus().Saastotoimenpiteet;
   ASSERT_GT(toimenpiteet.Count(), 0);
