@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "batch/Tarkistusyhteenveto.h"
 #include "batch/Toimenpidelaskenta.h"
 #include "batch/Tulokset.h"
 #include "building/Tasehaarukka.h"
@@ -205,6 +206,8 @@ bool KirjoitaJson(JsonKirjoitin& json, const std::string& tiedosto, clsRakennus&
   json.Avain("Tiedosto");
   json.Arvo(tiedosto);
   tulokset.Rivit({rakennus}, kJuuri);
+  json.Avain("Tarkistukset");
+  KirjoitaTarkistukset(json, rakennus);
   KirjoitaViestit(json, tulokset, viestit);
   json.LopetaOlio();
   return json.Tyhjia() == 0 && tulokset.Virheet().empty();

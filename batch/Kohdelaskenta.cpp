@@ -3,6 +3,7 @@
 
 #include <sstream>
 
+#include "batch/Tarkistusyhteenveto.h"
 #include "batch/Tulokset.h"
 #include "batch/Viestinkeruu.h"
 #include "building/Yhteiset.h"
@@ -29,6 +30,9 @@ Laskettu LaskeKohde(const std::string& tiedosto, Tulostusmuoto muoto, int syvyys
       JsonKirjoitin json(tulos, syvyys);
       laskettu.onnistui = KirjoitaJson(json, tiedosto, rakennus, viestit);
       if (!laskettu.onnistui) LisaaVirhe(laskettu, tiedosto, "osaa tuloksista ei voitu laskea, syyt: Viestit.");
+    } else if (muoto == Tulostusmuoto::Tarkistukset) {
+      KirjoitaTarkistukset(tulos, tiedosto, rakennus);
+      laskettu.onnistui = true;
     } else {
       KirjoitaYhteenveto(tulos, tiedosto, rakennus, viestit);
       laskettu.onnistui = true;

@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-enum class Tulostusmuoto { Yhteenveto, Json };
+enum class Tulostusmuoto { Yhteenveto, Json, Tarkistukset };
 
 /// What one project file gives: the text for the output, what is told on standard error, and whether every result could
 /// be computed.

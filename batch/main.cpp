@@ -19,12 +19,13 @@
 namespace {
 
 constexpr const char* kOhje =
-    "Käyttö: lumivirta-laske [--json] [--rinnakkain=N] KOHDE.lvt...\n"
+    "Käyttö: lumivirta-laske [--json | --tarkista] [--rinnakkain=N] KOHDE.lvt...\n"
     "        lumivirta-laske --toimenpide NIMI --vie UUSI.lvt KOHDE.lvt\n"
     "        lumivirta-laske --raportti RAPORTTI.xlsx|RAPORTTI.pdf KOHDE.lvt\n"
     "        lumivirta-laske [--rinnakkain=N] --salkku SALKKU.xlsx KOHDE.lvt...\n"
     "Laskee kohdetiedostojen lämpötaseen. Tiedostoja ei muuteta.\n"
     "  --json         tulokset JSON-muodossa: yksi olio, usealle tiedostolle taulukko\n"
+    "  --tarkista     mitä kohteista puuttuu ja mikä niissä on ristiriitaista tai epätodennäköistä\n"
     "  --rinnakkain=N montako tiedostoa lasketaan yhtä aikaa; oletus on suorittimien määrä\n"
     "  --toimenpide NIMI --vie UUSI.lvt\n"
     "                 kirjoittaa uuden kohteen, jossa säästötoimenpide on toteutettu; nimi tai avain\n"
@@ -33,7 +34,8 @@ constexpr const char* kOhje =
     "  --salkku TIEDOSTO.xlsx\n"
     "                 kirjoittaa kohteet taulukoksi, rivi kohdetta kohti, eniten säästävä ensin\n"
     "  --help         tämä ohje\n"
-    "Paluuarvo on 0, kun kaikki on laskettu, 1, kun jotain ei voitu laskea, ja 2, kun komento on virheellinen.\n";
+    "Paluuarvo on 0, kun kaikki on laskettu, havaintoja tai ei, 1, kun jotain ei voitu laskea, ja 2, kun komento on "
+    "virheellinen.\n";
 constexpr std::string_view kRinnakkain = "--rinnakkain=";
 
 struct Komento {
@@ -46,7 +48,7 @@ struct Komento {
   bool OnVienti() const { return !toimenpide.empty() || !vie.empty(); }
   bool OnKelvollinen() const {
     if (ohje) return true;
-    if (OnVienti() + !raportti.empty() + !salkku.empty() + (muoto == Tulostusmuoto::Json) > 1) return false;
+    if (OnVienti() + !raportti.empty() + !salkku.empty() + (muoto != Tulostusmuoto::Yhteenveto) > 1) return false;
     if (!raportti.empty()) return tiedostot.size() == 1 && OnRaporttitiedosto(raportti);
     if (!salkku.empty() && !salkku.ends_with(".xlsx")) return false;
     if (!OnVienti()) return !tiedostot.empty();
@@ -66,6 +68,7 @@ std::string* Arvollinen(std::string_view sana, Komento& komento) {
 /// Reads one option; false when there is none such.
 bool LueValitsin(std::string_view sana, Komento& komento) {
   if (sana == "--json") return komento.muoto = Tulostusmuoto::Json, true;
+  if (sana == "--tarkista") return komento.muoto = Tulostusmuoto::Tarkistukset, true;
   if (sana == "--help") return komento.ohje = true;
   if (!sana.starts_with(kRinnakkain)) return false;
   sana.remove_prefix(kRinnakkain.size());

@@ -7,6 +7,7 @@
 #include "building/clsRakennus.h"
 #include "building/clsTilat.h"
 #include "building/modAlkuarvojaRakennukseen.h"
+#include "checks/Tarkistusrajat.h"
 #include "consumers/clsSahkonKulutusryhmat.h"
 #include "consumers/clsVedenKulutusryhmat.h"
 #include "kernel/Tulos.h"
@@ -29,8 +30,6 @@
 #include "ventilation/clsIVKoneet.h"
 
 namespace {
-
-constexpr double kSuuriMaanvarainenU = 1.0;  // W/m²K
 
 /// "The part, and the rest": how the panel tells that the generation goes on.
 class Vaiheet {
@@ -143,7 +142,7 @@ void clsRakennus::VaroitaMaanvaraisista() const {
   for (const clsTila& tila : Tilat) {
     const Laskentakohde tilassa(tila.TilanNimi);
     for (const clsRakenne& rakenne : tila.Rakenteet) {
-      if (rakenne.TyyppiID != kMaa || rakenne.U_arvo() <= kSuuriMaanvarainenU) continue;
+      if (rakenne.TyyppiID != kMaa || rakenne.U_arvo() <= tarkistusraja::kSuuriMaanvarainenU) continue;
       const std::string nimi = Teksti(tekstit::kRakenne) + " " + rakenne.NaytettavaNimi();
       const Laskentakohde kohde(nimi, Laskentakohde::Tapa::Omistajineen);
       NaytaVirhe(virheet::kSuuriUArvo);

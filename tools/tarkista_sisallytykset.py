@@ -7,7 +7,7 @@ import re
 
 from lahteet import lahteet, lopeta, rivit
 
-MALLI = {"building", "ventilation", "consumers", "supply", "measures", "lifecycle", "results", "settings"}
+MALLI = {"building", "ventilation", "consumers", "supply", "measures", "lifecycle", "results", "settings", "checks"}
 # layer: the layers that it may include besides itself
 SALLITUT = {
     "kernel": set(),

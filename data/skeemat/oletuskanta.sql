@@ -33,6 +33,20 @@ CREATE TABLE Lammitystarveluku (
     Tila TEXT NOT NULL,  -- how sure S17 is
     PRIMARY KEY (PaikkakuntaID, Vuosi)
 );
+-- What buildings of a use type usually use in a year, to tell of a measured figure that is out of it. Bounds beyond
+-- which a figure deserves a second look, no quartiles. A use type may have several rows, such as sub-kinds.
+CREATE TABLE Ominaiskulutus (
+    Ryhma TEXT NOT NULL,
+    Koodit TEXT NOT NULL CHECK (Koodit <> ''),  -- use types, divided by ";"
+    Suure TEXT NOT NULL CHECK (Suure IN ('lampo', 'sahko', 'vesi')),
+    Yksikko TEXT NOT NULL CHECK (Yksikko IN ('kWh/m²,a', 'kWh/m³,a', 'dm³/m³,a')),
+    Alaraja REAL NOT NULL CHECK (Alaraja >= 0),
+    Keskimmainen REAL NOT NULL CHECK (Keskimmainen BETWEEN Alaraja AND Ylaraja),
+    Ylaraja REAL NOT NULL,
+    Lahde TEXT NOT NULL,
+    Tila TEXT NOT NULL,  -- how sure the figures are
+    PRIMARY KEY (Ryhma, Koodit, Suure, Yksikko)
+);
 CREATE TEMP TABLE Mitattu (PaikkakuntaID INTEGER, Vuosi INTEGER, S17 REAL, Lahde TEXT, Tila TEXT);
 -- Tasokerroin: the locality's normal-year figure of the program / the normal of the same years at the station measured.
 CREATE TEMP TABLE Paikkakunta (Numero INTEGER PRIMARY KEY, Nimi TEXT NOT NULL, Tasokerroin REAL NOT NULL);

@@ -10,6 +10,7 @@
 #include "results/raportti/Raporttiaineisto.h"
 #include "settings/clsKatselmoijienTiedot.h"
 #include "tekstit/raportti.h"
+#include "tekstit/tarkistukset.h"
 #include "ui/Hiljaa.h"
 #include "ui/Tekstivarasto.h"
 
@@ -28,6 +29,7 @@ constexpr Raporttiosarivi kOsat[] = {
     {"Rakenteet", tekstit::kRapOsaRakenteet, raportti::Rakenneluettelo, true},
     {"Hinnat", tekstit::kRapOsaHinnat, raportti::Hinnat, true},
     {"Lahteet", tekstit::kRapOsaLahteet, raportti::Lahteet, true},
+    {"Tarkistukset", tekstit::kRapOsaTarkistukset, raportti::Tarkistukset, true},
 };
 
 /// 1, 2, ... for chapters, "Liite A", "Liite B", ... for appendices.

@@ -39,4 +39,5 @@ void Paketti(Raportinosa& osa, Raporttiaineisto& aineisto);
 void Rakenneluettelo(Raportinosa& osa, Raporttiaineisto& aineisto);
 void Hinnat(Raportinosa& osa, Raporttiaineisto& aineisto);
 void Lahteet(Raportinosa& osa, Raporttiaineisto& aineisto);
+void Tarkistukset(Raportinosa& osa, Raporttiaineisto& aineisto);
 }  // namespace raportti

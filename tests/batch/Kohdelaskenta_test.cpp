@@ -281,6 +281,25 @@ TEST_F(ToimenpidekohdeTesti, AMeasureIsCarriedOutInANewFile) {
   }
 }
 
+TEST_F(KohdelaskentaTesti, FindingsAreToldByLevelAndDontFailTheRun) {
+  const std::string tiedosto = Muutettu(
+      "UPDATE clsToteutunutKulutus SET KaytaVertailuVuotena = 0; UPDATE clsEnergiamuoto SET OsuusNettotarpeesta = 50 "
+      "WHERE Tyyppi = 0");
+  const Ajo ajo = Aja("--tarkista '" + tiedosto + "'");
+  EXPECT_EQ(ajo.paluuarvo, 0) << ajo.virheet;
+  EXPECT_TRUE(ajo.tuloste.starts_with("Koulu 1965  (" + tiedosto +
+                                      ")\n  Ristiriidat\n    Lämmön hankinta: Energiamuotojen "
+                                      "osuudet ovat yhteensä 50 %"))
+      << ajo.tuloste;
+  EXPECT_TRUE(Sisaltaa(ajo.tuloste, "\n  Puutteet\n    Koulu 1965: Vertailuvuotta ei ole valittu."));
+  const std::string json = LaskeKohde(tiedosto, Tulostusmuoto::Json, 0).tulos;
+  EXPECT_TRUE(Sisaltaa(json,
+                       "\"Tarkistukset\": [\n    {\n      \"Nimi\": \"OsuudetEivatTayta\",\n      \"Taso\": "
+                       "\"ristiriita\",\n      \"Kohde\": \"Lämmön hankinta\",\n      \"Teksti\": "))
+      << json.substr(json.find("\"Tarkistukset\""), 600);
+  EXPECT_EQ(Aja("--tarkista puuttuu.lvt").paluuarvo, 1);
+}
+
 TEST_F(KohdelaskentaTesti, AFaultyCommandTellsTheUsage) {
   for (const char* sanat : {"", "--xml a.lvt", "--rinnakkain=0 a.lvt", "--rinnakkain=2x a.lvt", "a.lvt --vie",
                             "--vie b.lvt a.lvt", "--toimenpide t --vie c.lvt a.lvt b.lvt"}) {

@@ -173,6 +173,13 @@ class Oletuskanta(unittest.TestCase):
             self.assertAlmostEqual(luku / mitattu, 4366 / 4105 if paikka == 1 else 1, delta=0.0003)
         self.assertEqual({paikka for paikka, *_ in rivit}, set(range(16)))
 
+    def test_usual_use_is_of_known_use_types_and_sure_as_told(self):
+        for koodit, yksikko, suure, lahde, tila in hae("Oletuskanta.mdb", "SELECT Koodit, Yksikko, Suure, Lahde, Tila FROM Ominaiskulutus"):
+            self.assertLessEqual({int(koodi) for koodi in koodit.split(";")}, set(KOODIT), koodit)
+            self.assertEqual(yksikko.startswith("dm³"), suure == "vesi", koodit)
+            self.assertTrue(lahde, koodit)
+            self.assertIn(tila, Kulutusluettelo.TILAT, koodit)
+
     def test_a_use_type_gets_the_walls_of_its_way_of_building(self):
         def seina(koodi, vuosi):
             kerrokset = hae("Rakennekirjasto/Tietokanta_perus.mdb", "SELECT MateriaaliId FROM Kerros WHERE RakenneId = ?",
