@@ -28,7 +28,7 @@ std::string Ryhmaotsikko(const std::string& ryhma) {
   return ryhma;
 }
 
-Poimintalomake::Rivi Naytettava(const Ehdotus& ehdotus) {
+Poimintalomake::Rivi Naytettava(const Elinkaariehdotus& ehdotus) {
   Poimintalomake::Rivi rivi;
   rivi.rivi.avain = ehdotus.Id;
   rivi.rivi.solut = {ehdotus.Nimi};
@@ -44,11 +44,11 @@ Poimintalomake::Rivi Naytettava(const Ehdotus& ehdotus) {
 
 }  // namespace
 
-std::vector<Ehdotus> LueEhdotukset(Ehdotuslaji laji) try {
+std::vector<Elinkaariehdotus> LueEhdotukset(Ehdotuslaji laji) try {
   const Tietokanta kanta(Aineistotiedosto("Elinkaariehdotukset.mdb"));
   Kysely kysely(kanta, std::string("SELECT Id, Ryhma, Nimi, Arvo, Pienin, Suurin, Yksikko, Lahde, Tila FROM ") +
                            kTaulut[static_cast<std::size_t>(laji)] + " ORDER BY rowid");
-  std::vector<Ehdotus> ehdotukset;
+  std::vector<Elinkaariehdotus> ehdotukset;
   while (kysely.Seuraava()) {
     const auto teksti = [&](int sarake) { return std::string(kysely.Teksti(sarake)); };
     ehdotukset.push_back({teksti(0), teksti(1), teksti(2), kysely.Luku(3), kysely.Luku(4), kysely.Luku(5), teksti(6),
@@ -59,18 +59,18 @@ std::vector<Ehdotus> LueEhdotukset(Ehdotuslaji laji) try {
   NostaVirhe("Elinkaariehdotukset:LueEhdotukset Function");
 }
 
-std::optional<Ehdotus> PoimiEhdotus(Ehdotuslaji laji) try {
-  const std::vector<Ehdotus> ehdotukset = LueEhdotukset(laji);
+std::optional<Elinkaariehdotus> PoimiEhdotus(Ehdotuslaji laji) try {
+  const std::vector<Elinkaariehdotus> ehdotukset = LueEhdotukset(laji);
   std::vector<std::string> otsikot;
-  const auto naytettava = [&](const Ehdotus& ehdotus) {
+  const auto naytettava = [&](const Elinkaariehdotus& ehdotus) {
     Poimintalomake::Rivi rivi = Naytettava(ehdotus);
     rivi.ryhma = static_cast<int>(std::ranges::find(otsikot, Ryhmaotsikko(ehdotus.Ryhma)) - otsikot.begin());
     return rivi;
   };
-  for (const Ehdotus& ehdotus : ehdotukset)
+  for (const Elinkaariehdotus& ehdotus : ehdotukset)
     if (std::string otsikko = Ryhmaotsikko(ehdotus.Ryhma); std::ranges::find(otsikot, otsikko) == otsikot.end())
       otsikot.push_back(std::move(otsikko));
-  const Ehdotus* poimittu = frmElinkaariehdotukset().PoimiRivi(ehdotukset, otsikot, naytettava);
+  const Elinkaariehdotus* poimittu = frmElinkaariehdotukset().PoimiRivi(ehdotukset, otsikot, naytettava);
   return poimittu ? std::optional(*poimittu) : std::nullopt;
 } catch (...) {
   NostaVirhe("Elinkaariehdotukset:PoimiEhdotus Function");

@@ -12,7 +12,7 @@ enum class Ehdotuslaji {
 };
 
 /// A value that the person may take; the program takes none by itself.
-struct Ehdotus {
+struct Elinkaariehdotus {
   std::string Id;
   std::string Ryhma;
   std::string Nimi;
@@ -25,7 +25,7 @@ struct Ehdotus {
 };
 
 /// The rows in the catalogue's order. Raises error 9999 when it can't be read.
-std::vector<Ehdotus> LueEhdotukset(Ehdotuslaji laji);
+std::vector<Elinkaariehdotus> LueEhdotukset(Ehdotuslaji laji);
 
 /// Lets the person pick a row; nothing when none was picked. Raises error 9999 as above.
-std::optional<Ehdotus> PoimiEhdotus(Ehdotuslaji laji);
+std::optional<Elinkaariehdotus> PoimiEhdotus(Ehdotuslaji laji);

@@ -104,7 +104,7 @@ TEST_F(Elinkaariikkunat, AnOverriddenFeeIsMarkedAndTheModelsComesBack) {
 TEST_F(Elinkaariikkunat, AStructuresAmountFollowsTheModelAndAProposalIsTakenWithItsUnit) {
   const Kustannuspuu puu(*rakennus, Kustannuspuu::Laji::Perustaminen);
   const Kustannuspuu::Solmu& seina = puu.Solmut()[static_cast<std::size_t>(puu.Etsi("US1")->lapset[0])];
-  const Ehdotus ehdotus = LueEhdotukset(Ehdotuslaji::Yksikkohinta).front();
+  const Elinkaariehdotus ehdotus = LueEhdotukset(Ehdotuslaji::Yksikkohinta).front();
   ikkunat.KunNaytetaan("frmElinkaariehdotukset", [&](Ikkunaton& l) {
     EXPECT_NE(l.Teksti("lblSelite").find("Lähde"), std::string::npos);
     l.KayttajaValitsee("lvwRivit", ehdotus.Nimi);
