@@ -52,7 +52,7 @@ TEST_F(TilannekuvaTesti, EveryPartOfTheObjectButItsFileComesBack) {
     rakennus->PalautaTilannekuva(*kuva);
     EXPECT_EQ(rakennus->Sormenjalki(), ennen) << jasen.nimi;
   }
-  EXPECT_EQ(osia, 12);
+  EXPECT_EQ(osia, 14);
   rakennus->MuuLampo = 5;
   rakennus->ProjektiAsetukset.strCurrentProjectFile = "B.lvt";
   EXPECT_NE(rakennus->Sormenjalki(), ennen);
