@@ -60,5 +60,5 @@ void KirjoitaHankinta(std::ostream& tulos, clsRakennus& rakennus) {
   taulu.Tulosta(tulos);
   tulos << '\n';
   KirjoitaKustannukset(tulos, rakennus);
-  tulos << "  " << Rahaperuste() << "\n\n";
+  tulos << "  " << Alvperuste() << "\n  " << Valuuttaperuste() << "\n\n";
 }

@@ -11,7 +11,6 @@
 #include "settings/clsLumivirtaAsetukset.h"
 #include "supply/clsEnergianHankinta.h"
 #include "tekstit/rakennus.h"
-#include "tekstit/raportti.h"
 #include "tekstit/tulokset.h"
 #include "ui/Tekstivarasto.h"
 
@@ -27,7 +26,7 @@ Tekstitaulu Taulu(Tekstinumero otsikko) {
   const std::string& valuutta = Asetukset().strDefaultCurrencyUnit;
   return Tekstitaulu({Teksti(otsikko), Teksti(tekstit::kLampoMWh), Teksti(tekstit::kSahkoMWh), Teksti(tekstit::kVesiM3),
                       valuutta + "/a", Teksti(tekstit::kToimenpiteenInvestointi) + ", " + valuutta,
-                      Teksti(tekstit::kRapTakaisinmaksu) + ", a"});
+                      Teksti(tekstit::kMaksuaika) + ", a"});
 }
 
 /// The yearly saving of costs is in euros with its VAT, the investment without.
@@ -69,8 +68,8 @@ void LisaaTariffein(Tekstitaulu& taulu, clsSaastotoimenpide& toimenpide) try {
 
 void KirjoitaTariffein(std::ostream& tulos, clsRakennus& rakennus) {
   const std::string& valuutta = Asetukset().strDefaultCurrencyUnit;
-  Tekstitaulu taulu({Teksti(tekstit::kHankinnatTariffein), valuutta + "/a",
-                     Teksti(tekstit::kRapTakaisinmaksu) + ", a", "t CO₂-ekv/a"});
+  Tekstitaulu taulu(
+      {Teksti(tekstit::kHankinnatTariffein), valuutta + "/a", Teksti(tekstit::kMaksuaika) + ", a", "t CO₂-ekv/a"});
   bool hankintoja = false;
   for (clsSaastotoimenpide& toimenpide : rakennus.Saastotoimenpiteet)
     if (toimenpide.MuuttuneetAttribuutit.TyypinNimi == clsEnergianHankinta::kLuokka.Nimi()) {

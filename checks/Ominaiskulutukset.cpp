@@ -10,7 +10,7 @@ std::vector<Ominaiskulutus> HaeOminaiskulutukset(int kayttotarkoituskoodi, std::
   Kysely kysely(kanta,
                 "SELECT Ryhma, Yksikko, Alaraja, Ylaraja, Lahde || '; ' || Tila FROM Ominaiskulutus "
                 "WHERE instr(';' || Koodit || ';', ';' || ?1 || ';') AND Suure = ?2 ORDER BY rowid",
-                kayttotarkoituskoodi, std::string(suure));
+                kayttotarkoituskoodi, suure);
   std::vector<Ominaiskulutus> rivit;
   while (kysely.Seuraava())
     rivit.push_back({std::string(kysely.Teksti(0)), std::string(kysely.Teksti(1)), kysely.Luku(2), kysely.Luku(3),

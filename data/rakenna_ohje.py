@@ -37,7 +37,7 @@ p.kaava { margin-left: 28px; margin-top: 6px; margin-bottom: 6px; font-family: s
 p.kuva { line-height: 100%; margin-top: 8px; margin-bottom: 12px; }
 p.selaus { margin-top: 24px; }
 pre, code { font-family: monospace; }
-pre { font-size: 8pt; margin-left: 12px; margin-top: 8px; margin-bottom: 8px; }
+pre { font-size: 7.5pt; margin-left: 4px; margin-top: 8px; margin-bottom: 8px; }
 """
 
 

@@ -81,9 +81,9 @@ class Kysely {
  public:
   Kysely(const Tietokanta& kanta, std::string_view sql);
   template <class... Arvot>
-  Kysely(const Tietokanta& kanta, std::string_view sql, const Arvot&... arvot) : Kysely(kanta, sql) {
+  Kysely(const Tietokanta& kanta, std::string_view sql, Arvot&&... arvot) : Kysely(kanta, sql) {
     int paikka = 0;
-    (Sido(++paikka, arvot), ...);
+    (Sido(++paikka, std::forward<Arvot>(arvot)), ...);
   }
 
   void Sido(int paikka, std::int64_t arvo);
@@ -94,6 +94,7 @@ class Kysely {
   void Sido(int paikka, std::string_view teksti);
   void Sido(int paikka, const char* teksti) { Sido(paikka, std::string_view(teksti)); }
   void Sido(int paikka, const std::string& teksti) { Sido(paikka, std::string_view(teksti)); }
+  void Sido(int paikka, std::string&& teksti) = delete;
   void SidoTyhja(int paikka);
 
   /// Moves to the next row; false when there are no more.

@@ -11,6 +11,8 @@ namespace {
 
 std::string Prosentteina(double luku) { return Muotoile(luku, "0.##") + " %"; }
 
+}  // namespace
+
 std::string Alvperuste() {
   const clsLumivirtaAsetukset& a = Asetukset();
   if (!a.KaytaKohtTulostuksissaALVHintoja) return Teksti(tekstit::kKustannuksetIlmanAlvia);
@@ -18,14 +20,14 @@ std::string Alvperuste() {
          Prosentteina(a.dblSahkoALV) + ", " + Prosentteina(a.dblVesiALV) + ".";
 }
 
-}  // namespace
-
-std::string Rahaperuste() {
+std::string Valuuttaperuste() {
   const clsLumivirtaAsetukset& a = Asetukset();
   std::string valuutta = Teksti(tekstit::kRahayksikko) + " " + a.strDefaultCurrencyUnit;
   if (a.dblCurrencyConvCoeff != 1)
     valuutta += " (1 € = " + Muotoile(a.dblCurrencyConvCoeff, "0.#####") + " " + a.strDefaultCurrencyUnit + ")";
-  return Alvperuste() + " " + valuutta + ".";
+  return valuutta + ".";
 }
+
+std::string Rahaperuste() { return Alvperuste() + " " + Valuuttaperuste(); }
 
 std::string Paastoperuste() { return Teksti(tekstit::kPaastojenPeruste); }

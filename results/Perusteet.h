@@ -4,7 +4,9 @@
 
 // What shown figures rest on, as whole sentences for a window, a report or a text.
 
-/// The currency, and whether the amounts hold VAT, by the settings in force.
+/// Whether amounts hold VAT, and their currency, by the settings in force; both together.
+std::string Alvperuste();
+std::string Valuuttaperuste();
 std::string Rahaperuste();
 /// How the emissions of measured and of calculated use are computed.
 std::string Paastoperuste();

@@ -38,7 +38,8 @@ LISTOJEN_RIVIT = {
     "frmTarkennettuVesiLaskenta.cmbLaskentaOminaissuure": 7, "frmTarkennettuVesiLaskenta.cmbLaskentayksikko": 7,
     "frmTarkennettuVesiLaskenta.cmb_hPer_d": 7, "frmSahkotariffi.cmbSahkoVeroTyyppi": 3, "frmEmuo3.cmbKanta": 2,
     "frmToimenpiteidenJarjestelija.cmbVaihtoehtoSuodatus": 6,
-    "frmToimenpiteidenJarjestelija.cmbNakymatasonValinta": 4, "frmSaastoToimenpiteet.cmbNakymatasonValinta": 4,
+    "frmToimenpiteidenJarjestelija.cmbNakymatasonValinta": 5, "frmSaastoToimenpiteet.cmbNakymatasonValinta": 4,
+    "frmToimenpiteidenJarjestelija.cmbSuure": 4,
     "frmKustannukset.cmbJasentelynValinta": 2,
 }
 
