@@ -37,8 +37,10 @@ Ostovaikutus LaskeOsto(clsRakennus& rakennus, clsEnergianHankinta::Laji laji) {
   Ostovaikutus osto;
   for (const Hankintalaskelma::Muoto& muoto : LaskeHankinta(rakennus, laji).muodot) {
     osto.ostettu += muoto.ostettu;
-    for (std::size_t i = 0; i < osto.vuodessa.size(); ++i)
-      Lisaa(osto.vuodessa[i], (muoto.muoto->*kMuodonArvot[i])() * muoto.ostettu);
+    for (std::size_t i = 0; i < osto.vuodessa.size(); ++i) {
+      const auto arvo = kMuodonArvot[i];
+      Lisaa(osto.vuodessa[i], (muoto.muoto->*arvo)() * muoto.ostettu);
+    }
   }
   return osto;
 }
