@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "building/clsRakennus.h"
 #include "building/clsTilat.h"

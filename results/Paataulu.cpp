@@ -65,9 +65,9 @@ void KirjoitaPerustiedot(Tyokirjapohja& pohja, clsRakennus& rakennus) {
 }
 
 bool KirjoitaToimenpiteet(Tyokirjapohja& pohja, const Laskentataulukko& taulukko, bool otsikot, int rivi, int sarake) {
-  auto [paikka, alku] = pohja.Nimetty("Toimenpiteet", {1 + kSiirtyma, 1});
-  paikka += rivi - 1;
-  alku += sarake - 1;
+  const auto nurkka = pohja.Nimetty("Toimenpiteet", {1 + kSiirtyma, 1});
+  int paikka = nurkka.first + rivi - 1;
+  const int alku = nurkka.second + sarake - 1;
   bool tilaa = true;
   const auto kirjoita = [&](const std::vector<Taulukkosolu>& solut, bool lihava) {
     int s = alku;

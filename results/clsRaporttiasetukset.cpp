@@ -2,7 +2,7 @@
 #include "results/clsRaporttiasetukset.h"
 
 #include <algorithm>
-#include <ranges>
+#include <sstream>
 #include <vector>
 
 namespace {
@@ -16,8 +16,9 @@ constexpr Jasen kJasenet[] = {
 
 std::vector<std::string> Nimet(const std::string& luettelo) {
   std::vector<std::string> nimet;
-  for (const auto nimi : std::views::split(luettelo, ','))
-    if (!nimi.empty()) nimet.emplace_back(nimi.begin(), nimi.end());
+  std::istringstream virta(luettelo);
+  for (std::string nimi; std::getline(virta, nimi, ',');)
+    if (!nimi.empty()) nimet.push_back(nimi);
   return nimet;
 }
 
